@@ -1,0 +1,77 @@
+# Helpers that turn the folders of the tree into targets.
+
+# Compile flags that every target of the project shares.
+add_library(coregui_flags INTERFACE)
+target_compile_options(coregui_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
+if(COREGUI_WERROR)
+  target_compile_options(coregui_flags INTERFACE -Werror)
+endif()
+if(COREGUI_SANITIZE)
+  target_compile_options(coregui_flags INTERFACE -fsanitize=${COREGUI_SANITIZE} -fno-omit-frame-pointer
+    -fno-sanitize-recover=all)
+  target_link_options(coregui_flags INTERFACE -fsanitize=${COREGUI_SANITIZE})
+endif()
+if(COREGUI_COVERAGE)
+  target_compile_options(coregui_flags INTERFACE --coverage)
+  target_link_options(coregui_flags INTERFACE --coverage)
+endif()
+
+set_property(GLOBAL PROPERTY COREGUI_ROOMS "")
+
+# coregui_room(name folder [room...]): a static library of every source in `folder` (and below for
+# platform), which may use the rooms named after it. A folder without sources gives no target.
+function(coregui_room name folder)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS
+    "${PROJECT_SOURCE_DIR}/${folder}/*.cpp" "${PROJECT_SOURCE_DIR}/${folder}/*.h")
+  set(units ${sources})
+  list(FILTER units INCLUDE REGEX "\\.cpp$")
+  if(NOT units)
+    return()
+  endif()
+  add_library(coregui_${name} STATIC ${sources})
+  target_include_directories(coregui_${name} PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")
+  target_compile_definitions(coregui_${name} PRIVATE COREGUI_BUILDING)
+  target_link_libraries(coregui_${name} PUBLIC "$<BUILD_INTERFACE:coregui_flags>")
+  foreach(other IN LISTS ARGN)
+    if(TARGET coregui_${other})
+      target_link_libraries(coregui_${name} PUBLIC coregui_${other})
+    endif()
+  endforeach()
+  set_property(GLOBAL APPEND PROPERTY COREGUI_ROOMS coregui_${name})
+endfunction()
+
+# coregui_library(): the shared library of all rooms, and the interface target `coregui_all` that
+# tests link to reach what the shared library hides.
+function(coregui_library)
+  get_property(rooms GLOBAL PROPERTY COREGUI_ROOMS)
+  add_library(coregui_all INTERFACE)
+  target_link_libraries(coregui_all INTERFACE "$<LINK_GROUP:RESCAN,${rooms}>")
+  target_link_libraries(coregui_all INTERFACE coregui_flags)
+
+  file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/anchor.cpp" "")
+  add_library(coregui SHARED "${CMAKE_CURRENT_BINARY_DIR}/anchor.cpp")
+  add_library(CoreGUI::CoreGUI ALIAS coregui)
+  set_target_properties(coregui PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 0 EXPORT_NAME CoreGUI)
+  foreach(room IN LISTS rooms)
+    target_link_libraries(coregui PRIVATE "$<BUILD_INTERFACE:$<LINK_LIBRARY:WHOLE_ARCHIVE,${room}>>")
+  endforeach()
+  target_link_libraries(coregui PRIVATE "$<BUILD_INTERFACE:coregui_flags>")
+  target_include_directories(coregui PUBLIC
+    "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>"
+    "$<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>"
+    "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>"
+    "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/coregui>")
+  target_compile_features(coregui PUBLIC cxx_std_20)
+endfunction()
+
+# coregui_test(name folder library...): one test program of every source in tests/<folder>.
+function(coregui_test name folder)
+  file(GLOB units CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/tests/${folder}/*.cpp")
+  if(NOT units)
+    return()
+  endif()
+  add_executable(test_${name} ${units})
+  target_link_libraries(test_${name} PRIVATE coregui_test_support ${ARGN})
+  add_test(NAME ${name} COMMAND test_${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 900)
+endfunction()
