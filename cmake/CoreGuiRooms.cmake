@@ -52,8 +52,11 @@ function(coregui_library)
   add_library(coregui SHARED "${CMAKE_CURRENT_BINARY_DIR}/anchor.cpp")
   add_library(CoreGUI::CoreGUI ALIAS coregui)
   set_target_properties(coregui PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 0 EXPORT_NAME CoreGUI)
+  # Whole archives, however a room is reached: named here and again by the rooms above it.
+  string(REPLACE ";" "," room_names "${rooms}")
+  set_target_properties(coregui PROPERTIES LINK_LIBRARY_OVERRIDE "WHOLE_ARCHIVE,${room_names}")
   foreach(room IN LISTS rooms)
-    target_link_libraries(coregui PRIVATE "$<BUILD_INTERFACE:$<LINK_LIBRARY:WHOLE_ARCHIVE,${room}>>")
+    target_link_libraries(coregui PRIVATE "$<BUILD_INTERFACE:${room}>")
   endforeach()
   target_link_libraries(coregui PRIVATE "$<BUILD_INTERFACE:coregui_flags>")
   target_include_directories(coregui PUBLIC
