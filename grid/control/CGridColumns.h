@@ -1,0 +1,45 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "grid/control/CGridAxis.h"
+
+class CGridCell;
+class CGridDataSource;
+
+namespace coregui {
+
+/// The columns of one sheet: their axis (counts, widths, view) and what each column carries.
+class COREGUI_API CGridColumns : public CGridAxis {
+ public:
+  struct Column {
+    CGridDataSource* source = nullptr;  ///< borrowed: registered with the control; null: the sheet's default
+    std::unique_ptr<CGridCell> defaults;  ///< null: no property set
+    int translation = 0;                  ///< the data column that the grid column shows
+  };
+
+  CGridColumns();
+  ~CGridColumns();
+  CGridColumns(const CGridColumns&) = delete;
+  CGridColumns& operator=(const CGridColumns&) = delete;
+
+  bool Has(long col) const { return col >= 0 && col < Count(); }
+  /// A column from 0 to Count() - 1.
+  Column& At(long col) { return m_columns[static_cast<std::size_t>(col)]; }
+  const Column& At(long col) const { return m_columns[static_cast<std::size_t>(col)]; }
+  /// The data column of a grid column; other numbers stand for themselves.
+  int Translate(int col) const { return Has(col) ? At(col).translation : col; }
+  /// The first grid column that shows a data column, -1 when none.
+  int FromTranslation(int dataColumn) const;
+  /// New columns show the data column of their own number.
+  void SetColumnCount(int count);
+  void InsertColumn(int col);
+  void EraseColumn(int col);
+  void MoveColumn(int from, int to);
+
+ private:
+  std::vector<Column> m_columns;
+};
+
+}  // namespace coregui

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <vector>
+
+#include "core/Export.h"
+#include "platform/CObject.h"
+
+/// The cell ranges that wait to be repainted, and the joined blocks that the running paint pass has drawn
+/// already. Each child window that draws cells owns one; a paint pass empties it.
+class COREGUI_API CGridDrawHint : public CObject {
+ public:
+  /// A range of cells, inclusive at both ends.
+  struct Range {
+    int startCol = 0;
+    long startRow = 0;
+    int endCol = 0;
+    long endRow = 0;
+    bool Contains(int col, long row) const {
+      return col >= startCol && col <= endCol && row >= startRow && row <= endRow;
+    }
+    bool operator==(const Range&) const = default;
+  };
+
+  /// Adds one cell.
+  void AddHint(int col, long row) { AddHint(col, row, col, row); }
+  /// Adds a range and widens the bounding box to it; on an empty list the box becomes the range.
+  void AddHint(int startCol, long startRow, int endCol, long endRow);
+  /// Widens the first range to include the cell (adds it when the list is empty).
+  void AddToHint(int col, long row) { AddToHint(col, row, col, row); }
+  /// Widens the first range to include the range (adds it when the list is empty).
+  /// Kept: the bounding box is not widened, so IsInvalid does not see what lies beyond it.
+  void AddToHint(int startCol, long startRow, int endCol, long endRow);
+  /// Forgets every range and every drawn block. Kept: the bounding box stays until the next AddHint.
+  void ClearHints();
+  /// 1 when the cell lies in the bounding box and in one of the ranges.
+  int IsInvalid(int col, long row) const;
+  /// 1 when the cell was recorded by SetAsValid since the last ClearHints.
+  int IsValid(int col, long row) const;
+  /// Records the start cell of a joined block as drawn.
+  void SetAsValid(int col, long row);
+  /// The union of all ranges; 0 with all outputs 0 when there is none, else 1.
+  int GetTotalRange(int* startCol, long* startRow, int* endCol, long* endRow) const;
+  /// The ranges in the order they were added.
+  const std::vector<Range>& GetRanges() const { return m_invalid; }
+
+ private:
+  struct Cell {
+    int col;
+    long row;
+    bool operator==(const Cell&) const = default;
+  };
+  std::vector<Range> m_invalid;
+  std::vector<Cell> m_valid;
+  Range m_box;
+};

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <memory>
+
+#include "grid/control/CGridScreen.h"
+#include "platform/Types.h"
+
+class CFont;
+class CGridCellType;
+class CGridCtrl;
+class CScrollBar;
+class CWnd;
+
+namespace coregui {
+
+class CGridCellDelegate;
+
+/// Creates and owns the child windows of a grid and its built-in cell types, and is the screen that the rooms
+/// see. Its source is the one file of the grid's control that knows display, cell types and editors.
+class COREGUI_API CGridParts final : public CGridScreen {
+ public:
+  explicit CGridParts(CGridCtrl& control);
+  ~CGridParts() override;
+  CGridParts(const CGridParts&) = delete;
+  CGridParts& operator=(const CGridParts&) = delete;
+
+  /// Registers the four built-in types under the IDs 0 to 3.
+  void RegisterBuiltInTypes();
+  /// Creates the child windows of the grid's window, hidden. False when one could not be made.
+  bool CreateWindows();
+  void DestroyWindows();
+  bool HasWindows() const;
+
+  /// The two faces of a registered cell type.
+  static CGridCellDelegate* ToDelegate(CGridCellType* type);
+  static CGridCellType* ToType(CGridCellDelegate* type);
+
+  CWnd* Body() const;
+  CWnd* TopHeading() const;
+  CWnd* SideHeading() const;
+  CWnd* CornerButton() const;
+  CScrollBar* ScrollBar(int bar) const;
+  int SetDoubleBufferMode(int mode);
+  /// The focus rectangle is left out of the next paint pass.
+  void TempDisableFocusRect();
+  /// Asks the body to paint now what is hinted.
+  void UpdateNow();
+
+  void ShowMoved() override;
+  void ShowRange(int startCol, long startRow, int endCol, long endRow) override;
+  void ShowAll() override;
+  void ShowScrollBars() override;
+  void ShowSheets() override;
+  void LayOut() override;
+  CGridDrawHint* BodyHints() override;
+  bool Measure(const std::function<void(CDC& dc)>& measure) override;
+  void FocusBody() override;
+
+ private:
+  struct Windows;
+  struct Types;
+  CGridCtrl& m_control;  ///< the owner
+  std::unique_ptr<Types> m_types;
+  std::unique_ptr<Windows> m_windows;  ///< null before creation
+};
+
+}  // namespace coregui
