@@ -1,0 +1,177 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "views/CPanGesture.h"
+#include "views/CZoomBox.h"
+
+namespace {
+
+using coregui::CPanGesture;
+using coregui::CViewMapping;
+using coregui::CZoomBox;
+
+std::string Text(CPoint p) {
+  return std::to_string(p.x) + "," + std::to_string(p.y);
+}
+
+class RecordingHost : public coregui::CZoomBoxHost {
+ public:
+  void DrawBoxOutline(CPoint anchor, CPoint corner) override {
+    Add("draw " + Text(anchor) + " " + Text(corner));
+  }
+  void CaptureForBox() override { Add("capture"); }
+  void ReleaseFromBox() override { Add("release"); }
+  void LeaveZoomBoxMode() override { Add("leave"); }
+  bool ZoomToBox(CPoint anchor, CPoint corner) override {
+    Add("zoom " + Text(anchor) + " " + Text(corner));
+    return !dies;
+  }
+  void TellBoxStarted() override { Add("14"); }
+  void TellBoxFinished() override { Add("15"); }
+  void TellBoxCancelled() override { Add("5"); }
+  std::string Taken() {
+    std::string taken;
+    taken.swap(m_log);
+    return taken;
+  }
+  bool dies = false;
+
+ private:
+  void Add(const std::string& line) { m_log += (m_log.empty() ? "" : "; ") + line; }
+  std::string m_log;
+};
+
+TEST(ZoomBox, PressDragReleaseZooms) {
+  CZoomBox box;
+  RecordingHost host;
+  box.Move(host, {1, 1});
+  EXPECT_EQ(host.Taken(), "");
+  box.Click(host, {10, 20});
+  EXPECT_EQ(host.Taken(), "capture; 14");
+  box.Move(host, {30, 50});
+  EXPECT_EQ(host.Taken(), "draw 10,20 10,20; draw 10,20 30,50");
+  box.Move(host, {31, 51});
+  EXPECT_EQ(host.Taken(), "draw 10,20 30,50; draw 10,20 31,51");
+  box.Click(host, {99, 99});
+  EXPECT_EQ(host.Taken(), "release; leave; zoom 10,20 31,51; 15") << "the last corner counts, not the click";
+  EXPECT_FALSE(box.IsInProgress());
+}
+
+TEST(ZoomBox, OutlineLeftOnFinishIsKept) {
+  CZoomBox box;
+  RecordingHost host;
+  box.Click(host, {0, 0});
+  box.Move(host, {5, 5});
+  host.Taken();
+  box.Key(host, 'x');
+  EXPECT_EQ(host.Taken(), "");
+  box.Key(host, ' ');
+  EXPECT_EQ(host.Taken(), "release; leave; zoom 0,0 5,5; 15");
+  box.Key(host, ' ');
+  EXPECT_EQ(host.Taken(), "") << "no box, nothing to finish";
+}
+
+TEST(ZoomBox, ADegenerateBoxDoesNotZoomButTells) {
+  for (const CPoint corner : {CPoint(10, 99), CPoint(99, 20), CPoint(10, 20)}) {
+    CZoomBox box;
+    RecordingHost host;
+    box.Click(host, {10, 20});
+    box.Move(host, corner);
+    host.Taken();
+    box.Click(host, corner);
+    EXPECT_EQ(host.Taken(), "release; leave; 15") << Text(corner);
+  }
+}
+
+TEST(ZoomBox, CancelErasesTheOutlineAndAlwaysTells) {
+  CZoomBox box;
+  RecordingHost host;
+  box.Cancel(host);
+  EXPECT_EQ(host.Taken(), "leave; 5");
+  box.Click(host, {1, 2});
+  box.Move(host, {3, 4});
+  host.Taken();
+  box.Cancel(host);
+  EXPECT_EQ(host.Taken(), "leave; draw 1,2 3,4; release; 5");
+  EXPECT_FALSE(box.IsInProgress());
+}
+
+TEST(ZoomBox, ViewsShareOneBoxAndADestroyedOneLeavesNone) {
+  CZoomBox box;
+  RecordingHost first;
+  RecordingHost second;
+  box.Click(first, {1, 1});
+  box.Forget(second);
+  EXPECT_TRUE(box.IsInProgress());
+  box.Forget(first);
+  EXPECT_FALSE(box.IsInProgress());
+  box.Click(second, {1, 1});
+  box.Move(second, {2, 2});
+  second.Taken();
+  second.dies = true;
+  box.Click(first, {9, 9});
+  EXPECT_EQ(first.Taken(), "capture; 14; release; leave; zoom 1,1 2,2; 15")
+      << "the second click finishes the box";
+  box.Click(second, {1, 1});
+  box.Move(second, {2, 2});
+  second.Taken();
+  box.Click(second, {2, 2});
+  EXPECT_EQ(second.Taken(), "release; leave; zoom 1,1 2,2") << "a view that the zoom destroyed hears no more";
+}
+
+CViewMapping WithMargin(bool ruler) {
+  CViewMapping mapping;
+  mapping.extents.Set(0, 10, 100, 0);
+  mapping.margins = CRect(30, 0, 0, 0);
+  mapping.now.dpiX = mapping.now.dpiY = 96;
+  mapping.now.vertRatio = 1;
+  mapping.FitToRect(CRect(0, 0, 240, 100));
+  mapping.rulerLimits = ruler;
+  return mapping;
+}
+
+TEST(PanGesture, StepsMoveTheMappingByTheWayOfThePointer) {
+  CViewMapping mapping = WithMargin(false);
+  const CPoint before = mapping.UserToWindow({50, 5});
+  CPanGesture pan;
+  pan.Start({10, 10});
+  CSize moved;
+  EXPECT_FALSE(pan.Step({10, 10}, mapping, &moved));
+  EXPECT_TRUE(pan.Step({13, 9}, mapping, &moved));
+  EXPECT_EQ(moved, CSize(3, -1));
+  EXPECT_TRUE(pan.Step({13, 12}, mapping, &moved));
+  EXPECT_EQ(moved, CSize(0, 3));
+  EXPECT_EQ(mapping.UserToWindow({50, 5}), before + CSize(3, 2));
+}
+
+TEST(PanGesture, ALimitedDragIsRememberedUntilItMoves) {
+  CViewMapping mapping = WithMargin(true);
+  mapping.zeroX = true;
+  CPanGesture pan;
+  pan.Start({10, 10});
+  CSize moved;
+  EXPECT_FALSE(pan.Step({40, 10}, mapping, &moved)) << "the left edge stands at the margin";
+  EXPECT_TRUE(pan.Step({5, 10}, mapping, &moved));
+  EXPECT_EQ(moved, CSize(-5, 0)) << "counted from the press, not from the refused step";
+  mapping.zeroX = false;
+  EXPECT_TRUE(pan.Step({30, 10}, mapping, &moved));
+  EXPECT_EQ(moved, CSize(25, 0)) << "only zero-x enforcing limits drags";
+}
+
+TEST(PanGesture, ARulerInTheMarginScrollsOnlyVertically) {
+  const CRect client(0, 0, 240, 100);
+  const CPanGesture::Scroll across = CPanGesture::ScrollFor({5, 0}, WithMargin(true), client);
+  EXPECT_FALSE(across.whole);
+  EXPECT_EQ(across.area, CRect(41, 0, 240, 100));
+  EXPECT_TRUE(across.strip.IsRectEmpty());
+  const CPanGesture::Scroll both = CPanGesture::ScrollFor({5, -2}, WithMargin(true), client);
+  EXPECT_EQ(both.strip, CRect(0, 1, 40, 100));
+  EXPECT_EQ(both.by, CSize(5, -2));
+  const CPanGesture::Scroll plain = CPanGesture::ScrollFor({5, -2}, WithMargin(false), client);
+  EXPECT_TRUE(plain.whole);
+  EXPECT_EQ(plain.area, client);
+}
+
+}  // namespace

@@ -1,0 +1,162 @@
+#include "views/CWindowMapping.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace {
+
+using coregui::CWindowMapping;
+
+CWindowMapping Sized(LONG width, LONG height, LONG dpiY = 96) {
+  CWindowMapping mapping;
+  mapping.device = {width, height, 96, dpiY, 0};
+  return mapping;
+}
+
+void ExpectRect(FRect const& rect, double left, double top, double right, double bottom) {
+  EXPECT_DOUBLE_EQ(rect.GetLeft(), left);
+  EXPECT_DOUBLE_EQ(rect.GetTop(), top);
+  EXPECT_DOUBLE_EQ(rect.GetRight(), right);
+  EXPECT_DOUBLE_EQ(rect.GetBottom(), bottom);
+}
+
+TEST(WindowMapping, ShowsAllOfTheRectangleAtTrueAspect) {
+  CWindowMapping mapping = Sized(200, 100);
+  mapping.Init(FRect(0, 100, 100, 0), true);
+  ExpectRect(mapping.window, -50, 100, 150, 0);
+  EXPECT_EQ(mapping.currentPos.x, -50);
+  EXPECT_EQ(mapping.currentPos.y, 100);
+  mapping.Init(FRect(0, 10, 100, 0), false);
+  ExpectRect(mapping.window, 0, 30, 100, -20);
+  EXPECT_EQ(mapping.currentPos.x, -50) << "kept unless asked for";
+  mapping.Resize({200, 100, 96, 48, 0});
+  ExpectRect(mapping.window, 0, 55, 100, -45);
+}
+
+TEST(WindowMapping, ExaggerationIsClampedAndShrinksTheHeightShown) {
+  CWindowMapping mapping = Sized(200, 100);
+  mapping.SetScale(0);
+  EXPECT_EQ(mapping.GetScale(), 1);
+  mapping.SetScale(5);
+  mapping.Init(FRect(0, 10, 100, 0), false);
+  ExpectRect(mapping.window, 0, 10, 100, 0);
+  mapping.SetScale(11);
+  EXPECT_EQ(mapping.GetScale(), 10);
+}
+
+TEST(WindowMapping, FlatRectanglesAndUnknownDevicesChangeNothing) {
+  CWindowMapping mapping = Sized(200, 100);
+  mapping.Init(FRect(0, 10, 100, 0), false);
+  mapping.WindowScale(FRect(0, 5, 100, 5), 1, 1);
+  mapping.WindowScale(FRect(5, 10, 5 + 1e-13, 0), 1, 1);
+  ExpectRect(mapping.window, 0, 30, 100, -20);
+  mapping.WindowScale(FRect(1, 2, 3, 0), 0, 1);
+  ExpectRect(mapping.window, 1, 2, 3, 0);
+  mapping.device.dpiX = 0;
+  mapping.WindowScale(FRect(0, 10, 100, 0), 1, 1);
+  ExpectRect(mapping.window, 1, 2, 3, 0);
+}
+
+TEST(WindowMapping, TheDetailPaneLowersTheCentre) {
+  CWindowMapping mapping = Sized(200, 100);
+  mapping.Init(FRect(0, 100, 200, 0), false);
+  mapping.device.detailPane = 20;
+  mapping.SetViewLimits(FRect(0, 100, 200, 0));
+  ExpectRect(mapping.window, 0, 90, 200, -10);
+  ExpectRect(mapping.zoomBase, 0, 100, 200, 0);
+}
+
+TEST(WindowMapping, PixelsAreTruncatedWithoutRoundingIsKept) {
+  CWindowMapping mapping = Sized(200, 100);
+  mapping.Init(FRect(0, 100, 200, 0), false);
+  EXPECT_EQ(mapping.UserToWindow({0.99, 99.01}), CPoint(0, 0));
+  EXPECT_EQ(mapping.UserToWindow({-0.99, 100.99}), CPoint(0, 0));
+  EXPECT_EQ(mapping.UserToWindow({1e20, -std::numeric_limits<double>::infinity()}),
+            CPoint(std::numeric_limits<LONG>::max(), std::numeric_limits<LONG>::max()));
+}
+
+TEST(WindowMapping, MirroringFlipsBothAxesAndTheWayBack) {
+  CWindowMapping mapping = Sized(200, 100);
+  mapping.Init(FRect(0, 100, 200, 0), false);
+  EXPECT_EQ(mapping.UserToWindow({20, 70}), CPoint(20, 30));
+  EXPECT_EQ(mapping.WindowToUser({20, 30}).y, 70);
+  EXPECT_EQ(mapping.GetUserWndVRange(), -100);
+  mapping.mirrored = true;
+  EXPECT_EQ(mapping.UserToWindow({20, 70}), CPoint(180, 70));
+  EXPECT_EQ(mapping.WindowToUser({180, 70}).x, 20);
+  EXPECT_EQ(mapping.WindowToUser({180, 70}).y, 70);
+  EXPECT_EQ(mapping.GetUserWndHBase(), 200);
+  EXPECT_EQ(mapping.GetUserWndVBase(), 0);
+  EXPECT_EQ(mapping.GetUserWndHRange(), -200);
+  EXPECT_EQ(mapping.GetUserWndVRange(), 100);
+}
+
+TEST(WindowMapping, TopAsTheCentreOfAWindowZoomIsKept) {
+  CWindowMapping mapping = Sized(200, 100);
+  mapping.Init(FRect(0, 100, 200, 0), false);
+  mapping.StepZoom(true);
+  mapping.ZoomWindow(FRect(50, 60, 70, 50));
+  EXPECT_EQ(mapping.currentPos.x, 60);
+  EXPECT_EQ(mapping.currentPos.y, 60);
+  EXPECT_EQ(mapping.GetZoomStep(), '5');
+  EXPECT_EQ(mapping.GetZoomFactor(), 1.0);
+  ExpectRect(mapping.window, 50, 60, 70, 50);
+  ExpectRect(mapping.viewLimits, 0, 100, 200, 0);
+}
+
+TEST(WindowMapping, NineStepsScaleTheBaseAroundThePosition) {
+  CWindowMapping mapping = Sized(200, 100);
+  mapping.Init(FRect(0, 100, 200, 0), false);
+  mapping.currentPos = {80, 40};
+  const double in[] = {0.75, 0.5, 0.375, 0.25};
+  for (const double factor : in) {
+    mapping.StepZoom(true);
+    EXPECT_EQ(mapping.GetZoomFactor(), factor);
+    ExpectRect(mapping.window, 80 - 100 * factor, 40 + 50 * factor, 80 + 100 * factor, 40 - 50 * factor);
+  }
+  EXPECT_EQ(mapping.GetZoomStep(), '1');
+  const double out[] = {0.375, 0.5, 0.75, 1, 1.5, 2, 3, 4};
+  for (const double factor : out) {
+    mapping.StepZoom(false);
+    EXPECT_EQ(mapping.GetZoomFactor(), factor);
+  }
+  EXPECT_EQ(mapping.GetZoomStep(), '9');
+}
+
+TEST(WindowMapping, BeyondTheLastStepTheBaseBecomesWholeUnits) {
+  CWindowMapping mapping = Sized(200, 100);
+  mapping.Init(FRect(0, 100, 200, 0), false);
+  mapping.currentPos = {80.5, 40.5};
+  for (int step = 0; step < 4; ++step) {
+    mapping.StepZoom(true);
+  }
+  ExpectRect(mapping.window, 55.5, 53, 105.5, 28);
+  mapping.StepZoom(true);
+  EXPECT_EQ(mapping.GetZoomStep(), '4');
+  ExpectRect(mapping.zoomBase, 55, 53, 105, 28);
+  ExpectRect(mapping.redrawLimits, 55, 53, 105, 28);
+  EXPECT_DOUBLE_EQ(mapping.window.Width(), 50 * 0.75);
+  for (int step = 0; step < 5; ++step) {
+    mapping.StepZoom(false);
+  }
+  EXPECT_EQ(mapping.GetZoomStep(), '9');
+  mapping.StepZoom(false);
+  EXPECT_EQ(mapping.GetZoomStep(), '6');
+  EXPECT_DOUBLE_EQ(mapping.window.Width(), mapping.zoomBase.Width() * 1.5);
+}
+
+TEST(WindowMapping, PanBringsThePositionToTheMiddleAndMovesItOn) {
+  CWindowMapping mapping = Sized(200, 100);
+  mapping.currentPos = {3, 3};
+  mapping.Pan();
+  EXPECT_EQ(mapping.currentPos.x, 3) << "nothing before initialisation";
+  mapping.Init(FRect(0, 100, 200, 0), false);
+  mapping.currentPos = {110, 45};
+  mapping.Pan();
+  ExpectRect(mapping.window, 10, 95, 210, -5);
+  EXPECT_EQ(mapping.currentPos.x, 120);
+  EXPECT_EQ(mapping.currentPos.y, 40);
+}
+
+}  // namespace
