@@ -13,6 +13,7 @@ class CGridCell;
 class CGridCellFormat;
 class CGridCellType;
 class CGridDataSource;
+class CGridDrawHint;
 class CGridInfo;
 class CGridMultiSelect;
 class CMenu;
@@ -69,6 +70,8 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
   CWnd* GetTopHdgWnd() const;
   CWnd* GetSideHdgWnd() const;
   CWnd* GetCornerWnd() const;
+  /// What the body has to repaint; null before creation.
+  CGridDrawHint* GetDrawHints() const;
   CScrollBar* GetScrollBarCtrl(int bar) const override;
   /// 1 while a cell is being edited.
   int GetEditInProgress() const;

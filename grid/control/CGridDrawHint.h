@@ -34,6 +34,8 @@ class COREGUI_API CGridDrawHint : public CObject {
   void ClearHints();
   /// 1 when the cell lies in the bounding box and in one of the ranges.
   int IsInvalid(int col, long row) const;
+  /// Whether the cell lies in the bounding box; what does not is not invalid, whatever the ranges.
+  bool IsInBox(int col, long row) const { return m_box.Contains(col, row); }
   /// 1 when the cell was recorded by SetAsValid since the last ClearHints.
   int IsValid(int col, long row) const;
   /// Records the start cell of a joined block as drawn.
