@@ -15,6 +15,8 @@ class CWnd;
 namespace coregui {
 class DrawTarget;
 struct DrawState;
+class Region;
+struct TextLine;
 }  // namespace coregui
 
 // Formats of DrawText.
@@ -78,16 +80,16 @@ struct TEXTMETRIC {
   LONG tmMaxCharWidth = 0;
 };
 
-/// A device context: what everything is drawn with. Coordinates are logical pixels of its device; outlines and
-/// fills cover the pixels that the well-known rules give (a line leaves out its last point; a rectangle's
+/// A device context: what everything is drawn with. Coordinates are logical pixels of its device; outlines
+/// and fills cover the pixels that the well-known rules give (a line leaves out its last point; a rectangle's
 /// right and bottom lie outside).
 ///
-/// The selected objects are borrowed and must stay alive while selected. A context that the library hands out is
-/// valid for the call it is handed to.
+/// The selected objects are borrowed and must stay alive while selected. A context that the library hands out
+/// is valid for the call it is handed to.
 ///
-/// All text drawing is left to right in logical order of the shaped text; combining and right-to-left texts are
-/// shaped by the toolkit. Text with only simple glyphs takes a fast path: glyphs, extents and runs are cached per
-/// font, and nothing is allocated per call.
+/// All text drawing is left to right in logical order of the shaped text; combining and right-to-left texts
+/// are shaped by the toolkit. Text with only simple glyphs takes a fast path: glyphs, extents and runs are
+/// cached per font, and nothing is allocated per call.
 class COREGUI_API CDC : public CObject {
  public:
   ~CDC() override;
@@ -95,9 +97,9 @@ class COREGUI_API CDC : public CObject {
   CDC& operator=(const CDC&) = delete;
 
   // --- State
-  int SaveDC();                 ///< returns the level to restore to, from 1
-  BOOL RestoreDC(int saved);    ///< -1: the last saved state
-  CPen* SelectObject(CPen* pen);        ///< returns the one selected before; null selects the stock one
+  int SaveDC();                   ///< returns the level to restore to, from 1
+  BOOL RestoreDC(int saved);      ///< -1: the last saved state
+  CPen* SelectObject(CPen* pen);  ///< returns the one selected before; null selects the stock one
   CBrush* SelectObject(CBrush* brush);
   CFont* SelectObject(CFont* font);
   void SelectStockObject(StockObject object);
@@ -155,7 +157,8 @@ class COREGUI_API CDC : public CObject {
   void TextOut(int x, int y, const wchar_t* text, int length);
   /// Text at (x, y) by the alignment, clipped to rect with ETO_CLIPPED, on a filled rect with ETO_OPAQUE.
   void ExtTextOut(int x, int y, UINT options, const RECT* rect, const wchar_t* text, int length);
-  /// Lays the text out in rect; returns its height. DT_CALCRECT only measures and sets rect's right and bottom.
+  /// Lays the text out in rect; returns its height. DT_CALCRECT only measures and sets rect's right and
+  /// bottom.
   int DrawText(const wchar_t* text, int length, RECT* rect, UINT format);
   CSize GetTextExtent(const wchar_t* text, int length) const;
   void GetTextMetrics(TEXTMETRIC* metrics) const;
@@ -171,8 +174,17 @@ class COREGUI_API CDC : public CObject {
 
  protected:
   explicit CDC(std::shared_ptr<coregui::DrawTarget> target);
+  /// Confines the context for good: what SelectClipRect(nullptr) goes back to. In device dots.
+  void SetBaseRegion(std::shared_ptr<const coregui::Region> region);
 
  private:
+  void FillEdges(const RECT& rect, COLORREF topLeft, COLORREF bottomRight);
+  /// Draws one line of text whose cell begins at (x, y), with its background when that is opaque.
+  void PutText(int x, int y, const wchar_t* text, int length);
+  void PutLine(const coregui::TextLine& line, int x, int y);
+  CPoint AlignedStart(int x, int y, const wchar_t* text, int length);
+  int LayText(const wchar_t* text, int count, RECT* rect, UINT format);
+
   std::shared_ptr<coregui::DrawTarget> m_target;
   std::unique_ptr<coregui::DrawState> m_state;
 };
@@ -204,8 +216,22 @@ class COREGUI_API CMemoryDC : public CDC {
   ~CMemoryDC() override;
 };
 
-/// Logs every call as one line of text instead of drawing, for tests: "FillSolidRect 0,0,10,20 #0000FF".
-/// Text measures as if every character were `characterWidth` wide and `characterHeight` tall.
+/// Logs every drawing call as one line of text instead of drawing, for tests: "FillSolidRect 0,0,10,20
+/// #0000FF". Text measures as if every character were `characterWidth` wide and `characterHeight` tall; no
+/// display and no fonts are needed.
+///
+/// A line is the call's name, its points and rectangles ("l,t,r,b", viewport origin added), its numbers, then
+/// what it draws with; changes of state (SelectObject, SaveDC, clipping) have no line of their own but show
+/// in the lines of the calls that they affect:
+/// - colours as #RRGGBB; a pen as its colour, " w3" when its width is not 1, " style2" when it is not solid,
+/// or
+///   "nopen"; a brush as its colour, "hatch1" before it when hatched, or "nobrush";
+/// - text as its colour, ` font "Face",height,weight[,italic]` when a font is selected, and the text in
+/// quotes with
+///   \n, \r, \t, \" and \\ escaped: `DrawText 2,0,73,20 0x24 #000000 "12.50"` (format in hexadecimal);
+///   ExtTextOut writes point, options and rectangle first (0,0,0,0 for none);
+/// - at the end " rop7" when the raster mode is not copy, and " clip l,t,r,b" when drawing is clipped.
+/// LineTo writes both ends, PolylineF only the number of points. Measuring calls have no line.
 class COREGUI_API CRecordingDC : public CDC {
  public:
   explicit CRecordingDC(int characterWidth = 7, int characterHeight = 13, CSize device = CSize(1600, 1000));

@@ -16,6 +16,7 @@ class CMenu;
 class CScrollBar;
 
 namespace coregui {
+class NativeWindow;
 class WindowState;
 }
 
@@ -198,6 +199,9 @@ class COREGUI_API CWnd : public CObject {
   /// Inside a handler: the default handling of the message at hand, with its own parameters.
   LRESULT Default();
   static const coregui::MessageTable& Messages();
+  /// Makes the native side; a control over a toolkit's widget overrides it. The default is a window that we
+  /// paint. Null refuses.
+  virtual std::unique_ptr<coregui::NativeWindow> MakeNative(const CREATESTRUCT& create);
 
  private:
   std::unique_ptr<coregui::WindowState> m_state;

@@ -1,0 +1,81 @@
+#include "platform/CBitmap.h"
+
+#include <QImage>
+#include <cmath>
+#include <new>
+
+#include "platform/CDC.h"
+#include "platform/DrawTarget.h"
+#include "platform/qt/BitmapData.h"
+
+CBitmap::CBitmap() = default;
+CBitmap::~CBitmap() = default;
+
+BOOL CBitmap::CreateCompatibleBitmap(const CDC* like, int width, int height) {
+  m_data.reset();
+  const double scale = like != nullptr ? like->GetScaleFactor() : 1.0;
+  constexpr int largest = 32767;
+  if (width < 1 || height < 1 || width * scale > largest || height * scale > largest) {
+    return FALSE;
+  }
+  const int dotsX = static_cast<int>(std::floor(width * scale + 0.5));
+  const int dotsY = static_cast<int>(std::floor(height * scale + 0.5));
+  QImage image(dotsX, dotsY, QImage::Format_RGB32);
+  if (image.isNull()) {
+    return FALSE;
+  }
+  image.fill(Qt::black);
+  m_data = std::make_shared<coregui::BitmapData>(std::make_shared<coregui::Surface>(std::move(image), scale));
+  return TRUE;
+}
+
+BOOL CBitmap::CreateFromPixels(int width, int height, const std::vector<DWORD>& pixels) {
+  m_data.reset();
+  if (width < 1 || height < 1 ||
+      pixels.size() < static_cast<std::size_t>(width) * static_cast<std::size_t>(height)) {
+    return FALSE;
+  }
+  QImage image(width, height, QImage::Format_ARGB32);
+  if (image.isNull()) {
+    return FALSE;
+  }
+  for (int y = 0; y < height; ++y) {
+    std::copy_n(pixels.data() + static_cast<std::ptrdiff_t>(y) * width, width,
+                reinterpret_cast<DWORD*>(image.scanLine(y)));
+  }
+  image.convertTo(QImage::Format_ARGB32_Premultiplied);
+  m_data = std::make_shared<coregui::BitmapData>(std::make_shared<coregui::Surface>(std::move(image), 1.0));
+  return TRUE;
+}
+
+BOOL CBitmap::LoadFile(const wchar_t* path) {
+  m_data.reset();
+  QImage image(QString::fromWCharArray(path));
+  if (image.isNull()) {
+    return FALSE;
+  }
+  image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+  m_data = std::make_shared<coregui::BitmapData>(std::make_shared<coregui::Surface>(std::move(image), 1.0));
+  return TRUE;
+}
+
+BOOL CBitmap::SaveFile(const wchar_t* path) const {
+  return m_data != nullptr && m_data->surface->Snapshot().save(QString::fromWCharArray(path), "PNG") ? TRUE
+                                                                                                     : FALSE;
+}
+
+void CBitmap::DeleteObject() {
+  m_data.reset();
+}
+
+CSize CBitmap::GetSize() const {
+  return m_data != nullptr ? m_data->surface->Size() : CSize();
+}
+
+COLORREF CBitmap::GetPixel(int x, int y) const {
+  if (m_data == nullptr || !m_data->surface->Image().valid(x, y)) {
+    return 0xFFFFFFFF;
+  }
+  const QRgb dot = m_data->surface->Image().pixel(x, y);
+  return RGB(qRed(dot), qGreen(dot), qBlue(dot));
+}

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <QFont>
+#include <QRawFont>
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "platform/CFont.h"
+
+namespace coregui {
+
+class FontData;
+
+/// One character drawn at one size: its advance and its coverage, in dots.
+struct Glyph {
+  std::int16_t advance = 0;
+  std::int16_t left = 0;  ///< of the coverage, from the pen position
+  std::int16_t top = 0;   ///< of the coverage, from the top of the text's cell
+  std::int16_t width = 0;
+  std::int16_t height = 0;
+  bool loaded = false;
+  bool simple = false;                     ///< false: the character needs the toolkit's text layout
+  const std::uint8_t* coverage = nullptr;  ///< rows of `width` bytes, owned by the face
+};
+
+/// A font at the dot size of a device. Glyphs are drawn once by the toolkit and kept. Advances are whole
+/// dots, so the width of a text is the sum of its characters' and equals what drawing covers.
+class FontFace {
+ public:
+  FontFace(const LOGFONT& font, LONG dotHeight);
+  /// The face for a selected font (null: the system's) on a device. Shared by all contexts of that device's
+  /// scale.
+  static FontFace& For(const std::shared_ptr<FontData>& font, int dotsPerInch, double scale);
+
+  const Glyph& GlyphOf(wchar_t character) {
+    const std::uint32_t code = static_cast<std::uint32_t>(character);
+    if (code > 0xFFFF) {
+      return m_none;
+    }
+    Page* page = m_pages[code >> 8].get();
+    if (page == nullptr || !(*page)[code & 0xFF].loaded) {
+      return Load(code);
+    }
+    return (*page)[code & 0xFF];
+  }
+  const QFont& Font() const { return m_font; }
+  int Ascent() const { return m_ascent; }
+  int Descent() const { return m_descent; }
+  int Height() const { return m_ascent + m_descent; }
+  int Leading() const { return m_leading; }
+  int AverageWidth() const { return m_averageWidth; }
+  int MaxWidth() const { return m_maxWidth; }
+  double Degrees() const { return m_degrees; }  ///< anticlockwise
+  /// Underline or strike-out, which the fast path draws as rectangles: distance from the cell's top, 0 for
+  /// none.
+  int UnderlineTop() const { return m_underlineTop; }
+  int StrikeTop() const { return m_strikeTop; }
+  int LineThickness() const { return m_lineThickness; }
+  bool IsRotated() const { return m_degrees != 0.0; }
+  /// The advance in dots of a text of any kind.
+  std::int64_t Width(const wchar_t* text, int length);
+
+ private:
+  using Page = std::array<Glyph, 256>;
+  const Glyph& Load(std::uint32_t code);
+  void Rasterise(std::uint32_t index, Glyph* glyph);
+  static std::shared_ptr<FontFace> SharedFace(const LOGFONT& font);
+  void SetSize(LONG dotHeight);
+
+  QFont m_font;
+  QRawFont m_raw;
+  int m_ascent = 0;
+  int m_descent = 0;
+  int m_leading = 0;
+  int m_averageWidth = 0;
+  int m_maxWidth = 0;
+  int m_underlineTop = 0;
+  int m_strikeTop = 0;
+  int m_lineThickness = 1;
+  double m_degrees = 0.0;
+  Glyph m_none;
+  std::array<std::unique_ptr<Page>, 256> m_pages;
+  std::vector<std::unique_ptr<std::uint8_t[]>> m_coverage;
+};
+
+}  // namespace coregui

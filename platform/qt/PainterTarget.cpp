@@ -1,0 +1,336 @@
+#include "platform/qt/PainterTarget.h"
+
+#include <QPainterPath>
+#include <QRegion>
+#include <cmath>
+#include <limits>
+#include <numbers>
+
+#include "platform/FontData.h"
+#include "platform/qt/BitmapData.h"
+#include "platform/qt/FontFace.h"
+#include "platform/qt/ShapedText.h"
+
+namespace coregui {
+
+namespace {
+
+QRect ToQt(const CRect& rect) {
+  return {rect.left, rect.top, rect.Width(), rect.Height()};
+}
+
+// Far coordinates are cut off where the painter is still exact.
+double Sane(double value) {
+  constexpr double limit = 1e7;
+  return std::isfinite(value) ? std::clamp(value, -limit, limit) : 0.0;
+}
+
+QPainter::CompositionMode ModeOf(int rop) {
+  switch (rop) {
+    case R2_XORPEN:
+      return QPainter::RasterOp_SourceXorDestination;
+    case R2_NOT:
+      return QPainter::RasterOp_NotDestination;
+    default:
+      return QPainter::CompositionMode_SourceOver;
+  }
+}
+
+Qt::PenStyle StyleOf(int style) {
+  switch (style) {
+    case PS_DASH:
+      return Qt::DashLine;
+    case PS_DOT:
+      return Qt::DotLine;
+    case PS_DASHDOT:
+      return Qt::DashDotLine;
+    case PS_DASHDOTDOT:
+      return Qt::DashDotDotLine;
+    case PS_NULL:
+      return Qt::NoPen;
+    default:
+      return Qt::SolidLine;
+  }
+}
+
+// The angle of a ray from the centre of an ellipse's box, on the ellipse made round, in degrees
+// anticlockwise.
+double AngleOf(const CRect& rect, POINT point) {
+  const double x = (point.x - (rect.left + rect.right) / 2.0) / std::max<LONG>(1, rect.Width());
+  const double y = ((rect.top + rect.bottom) / 2.0 - point.y) / std::max<LONG>(1, rect.Height());
+  return std::atan2(y, x) * 180.0 / std::numbers::pi;
+}
+
+}  // namespace
+
+QPainter* PainterTarget::Begin(const DrawAttributes& with) {
+  if (with.clip.box.IsRectEmpty()) {
+    return nullptr;
+  }
+  QPainter* painter = OpenPainter();
+  if (painter == nullptr) {
+    return nullptr;
+  }
+  if (with.clip.region == nullptr) {
+    painter->setClipRect(ToQt(with.clip.box));
+  } else {
+    QRegion region;
+    with.clip.ForEach(with.clip.box, [&region](const CRect& piece) { region += ToQt(piece); });
+    painter->setClipRegion(region);
+  }
+  painter->setCompositionMode(ModeOf(with.rop));
+  painter->setRenderHint(QPainter::Antialiasing, with.smooth && with.rop == R2_COPYPEN);
+  return painter;
+}
+
+QPointF PainterTarget::DotPoint(const DrawAttributes& with, double x, double y) const {
+  const double dotX = (x + with.origin.x) * Scale();
+  const double dotY = (y + with.origin.y) * Scale();
+  if (with.smooth) {
+    return {Sane(dotX), Sane(dotY)};
+  }
+  return {Sane(std::floor(dotX + 0.5)), Sane(std::floor(dotY + 0.5))};
+}
+
+QPen PainterTarget::PenOf(const DrawAttributes& with) const {
+  const double width =
+      with.smooth ? std::max(1.0, with.pen->GetWidth() * Scale()) : DotWidth(with.pen->GetWidth());
+  QPen pen(QColor::fromRgb(Opaque(with.pen->GetColor())), width, StyleOf(with.pen->GetStyle()));
+  pen.setCapStyle(Qt::RoundCap);
+  pen.setJoinStyle(Qt::RoundJoin);
+  if (width <= 1.0 || with.pen->GetStyle() != PS_SOLID) {
+    pen.setCapStyle(Qt::FlatCap);
+    pen.setJoinStyle(Qt::MiterJoin);
+  }
+  return pen;
+}
+
+QBrush PainterTarget::BrushOf(const CBrush& brush) const {
+  static constexpr Qt::BrushStyle hatches[] = {Qt::HorPattern,   Qt::VerPattern,   Qt::FDiagPattern,
+                                               Qt::BDiagPattern, Qt::CrossPattern, Qt::DiagCrossPattern};
+  switch (brush.GetKind()) {
+    case CBrush::Kind::none:
+      return Qt::NoBrush;
+    case CBrush::Kind::solid:
+      return QColor::fromRgb(Opaque(brush.GetColor()));
+    case CBrush::Kind::hatched:
+      break;
+  }
+  // The toolkit's forward diagonal rises to the right, as HS_BDIAGONAL does; they change places.
+  const int index =
+      brush.GetHatch() == HS_FDIAGONAL ? 3 : (brush.GetHatch() == HS_BDIAGONAL ? 2 : brush.GetHatch());
+  QBrush result(QColor::fromRgb(Opaque(brush.GetColor())), hatches[std::clamp(index, 0, 5)]);
+  result.setTransform(QTransform::fromScale(Scale(), Scale()));
+  return result;
+}
+
+void PainterTarget::Polyline(const DrawAttributes& with, const POINT* points, int count) {
+  QPainter* painter = with.pen->GetStyle() != PS_NULL ? Begin(with) : nullptr;
+  if (painter == nullptr) {
+    return;
+  }
+  QPolygonF line;
+  line.reserve(count);
+  for (int i = 0; i < count; ++i) {
+    line << DotPoint(with, points[i].x, points[i].y);
+  }
+  painter->setPen(PenOf(with));
+  painter->setBrush(Qt::NoBrush);
+  painter->drawPolyline(line);
+  Drawn(with.clip.box);
+}
+
+void PainterTarget::PolylineF(const DrawAttributes& with, const double* xy, int count) {
+  QPainter* painter = with.pen->GetStyle() != PS_NULL ? Begin(with) : nullptr;
+  if (painter == nullptr) {
+    return;
+  }
+  painter->setPen(PenOf(with));
+  painter->setBrush(Qt::NoBrush);
+  QPolygonF line;
+  line.reserve(count);
+  // A point that is no number ends a piece of the line.
+  for (int i = 0; i <= count; ++i) {
+    if (i < count && std::isfinite(xy[2 * i]) && std::isfinite(xy[2 * i + 1])) {
+      line << DotPoint(with, xy[2 * i], xy[2 * i + 1]);
+    } else if (!line.isEmpty()) {
+      painter->drawPolyline(line);
+      line.clear();
+    }
+  }
+  Drawn(with.clip.box);
+}
+
+void PainterTarget::Polygon(const DrawAttributes& with, const POINT* points, int count) {
+  QPainter* painter = Begin(with);
+  if (painter == nullptr) {
+    return;
+  }
+  QPolygonF outline;
+  outline.reserve(count);
+  for (int i = 0; i < count; ++i) {
+    outline << DotPoint(with, points[i].x, points[i].y);
+  }
+  painter->setPen(PenOf(with));
+  painter->setBrush(BrushOf(*with.brush));
+  painter->drawPolygon(outline, Qt::OddEvenFill);
+  Drawn(with.clip.box);
+}
+
+void PainterTarget::DrawShape(const DrawAttributes& with, Shape shape, const CRect& rect,
+                              const ShapeDetail& detail) {
+  CRect normal = rect;
+  normal.NormalizeRect();
+  QPainter* painter = normal.IsRectEmpty() ? nullptr : Begin(with);
+  if (painter == nullptr) {
+    return;
+  }
+  const CRect dots = DotRect(with, normal);
+  const QPen pen = PenOf(with);
+  // The outline's middle lies half its width inside the rectangle. Hard one-dot lines cover the dot right and
+  // below of their coordinates, so the far edges come one dot in.
+  const double inset = with.pen->GetStyle() == PS_NULL ? 0.0 : pen.widthF() / 2.0;
+  const bool hard = !with.smooth && inset > 0.0;
+  const QRectF box = hard ? QRectF(dots.left + std::floor(inset), dots.top + std::floor(inset),
+                                   dots.Width() - pen.widthF(), dots.Height() - pen.widthF())
+                          : QRectF(ToQt(dots)).adjusted(inset, inset, -inset, -inset);
+  painter->setPen(pen);
+  painter->setBrush(shape == Shape::arc ? QBrush(Qt::NoBrush) : BrushOf(*with.brush));
+  const double start = AngleOf(normal, detail.start);
+  double sweep = AngleOf(normal, detail.end) - start;
+  sweep += sweep <= 0.0 ? 360.0 : 0.0;
+  constexpr double sixteenths = 16.0;
+  const int first = static_cast<int>(std::lround(start * sixteenths));
+  const int length = static_cast<int>(std::lround(sweep * sixteenths));
+  switch (shape) {
+    case Shape::rectangle:
+      painter->drawRect(box);
+      break;
+    case Shape::roundRectangle:
+      painter->drawRoundedRect(box, detail.corner.cx * Scale() / 2.0, detail.corner.cy * Scale() / 2.0);
+      break;
+    case Shape::ellipse:
+      painter->drawEllipse(box);
+      break;
+    case Shape::arc:
+      painter->drawArc(box, first, length);
+      break;
+    case Shape::pie:
+      painter->drawPie(box, first, length);
+      break;
+  }
+  Drawn(with.clip.box);
+}
+
+void PainterTarget::Fill(const DrawAttributes& with, const CRect& rect, COLORREF colour) {
+  if (QPainter* painter = Begin(with)) {
+    painter->setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter->fillRect(ToQt(DotRect(with, rect)), QColor::fromRgb(Opaque(colour)));
+    Drawn(with.clip.box);
+  }
+}
+
+void PainterTarget::FillHatched(const DrawAttributes& with, const CRect& rect, const CBrush& brush) {
+  if (QPainter* painter = Begin(with)) {
+    const QRect dots = ToQt(DotRect(with, rect));
+    painter->setCompositionMode(QPainter::CompositionMode_SourceOver);
+    if (with.backMode == OPAQUE) {
+      painter->fillRect(dots, QColor::fromRgb(Opaque(with.backColour)));
+    }
+    painter->fillRect(dots, BrushOf(brush));
+    Drawn(with.clip.box);
+  }
+}
+
+void PainterTarget::Invert(const DrawAttributes& with, const CRect& rect) {
+  if (QPainter* painter = Begin(with)) {
+    painter->setCompositionMode(QPainter::RasterOp_NotDestination);
+    painter->fillRect(ToQt(DotRect(with, rect)), Qt::black);
+    Drawn(with.clip.box);
+  }
+}
+
+void PainterTarget::FocusRect(const DrawAttributes& with, const CRect& rect) {
+  if (QPainter* painter = Begin(with)) {
+    painter->setPen(QPen(Qt::black, 0, Qt::DotLine));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(ToQt(DotRect(with, rect)).adjusted(0, 0, -1, -1));
+    Drawn(with.clip.box);
+  }
+}
+
+COLORREF PainterTarget::ReadPixel(const DrawAttributes&, int, int) const {
+  return 0xFFFFFFFF;
+}
+
+// --- Text
+
+FontFace& PainterTarget::Face(const DrawAttributes& with) {
+  const std::shared_ptr<FontData> none;
+  const std::shared_ptr<FontData>& data = with.font != nullptr ? with.font->Data() : none;
+  if (m_face == nullptr || m_faceFont != data.get()) {
+    m_face = &FontFace::For(data, DotsPerInch(), Scale());
+    m_faceFont = data.get();
+  }
+  return *m_face;
+}
+
+int PainterTarget::TextWidth(const DrawAttributes& with, const wchar_t* text, int length) {
+  return LogicalSize(Face(with).Width(text, length));
+}
+
+TEXTMETRIC PainterTarget::Metrics(const DrawAttributes& with) {
+  const FontFace& face = Face(with);
+  TEXTMETRIC metrics;
+  metrics.tmHeight = LogicalSize(face.Height());
+  metrics.tmAscent = std::min<LONG>(LogicalSize(face.Ascent()), metrics.tmHeight);
+  metrics.tmDescent = metrics.tmHeight - metrics.tmAscent;
+  metrics.tmExternalLeading = LogicalSize(face.Leading());
+  metrics.tmAveCharWidth = LogicalSize(face.AverageWidth());
+  metrics.tmMaxCharWidth = LogicalSize(face.MaxWidth());
+  return metrics;
+}
+
+void PainterTarget::Text(const DrawAttributes& with, int x, int y, const wchar_t* text, int length) {
+  TextByPainter(with, x, y, text, length);
+}
+
+void PainterTarget::TextByPainter(const DrawAttributes& with, int x, int y, const wchar_t* text, int length) {
+  FontFace& face = Face(with);
+  QPainter* painter = Begin(with);
+  if (painter == nullptr) {
+    return;
+  }
+  const int dotX = Dot(std::int64_t{x} + with.origin.x);
+  const int dotY = Dot(std::int64_t{y} + with.origin.y);
+  const ShapedText shaped(face.Font(), text, length);
+  painter->setCompositionMode(QPainter::CompositionMode_SourceOver);
+  painter->setPen(QColor::fromRgb(Opaque(with.textColour)));
+  if (face.IsRotated()) {
+    painter->save();
+    painter->translate(dotX, dotY);
+    painter->rotate(-face.Degrees());
+    shaped.Draw(*painter, QPointF(0, face.Ascent()));
+    painter->restore();
+  } else {
+    shaped.Draw(*painter, QPointF(dotX, dotY + face.Ascent()));
+  }
+  Drawn(with.clip.box);
+}
+
+// --- Bitmaps
+
+void PainterTarget::Bitmap(const DrawAttributes& with, const BitmapData& bitmap, const CRect& to) {
+  if (QPainter* painter = Begin(with)) {
+    painter->setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter->setRenderHint(QPainter::SmoothPixmapTransform, true);
+    painter->drawImage(ToQt(DotRect(with, to)), bitmap.surface->Image());
+    Drawn(with.clip.box);
+  }
+}
+
+bool PainterTarget::Copy(const DrawAttributes&, const CRect&, DrawTarget&, CPoint, bool) {
+  return false;
+}
+
+}  // namespace coregui

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QPainter>
+
+#include "platform/DrawTarget.h"
+
+namespace coregui {
+
+class FontFace;
+
+/// Draws everything with the toolkit's painter: pages to print, and on rasters what has no faster way.
+class PainterTarget : public DrawTarget {
+ public:
+  void Polyline(const DrawAttributes& with, const POINT* points, int count) override;
+  void PolylineF(const DrawAttributes& with, const double* xy, int count) override;
+  void Polygon(const DrawAttributes& with, const POINT* points, int count) override;
+  void DrawShape(const DrawAttributes& with, Shape shape, const CRect& rect,
+                 const ShapeDetail& detail) override;
+  void Fill(const DrawAttributes& with, const CRect& rect, COLORREF colour) override;
+  void FillHatched(const DrawAttributes& with, const CRect& rect, const CBrush& brush) override;
+  void Invert(const DrawAttributes& with, const CRect& rect) override;
+  void FocusRect(const DrawAttributes& with, const CRect& rect) override;
+  COLORREF ReadPixel(const DrawAttributes& with, int x, int y) const override;
+  int TextWidth(const DrawAttributes& with, const wchar_t* text, int length) override;
+  TEXTMETRIC Metrics(const DrawAttributes& with) override;
+  void Text(const DrawAttributes& with, int x, int y, const wchar_t* text, int length) override;
+  void Bitmap(const DrawAttributes& with, const BitmapData& bitmap, const CRect& to) override;
+  bool Copy(const DrawAttributes& with, const CRect& to, DrawTarget& source, CPoint from,
+            bool exclusiveOr) override;
+
+ protected:
+  explicit PainterTarget(double scale) : DrawTarget(scale) {}
+  /// The painter in dots, open for the next call; null when there is no page.
+  virtual QPainter* OpenPainter() = 0;
+  /// The painter with clip, raster mode and smoothness of the call; null when nothing would show.
+  QPainter* Begin(const DrawAttributes& with);
+  /// Called after each call that drew, with the part of the device that may have changed.
+  virtual void Drawn(const CRect&) {}
+  FontFace& Face(const DrawAttributes& with);
+  void TextByPainter(const DrawAttributes& with, int x, int y, const wchar_t* text, int length);
+
+ private:
+  QPointF DotPoint(const DrawAttributes& with, double x, double y) const;
+  QPen PenOf(const DrawAttributes& with) const;
+  QBrush BrushOf(const CBrush& brush) const;
+
+  FontFace* m_face = nullptr;
+  const void* m_faceFont = nullptr;
+};
+
+/// A colour of ours in the toolkit's order, opaque.
+constexpr std::uint32_t Opaque(COLORREF colour) {
+  return 0xFF000000U | ((colour & 0xFFU) << 16U) | (colour & 0xFF00U) | ((colour >> 16U) & 0xFFU);
+}
+
+}  // namespace coregui

@@ -1,0 +1,137 @@
+#include "platform/qt/Surface.h"
+
+#include <cmath>
+#include <cstring>
+
+namespace coregui {
+
+namespace {
+
+int Rounded(double value) {
+  return static_cast<int>(std::floor(value + 0.5));
+}
+
+QImage WhiteImage(CSize size, double scale) {
+  QImage image(std::max(1, Rounded(size.cx * scale)), std::max(1, Rounded(size.cy * scale)),
+               QImage::Format_RGB32);
+  image.fill(Qt::white);
+  return image;
+}
+
+}  // namespace
+
+Surface::Surface(CSize size, double scale) : m_size(size), m_scale(scale), m_image(WhiteImage(size, scale)) {
+  Attach();
+}
+
+Surface::Surface(QImage image, double scale)
+    : m_size(Rounded(image.width() / scale), Rounded(image.height() / scale)),
+      m_scale(scale),
+      m_image(std::move(image)) {
+  Attach();
+}
+
+Surface::~Surface() {
+  EndPainter();
+}
+
+void Surface::Attach() {
+  m_bits = reinterpret_cast<std::uint32_t*>(m_image.bits());
+  m_stride = m_image.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(std::uint32_t));
+}
+
+void Surface::Resize(CSize size, double scale) {
+  if (size == m_size && scale == m_scale) {
+    return;
+  }
+  EndPainter();
+  QImage resized = WhiteImage(size, scale);
+  if (scale == m_scale) {
+    const std::size_t bytes =
+        sizeof(std::uint32_t) * static_cast<std::size_t>(std::min(resized.width(), m_image.width()));
+    const int rows = std::min(resized.height(), m_image.height());
+    for (int y = 0; y < rows; ++y) {
+      std::memcpy(resized.scanLine(y), m_image.constScanLine(y), bytes);
+    }
+  }
+  m_size = size;
+  m_scale = scale;
+  m_image = std::move(resized);
+  Attach();
+  Damage(CRect(CPoint(), Dots()));
+}
+
+QPainter& Surface::Painter() {
+  if (!m_painter.has_value()) {
+    m_painter.emplace(&m_image);
+  }
+  return *m_painter;
+}
+
+void Surface::EndPainter() {
+  m_painter.reset();
+}
+
+void Surface::Leave() {
+  if (--m_contexts == 0) {
+    EndPainter();
+  }
+}
+
+bool Surface::MovePixels(const CRect& rect, int dx, int dy, const CRect& clip) {
+  const double dotsX = dx * m_scale;
+  const double dotsY = dy * m_scale;
+  if (dotsX != std::floor(dotsX) || dotsY != std::floor(dotsY)) {
+    return false;
+  }
+  const int moveX = static_cast<int>(dotsX);
+  const int moveY = static_cast<int>(dotsY);
+  const auto inDots = [this](const CRect& r) {
+    return CRect(Rounded(r.left * m_scale), Rounded(r.top * m_scale), Rounded(r.right * m_scale),
+                 Rounded(r.bottom * m_scale));
+  };
+  const CRect device(CPoint(), Dots());
+  CRect from;
+  CRect to;
+  CRect within;
+  if (!from.IntersectRect(inDots(rect), device) || !within.IntersectRect(inDots(clip), device)) {
+    return true;
+  }
+  to = from;
+  to.OffsetRect(moveX, moveY);
+  if (!to.IntersectRect(to, within)) {
+    return true;
+  }
+  const std::size_t bytes = sizeof(std::uint32_t) * static_cast<std::size_t>(to.Width());
+  const bool upwards = moveY <= 0;
+  for (int i = 0; i < to.Height(); ++i) {
+    const int y = upwards ? to.top + i : to.bottom - 1 - i;
+    std::memmove(Row(y) + to.left, Row(y - moveY) + to.left - moveX, bytes);
+  }
+  Damage(to);
+  return true;
+}
+
+void Surface::Expose(QPainter& exposure, const CRect& rect) {
+  EndPainter();
+  const QRectF target(rect.left, rect.top, rect.Width(), rect.Height());
+  const QRectF source(rect.left * m_scale, rect.top * m_scale, rect.Width() * m_scale,
+                      rect.Height() * m_scale);
+  exposure.drawImage(target, m_image, source);
+}
+
+QImage Surface::Snapshot() const {
+  QImage copy = m_image.copy();
+  copy.setDevicePixelRatio(m_scale);
+  return copy;
+}
+
+CRect Surface::TakeDamage() {
+  const CRect dots = std::exchange(m_damage, CRect());
+  return {static_cast<LONG>(std::floor(dots.left / m_scale)),
+          static_cast<LONG>(std::floor(dots.top / m_scale)),
+          static_cast<LONG>(std::ceil(dots.right / m_scale)),
+          static_cast<LONG>(std::ceil(dots.bottom / m_scale))};
+}
+
+}  // namespace coregui

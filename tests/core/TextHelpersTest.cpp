@@ -1,0 +1,171 @@
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <limits>
+
+#include "core/Expression.h"
+#include "core/Fields.h"
+#include "core/Paths.h"
+#include "core/SizeText.h"
+#include "core/UI_LIST.h"
+#include "core/Utf8.h"
+#include "tests/core/StatusLines.h"
+
+TEST(Paths, ExtensionIsThatOfTheFileNameOnly) {
+  EXPECT_EQ(coreChangeFileExt(L"/a.b/survey.csv", L"lck"), L"/a.b/survey.lck");
+  EXPECT_EQ(coreChangeFileExt(L"/a.b/survey", L".lck"), L"/a.b/survey.lck");
+  EXPECT_EQ(coreChangeFileExt(L"C:\\a.b\\survey.old.csv", L"lck"), L"C:\\a.b\\survey.old.lck");
+  EXPECT_EQ(coreChangeFileExt(L"/home/.profile", L"bak"), L"/home/.profile.bak");
+  EXPECT_EQ(coreChangeFileExt(L"survey.csv", L""), L"survey");
+  EXPECT_EQ(coreChangeFileExt(nullptr, nullptr), L"");
+}
+
+TEST(Paths, FolderKeepsItsSeparatorSoThatANameCanBeAppended) {
+  EXPECT_EQ(coreExtractFilePath(L"/data/road/a.csv"), L"/data/road/");
+  EXPECT_EQ(coreExtractFilePath(L"C:\\data\\a.csv"), L"C:\\data\\");
+  EXPECT_EQ(coreExtractFilePath(L"a.csv"), L"");
+  EXPECT_EQ(coreExtractFileName(L"C:\\data\\a.b.csv"), L"a.b.csv");
+  EXPECT_EQ(coreExtractFileName(L"/data/road/"), L"");
+  EXPECT_EQ(coreChangeFileName(L"/data/a.csv", L"b.txt"), L"/data/b.txt");
+  EXPECT_EQ(coreChangeFileName(L"a.csv", L"b.txt"), L"b.txt");
+}
+
+TEST(Fields, DefaultStandsForAMissingFieldAndNotForAnEmptyOne) {
+  const auto field = [](const wchar_t* line, int n) { return coreGetField(line, n, L',', L"0", 50); };
+  EXPECT_EQ(field(L"user,1A2B", 1), L"user");
+  EXPECT_EQ(field(L"user,1A2B", 2), L"1A2B");
+  EXPECT_EQ(field(L"user,", 2), L"");
+  EXPECT_EQ(field(L"user", 2), L"0");
+  EXPECT_EQ(field(L"", 1), L"");
+  EXPECT_EQ(field(L"", 2), L"0");
+  EXPECT_EQ(field(L"a,b", 0), L"0");
+  EXPECT_EQ(field(L"\"a,b\"", 2), L"b\"");
+  EXPECT_EQ(field(nullptr, 2), L"0");
+}
+
+TEST(Fields, MaximumCutsAndSaysSo) {
+  bool isCut = false;
+  EXPECT_EQ(coreGetField(L"a,12345,c", 2, L',', nullptr, 4, &isCut), L"1234");
+  EXPECT_TRUE(isCut);
+  EXPECT_EQ(coreGetField(L"a,1234,c", 2, L',', nullptr, 4, &isCut), L"1234");
+  EXPECT_FALSE(isCut);
+}
+
+TEST(SizeText, UnitsChangeAtTheirFirstByte) {
+  EXPECT_EQ(coreGetSizeString(0), L"0 bytes");
+  EXPECT_EQ(coreGetSizeString(1023), L"1023 bytes");
+  EXPECT_EQ(coreGetSizeString(1024), L"1.00 KB");
+  EXPECT_EQ(coreGetSizeString(1536), L"1.50 KB");
+  EXPECT_EQ(coreGetSizeString(1048576), L"1.00 MB");
+  EXPECT_EQ(coreGetSizeString(1073741824), L"1.00 GB");
+  EXPECT_EQ(coreGetSizeString(std::uint64_t{5} << 40U), L"5120.00 GB");
+  EXPECT_EQ(coreGetSizeString(std::numeric_limits<std::uint64_t>::max()), L"17179869184.00 GB");
+}
+
+TEST(SizeText, RoundingUpToTheNextUnitIsKept) {
+  EXPECT_EQ(coreGetSizeString(1048575), L"1024.00 KB");
+}
+
+TEST(Expression, GivesTheValueWhateverTheLocale) {
+  const std::string before = std::setlocale(LC_ALL, nullptr);
+  for (const char* name : {"C", "de_DE.UTF-8", "C.UTF-8"}) {
+    if (std::setlocale(LC_ALL, name) == nullptr) continue;
+    double value = 0;
+    EXPECT_TRUE(coreEvaluateExpression(L"1.5+2*3", value));
+    EXPECT_EQ(value, 7.5);
+  }
+  std::setlocale(LC_ALL, before.c_str());
+}
+
+TEST(Expression, KnowsTheUsualFunctionsAndConstants) {
+  const std::pair<const wchar_t*, double> rows[] = {
+      {L" 2 * (3 + sqrt(16)) ", 14},
+      {L"-2^2", -4},
+      {L"2^3^2", 512},
+      {L"sin(pi/6)", 0.5},
+      {L"atan2(1,1)*4", 3.14159265358979323846},
+      {L"ln(e)", 1},
+      {L"log10(1000)", 3},
+      {L"log(e)", 1},
+      {L"max(1,7,3)", 7},
+      {L"1e3", 1000},
+      {L"3>2 ? 10 : 20", 10},
+  };
+  for (const auto& [text, expected] : rows) {
+    double value = 0;
+    std::wstring reason;
+    EXPECT_TRUE(coreEvaluateExpression(text, value, &reason))
+        << coregui::ToUtf8(text) << ": " << coregui::ToUtf8(reason);
+    EXPECT_NEAR(value, expected, 1e-12) << coregui::ToUtf8(text);
+  }
+}
+
+TEST(Expression, FailureGivesAReasonAndLeavesTheValue) {
+  const std::wstring rows[] = {L"",
+                               L"   ",
+                               L"1+",
+                               L"(1",
+                               L"1)",
+                               L"2 3",
+                               L"1,5",
+                               L"x+1",
+                               L"sin",
+                               L"sin()",
+                               L"1/0",
+                               L"sqrt(-1)",
+                               L"\"text\"",
+                               L"x=5",
+                               L"1e999",
+                               L"5\u20AC",
+                               std::wstring(5000, L'1'),
+                               std::wstring(4096, L'('),
+                               L"\xD800",
+                               L"1?2",
+                               L"atan2(1)",
+                               L"+-*/"};
+  for (const std::wstring& text : rows) {
+    double value = 42;
+    std::wstring reason;
+    EXPECT_FALSE(coreEvaluateExpression(text.c_str(), value, &reason)) << coregui::ToUtf8(text);
+    EXPECT_EQ(value, 42) << coregui::ToUtf8(text);
+    EXPECT_FALSE(reason.empty()) << coregui::ToUtf8(text);
+  }
+  double value = 42;
+  EXPECT_FALSE(coreEvaluateExpression(nullptr, value));
+}
+
+TEST(Expression, DeepNestingWorks) {
+  double value = 0;
+  EXPECT_TRUE(
+      coreEvaluateExpression((std::wstring(2000, L'(') + L"1" + std::wstring(2000, L')')).c_str(), value));
+  EXPECT_EQ(value, 1);
+}
+
+TEST(Status, ASinkMayWriteItselfAndIsPutBack) {
+  const StatusLines outer;
+  {
+    const coregui::StatusSinkScope inner(
+        [](const std::wstring&) { coreStatusOut(L"to the error stream, not here again"); });
+    testing::internal::CaptureStderr();
+    coreStatusOut(L"inner");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "to the error stream, not here again\n");
+  }
+  coreStatusOut(L"outer");
+  EXPECT_EQ(outer.Lines(), std::vector<std::wstring>{L"outer"});
+}
+
+TEST(UiList, KeepsItsOrder) {
+  UI_LIST list;
+  list.Add(L"b", 2);
+  list.Insert(-5, L"a", 1);
+  list.Insert(99, L"d", 4);
+  list.Insert(2, L"c", 3);
+  std::wstring texts;
+  for (const UI_ELEMENT& element : list) texts += element.text;
+  EXPECT_EQ(texts, L"abcd");
+  EXPECT_EQ(list.FindId(3), 2);
+  EXPECT_EQ(list.FindText(L"d"), 3);
+  EXPECT_TRUE(list.Remove(0));
+  EXPECT_FALSE(list.Remove(3));
+  EXPECT_EQ(list.FindText(L"a"), UI_LIST::kNotFound);
+}
