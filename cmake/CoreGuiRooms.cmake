@@ -60,8 +60,8 @@ function(coregui_library)
   endforeach()
   target_link_libraries(coregui PRIVATE "$<BUILD_INTERFACE:coregui_flags>")
   target_include_directories(coregui PUBLIC
-    "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>"
     "$<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>"
+    "$<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include/coregui>"
     "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>"
     "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/coregui>")
   target_compile_features(coregui PUBLIC cxx_std_20)

@@ -6,16 +6,18 @@
 #include <utility>
 #include <vector>
 
+#include "core/Export.h"
+
 /// One entry of a list that a dialog offers: what the user reads, and the number that the program knows it
 /// by.
-struct UI_ELEMENT {
+struct COREGUI_API UI_ELEMENT {
   std::wstring text;
   int id = 0;
 };
 
 /// An ordered list of entries that it owns, as dialogs fill their lists and combo boxes from. Positions count
 /// from 0.
-class UI_LIST {
+class COREGUI_API UI_LIST {
  public:
   static constexpr int kNotFound = -1;
 
