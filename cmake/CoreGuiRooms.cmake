@@ -52,11 +52,12 @@ function(coregui_library)
   add_library(coregui SHARED "${CMAKE_CURRENT_BINARY_DIR}/anchor.cpp")
   add_library(CoreGUI::CoreGUI ALIAS coregui)
   set_target_properties(coregui PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 0 EXPORT_NAME CoreGUI)
-  # Whole archives, however a room is reached: named here and again by the rooms above it.
-  string(REPLACE ";" "," room_names "${rooms}")
-  set_target_properties(coregui PROPERTIES LINK_LIBRARY_OVERRIDE "WHOLE_ARCHIVE,${room_names}")
+  # The rooms' objects, each once, and what the rooms link from outside.
   foreach(room IN LISTS rooms)
-    target_link_libraries(coregui PRIVATE "$<BUILD_INTERFACE:${room}>")
+    target_sources(coregui PRIVATE "$<TARGET_OBJECTS:${room}>")
+    get_target_property(libraries ${room} LINK_LIBRARIES)
+    list(FILTER libraries EXCLUDE REGEX "coregui")
+    target_link_libraries(coregui PRIVATE ${libraries})
   endforeach()
   target_link_libraries(coregui PRIVATE "$<BUILD_INTERFACE:coregui_flags>")
   target_include_directories(coregui PUBLIC
