@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "core/Export.h"
 #include "platform/CString.h"
 #include "platform/Geometry.h"
@@ -45,9 +47,10 @@ inline constexpr int SM_CXDRAG = 68;
 inline constexpr int SM_CYDRAG = 69;
 inline constexpr int SM_CXDOUBLECLK = 36;
 COREGUI_API int GetSystemMetrics(int index);
-/// A length given for 96 dots per inch in pixels of the scale in force: rounded, 1 at least for a positive one.
+/// A length given for 96 dots per inch in pixels of the scale in force: rounded, 1 at least for a positive
+/// one.
 COREGUI_API int ScaleByDpi(int pixelsAt96);
-/// Fixes the layout scale for a run (1.0: 96 dots per inch).
+/// Fixes the layout scale for a run (1.0: 96 dots per inch; 0: the screen's again).
 COREGUI_API void SetDpiScale(double scale);
 COREGUI_API double GetDpiScale();
 

@@ -14,5 +14,7 @@ std::string Utf8FromWide(std::wstring_view text);
 /// characters.
 wchar_t UpperCase(wchar_t character);
 wchar_t LowerCase(wchar_t character);
+/// The value of a decimal digit of any script; -1 for another character.
+int DigitValue(wchar_t character);
 
 }  // namespace coregui

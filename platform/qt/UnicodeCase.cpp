@@ -14,4 +14,9 @@ wchar_t LowerCase(wchar_t character) {
   return static_cast<wchar_t>(QChar::toLower(static_cast<char32_t>(character)));
 }
 
+int DigitValue(wchar_t character) {
+  if (character < 0x80) return character >= L'0' && character <= L'9' ? character - L'0' : -1;
+  return QChar::digitValue(static_cast<char32_t>(character));
+}
+
 }  // namespace coregui

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <mutex>
 
+#include "core/Status.h"
 #include "platform/UnicodeText.h"
 
 namespace coregui::test {

@@ -3,10 +3,15 @@
 #include <QApplication>
 #include <QFont>
 #include <QPalette>
+#include <QStyle>
 #include <QStyleFactory>
 #include <QTemporaryDir>
 #include <cstdlib>
 #include <memory>
+
+#include "platform/KeyState.h"
+#include "platform/Locale.h"
+#include "platform/System.h"
 
 namespace coregui::test {
 namespace {
@@ -49,12 +54,20 @@ void FixEnvironment() {
 }
 
 void FixLook() {
-  QApplication::setStyle(QStyleFactory::create("Fusion"));
-  QApplication::setPalette(LightPalette());
+  if (QApplication::style()->name() != QLatin1String("fusion")) {
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+  }
+  SetDarkTheme(false);
+  if (QApplication::palette() != LightPalette()) QApplication::setPalette(LightPalette());
   QApplication::setFont(QFont("DejaVu Sans", 9));
 }
 
 void ResetGlobalState() {
+  SetUserLocale(L"en_US");
+  SetSleepHook(nullptr);
+  SetDpiScale(0.0);
+  ResetKeyState();
+  ResetSysColors();
   FixLook();
 }
 

@@ -34,7 +34,7 @@ int main(int argc, char** argv) {
   testing::InitGoogleMock(&argc, argv);
   coregui::test::InstallLogWatch();
   const QApplication application(argc, argv);
-  coregui::test::FixLook();
+  coregui::test::ResetGlobalState();
   testing::UnitTest::GetInstance()->listeners().Append(new CleanTests);
   return RUN_ALL_TESTS();
 }

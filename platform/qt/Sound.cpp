@@ -1,0 +1,11 @@
+#include "platform/qt/Sound.h"
+
+#include <QApplication>
+
+namespace coregui {
+
+void PlayBeep() {
+  if (QCoreApplication::instance() != nullptr) QApplication::beep();
+}
+
+}  // namespace coregui
