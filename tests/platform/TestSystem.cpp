@@ -51,7 +51,9 @@ TEST(SystemColours, AreReadyWhenWindowsHearOfAChange) {
       return QWidget::event(event);
     }
   } probe;
+  probe.show();
   SetDarkTheme(true);
+  QApplication::processEvents();
   EXPECT_EQ(probe.seen, GetSysColor(COLOR_WINDOW));
 }
 
