@@ -1,0 +1,357 @@
+#include "grid/display/CGrid.h"
+
+#include <algorithm>
+
+#include "grid/control/CGridCtrl.h"
+#include "grid/control/CGridInfo.h"
+#include "platform/CBitmap.h"
+#include "platform/CDC.h"
+#include "platform/System.h"
+#include "platform/WindowRef.h"
+
+using namespace coregui;
+
+CGrid::CGrid(CGridCtrl* control)
+    : m_control(control),
+      m_painter(*control, *this),
+      m_scroller(*control, m_painter),
+      m_mouse(*control, *this),
+      m_keys(*control, *this),
+      m_tips(*control, *this, GRIDSECTION_GRID) {}
+
+CGrid::~CGrid() = default;
+
+const MessageTable& CGrid::GetMessageTable() const {
+  static const MessageTable table = MessageTable(CWnd::Messages())
+                                        .On<WM_PAINT>(&CGrid::HandlePaint)
+                                        .On<WM_ERASEBKGND>(&CGrid::HandleErase)
+                                        .On<WM_PRINTCLIENT>(&CGrid::HandlePrintClient)
+                                        .On<WM_SIZE>(&CGrid::HandleSize)
+                                        .On<WM_SYSCOLORCHANGE>(&CGrid::HandleSystemChange)
+                                        .On<WM_THEMECHANGED>(&CGrid::HandleSystemChange)
+                                        .On<WM_LBUTTONDOWN>(&CGrid::HandleLButtonDown)
+                                        .On<WM_LBUTTONUP>(&CGrid::HandleLButtonUp)
+                                        .On<WM_LBUTTONDBLCLK>(&CGrid::HandleLButtonDblClk)
+                                        .On<WM_RBUTTONDOWN>(&CGrid::HandleRButtonDown)
+                                        .On<WM_RBUTTONUP>(&CGrid::HandleRButtonUp)
+                                        .On<WM_MOUSEMOVE>(&CGrid::HandleMouseMove)
+                                        .On<WM_MOUSEWHEEL>(&CGrid::HandleMouseWheel)
+                                        .On<WM_MOUSELEAVE>(&CGrid::HandleMouseLeave)
+                                        .On<WM_SETCURSOR>(&CGrid::HandleSetCursor)
+                                        .On<WM_MOUSEACTIVATE>(&CGrid::HandleMouseActivate)
+                                        .On<WM_KEYDOWN>(&CGrid::HandleKeyDown)
+                                        .On<WM_KEYUP>(&CGrid::HandleKeyUp)
+                                        .On<WM_CHAR>(&CGrid::HandleChar)
+                                        .On<WM_GETDLGCODE>(&CGrid::HandleGetDlgCode)
+                                        .On<WM_SETFOCUS>(&CGrid::HandleSetFocus)
+                                        .On<WM_KILLFOCUS>(&CGrid::HandleKillFocus)
+                                        .On<WM_TIMER>(&CGrid::HandleTimer);
+  return table;
+}
+
+CScrollBar* CGrid::GetScrollBarCtrl(int bar) const {
+  return m_control->GetScrollBarCtrl(bar);
+}
+
+LRESULT CGrid::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_HSCROLL || message == WM_VSCROLL) return m_control->SendMessage(message, wParam, lParam);
+  return CWnd::WindowProc(message, wParam, lParam);
+}
+
+// --- Repainting on request
+
+void CGrid::RedrawCell(int col, long row) {
+  RedrawRange(col, row, col, row);
+}
+
+void CGrid::RedrawRow(long row) {
+  RedrawRange(0, row, m_control->GetNumberCols() - 1, row);
+}
+
+void CGrid::RedrawCol(int col) {
+  RedrawRange(col, 0, col, m_control->GetNumberRows() - 1);
+}
+
+void CGrid::RedrawRange(int startCol, long startRow, int endCol, long endRow) {
+  m_painter.Hints().AddHint(startCol, startRow, endCol, endRow);
+  if (m_painter.IsPainting()) {
+    m_painter.RequestDuringPass({startCol, startRow, endCol, endRow});
+  } else {
+    Moved();
+  }
+}
+
+void CGrid::Moved() {
+  if (!HasWindow() || m_painter.IsPainting() || m_control->GetPaintMode() == 0) return;
+  RECT update;
+  if (GetUpdateRect(&update)) {
+    UpdateWindow();
+    return;
+  }
+  if (NeedsFullRepaint()) {
+    Invalidate(TRUE);
+    UpdateWindow();
+    return;
+  }
+  CClientDC dc(this);
+  if (!dc.IsValid()) return;
+  const CGridScroller::Shift shift = m_scroller.Plan(GetClientRectangle(), dc.GetScaleFactor());
+  if (!shift.IsNone()) m_scroller.HintUncovered(shift);
+  m_painter.HintCurrent(m_painter.ShownCol(), m_painter.ShownRow());
+  m_painter.HintCurrent(m_control->GetCurrentCol(), m_control->GetCurrentRow());
+  if (m_buffer == nullptr) {
+    if (!shift.IsNone()) CGridScroller::Move(dc, shift);
+    DrawCellsIntern(&dc, nullptr);
+  } else {
+    CMemoryDC memory(&dc, m_buffer.get());
+    if (!shift.IsNone()) CGridScroller::Move(memory, shift);
+    DrawCellsIntern(&dc, &memory);
+  }
+}
+
+bool CGrid::NeedsFullRepaint() const {
+  return m_control->IsFindDialogOpen() != 0 || m_control->GetInfo().view.forceFullRepaint != 0 || IsCovered();
+}
+
+/// Whether a window lies over a part of this one, or a part of it lies outside what its window or the screen
+/// shows.
+bool CGrid::IsCovered() const {
+  CRect own;
+  GetWindowRect(&own);
+  CRect other;
+  CRect common;
+  for (const CWnd* above = GetWindow(GW_HWNDPREV); above != nullptr; above = above->GetWindow(GW_HWNDPREV)) {
+    if (!above->IsWindowVisible()) continue;
+    above->GetWindowRect(&other);
+    if (common.IntersectRect(own, other)) return true;
+  }
+  if (const CWnd* const active = CWnd::GetActiveWindow(); active != nullptr) {
+    active->GetWindowRect(&other);
+    if (OverlapsPartly(own, other)) return true;
+  }
+  other = CRect(0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN));
+  return OverlapsPartly(own, other);
+}
+
+void CGrid::PaintDrawHintsNow(const RECT* rect) {
+  if (!HasWindow() || m_painter.IsPainting() || m_control->GetPaintMode() == 0) return;
+  // The context validates all that is pending, so that has to be painted too.
+  CRect pending;
+  if (m_painter.IsViewStale()) {
+    m_painter.HintAll();
+  } else if (GetUpdateRect(&pending)) {
+    HintUpdateRect(pending);
+  }
+  InvalidateRect(m_painter.IsViewStale() ? nullptr : rect, FALSE);
+  CPaintDC dc(this);
+  PaintPass(dc);
+}
+
+// --- Painting
+
+void CGrid::HandlePaint() {
+  CRect update;
+  GetUpdateRect(&update);
+  ValidateRect(nullptr);  // else the request would come again and again while painting is disabled
+  if (m_control->GetPaintMode() == 0) return;
+  if (update.IsRectNull() || m_painter.IsViewStale()) {
+    m_painter.HintAll();
+  } else {
+    HintUpdateRect(update);
+  }
+  CClientDC dc(this);
+  if (dc.IsValid()) PaintPass(dc);
+}
+
+void CGrid::PaintPass(CDC& screen) {
+  if (m_buffer == nullptr) {
+    DrawCellsIntern(&screen, nullptr);
+  } else {
+    CMemoryDC memory(&screen, m_buffer.get());
+    DrawCellsIntern(&screen, &memory);
+  }
+}
+
+/// Hints the cells under the rectangle, to the end of a joined block that it ends in, and the current cell.
+void CGrid::HintUpdateRect(const CRect& update) {
+  const CGridInfo& info = m_control->GetInfo();
+  const auto at = [](long index, long count) {
+    return index < 0 ? count : index;
+  };  // -1: behind the last one
+  const int startCol = static_cast<int>(at(info.columns.IndexAtPosition(update.left), info.columns.Count()));
+  const long startRow = at(info.rows.IndexAtPosition(update.top), info.rows.Count());
+  int endCol = static_cast<int>(at(info.columns.IndexAtPosition(update.right - 1), info.columns.Count()));
+  long endRow = at(info.rows.IndexAtPosition(update.bottom - 1), info.rows.Count());
+  int joinCol = endCol;
+  long joinRow = endRow;
+  int joinEndCol = 0;
+  long joinEndRow = 0;
+  if (m_control->GetJoinRange(&joinCol, &joinRow, &joinEndCol, &joinEndRow) == 0) {
+    endCol = std::max(endCol, joinEndCol);
+    endRow = std::max(endRow, joinEndRow);
+  }
+  m_painter.Hints().AddHint(startCol, startRow, endCol, endRow);
+  const int col = m_control->GetCurrentCol();
+  const long row = m_control->GetCurrentRow();
+  const bool exactly = startCol >= col && endCol <= col && startRow >= row && endRow <= row;
+  // A highlighted row is drawn as a whole even then: its focus rectangle is.
+  if (!exactly || info.view.highlightRow != 0) m_painter.HintCurrent(col, row);
+}
+
+void CGrid::DrawCellsIntern(CDC* screenDC, CDC* memDC) {
+  const WindowRef alive(this);
+  m_painter.Paint({screenDC, memDC, GetClientRectangle()});
+  if (!alive) return;
+  for (const CGridDrawHint::Range& range : m_painter.TakeRequested()) {
+    RECT rect;
+    if (m_control->GetRangeRect(range.startCol, range.startRow, range.endCol, range.endRow, &rect) == 0) {
+      InvalidateRect(&rect, FALSE);
+    }
+  }
+  if (m_bufferStale) {
+    m_bufferStale = false;
+    SetDoubleBufferMode(m_bufferMode);
+  }
+}
+
+BOOL CGrid::HandleErase(CDC*) {
+  return TRUE;
+}
+
+LRESULT CGrid::HandlePrintClient(WPARAM wParam, LPARAM) {
+  CDC* const dc = reinterpret_cast<CDC*>(wParam);
+  if (dc == nullptr || m_painter.IsPainting()) return 0;
+  m_painter.HintAll();
+  DrawCellsIntern(dc, nullptr);
+  return 0;
+}
+
+int CGrid::SetDoubleBufferMode(int mode) {
+  if (m_painter.IsPainting()) {  // the bitmap is in use
+    m_bufferMode = mode;
+    m_bufferStale = true;
+    return 0;
+  }
+  m_buffer.reset();
+  m_bufferMode = mode;
+  if (mode != 1 || !HasWindow()) return 0;
+  const CRect client = GetClientRectangle();
+  const CClientDC dc(this);
+  auto buffer = std::make_unique<CBitmap>();
+  if (!buffer->CreateCompatibleBitmap(&dc, std::max<int>(client.Width(), 1),
+                                      std::max<int>(client.Height(), 1))) {
+    m_bufferMode = 0;
+    return 1;
+  }
+  m_buffer = std::move(buffer);
+  Invalidate(FALSE);  // the new bitmap holds no picture yet
+  return 0;
+}
+
+void CGrid::HandleSize(UINT, int, int) {
+  SetDoubleBufferMode(m_bufferMode);
+}
+
+void CGrid::HandleSystemChange() {
+  Invalidate(TRUE);
+}
+
+// --- Mouse
+
+void CGrid::HandleLButtonDown(UINT flags, CPoint point) {
+  m_tips.Cancel();
+  m_mouse.LeftDown(flags, point, m_painter.HasFocus());
+}
+
+void CGrid::HandleLButtonUp(UINT flags, CPoint point) {
+  m_mouse.LeftUp(flags, point);
+}
+
+void CGrid::HandleLButtonDblClk(UINT flags, CPoint point) {
+  m_mouse.DoubleClick(flags, point);
+}
+
+void CGrid::HandleRButtonDown(UINT flags, CPoint point) {
+  m_tips.Cancel();
+  m_mouse.RightDown(flags, point);
+}
+
+void CGrid::HandleRButtonUp(UINT flags, CPoint point) {
+  m_mouse.RightUp(flags, point);
+}
+
+void CGrid::HandleMouseMove(UINT flags, CPoint point) {
+  m_tips.PointerAt(point);
+  m_mouse.Move(flags, point);
+}
+
+void CGrid::HandleMouseLeave() {
+  m_tips.Cancel();
+}
+
+BOOL CGrid::HandleMouseWheel(UINT flags, short delta, CPoint) {
+  m_tips.Cancel();
+  m_mouse.Wheel(flags, delta);
+  return TRUE;
+}
+
+BOOL CGrid::HandleSetCursor(CWnd*, UINT, UINT) {
+  SetCursor(m_control->GetInfo().view.arrowCursor);
+  return TRUE;
+}
+
+LRESULT CGrid::HandleMouseActivate(WPARAM, LPARAM) {
+  return MA_ACTIVATE;
+}
+
+// --- Keys and focus
+
+void CGrid::HandleKeyDown(UINT key, UINT, UINT) {
+  m_tips.Cancel();
+  m_keys.KeyDown(key);
+}
+
+void CGrid::HandleKeyUp(UINT key, UINT, UINT) {
+  m_keys.KeyUp(key);
+}
+
+void CGrid::HandleChar(UINT key, UINT, UINT) {
+  m_keys.Character(key);
+}
+
+UINT CGrid::HandleGetDlgCode() {
+  return DLGC_WANTARROWS | DLGC_WANTALLKEYS;
+}
+
+void CGrid::HandleSetFocus(CWnd*) {
+  const WindowRef alive(this);
+  m_painter.SetFocus(true);
+  m_keys.ResetRepeat();
+  m_mouse.ReleaseType();
+  m_control->OnSetFocus(GRIDSECTION_GRID);
+  if (!alive) return;
+  const int col = m_control->GetCurrentCol();
+  const long row = m_control->GetCurrentRow();
+  if (col < 0 || row < 0) return;
+  m_painter.HintCurrent(col, row);
+  CRect rect;
+  m_control->GetCellRect(col, row, &rect);
+  if (m_control->GetHighlightRow() != 0) {
+    rect.left = 0;
+    rect.right = GetClientRectangle().right;
+  }
+  PaintDrawHintsNow(&rect);
+}
+
+void CGrid::HandleKillFocus(CWnd* other) {
+  const WindowRef alive(this);
+  m_painter.SetFocus(false);
+  m_control->OnKillFocus(GRIDSECTION_GRID, other);
+  if (!alive) return;
+  m_painter.HintCurrent(m_control->GetCurrentCol(), m_control->GetCurrentRow());
+  Moved();
+}
+
+void CGrid::HandleTimer(UINT id) {
+  if (id == CGridTips::kTimer) m_tips.TimeElapsed();
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "core/Export.h"
+#include "grid/data/CGridCell.h"
+#include "platform/Geometry.h"
+
+class CDC;
+class CGridCtrl;
+class CGridDrawHint;
+
+namespace coregui {
+
+class CGridCellDelegate;
+
+/// Fetches the cells that a paint pass of the body or of a heading comes to and has their types draw them.
+class COREGUI_API CGridCellPainter {
+ public:
+  /// Both are borrowed: the grid, and the hints of the window that is painted.
+  CGridCellPainter(CGridCtrl& control, CGridDrawHint& hints) : m_control(control), m_hints(hints) {}
+
+  /// A cell on the way to being drawn. Where it belongs to a joined block, it becomes the block's first cell
+  /// with the rectangle of the whole block.
+  struct Cell {
+    int col = 0;
+    long row = 0;
+    CRect rect;
+    bool joined = false;
+  };
+
+  enum class Fetched {
+    draw,   ///< to be drawn
+    drawn,  ///< belongs to a block that this pass has drawn
+    gone,   ///< a handler destroyed the grid
+  };
+  /// Handlers run. `alive` answers whether the grid still exists.
+  template <class Alive>
+  Fetched Fetch(Cell& cell, const Alive& alive) {
+    GetDisplayed(cell);
+    if (!alive) return Fetched::gone;
+    if (!IsJoined()) return Fetched::draw;
+    if (!EnterBlock(cell)) return Fetched::drawn;
+    if (alive) GetDisplayed(cell);
+    return alive ? Fetched::draw : Fetched::gone;
+  }
+  /// The type of the cell fetched last draws it. Handlers run.
+  void Draw(CDC& dc, const Cell& cell, int selected, int current);
+
+ private:
+  void GetDisplayed(const Cell& cell);
+  bool IsJoined();
+  bool EnterBlock(Cell& cell);
+
+  CGridCtrl& m_control;
+  CGridDrawHint& m_hints;
+  CGridCell m_cell;  ///< scratch: the cell fetched last
+};
+
+}  // namespace coregui

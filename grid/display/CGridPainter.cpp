@@ -1,0 +1,268 @@
+#include "grid/display/CGridPainter.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "grid/control/CGridCellDelegate.h"
+#include "grid/control/CGridCtrl.h"
+#include "grid/control/CGridInfo.h"
+#include "grid/control/CGridMultiSelect.h"
+#include "platform/CDC.h"
+#include "platform/WindowRef.h"
+
+namespace coregui {
+
+/// What one pass carries from step to step. The steps answer false when a handler destroyed the grid.
+struct CGridPainter::Pass {
+  const PaintSurface& surface;
+  const WindowRef alive;
+  CDC* dc = nullptr;    ///< what cells are drawn on
+  int y = 0;            ///< the top of the row at hand
+  bool anyRow = false;  ///< a row was drawn, so the columns' end is known
+  bool allRows = true;  ///< the walk reached the last row
+  bool hasFocusCell = false;
+  CRect focus;
+};
+
+CGridPainter::CGridPainter(CGridCtrl& control, CWnd& owner)
+    : m_control(control), m_owner(owner), m_cells(control, m_hints), m_row(m_hints) {}
+
+void CGridPainter::Paint(const PaintSurface& surface) {
+  if (m_painting) return;
+  Pass pass{surface,
+            WindowRef(&m_owner),
+            surface.memory != nullptr ? surface.memory : surface.screen,
+            0,
+            false,
+            true,
+            false,
+            CRect()};
+  m_painting = true;
+  Run(pass);
+  if (pass.alive) m_painting = false;
+}
+
+bool CGridPainter::Run(Pass& pass) {
+  if (!Begin(pass) || !WalkRows(pass)) return false;
+  m_hints.ClearHints();
+  for (const CGridDrawHint::Range& range : m_requested) {
+    m_hints.AddHint(range.startCol, range.startRow, range.endCol, range.endRow);
+  }
+  RememberShown();
+  if (!FillBlank(pass)) return false;
+  if (CDC* const memory = pass.surface.memory; memory != nullptr) {
+    memory->SelectObject(static_cast<CFont*>(nullptr));
+    const CGridInfo& info = m_control.GetInfo();
+    pass.surface.screen->BitBlt(0, 0, info.columns.Extent(), info.rows.Extent(), memory, 0, 0, SRCCOPY);
+  }
+  DrawFocusRect(pass);
+  if (pass.alive) m_focusRectOff = false;
+  return true;
+}
+
+bool CGridPainter::Begin(Pass& pass) {
+  CFont* const font = m_control.GetDefFont();
+  pass.surface.screen->SelectObject(font);
+  if (pass.surface.memory != nullptr) pass.surface.memory->SelectObject(font);
+  m_control.OnScreenDCSetup(pass.surface.screen, pass.surface.memory, GRIDSECTION_GRID);
+  if (!pass.alive) return false;
+  CGridInfo& info = m_control.GetInfo();
+  CGridColumns& columns = info.columns;
+  columns.last = columns.Count();
+  info.rows.last = info.rows.Count();
+  WalkLines(m_columns, LineOrder(columns.Locked(), columns.First()), columns.Count(), columns.Extent(),
+            [&columns](long col) { return columns.SizeOf(col); });
+  return true;
+}
+
+bool CGridPainter::WalkRows(Pass& pass) {
+  const LineOrder order(m_control.GetInfo().rows.Locked(), m_control.GetInfo().rows.First());
+  for (long row = order.First(); row < m_control.GetInfo().rows.Count(); row = order.After(row)) {
+    const int height = m_control.GetInfo().rows.SizeOf(row);
+    if (height <= 0) continue;
+    if (!DrawRow(pass, row, height)) return false;
+    pass.y += height;
+    CGridInfo& info = m_control.GetInfo();
+    if (pass.y > info.rows.Extent()) {
+      info.rows.last = row;
+      pass.allRows = false;
+      return true;
+    }
+    if (row + 1 >= info.rows.Count() && !GrowRows(pass, row + 1)) return false;
+  }
+  return true;
+}
+
+/// A source may have more rows than it told of: it learns that the next one is wanted.
+bool CGridPainter::GrowRows(Pass& pass, long next) {
+  const long before = m_control.GetInfo().rows.Count();
+  long wanted = next;
+  m_control.VerifyCurrentRow(&wanted);
+  if (!pass.alive) return false;
+  CGridInfo& info = m_control.GetInfo();
+  if (info.rows.Count() > before) {
+    info.rows.last = info.rows.Count();
+    m_hints.AddHint(0, next, static_cast<int>(info.columns.Count()), next);
+  }
+  return true;
+}
+
+bool CGridPainter::DrawRow(Pass& pass, long row, int height) {
+  pass.anyRow = true;
+  m_control.GetInfo().columns.last = m_columns.last;
+  m_row.Enter(row);
+  if (!m_row.IsEmpty()) {
+    for (const ShownLine& line : m_columns.lines) {
+      const int col = static_cast<int>(line.index);
+      if (!m_row.IsInvalid(col)) continue;
+      if (!DrawCell(pass, {col, row, CRect(line.start, pass.y, line.End(), pass.y + height), false}))
+        return false;
+    }
+  }
+  RememberFocus(pass, row, height);
+  return true;
+}
+
+bool CGridPainter::DrawCell(Pass& pass, CGridCellPainter::Cell cell) {
+  switch (m_cells.Fetch(cell, pass.alive)) {
+    case CGridCellPainter::Fetched::gone:
+      return false;
+    case CGridCellPainter::Fetched::drawn:
+      return true;
+    case CGridCellPainter::Fetched::draw:
+      break;
+  }
+  const CGridInfo& info = m_control.GetInfo();
+  const bool current =
+      cell.row == info.rows.current && (cell.col == info.columns.current || info.view.highlightRow != 0);
+  int selected = 0;
+  if (int block = 0;
+      !current && info.selection != nullptr && info.selection->IsSelected(cell.col, cell.row, &block)) {
+    selected = block + 1;
+  }
+  const int saved = pass.dc->SaveDC();
+  if (cell.joined) ClipToPane(*pass.dc, cell);
+  m_cells.Draw(*pass.dc, cell, selected, current ? 1 : 0);
+  if (!pass.alive) return false;
+  DrawSeparators(*pass.dc, cell.rect, cell.col, cell.row);
+  pass.dc->RestoreDC(saved);
+  return true;
+}
+
+/// A joined block that begins above or left of what is in view must not cover the locked cells.
+void CGridPainter::ClipToPane(CDC& dc, const CGridCellPainter::Cell& cell) const {
+  const CGridInfo& info = m_control.GetInfo();
+  const bool besideLocked = info.columns.Locked() > 0 && cell.col >= info.columns.Locked();
+  const bool belowLocked = info.rows.Locked() > 0 && cell.row >= info.rows.Locked();
+  if (!besideLocked && !belowLocked) return;
+  CRect pane = cell.rect;
+  if (besideLocked) pane.left = std::max<LONG>(pane.left, static_cast<LONG>(info.columns.LockedSize()));
+  if (belowLocked) pane.top = std::max<LONG>(pane.top, static_cast<LONG>(info.rows.LockedSize()));
+  dc.IntersectClipRect(pane);
+}
+
+void CGridPainter::DrawSeparators(CDC& dc, const CRect& rect, int col, long row) const {
+  const CGridInfo& info = m_control.GetInfo();
+  const long lockedCols = info.columns.Locked();
+  const long lockedRows = info.rows.Locked();
+  if (lockedCols <= 0 && lockedRows <= 0) return;
+  const auto vertical = [&](int x) {
+    dc.MoveTo(x, rect.top);
+    dc.LineTo(x, rect.bottom + 1);
+  };
+  const auto horizontal = [&](int y) {
+    dc.MoveTo(rect.left, y);
+    dc.LineTo(rect.right + 1, y);
+  };
+  dc.SelectStockObject(StockObject::blackPen);
+  if (lockedCols > 0 && col == info.columns.First()) vertical(rect.left - 1);
+  if (lockedCols > 0 && col == lockedCols - 1) vertical(rect.right - 1);
+  if (lockedRows > 0 && row == info.rows.First()) horizontal(rect.top - 1);
+  if (lockedRows > 0 && row == lockedRows - 1) horizontal(rect.bottom - 1);
+}
+
+void CGridPainter::RememberFocus(Pass& pass, long row, int height) {
+  const CGridInfo& info = m_control.GetInfo();
+  if (row != info.rows.current) return;
+  const ShownLine* const column = m_columns.Find(info.columns.current);
+  if (info.view.highlightRow != 0) {
+    pass.hasFocusCell = true;
+    pass.focus = CRect(0, pass.y, FocusRight(), pass.y + height);
+  } else if (column != nullptr) {
+    pass.hasFocusCell = true;
+    pass.focus = CRect(column->start, pass.y, column->End(), pass.y + height);
+    int startCol = 0;
+    long startRow = 0;
+    const int col = static_cast<int>(info.columns.current);
+    if (m_control.GetJoinStartCell(&startCol, &startRow, col, row) == 0)
+      m_control.GetCellRect(col, row, &pass.focus);
+  }
+}
+
+/// Where the focus rectangle of a highlighted row ends.
+int CGridPainter::FocusRight() const {
+  const CGridInfo& info = m_control.GetInfo();
+  if (m_columns.end < info.columns.Extent()) return m_columns.end;
+  if (info.view.highlightRowToEdge != 0) return info.columns.Extent();
+  const std::int64_t scrolled = info.columns.TotalSize() - info.columns.OffsetOf(info.columns.First());
+  return static_cast<int>(std::min<std::int64_t>(scrolled, std::numeric_limits<std::int16_t>::max()));
+}
+
+void CGridPainter::RememberShown() {
+  CGridInfo& info = m_control.GetInfo();
+  info.columns.paintedFirst = info.columns.First();
+  info.rows.paintedFirst = info.rows.First();
+  m_shownCol = static_cast<int>(info.columns.current);
+  m_shownRow = info.rows.current;
+}
+
+bool CGridPainter::IsViewStale() const {
+  const CGridInfo& info = m_control.GetInfo();
+  return info.columns.paintedFirst != info.columns.First() || info.rows.paintedFirst != info.rows.First();
+}
+
+bool CGridPainter::FillBlank(Pass& pass) {
+  const CGridInfo& info = m_control.GetInfo();
+  const bool right = pass.anyRow && m_columns.end < info.columns.Extent();
+  const bool below = pass.allRows && pass.y < info.rows.Extent();
+  if (!right && !below) return true;
+  const CBrush brush(m_control.OnGetDefBackColor(GRIDSECTION_GRID));
+  if (!pass.alive) return false;
+  const CRect& client = pass.surface.client;
+  if (right) pass.dc->FillRect(CRect(m_columns.end, client.top, client.right, client.bottom), &brush);
+  if (below) pass.dc->FillRect(CRect(client.left, pass.y, client.right, client.bottom), &brush);
+  return true;
+}
+
+void CGridPainter::DrawFocusRect(Pass& pass) {
+  if (!pass.hasFocusCell || m_focusRectOff || m_control.GetEditInProgress() != 0) return;
+  if (!m_hasFocus && m_control.IsFindDialogOpen() == 0) return;
+  RECT rect = pass.focus;
+  CDC* const screen = pass.surface.screen;
+  CGridCellDelegate* const type = m_control.GetCellDelegate(m_shownCol, m_shownRow);
+  if (type->OnDrawFocusRect(screen, &rect, m_shownCol, m_shownRow) == 0 && pass.alive) {
+    m_control.OnDrawFocusRect(screen, &rect);
+  }
+}
+
+void CGridPainter::HintCurrent(int col, long row) {
+  if (col < 0 || row < 0) return;
+  const CGridInfo& info = m_control.GetInfo();
+  if (info.view.highlightRow != 0) {
+    m_hints.AddHint(0, row, static_cast<int>(info.columns.Count()), row);
+  } else {
+    m_hints.AddHint(col, row);
+  }
+}
+
+void CGridPainter::HintAll() {
+  const CGridInfo& info = m_control.GetInfo();
+  m_hints.AddHint(0, 0, static_cast<int>(info.columns.Count()), info.rows.Count());
+}
+
+std::vector<CGridDrawHint::Range> CGridPainter::TakeRequested() {
+  return std::exchange(m_requested, {});
+}
+
+}  // namespace coregui
