@@ -1,0 +1,243 @@
+#include "views/ReduceSeries.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <functional>
+#include <limits>
+#include <map>
+#include <random>
+#include <string>
+
+#include "views/CViewMapping.h"
+
+namespace {
+
+using coregui::CPolylineSink;
+using coregui::CViewMapping;
+
+constexpr double kGap = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr LONG kWidth = 160;
+constexpr LONG kHeight = 100;
+
+using Points = std::vector<PNT_2D_record>;
+
+/// A hard-pixel surface that draws segments without their last pixel.
+class Raster {
+ public:
+  void Segment(POINT a, POINT b) {
+    const LONG dx = std::abs(b.x - a.x);
+    const LONG dy = -std::abs(b.y - a.y);
+    LONG error = dx + dy;
+    while (a.x != b.x || a.y != b.y) {
+      if (a.x >= 0 && a.x < kWidth && a.y >= 0 && a.y < kHeight) {
+        m_rows[static_cast<std::size_t>(a.y)][static_cast<std::size_t>(a.x)] = '#';
+      }
+      const LONG twice = 2 * error;
+      if (twice >= dy) {
+        error += dy;
+        a.x += a.x < b.x ? 1 : -1;
+      }
+      if (twice <= dx) {
+        error += dx;
+        a.y += a.y < b.y ? 1 : -1;
+      }
+    }
+  }
+  void Polyline(const POINT* points, std::size_t count) {
+    for (std::size_t i = 1; i < count; ++i) {
+      Segment(points[i - 1], points[i]);
+    }
+  }
+  std::string Text() const {
+    std::string text;
+    for (const std::string& row : m_rows) {
+      text += row + "\n";
+    }
+    return text;
+  }
+
+ private:
+  std::vector<std::string> m_rows = std::vector<std::string>(kHeight, std::string(kWidth, '.'));
+};
+
+std::string EveryPoint(const Points& points, const CViewMapping& mapping) {
+  Raster raster;
+  std::vector<POINT> run;
+  for (const PNT_2D_record& p : points) {
+    if (CPlotSeries::IsDrawable(p)) {
+      run.push_back(mapping.UserToWindow(p));
+    } else {
+      raster.Polyline(run.data(), run.size());
+      run.clear();
+    }
+  }
+  raster.Polyline(run.data(), run.size());
+  return raster.Text();
+}
+
+CPolylineSink Reduced(const CPlotSeries& series, const CViewMapping& mapping) {
+  CPolylineSink sink(CRect(-2, -2, kWidth + 2, kHeight + 2));
+  ReduceSeries(series, mapping, sink);
+  return sink;
+}
+
+std::string Drawn(const CPolylineSink& sink) {
+  Raster raster;
+  const POINT* at = sink.GetPoints().data();
+  for (const DWORD count : sink.GetCounts()) {
+    raster.Polyline(at, count);
+    at += count;
+  }
+  return raster.Text();
+}
+
+CViewMapping Fitted(double width, double height) {
+  CViewMapping mapping;
+  mapping.extents.Set(0, height, width, 0);
+  mapping.vertMode = coregui::VertMode::fill;
+  mapping.now.dpiX = mapping.now.dpiY = 96;
+  mapping.FitToRect(CRect(0, 0, kWidth, kHeight));
+  return mapping;
+}
+
+Points Generated(std::size_t count, const std::function<PNT_2D_record(std::size_t, std::mt19937&)>& make) {
+  std::mt19937 random(7);
+  Points points(count);
+  for (std::size_t i = 0; i < count; ++i) {
+    points[i] = make(i, random);
+  }
+  return points;
+}
+
+double Noise(std::mt19937& random, double from, double to) {
+  return std::uniform_real_distribution<double>(from, to)(random);
+}
+
+/// Awkward data over the world 0..1000 by 0..100, by name.
+std::map<std::string, Points> AwkwardData() {
+  std::map<std::string, Points> data;
+  data["wave"] = Generated(20000, [](std::size_t i, auto&) {
+    return PNT_2D_record{i * 0.05, 50 + 40 * std::sin(static_cast<double>(i) * 0.001)};
+  });
+  data["noise"] = Generated(20000, [](std::size_t i, auto& random) {
+    return PNT_2D_record{i * 0.05, Noise(random, -20, 120)};
+  });
+  data["spikes"] = Generated(20000, [](std::size_t i, auto&) {
+    return PNT_2D_record{i * 0.05, i % 4099 == 17 ? 99.0 : i % 2503 == 5 ? 20000.0 : 30.0};
+  });
+  data["falling x"] = Generated(20000, [](std::size_t i, auto& random) {
+    return PNT_2D_record{1000 - i * 0.05, Noise(random, 20, 40) + i * 0.001};
+  });
+  data["vertical runs"] = Generated(20000, [](std::size_t i, auto& random) {
+    return PNT_2D_record{std::floor(i / 700.0) * 37, Noise(random, 10, 90)};
+  });
+  data["few gaps"] = Generated(20000, [](std::size_t i, auto& random) {
+    return PNT_2D_record{i * 0.05, i % 977 < 3 ? kGap : Noise(random, 30, 60)};
+  });
+  data["many gaps"] = Generated(20000, [](std::size_t i, auto& random) {
+    return PNT_2D_record{i % 3 == 0 ? kInfinity : i * 0.05, Noise(random, 0, 100)};
+  });
+  data["gaps at the ends"] =
+      Points{{kGap, kGap}, {100, 20}, {300, 80}, {301, 80}, {kGap, 1}, {500, -kInfinity}};
+  data["unordered x"] = Generated(5000, [](std::size_t, auto& random) {
+    return PNT_2D_record{Noise(random, -200, 1200), Noise(random, -20, 120)};
+  });
+  data["spiral"] = Generated(20000, [](std::size_t i, auto&) {
+    const double turn = static_cast<double>(i) * 0.002;
+    return PNT_2D_record{500 + turn * 15 * std::cos(turn), 50 + turn * 1.5 * std::sin(turn)};
+  });
+  data["row to and fro"] = Generated(5000, [](std::size_t i, auto& random) {
+    return PNT_2D_record{Noise(random, 100, 900), 50 + static_cast<double>(i / 2500) * 10};
+  });
+  data["standing end"] = Generated(5000, [](std::size_t i, auto& random) {
+    return i < 100 ? PNT_2D_record{i * 0.03, Noise(random, 10, 90)} : PNT_2D_record{3, 90.5};
+  });
+  data["end on the peak"] = Points{{10, 20}, {10, 80}, {10, 50}, {10, 80}, {10, 80}};
+  data["end beyond the peak"] = Points{{10, 20}, {10, 60}, {10, 50}, {10, 80}};
+  data["one point"] = Points{{10, 20}};
+  data["one pixel"] = Points{{10, 20}, {10, 20}, {10, 20}};
+  data["none"] = Points{};
+  return data;
+}
+
+std::map<std::string, CViewMapping> Views() {
+  std::map<std::string, CViewMapping> views;
+  views["fit"] = Fitted(1000, 100);
+  views["10x"] = views["fit"];
+  views["10x"].Zoom({300, 50}, views["fit"].now.scale / 10, CSize(kWidth, kHeight));
+  views["1000x"] = views["fit"];
+  views["1000x"].Zoom({10, 50}, views["fit"].now.scale / 1000, CSize(kWidth, kHeight));
+  views["far out"] = views["fit"];
+  views["far out"].Zoom({500, 50}, views["fit"].now.scale * 40, CSize(kWidth, kHeight));
+  views["right of the left edge"] = views["fit"];
+  views["right of the left edge"].extents.Set(400, 100, 1400, 0);
+  return views;
+}
+
+TEST(ReduceSeries, ThePictureIsThatOfEveryPoint) {
+  for (const auto& [name, points] : AwkwardData()) {
+    const CPlotSeries series(points);
+    for (const auto& [view, mapping] : Views()) {
+      EXPECT_EQ(Drawn(Reduced(series, mapping)), EveryPoint(points, mapping)) << name << ", " << view;
+    }
+  }
+}
+
+TEST(ReduceSeries, TheNumberOfPointsFollowsThePixels) {
+  for (const std::size_t count : {1000U, 100000U, 1000000U}) {
+    const CPlotSeries series(Generated(count, [&](std::size_t i, auto& random) {
+      return PNT_2D_record{1000.0 * static_cast<double>(i) / static_cast<double>(count),
+                           Noise(random, 0, 100)};
+    }));
+    EXPECT_LE(Reduced(series, Fitted(1000, 100)).GetPoints().size(), 4U * (kWidth + 1)) << count;
+    EXPECT_LE(series.GetPyramidBytes(), count * 4);
+  }
+  const CPlotSeries gaps(AwkwardData()["many gaps"]);
+  EXPECT_LE(Reduced(gaps, Fitted(1000, 100)).GetPoints().size(), 5000U)
+      << "short lines behind longer ones are left out";
+}
+
+TEST(ReduceSeries, ChaoticXCostsNoMoreThanAQuarterOfTheData) {
+  const CPlotSeries series(Generated(100000, [](std::size_t, auto& random) {
+    return PNT_2D_record{Noise(random, 0, 1), Noise(random, 0, 1)};
+  }));
+  EXPECT_FALSE(series.IsMonotone());
+  EXPECT_LE(series.GetPyramidBytes(), 100000 * sizeof(PNT_2D_record) / 4);
+}
+
+TEST(ReduceSeries, SegmentsToFarPointsCrossTheWindowWhereTheyShould) {
+  // Two points so far out that their pixels leave 32 bits' comfortable half; the line crosses the window's
+  // middle.
+  CViewMapping mapping = Fitted(1000, 100);
+  mapping.Zoom({500, 50}, mapping.now.scale / 2e7, CSize(kWidth, kHeight));
+  const CPolylineSink sink = Reduced(CPlotSeries(Points{{496, 50}, {504, 50}}), mapping);
+  ASSERT_EQ(sink.GetPoints().size(), 2U);
+  EXPECT_EQ(sink.GetPoints()[0].y, 50);
+  EXPECT_LE(sink.GetPoints()[0].x, -1000);
+  EXPECT_GE(sink.GetPoints()[0].x, -(1 << 22));
+  EXPECT_GE(sink.GetPoints()[1].x, kWidth + 1000);
+}
+
+TEST(PlotSeries, BoundsGapsAndOrderAreThoseOfTheDrawablePoints) {
+  FRect bounds;
+  EXPECT_FALSE(CPlotSeries().GetBounds(&bounds));
+  EXPECT_FALSE(CPlotSeries(Points{{kGap, 1}, {1, kInfinity}}).GetBounds(&bounds));
+  Points points = AwkwardData()["few gaps"];
+  points.push_back({kInfinity, 1e9});
+  const CPlotSeries series(points);
+  EXPECT_TRUE(series.IsMonotone());
+  ASSERT_TRUE(series.GetBounds(&bounds));
+  EXPECT_EQ(bounds.GetLeft(), 3 * 0.05);
+  EXPECT_EQ(bounds.GetRight(), 19999 * 0.05);
+  EXPECT_LT(bounds.GetTop(), 60);
+  EXPECT_EQ(series.FindPoint(0), 3U);
+  EXPECT_EQ(series.FindGap(3), 977U);
+  EXPECT_EQ(series.FindPoint(977), 980U);
+  EXPECT_EQ(series.FindPoint(20000), 20001U) << "no more points";
+  EXPECT_EQ(CPlotSeries(Points(100000, {1, 2})).FindGap(5), 100000U);
+}
+
+}  // namespace

@@ -1,0 +1,159 @@
+#include "views/ReduceSeries.h"
+
+#include "views/CPolylineReducer.h"
+#include "views/CViewMapping.h"
+
+namespace coregui {
+
+namespace {
+
+/// Walks the pyramid for one polyline at a time: a node that lies in one pixel column or row, or wholly
+/// beyond one side, gives a few points; any other is opened.
+template <class Mapping>
+class SeriesWalker {
+ public:
+  SeriesWalker(const CPlotSeries& series, const Mapping& mapping, CPolylineSink& sink)
+      : m_series(series),
+        m_points(series.GetPoints().data()),
+        m_mapping(mapping),
+        m_visible(sink.GetVisible()),
+        m_reducer(sink) {}
+
+  /// Draws the points from `begin` to before `end`, among which is no gap.
+  void Draw(std::size_t begin, std::size_t end) {
+    const CPoint last = PixelOf(end - 1);
+    const std::size_t lastMoving = EndOfMoving(begin, end, last);
+    if (lastMoving == begin) {
+      return;  // all on one pixel: nothing to draw
+    }
+    m_begin = begin;
+    m_end = lastMoving;
+    const std::size_t top = m_series.GetLevels() - 1;
+    Visit(top, 0);
+    m_reducer.Finish(last);
+  }
+
+ private:
+  struct Node {
+    std::size_t first;
+    std::size_t last;  ///< included
+    bool whole;        ///< all of the node's points are asked for
+    CPlotSeries::Bounds x;
+    CPlotSeries::Bounds y;
+  };
+
+  CPoint PixelOf(std::size_t i) const { return m_mapping.UserToWindow(m_points[i]); }
+
+  Node NodeAt(std::size_t level, std::size_t node, std::size_t begin, std::size_t end) const {
+    const std::size_t size = CPlotSeries::GetNodeSize(level);
+    const std::size_t start = node * size;
+    const std::size_t stop = std::min(start + size, m_series.GetCount());
+    Node at{std::max(start, begin), std::min(stop, end) - 1, start >= begin && stop <= end, {}, {}};
+    at.y = m_series.GetBoundsY(level, node);
+    at.x = m_series.IsMonotone() ? CPlotSeries::Bounds{m_points[at.first].x, m_points[at.last].x}
+                                 : m_series.GetBoundsX(level, node);
+    return at;
+  }
+
+  void Visit(std::size_t level, std::size_t index) {
+    const Node node = NodeAt(level, index, m_begin, m_end);
+    if (node.last - node.first >= 4) {
+      const CPoint low = m_mapping.UserToWindow({node.x.lowest, node.y.lowest});
+      const CPoint high = m_mapping.UserToWindow({node.x.highest, node.y.highest});
+      if (IsHidden(low, high)) {
+        m_reducer.Add(PixelOf(node.first));
+        m_reducer.Add(PixelOf(node.last));
+        return;
+      }
+      if (node.whole && (low.x == high.x || low.y == high.y)) {
+        m_reducer.Add(PixelOf(node.first));
+        m_reducer.Add(low);
+        m_reducer.Add(high);
+        m_reducer.Add(PixelOf(node.last));
+        return;
+      }
+    }
+    Open(level, node);
+  }
+
+  void Open(std::size_t level, const Node& node) {
+    if (level == 0) {
+      for (std::size_t i = node.first; i <= node.last; ++i) {
+        m_reducer.Add(PixelOf(i));
+      }
+      return;
+    }
+    const std::size_t size = CPlotSeries::GetNodeSize(level - 1);
+    for (std::size_t child = node.first / size; child <= node.last / size; ++child) {
+      Visit(level - 1, child);
+    }
+  }
+
+  bool IsHidden(CPoint a, CPoint b) const {
+    return (a.x < m_visible.left && b.x < m_visible.left) ||
+           (a.x > m_visible.right && b.x > m_visible.right) || (a.y < m_visible.top && b.y < m_visible.top) ||
+           (a.y > m_visible.bottom && b.y > m_visible.bottom);
+  }
+
+  /// The end of the points before the last stretch that stays on the pixel `last`; `begin` when there are
+  /// none.
+  std::size_t EndOfMoving(std::size_t begin, std::size_t end, CPoint last) const {
+    std::size_t i = end;
+    while (i > begin) {
+      std::size_t skip = 0;
+      for (std::size_t level = 0; level < m_series.GetLevels(); ++level) {
+        const std::size_t size = CPlotSeries::GetNodeSize(level);
+        if (i % size != 0 || i - begin < size || !StaysOn(level, i / size - 1, last)) {
+          break;
+        }
+        skip = size;
+      }
+      if (skip == 0) {
+        if (PixelOf(i - 1) != last) {
+          return i;
+        }
+        skip = 1;
+      }
+      i -= skip;
+    }
+    return begin;
+  }
+
+  bool StaysOn(std::size_t level, std::size_t index, CPoint pixel) const {
+    const Node node = NodeAt(level, index, 0, m_series.GetCount());
+    return m_mapping.UserToWindow({node.x.lowest, node.y.lowest}) == pixel &&
+           m_mapping.UserToWindow({node.x.highest, node.y.highest}) == pixel;
+  }
+
+  const CPlotSeries& m_series;
+  const PNT_2D_record* m_points;
+  const Mapping& m_mapping;
+  const CRect m_visible;
+  CPolylineReducer m_reducer;
+  std::size_t m_begin = 0;
+  std::size_t m_end = 0;
+};
+
+template <class Mapping>
+void Reduce(const CPlotSeries& series, const Mapping& mapping, CPolylineSink& sink) {
+  SeriesWalker<Mapping> walker(series, mapping, sink);
+  std::size_t begin = series.FindPoint(0);
+  while (begin < series.GetCount()) {
+    const std::size_t end = series.FindGap(begin);
+    walker.Draw(begin, end);
+    begin = series.FindPoint(end);
+  }
+}
+
+}  // namespace
+
+void ReduceSeries(const CPlotSeries& series, const CPlotMapping& mapping, CPolylineSink& sink) {
+  // The view's mapping is the one of the large drawings; known by its type, its arithmetic is inlined.
+  if (const auto* view = dynamic_cast<const CViewMapping*>(&mapping)) {
+    Reduce(series, *view, sink);
+  } else {
+    Reduce(series, mapping, sink);
+  }
+}
+
+}  // namespace coregui

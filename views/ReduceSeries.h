@@ -1,0 +1,18 @@
+#pragma once
+
+#include "views/CPlotMapping.h"
+#include "views/CPlotSeries.h"
+#include "views/CPolylineSink.h"
+
+namespace coregui {
+
+/// Puts what can be seen of a series into the sink: the same picture as all its points joined in order, from
+/// a number of points that depends on the pixels and hardly on the data. Only what is visible is looked at,
+/// plus a few nodes per level of the series' pyramid. Where x turns back, stretches that neither stay in one
+/// pixel column or row nor lie beyond one side of the visible rectangle are drawn point by point.
+///
+/// The picture is the same to the pixel for pens one pixel wide, and for wider ones with round joins, in copy
+/// mode.
+COREGUI_API void ReduceSeries(const CPlotSeries& series, const CPlotMapping& mapping, CPolylineSink& sink);
+
+}  // namespace coregui
