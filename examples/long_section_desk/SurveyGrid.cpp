@@ -1,0 +1,93 @@
+#include "SurveyGrid.h"
+
+#include <algorithm>
+
+namespace desk {
+
+namespace {
+
+constexpr short kAlignLeft = 0x01;
+constexpr short kAlignRight = 0x02;
+constexpr short kAlignCentreVertically = 0x20;
+constexpr long kFirstRows = 1024;
+constexpr long kRowsForFit = 500;
+constexpr int kWidestColumn = 420;
+
+}  // namespace
+
+void SurveyGrid::OnSetup() {
+  SetTH_Height(ScaleByDpi(24));
+  SetTH_RowHeight(0, ScaleByDpi(24));
+  SetUniformRowHeight(1);
+  SetUserSizingMode(2);
+  SetMultiSelectMode(1);
+  EnableExcelBorders(1);
+  UseHints(1);
+}
+
+void SurveyGrid::BeginTable(const CsvDialect& dialect) {
+  m_dialect = dialect;
+  EnableUpdate(0);
+  SetNumberRows(0, 0);
+  GetDataSource(0)->Empty();
+  SetNumberCols(static_cast<int>(dialect.headings.size()), 0);
+  for (int col = 0; col < GetNumberCols(); ++col) {
+    const auto column = static_cast<std::size_t>(col);
+    CGridCell columnDefault;
+    GetGridDefault(&columnDefault);
+    columnDefault.SetAlignment(
+        static_cast<short>((dialect.numeric[column] ? kAlignRight : kAlignLeft) | kAlignCentreVertically));
+    if (dialect.numeric[column]) {
+      columnDefault.SetNumberDecimals(dialect.decimals[column]);
+    }
+    SetColDefault(col, &columnDefault);
+    QuickSetText(col, -1, dialect.headings[column].c_str());
+  }
+}
+
+void SurveyGrid::StoreRow(std::uint64_t row, const std::vector<std::wstring_view>& fields) {
+  const auto gridRow = static_cast<long>(row);
+  if (gridRow >= GetNumberRows()) {
+    SetNumberRows(std::max(kFirstRows, gridRow * 2), 0);
+  }
+  for (std::size_t column = 0; column < fields.size(); ++column) {
+    double number = 0.0;
+    // Only the value is stored: how it looks is the column's business.
+    m_cell.SetPropertyFlags(0);
+    if (m_dialect.numeric[column] && ParseNumber(fields[column], m_dialect.decimal, number)) {
+      m_cell.SetNumber(number);
+    } else if (!fields[column].empty()) {
+      m_cell.SetText(std::wstring(fields[column]).c_str());
+    } else {
+      continue;
+    }
+    SetCell(static_cast<int>(column), gridRow, &m_cell);
+  }
+}
+
+void SurveyGrid::EndTable(std::uint64_t rows) {
+  SetNumberRows(static_cast<long>(rows), 0);
+  const CString widestNumber = CString::Formatted(L"%llu", static_cast<unsigned long long>(std::max<std::uint64_t>(rows, 1)));
+  SetSH_ColWidth(0, ScaleByDpi(16 + 8 * widestNumber.GetLength()));
+  SetSH_Width(ScaleByDpi(16 + 8 * widestNumber.GetLength()));
+  BestFit(0, GetNumberCols() - 1, kRowsForFit);
+  for (int col = 0; col < GetNumberCols(); ++col) {
+    SetColWidth(col, std::clamp(GetColWidth(col), ScaleByDpi(60), ScaleByDpi(kWidestColumn)));
+  }
+  EnableUpdate(1);
+  AdjustComponentSizes();
+  RedrawAll();
+}
+
+bool SurveyGrid::NumberAt(int col, long row, double& value) {
+  CGridCell cell;
+  return GetCell(col, row, &cell) == 0 && cell.GetDataType() == CELLDATA_NUMBER && cell.GetNumber(&value) == 0;
+}
+
+void SurveyGrid::OnGetCell(int col, long row, CGridCell* cell) {
+  if (col == -1 && row >= 0) {
+    cell->SetText(CString::Formatted(L"%ld", row + 1));
+  }
+}
+
+}  // namespace desk

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "SurveyReader.h"
+#include "coregui/coregui.h"
+
+namespace desk {
+
+/// The table of the desk: names of the columns above, row numbers at the side, numbers on the right with the
+/// decimals that the file gave them.
+class SurveyGrid : public CGridCtrl {
+ public:
+  /// Empties the grid and takes over the columns of a table.
+  void BeginTable(const CsvDialect& dialect);
+  /// Stores one row; rows come in order from 0.
+  void StoreRow(std::uint64_t row, const std::vector<std::wstring_view>& fields);
+  /// Sets the number of rows, sizes the columns to what they hold and shows the table.
+  void EndTable(std::uint64_t rows);
+  /// What a row's cell of a number column holds; false for an empty cell or a text.
+  bool NumberAt(int col, long row, double& value);
+  const CsvDialect& Dialect() const { return m_dialect; }
+
+ protected:
+  void OnSetup() override;
+  void OnGetCell(int col, long row, CGridCell* cell) override;
+
+ private:
+  CsvDialect m_dialect;
+  CGridCell m_cell;  ///< reused for every stored cell
+};
+
+}  // namespace desk

@@ -1,0 +1,213 @@
+#include "SurveyReader.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <deque>
+#include <filesystem>
+#include <string_view>
+
+#include "core/TextReader.h"
+
+namespace desk {
+
+namespace {
+
+constexpr std::size_t kSampleLines = 200;
+constexpr std::size_t kMaxLine = 1U << 20U;
+constexpr int kMaxLinesOfAField = 64;
+constexpr std::uint64_t kRowsBetweenProgress = 20000;
+
+std::wstring WithThousands(std::uint64_t number) {
+  std::wstring text = std::to_wstring(number);
+  for (std::size_t at = text.size(); at > 3; at -= 3) {
+    text.insert(at - 3, 1, L',');
+  }
+  return text;
+}
+
+/// What is wrong with the path before anything is read; empty when nothing is.
+std::wstring PathFault(const std::filesystem::path& path, std::uintmax_t& size) {
+  std::error_code error;
+  const auto status = std::filesystem::status(path, error);
+  if (!std::filesystem::exists(status)) {
+    return L"The file does not exist.";
+  }
+  if (std::filesystem::is_directory(status)) {
+    return L"This is a folder, not a file.";
+  }
+  if (!std::filesystem::is_regular_file(status)) {
+    return L"This is not an ordinary file.";
+  }
+  size = std::filesystem::file_size(path, error);
+  return size == 0 ? L"The file is empty." : L"";
+}
+
+/// A sample of a text table has hardly any control characters.
+bool LooksBinary(const std::deque<std::wstring>& sample, const coregui::TextReadTally& tally) {
+  std::uint64_t characters = tally.nulCharacters;
+  std::uint64_t controls = tally.nulCharacters;
+  for (const std::wstring& line : sample) {
+    characters += line.size();
+    controls += static_cast<std::uint64_t>(std::count_if(line.begin(), line.end(), [](wchar_t c) {
+      return (c < L' ' && c != L'\t') || c == L'\u007F' || c == L'\uFFFD';
+    }));
+  }
+  return controls * 20 > characters;
+}
+
+/// Gives the lines of the sample again, then the rest of the file, and joins those that quotes hold together.
+class RecordReader {
+ public:
+  explicit RecordReader(coregui::TextReader& reader) : m_reader(reader) {}
+
+  void TakeSample() {
+    std::wstring line;
+    while (m_sample.size() < kSampleLines && m_reader.ReadLine(line, kMaxLine)) {
+      m_sample.push_back(line);
+    }
+  }
+  const std::deque<std::wstring>& Sample() const { return m_sample; }
+  std::uint64_t LineNumber() const { return m_line; }
+
+  bool NextLine(std::wstring& line) {
+    if (!m_sample.empty()) {
+      line = std::move(m_sample.front());
+      m_sample.pop_front();
+    } else if (!m_reader.ReadLine(line, kMaxLine)) {
+      return false;
+    }
+    ++m_line;
+    return true;
+  }
+
+  /// The next record, split; quotes that do not close within some lines are no reason to swallow the file.
+  bool NextRecord(CsvLine& split, wchar_t separator, Oddity& openQuotes) {
+    if (!NextLine(m_record)) {
+      return false;
+    }
+    if (split.Split(m_record, separator)) {
+      return true;
+    }
+    std::wstring whole = m_record;
+    std::deque<std::wstring> taken;
+    const std::uint64_t firstLine = m_line;
+    std::wstring more;
+    while (taken.size() < kMaxLinesOfAField && NextLine(more)) {
+      taken.push_back(more);
+      whole += L'\n' + more;
+      if (split.Split(whole, separator)) {
+        m_record = std::move(whole);
+        split.Split(m_record, separator);
+        return true;
+      }
+    }
+    openQuotes.Note(firstLine);
+    m_line = firstLine;
+    m_sample.insert(m_sample.begin(), taken.begin(), taken.end());
+    split.Split(m_record, separator);
+    return true;
+  }
+
+ private:
+  coregui::TextReader& m_reader;
+  std::deque<std::wstring> m_sample;  ///< lines read ahead
+  std::wstring m_record;
+  std::uint64_t m_line = 0;
+};
+
+void ReadRows(RecordReader& records, const coregui::TextReader& reader, double size, SurveyReport& report,
+              SurveySink& sink) {
+  CsvLine split;
+  const CsvDialect& dialect = report.dialect;
+  const std::size_t columns = dialect.headings.size();
+  std::vector<std::wstring_view> fields;
+  while (records.NextRecord(split, dialect.separator, report.openQuotes)) {
+    fields = split.Fields();
+    if (fields.size() == 1 && fields[0].find_first_not_of(L" \t") == std::wstring_view::npos) {
+      continue;
+    }
+    if (fields.size() > columns) {
+      report.moreFields.Note(records.LineNumber());
+      fields.resize(columns);
+    } else if (fields.size() < columns) {
+      report.fewerFields.Note(records.LineNumber());
+    }
+    for (std::size_t column = 0; column < fields.size(); ++column) {
+      double value = 0.0;
+      if (dialect.numeric[column] && !fields[column].empty() &&
+          !ParseNumber(fields[column], dialect.decimal, value)) {
+        report.notNumbers.Note(records.LineNumber());
+      }
+    }
+    sink.Row(report.rows++, fields);
+    if (report.rows % kRowsBetweenProgress == 0 && !sink.Progress(static_cast<double>(reader.Position()) / size)) {
+      report.cutShort = true;
+      return;
+    }
+  }
+}
+
+void Append(std::wstring& text, const Oddity& oddity, const wchar_t* one, const wchar_t* many) {
+  if (oddity.count > 0) {
+    text += L"; " + WithThousands(oddity.count) + (oddity.count == 1 ? one : many) + L" (first in line " +
+            WithThousands(oddity.firstLine) + L")";
+  }
+}
+
+}  // namespace
+
+SurveyReport ReadSurvey(const std::wstring& path, SurveySink& sink) {
+  SurveyReport report;
+  std::uintmax_t size = 0;
+  report.error = PathFault(path, size);
+  if (!report.error.empty()) {
+    return report;
+  }
+  coregui::TextReader reader;
+  if (!reader.Open(path.c_str())) {
+    report.error = errno == EACCES ? L"You may not read this file." : L"The file cannot be opened.";
+    return report;
+  }
+  RecordReader records(reader);
+  records.TakeSample();
+  if (records.Sample().empty() || LooksBinary(records.Sample(), reader.Tally())) {
+    report.error = L"The file holds no table: it is not text.";
+    return report;
+  }
+  report.dialect = DetectDialect({records.Sample().begin(), records.Sample().end()});
+  sink.Begin(report.dialect);
+  std::wstring headings;
+  if (report.dialect.hasHeadings) {
+    records.NextLine(headings);
+  }
+  ReadRows(records, reader, static_cast<double>(size), report, sink);
+  reader.Close();
+  report.cutShort = report.cutShort || reader.Tally().readError;
+  report.foreignBytes = reader.Tally().foreignBytes;
+  report.nulCharacters = reader.Tally().nulCharacters;
+  return report;
+}
+
+std::wstring SurveyReport::Summary() const {
+  if (!error.empty()) {
+    return error;
+  }
+  std::wstring text = WithThousands(rows) + (rows == 1 ? L" row in " : L" rows in ") +
+                      std::to_wstring(dialect.headings.size()) + L" columns";
+  Append(text, notNumbers, L" value is no number", L" values are no numbers");
+  Append(text, fewerFields, L" line is too short", L" lines are too short");
+  Append(text, moreFields, L" line is too long, its rest left out", L" lines are too long, their rest left out");
+  Append(text, openQuotes, L" quote never closes", L" quotes never close");
+  if (foreignBytes > 0) {
+    text += L"; " + WithThousands(foreignBytes) + L" bytes read as Windows-1252";
+  }
+  if (nulCharacters > 0) {
+    text += L"; " + WithThousands(nulCharacters) + L" NUL characters left out";
+  }
+  if (cutShort) {
+    text += L"; reading stopped before the end";
+  }
+  return text;
+}
+
+}  // namespace desk
