@@ -106,7 +106,8 @@ wchar_t FindSeparator(const std::vector<std::wstring>& sample) {
 }
 
 /// For each column, over the lines from `first` on: are there numbers, and nothing but numbers?
-std::vector<bool> NumericColumns(const std::vector<std::wstring>& sample, std::size_t first, const CsvDialect& dialect) {
+std::vector<bool> NumericColumns(const std::vector<std::wstring>& sample, std::size_t first,
+                                 const CsvDialect& dialect) {
   std::vector<int> numbers;
   std::vector<bool> numeric;
   CsvLine line;
@@ -131,7 +132,8 @@ std::vector<bool> NumericColumns(const std::vector<std::wstring>& sample, std::s
 }
 
 /// For each column of numbers the most digits that stand behind the decimal separator.
-std::vector<int> Decimals(const std::vector<std::wstring>& sample, std::size_t first, const CsvDialect& dialect) {
+std::vector<int> Decimals(const std::vector<std::wstring>& sample, std::size_t first,
+                          const CsvDialect& dialect) {
   std::vector<int> decimals(dialect.numeric.size(), 0);
   CsvLine line;
   for (std::size_t i = first; i < sample.size(); ++i) {
@@ -177,7 +179,8 @@ CsvDialect DetectDialect(const std::vector<std::wstring>& sample) {
   dialect.decimals = Decimals(sample, dialect.hasHeadings ? 1 : 0, dialect);
   for (std::size_t column = 0; column < dialect.numeric.size(); ++column) {
     const bool named = dialect.hasHeadings && column < line.Fields().size() && !line.Fields()[column].empty();
-    dialect.headings.push_back(named ? std::wstring(line.Fields()[column]) : L"Column " + std::to_wstring(column + 1));
+    dialect.headings.push_back(named ? std::wstring(line.Fields()[column])
+                                     : L"Column " + std::to_wstring(column + 1));
   }
   return dialect;
 }

@@ -6,13 +6,13 @@
 
 namespace desk {
 
-/// Splits one record of separated text into its fields. A field may stand in double quotes, in which a separator
-/// is text and two quotes are one; quotes elsewhere in a field are text. The fields point into the record or into
-/// this object and are valid until the next call.
+/// Splits one record of separated text into its fields. A field may stand in double quotes, in which a
+/// separator is text and two quotes are one; quotes elsewhere in a field are text. The fields point into the
+/// record or into this object and are valid until the next call.
 class CsvLine {
  public:
-  /// True when the record is complete; false when it ends inside quotes, so that the next line belongs to it. The
-  /// fields are those found either way.
+  /// True when the record is complete; false when it ends inside quotes, so that the next line belongs to it.
+  /// The fields are those found either way.
   bool Split(std::wstring_view record, wchar_t separator);
   const std::vector<std::wstring_view>& Fields() const { return m_fields; }
 
@@ -23,8 +23,8 @@ class CsvLine {
   std::vector<std::wstring> m_unquoted;  ///< texts of fields whose quotes had to be taken out
 };
 
-/// The value of a number as people write it in a table: optional sign, digits, one `decimal`, an exponent, blanks
-/// around. False for anything else, so that "12 m" and "A12" stay text.
+/// The value of a number as people write it in a table: optional sign, digits, one `decimal`, an exponent,
+/// blanks around. False for anything else, so that "12 m" and "A12" stay text.
 bool ParseNumber(std::wstring_view text, wchar_t decimal, double& value);
 
 /// What a table's first lines tell of how it is written.
@@ -37,9 +37,9 @@ struct CsvDialect {
   std::vector<int> decimals;           ///< for each column: the most digits behind the decimal separator
 };
 
-/// Finds the dialect of a sample of lines: the separator (comma, semicolon, tab) that cuts most lines into the same
-/// number of fields, the decimal separator that reads more numbers, and whether the first line is headings: it holds
-/// no number where the lines below do.
+/// Finds the dialect of a sample of lines: the separator (comma, semicolon, tab) that cuts most lines into
+/// the same number of fields, the decimal separator that reads more numbers, and whether the first line is
+/// headings: it holds no number where the lines below do.
 CsvDialect DetectDialect(const std::vector<std::wstring>& sample);
 
 }  // namespace desk

@@ -67,7 +67,8 @@ void SurveyGrid::StoreRow(std::uint64_t row, const std::vector<std::wstring_view
 
 void SurveyGrid::EndTable(std::uint64_t rows) {
   SetNumberRows(static_cast<long>(rows), 0);
-  const CString widestNumber = CString::Formatted(L"%llu", static_cast<unsigned long long>(std::max<std::uint64_t>(rows, 1)));
+  const CString widestNumber =
+      CString::Formatted(L"%llu", static_cast<unsigned long long>(std::max<std::uint64_t>(rows, 1)));
   SetSH_ColWidth(0, ScaleByDpi(16 + 8 * widestNumber.GetLength()));
   SetSH_Width(ScaleByDpi(16 + 8 * widestNumber.GetLength()));
   BestFit(0, GetNumberCols() - 1, kRowsForFit);
@@ -81,7 +82,8 @@ void SurveyGrid::EndTable(std::uint64_t rows) {
 
 bool SurveyGrid::NumberAt(int col, long row, double& value) {
   CGridCell cell;
-  return GetCell(col, row, &cell) == 0 && cell.GetDataType() == CELLDATA_NUMBER && cell.GetNumber(&value) == 0;
+  return GetCell(col, row, &cell) == 0 && cell.GetDataType() == CELLDATA_NUMBER &&
+         cell.GetNumber(&value) == 0;
 }
 
 void SurveyGrid::OnGetCell(int col, long row, CGridCell* cell) {

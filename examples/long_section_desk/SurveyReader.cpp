@@ -140,7 +140,8 @@ void ReadRows(RecordReader& records, const coregui::TextReader& reader, double s
       }
     }
     sink.Row(report.rows++, fields);
-    if (report.rows % kRowsBetweenProgress == 0 && !sink.Progress(static_cast<double>(reader.Position()) / size)) {
+    if (report.rows % kRowsBetweenProgress == 0 &&
+        !sink.Progress(static_cast<double>(reader.Position()) / size)) {
       report.cutShort = true;
       return;
     }
@@ -196,7 +197,8 @@ std::wstring SurveyReport::Summary() const {
                       std::to_wstring(dialect.headings.size()) + L" columns";
   Append(text, notNumbers, L" value is no number", L" values are no numbers");
   Append(text, fewerFields, L" line is too short", L" lines are too short");
-  Append(text, moreFields, L" line is too long, its rest left out", L" lines are too long, their rest left out");
+  Append(text, moreFields, L" line is too long, its rest left out",
+         L" lines are too long, their rest left out");
   Append(text, openQuotes, L" quote never closes", L" quotes never close");
   if (foreignBytes > 0) {
     text += L"; " + WithThousands(foreignBytes) + L" bytes read as Windows-1252";

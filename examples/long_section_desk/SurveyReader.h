@@ -26,13 +26,13 @@ struct SurveyReport {
   std::wstring error;  ///< why nothing could be read; empty when the file was read
   CsvDialect dialect;
   std::uint64_t rows = 0;
-  Oddity notNumbers;       ///< filled fields in a column of numbers that are none; kept as text
-  Oddity moreFields;       ///< lines with more fields than the table has columns; the rest was left out
-  Oddity fewerFields;      ///< lines with fewer; the cells stay empty
-  Oddity openQuotes;       ///< quotes that never close; read as they stand
+  Oddity notNumbers;   ///< filled fields in a column of numbers that are none; kept as text
+  Oddity moreFields;   ///< lines with more fields than the table has columns; the rest was left out
+  Oddity fewerFields;  ///< lines with fewer; the cells stay empty
+  Oddity openQuotes;   ///< quotes that never close; read as they stand
   std::uint64_t foreignBytes = 0;
   std::uint64_t nulCharacters = 0;
-  bool cutShort = false;   ///< reading stopped: a disk error, or the caller's wish
+  bool cutShort = false;  ///< reading stopped: a disk error, or the caller's wish
 
   /// "6,201 rows in 6 columns", and after it what was odd, in one line.
   std::wstring Summary() const;

@@ -66,17 +66,21 @@ const std::vector<PlanElement>& PlanElements() {
 
 const std::vector<VerticalIntersection>& VerticalIntersections() {
   static const std::vector<VerticalIntersection> points = {
-      {0.0, 214.350, 0.0},      {640.0, 221.800, 180.0},  {1780.0, 203.100, 320.0},  {2900.0, 232.500, 400.0},
-      {4350.0, 219.750, 260.0}, {5600.0, 246.900, 420.0}, {6480.0, 240.200, 160.0},  {7700.0, 188.400, 380.0},
-      {8900.0, 193.650, 240.0}, {10250.0, 229.300, 440.0}, {11500.0, 224.100, 200.0}, {12400.0, 236.850, 0.0},
+      {0.0, 214.350, 0.0},       {640.0, 221.800, 180.0},   {1780.0, 203.100, 320.0},
+      {2900.0, 232.500, 400.0},  {4350.0, 219.750, 260.0},  {5600.0, 246.900, 420.0},
+      {6480.0, 240.200, 160.0},  {7700.0, 188.400, 380.0},  {8900.0, 193.650, 240.0},
+      {10250.0, 229.300, 440.0}, {11500.0, 224.100, 200.0}, {12400.0, 236.850, 0.0},
   };
   return points;
 }
 
-double Length() { return VerticalIntersections().back().chainage; }
+double Length() {
+  return VerticalIntersections().back().chainage;
+}
 
 std::vector<PlanPoint> CentreLine(double interval) {
-  // Integrated with the midpoint rule in steps of a centimetre at most: below a tenth of a millimetre over the road.
+  // Integrated with the midpoint rule in steps of a centimetre at most: below a tenth of a millimetre over
+  // the road.
   std::vector<PlanPoint> line;
   const int steps = static_cast<int>(std::lround(interval / 0.01));
   const double step = interval / steps;
@@ -94,7 +98,8 @@ std::vector<PlanPoint> CentreLine(double interval) {
         ++element;
       }
       const double share = (middle - elementStart) / element->length;
-      const double curvature = element->startCurvature + (element->endCurvature - element->startCurvature) * share;
+      const double curvature =
+          element->startCurvature + (element->endCurvature - element->startCurvature) * share;
       const double bearing = at.bearing + curvature * step / 2.0;
       at.easting += std::sin(bearing) * step;
       at.northing += std::cos(bearing) * step;
@@ -167,7 +172,8 @@ std::vector<Feature> Features() {
   }
   for (const VerticalIntersection& point : VerticalIntersections()) {
     if (point.curveLength > 0.0) {
-      features.push_back({point.chainage, Text("Vertical intersection, curve length %.0f", point.curveLength)});
+      features.push_back(
+          {point.chainage, Text("Vertical intersection, curve length %.0f", point.curveLength)});
     }
   }
   for (double at = 1000.0; at < Length(); at += 1000.0) {

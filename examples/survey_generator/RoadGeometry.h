@@ -46,8 +46,8 @@ double Length();
 std::vector<PlanPoint> CentreLine(double interval);
 /// Level of the finished road at a chainage, in metres.
 double DesignLevel(double chainage);
-/// Level of the ground before the road was built, in metres: valley, hills, banks and the roughness that a levelling
-/// rod feels.
+/// Level of the ground before the road was built, in metres: valley, hills, banks and the roughness that a
+/// levelling rod feels.
 double GroundLevel(double chainage);
 /// The remarks, by chainage.
 std::vector<Feature> Features();

@@ -36,13 +36,15 @@ TEST(CsvLine, OnlyWholeNumbersAreNumbers) {
   }
   ASSERT_TRUE(desk::ParseNumber(L"\u22123,25", L',', value));
   EXPECT_EQ(value, -3.25);
-  for (const wchar_t* text : {L"", L" ", L"12 m", L"A12", L"1,5", L"1.2.3", L"--1", L"nan", L"inf", L"1e999", L"-"}) {
+  for (const wchar_t* text :
+       {L"", L" ", L"12 m", L"A12", L"1,5", L"1.2.3", L"--1", L"nan", L"inf", L"1e999", L"-"}) {
     EXPECT_FALSE(desk::ParseNumber(text, L'.', value)) << testing::PrintToString(text);
   }
 }
 
 TEST(CsvDialect, FindsSeparatorDecimalHeadingsAndNumbers) {
-  const auto german = desk::DetectDialect({L"Station;H\u00F6he;Text", L"0,5;101,25;Anfang, Nagel", L"1,0;;", L"1,5;101;x"});
+  const auto german =
+      desk::DetectDialect({L"Station;H\u00F6he;Text", L"0,5;101,25;Anfang, Nagel", L"1,0;;", L"1,5;101;x"});
   EXPECT_EQ(german.separator, L';');
   EXPECT_EQ(german.decimal, L',');
   EXPECT_TRUE(german.hasHeadings);

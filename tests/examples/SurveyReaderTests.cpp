@@ -60,10 +60,11 @@ TEST_F(SurveyReading, SaysWhatCouldNotBeTaken) {
   }
   bytes += "here,1\n5\n6,7,8\n\"open,9\n7,8\n";
   const auto report = Read(bytes);
-  EXPECT_EQ(report.Summary(),
-            L"305 rows in 2 columns; 2 values are no numbers (first in line 302); 2 lines are too short (first in "
-            L"line 303); 1 line is too long, its rest left out (first in line 304); 1 quote never closes (first in "
-            L"line 305)");
+  EXPECT_EQ(
+      report.Summary(),
+      L"305 rows in 2 columns; 2 values are no numbers (first in line 302); 2 lines are too short (first in "
+      L"line 303); 1 line is too long, its rest left out (first in line 304); 1 quote never closes (first in "
+      L"line 305)");
   EXPECT_EQ(sink.rows.back()[0], L"7");
 }
 
@@ -79,7 +80,10 @@ TEST_F(SurveyReading, RefusesWhatIsNoTable) {
   EXPECT_EQ(desk::ReadSurvey(folder.wstring(), sink).error, L"This is a folder, not a file.");
   EXPECT_EQ(desk::ReadSurvey(L"/dev/null", sink).error, L"This is not an ordinary file.");
   EXPECT_EQ(Read("").error, L"The file is empty.");
-  EXPECT_EQ(Read(std::string("\x7f" "ELF\x02\x01\x00\x00\x03\x00>\x00\n\x01\x00", 16)).error,
+  EXPECT_EQ(Read(std::string("\x7f"
+                             "ELF\x02\x01\x00\x00\x03\x00>\x00\n\x01\x00",
+                             16))
+                .error,
             L"The file holds no table: it is not text.");
   EXPECT_TRUE(sink.rows.empty());
 }
