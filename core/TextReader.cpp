@@ -14,7 +14,7 @@ namespace coregui {
 
 namespace {
 
-constexpr std::size_t kBlockSize = 256 * 1024;
+constexpr std::size_t kBlockSize = std::size_t{256} * 1024;
 constexpr std::uint64_t kReportedPlaces = 20;
 
 /// Widens bytes into `line` and tells whether each of them stands for itself: ASCII, and neither CR nor NUL.

@@ -35,7 +35,7 @@ std::size_t AnnouncedLength(unsigned char first) {
 
 /// Takes one character of wide text, joining surrogates where wide characters have 16 bits.
 char32_t TakeCharacter(std::wstring_view text, std::size_t& index) {
-  char32_t c = static_cast<char32_t>(text[index++]);
+  auto c = static_cast<char32_t>(text[index++]);
   if constexpr (sizeof(wchar_t) == 2) {
     c &= 0xFFFFU;
     if (c >= 0xD800 && c <= 0xDBFF && index < text.size()) {
