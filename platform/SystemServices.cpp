@@ -4,8 +4,8 @@
 #include <system_error>
 #include <thread>
 
+#include "platform/Sound.h"
 #include "platform/System.h"
-#include "platform/qt/Sound.h"
 
 namespace {
 

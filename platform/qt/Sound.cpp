@@ -1,4 +1,4 @@
-#include "platform/qt/Sound.h"
+#include "platform/Sound.h"
 
 #include <QApplication>
 
