@@ -288,7 +288,7 @@ bool RasterTarget::PutGlyphs(const DrawAttributes& with, FontFace& face, CPoint 
   const std::uint32_t colour = Opaque(with.textColour);
   std::int64_t x = start.x;
   for (int i = 0; i < length && x < with.clip.box.right + face.Height(); ++i) {
-    const Glyph& glyph = face.GlyphOf(text[i]);
+    const Glyph& glyph = face.DrawnGlyphOf(text[i]);
     if (glyph.coverage != nullptr) {
       const int left = static_cast<int>(x) + glyph.left;
       const CRect box(left, start.y + glyph.top, left + glyph.width, start.y + glyph.top + glyph.height);
