@@ -232,19 +232,19 @@ void FontFace::Outline(const QImage& picture, CPoint origin, Glyph* glyph) {
   if (box.isEmpty()) {
     return;
   }
-  m_coverage.push_back(
-      std::make_unique<std::uint8_t[]>(static_cast<std::size_t>(box.width()) * box.height()));
+  glyph->width = static_cast<std::int16_t>(box.width());
+  glyph->height = static_cast<std::int16_t>(box.height());
+  const int stride = glyph->Stride();
+  m_coverage.push_back(std::make_unique<std::uint8_t[]>(static_cast<std::size_t>(stride) * box.height()));
   std::uint8_t* out = m_coverage.back().get();
   glyph->coverage = out;
-  for (int y = box.top(); y <= box.bottom(); ++y) {
-    for (int x = box.left(); x <= box.right(); ++x) {
-      *out++ = alpha(x, y);
+  for (int y = 0; y < box.height(); ++y) {
+    for (int x = 0; x < box.width(); ++x) {
+      out[y * stride + x] = alpha(box.left() + x, box.top() + y);
     }
   }
   glyph->left = static_cast<std::int16_t>(box.left() - origin.x);
   glyph->top = static_cast<std::int16_t>(box.top() - origin.y + m_ascent);
-  glyph->width = static_cast<std::int16_t>(box.width());
-  glyph->height = static_cast<std::int16_t>(box.height());
 }
 
 // The toolkit's fonts must not outlive its application. What is left measures nothing and draws nothing.

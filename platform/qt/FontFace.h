@@ -22,10 +22,12 @@ struct Glyph {
   std::int16_t width = 0;
   std::int16_t height = 0;
   bool loaded = false;
-  bool simple = false;                     ///< false: the character needs the toolkit's text layout
-  bool drawn = false;                      ///< whether the coverage is there
-  std::uint32_t index = 0;                 ///< in the font file; 0 for a blank
-  const std::uint8_t* coverage = nullptr;  ///< rows of `width` bytes, owned by the face; null without ink
+  bool simple = false;      ///< false: the character needs the toolkit's text layout
+  bool drawn = false;       ///< whether the coverage is there
+  std::uint32_t index = 0;  ///< in the font file; 0 for a blank
+  /// Rows are filled up with 0 to a multiple of 4.
+  int Stride() const { return (width + 3) & ~3; }
+  const std::uint8_t* coverage = nullptr;  ///< rows of Stride() bytes, owned by the face; null without ink
 };
 
 /// A font at the dot size of a device. Glyphs are drawn once by the toolkit and kept. Advances are whole

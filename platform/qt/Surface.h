@@ -32,6 +32,8 @@ class Surface {
   std::uint32_t* Row(int y) { return m_bits + static_cast<std::ptrdiff_t>(y) * m_stride; }
   const std::uint32_t* Row(int y) const { return m_bits + static_cast<std::ptrdiff_t>(y) * m_stride; }
 
+  std::ptrdiff_t Stride() const { return m_stride; }  ///< from row to row, in dots
+
   /// The shared painter, in dots, opened when first asked for; EndPainter closes it (exposures and the end of
   /// the last context do).
   QPainter& Painter();
