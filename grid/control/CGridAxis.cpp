@@ -81,6 +81,30 @@ long CGridAxis::IndexAtOffset(std::int64_t pixel) const {
                             : static_cast<long>(std::min<std::int64_t>(pixel / m_defaultSize, m_count));
 }
 
+long CGridAxis::NearestShown(long index, int step) const {
+  if (index < 0 || index >= m_count) {
+    return -1;
+  }
+  if (SizeOf(index) > 0) {
+    return index;
+  }
+  // No entry before one at pixel 0 is shown; a search by pixel passes over hidden entries.
+  const std::int64_t pixel = step < 0 ? OffsetOf(index) - 1 : OffsetOf(index);
+  if (pixel < 0) {
+    return -1;
+  }
+  const long found = IndexAtOffset(pixel);
+  return found < m_count ? found : -1;
+}
+
+void CGridAxis::KeepDragInView() {
+  if (drag < m_locked) {
+    return;
+  }
+  // A column that would leave the view unfilled does not move it: no first entry is behind MaxFirst().
+  m_first = drag < m_first ? drag : std::max(m_first, std::min(FirstThatShows(drag), MaxFirst()));
+}
+
 long CGridAxis::MaxFirst() const {
   return std::max(FirstThatShows(m_count - 1), m_locked);
 }

@@ -40,6 +40,10 @@ class COREGUI_API CGridAxis {
   /// A hidden entry covers none.
   long IndexAtOffset(std::int64_t pixel) const;
 
+  /// The nearest entry that is not hidden, `index` first, then in the direction of `step` (-1 or 1); -1 when
+  /// none.
+  long NearestShown(long index, int step) const;
+
   // --- View
 
   /// The entries before this one stay in view at the start.
@@ -70,13 +74,17 @@ class COREGUI_API CGridAxis {
   /// another's. `step` is -1 or 1. The entry itself when the room is negative.
   long PageTarget(long index, int step) const;
 
+  /// Moves the view as little as needed for `drag` to be in it.
+  void KeepDragInView();
+
   // --- Position: -1 is none
 
   long current = -1;
-  long lastCurrent = -1;  ///< as it was at the last move
-  long drag = -1;         ///< the anchor of relative moves
-  long last = 0;          ///< the last entry that the last paint pass reached
-  long paintedFirst = 0;  ///< First() as it was at the last paint pass
+  long lastCurrent = -1;   ///< as it was at the last move
+  long drag = -1;          ///< the anchor of relative moves
+  long last = 0;           ///< the last entry that the last paint pass reached
+  long reportedFirst = 0;  ///< First() as the application was last told
+  long paintedFirst = 0;   ///< First() as it was at the last paint pass
 
  private:
   long m_count = 0;

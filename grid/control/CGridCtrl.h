@@ -22,6 +22,7 @@ struct LOGFONT;
 
 namespace coregui {
 class CGridCellDelegate;
+class CGridParts;
 struct CGridRooms;
 }  // namespace coregui
 
@@ -58,7 +59,6 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
   /// Gives the parts the places that the headings, scroll bars and tabs leave, and brings the view up to
   /// date.
   int AdjustComponentSizes();
-  BOOL DestroyWindow() override;
 
   // --- State for the parts
 
@@ -144,13 +144,14 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
 
   int EnableJoins(int on);
   int JoinCells(int startCol, long startRow, int endCol, long endRow);
-  /// Dissolves the block that starts in the range's first cell; 1 when there is none.
+  /// Dissolves every block that has a cell in the range; 1 when there is none.
   int UnJoinCells(int startCol, long startRow, int endCol, long endRow);
-  /// The first cell of the block that holds the cell. 0, or 1 when the cell is not joined (outputs
-  /// unchanged).
-  int GetJoinStartCell(int* startCol, long* startRow, int col, long row);
+  /// In: a cell, out: the first cell of the block that holds it. 1, with the cell itself, when it is not
+  /// joined.
   int GetJoinStartCell(int* col, long* row);
-  /// The block that holds (*col, *row): in: the cell, out: its first cell and its last. 1 when not joined.
+  int GetJoinStartCell(int* startCol, long* startRow, int col, long row);
+  /// In: a cell, out: the first and the last cell of the block that holds it. 1, with the cell as both, when
+  /// it is not joined.
   int GetJoinRange(int* col, long* row, int* endCol, long* endRow);
 
   // --- Rows and columns
@@ -236,7 +237,9 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
   int MoveTopRow(int code);
   int VerifyTopRow(long* row);
   int VerifyLeftCol(int* col);
-  int VerifyCurrentRow(long* row);
+  /// A control whose rows grow as they are needed overrides it: the paint pass asks for the row behind the
+  /// last.
+  virtual int VerifyCurrentRow(long* row);
   int VerifyCurrentCol(int* col);
   /// Brings current cell, notifications, scroll bars and screen up to date with the drag cell and the view.
   void Moved();
@@ -277,7 +280,6 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
 
   int SortBy(int col, int flags);
   int SortBy(int* cols, int count, int flags);
-  int OnSortEvaluate(CGridCell* a, CGridCell* b, int flags) override;
   int FindFirst(CString* text, int* col, long* row, long flags);
   int FindNext(CString* text, int* col, long* row, int flags);
   int FindInAllCols(int on);
@@ -374,9 +376,19 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
   const coregui::MessageTable& GetMessageTable() const override;
 
  private:
+  friend class coregui::CGridParts;
+
   void HandleSize(UINT type, int width, int height);
   void HandleFocus(CWnd* other);
-  LRESULT HandleSystemChange(WPARAM wParam, LPARAM lParam);
+  void HandleVScroll(int code, CWnd* bar);
+  void HandleHScroll(int code, CWnd* bar);
+  void HandleSystemChange();
+  /// The parts have their places: the view has this size now.
+  void TakeViewSize(const SIZE& body);
+  void Show(bool changed);
+  int Shown(int result);
+  int LaidOut(int result);
+  static int SetSize(int& size, int pixels);
 
   std::unique_ptr<coregui::CGridRooms> m_rooms;
 };

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "grid/control/CGridLayout.h"
 #include "grid/control/CGridScreen.h"
 #include "platform/Types.h"
 
@@ -19,6 +20,9 @@ class CGridCellDelegate;
 /// see. Its source is the one file of the grid's control that knows display, cell types and editors.
 class COREGUI_API CGridParts final : public CGridScreen {
  public:
+  /// The IDs below this number belong to the built-in cell types.
+  static constexpr int builtInTypes = 4;
+
   explicit CGridParts(CGridCtrl& control);
   ~CGridParts() override;
   CGridParts(const CGridParts&) = delete;
@@ -28,8 +32,6 @@ class COREGUI_API CGridParts final : public CGridScreen {
   void RegisterBuiltInTypes();
   /// Creates the child windows of the grid's window, hidden. False when one could not be made.
   bool CreateWindows();
-  void DestroyWindows();
-  bool HasWindows() const;
 
   /// The two faces of a registered cell type.
   static CGridCellDelegate* ToDelegate(CGridCellType* type);
@@ -43,8 +45,8 @@ class COREGUI_API CGridParts final : public CGridScreen {
   int SetDoubleBufferMode(int mode);
   /// The focus rectangle is left out of the next paint pass.
   void TempDisableFocusRect();
-  /// Asks the body to paint now what is hinted.
-  void UpdateNow();
+  /// A scroll bar (SB_VERT, SB_HORZ) reports a scroll code.
+  void OnScroll(int bar, int code);
 
   void ShowMoved() override;
   void ShowRange(int startCol, long startRow, int endCol, long endRow) override;
@@ -59,9 +61,13 @@ class COREGUI_API CGridParts final : public CGridScreen {
  private:
   struct Windows;
   struct Types;
+  void PlaceWindows();
+
   CGridCtrl& m_control;  ///< the owner
   std::unique_ptr<Types> m_types;
-  std::unique_ptr<Windows> m_windows;  ///< null before creation
+  std::unique_ptr<Windows> m_windows;  ///< null before creation; they outlive their native windows
+  CGridLayout m_layout;
+  bool m_layingOut = false;
 };
 
 }  // namespace coregui

@@ -7,6 +7,8 @@ namespace coregui {
 /// The rows of one sheet. Up to 64000 of them may differ in height; more have one height for good.
 class COREGUI_API CGridRows : public CGridAxis {
  public:
+  CGridRows();
+
   /// The most rows that may have heights of their own.
   static constexpr long maxOwnHeights = 64000;
 

@@ -6,7 +6,6 @@
 
 namespace coregui {
 
-class FontData;
 class FontFace;
 
 /// Draws everything with the toolkit's painter: pages to print, and on rasters what has no faster way.
@@ -45,8 +44,8 @@ class PainterTarget : public DrawTarget {
   QPen PenOf(const DrawAttributes& with) const;
   QBrush BrushOf(const CBrush& brush) const;
 
-  std::shared_ptr<FontFace> m_face;      ///< of the font that was used last
-  std::shared_ptr<FontData> m_faceFont;  ///< kept so that its address stays its own
+  FontFace* m_face = nullptr;
+  const void* m_faceFont = nullptr;
 };
 
 /// A colour of ours in the toolkit's order, opaque.

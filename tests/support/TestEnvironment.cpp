@@ -9,7 +9,6 @@
 #include <cstdlib>
 #include <memory>
 
-#include "platform/Clipboard.h"
 #include "platform/KeyState.h"
 #include "platform/Locale.h"
 #include "platform/System.h"
@@ -69,7 +68,6 @@ void ResetGlobalState() {
   SetDpiScale(0.0);
   ResetKeyState();
   ResetSysColors();
-  EmptyClipboard();
   FixLook();
 }
 

@@ -1,0 +1,97 @@
+#include "grid/control/CGridJoins.h"
+
+#include "grid/control/CGridCells.h"
+#include "grid/control/CGridSheets.h"
+#include "grid/data/CGridCell.h"
+
+namespace coregui {
+
+bool CGridJoins::IsValid(const Block& block) const {
+  const CGridInfo& info = m_sheets.Current();
+  return block.startCol <= block.endCol && block.startRow <= block.endRow &&
+         block.endCol < info.columns.Count() && block.endRow < info.rows.Count() &&
+         block.startCol >= -info.headings.SideCols() && block.startRow >= -info.headings.TopRows();
+}
+
+int CGridJoins::Join(const Block& block) {
+  if (!IsValid(block)) {
+    return 1;
+  }
+  CGridCell cell;
+  for (long row = block.startRow; row <= block.endRow; ++row) {
+    for (int col = block.startCol; col <= block.endCol; ++col) {
+      m_cells.Get(col, row, &cell);
+      cell.SetJoinInfo(0, block.startCol - col, block.startRow - row);
+      m_cells.Set(col, row, &cell);
+    }
+  }
+  m_cells.Get(block.startCol, block.startRow, &cell);
+  cell.SetJoinInfo(1, block.endCol - block.startCol, block.endRow - block.startRow);
+  m_cells.Set(block.startCol, block.startRow, &cell);
+  return 0;
+}
+
+int CGridJoins::UnJoin(const Block& range) {
+  if (!IsValid(range)) {
+    return 1;
+  }
+  int result = 1;
+  for (long row = range.startRow; row <= range.endRow; ++row) {
+    for (int col = range.startCol; col <= range.endCol; ++col) {
+      Block block{};
+      if (Find(col, row, block)) {
+        Dissolve(block);
+        result = 0;
+      }
+    }
+  }
+  return result;
+}
+
+void CGridJoins::Dissolve(const Block& block) {
+  CGridCell cell;
+  for (long row = block.startRow; row <= block.endRow; ++row) {
+    for (int col = block.startCol; col <= block.endCol; ++col) {
+      m_cells.Get(col, row, &cell);
+      cell.ClearProperty(CELLPROP_JOIN);
+      if (cell.GetPropertyFlags() == 0) {
+        m_cells.Delete(col, row);
+      } else {
+        m_cells.Set(col, row, &cell);
+      }
+    }
+  }
+}
+
+bool CGridJoins::Find(int col, long row, Block& block) {
+  block = {col, row, col, row};
+  if (m_sheets.Current().view.joins == 0) {
+    return false;
+  }
+  CGridCell cell;
+  int origin = 0;
+  int across = 0;
+  long down = 0;
+  m_cells.Get(col, row, &cell);
+  if (cell.GetJoinInfo(&origin, &across, &down) != 0) {
+    return false;
+  }
+  Block found{col, row, col + across, row + down};
+  if (origin == 0) {
+    const int startCol = col + across;
+    const long startRow = row + down;
+    m_cells.Get(startCol, startRow, &cell);
+    if (cell.GetJoinInfo(&origin, &across, &down) != 0 || origin == 0) {
+      return false;
+    }
+    found = {startCol, startRow, startCol + across, startRow + down};
+  }
+  if (!IsValid(found) || col > found.endCol || row > found.endRow || col < found.startCol ||
+      row < found.startRow) {
+    return false;
+  }
+  block = found;
+  return true;
+}
+
+}  // namespace coregui

@@ -1,0 +1,41 @@
+#pragma once
+
+class CGridCell;
+
+namespace coregui {
+
+class CGridCells;
+class CGridSheets;
+
+/// Joined blocks of cells. Each cell of a block stores the way back to the first cell, the first one the
+/// extent. Sorting, deleting and overwriting can tear a block apart; what no longer leads to a first cell
+/// that covers it counts as not joined.
+class CGridJoins {
+ public:
+  /// An inclusive block of cells.
+  struct Block {
+    int startCol;
+    long startRow;
+    int endCol;
+    long endRow;
+  };
+
+  CGridJoins(CGridSheets& sheets, CGridCells& cells) : m_sheets(sheets), m_cells(cells) {}
+
+  /// 1 when the block is turned round or reaches out of the sheet; then nothing is stored.
+  int Join(const Block& block);
+  /// Dissolves every joined block that has a cell in the range. 1 when there is none.
+  int UnJoin(const Block& range);
+  /// The block that holds the cell; false, with `block` the cell alone, when it is not joined or joins are
+  /// off.
+  bool Find(int col, long row, Block& block);
+
+ private:
+  bool IsValid(const Block& block) const;
+  void Dissolve(const Block& block);
+
+  CGridSheets& m_sheets;
+  CGridCells& m_cells;
+};
+
+}  // namespace coregui

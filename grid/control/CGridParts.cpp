@@ -1,0 +1,141 @@
+#include "grid/control/CGridParts.h"
+
+#include "grid/celltypes/CGridCellType.h"
+#include "grid/control/CGridCtrl.h"
+#include "grid/control/CGridInfo.h"
+#include "grid/display/CGrid.h"
+#include "platform/CDC.h"
+
+namespace coregui {
+
+struct CGridParts::Types {
+  CGridCellType normal;
+};
+
+struct CGridParts::Windows {
+  explicit Windows(CGridCtrl& control) : body(&control) {}
+
+  CGrid body;
+};
+
+CGridParts::CGridParts(CGridCtrl& control) : m_control(control), m_types(std::make_unique<Types>()) {}
+CGridParts::~CGridParts() = default;
+
+void CGridParts::RegisterBuiltInTypes() {
+  m_control.AddCellType(&m_types->normal);
+}
+
+bool CGridParts::CreateWindows() {
+  m_windows = std::make_unique<Windows>(m_control);
+  constexpr DWORD style = WS_CHILD | WS_CLIPSIBLINGS;
+  return m_windows->body.Create(L"CoreGuiGridBody", L"", style, CRect(), &m_control, GRIDSECTION_GRID) !=
+         FALSE;
+}
+
+CGridCellDelegate* CGridParts::ToDelegate(CGridCellType* type) {
+  return type;
+}
+CGridCellType* CGridParts::ToType(CGridCellDelegate* type) {
+  return static_cast<CGridCellType*>(type);
+}
+
+CWnd* CGridParts::Body() const {
+  return m_windows == nullptr ? nullptr : &m_windows->body;
+}
+CWnd* CGridParts::TopHeading() const {
+  return nullptr;
+}
+CWnd* CGridParts::SideHeading() const {
+  return nullptr;
+}
+CWnd* CGridParts::CornerButton() const {
+  return nullptr;
+}
+CScrollBar* CGridParts::ScrollBar(int) const {
+  return nullptr;
+}
+
+int CGridParts::SetDoubleBufferMode(int mode) {
+  return m_windows == nullptr ? 0 : m_windows->body.SetDoubleBufferMode(mode);
+}
+
+void CGridParts::TempDisableFocusRect() {
+  if (m_windows != nullptr) {
+    m_windows->body.TempDisableFocusRect();
+  }
+}
+
+void CGridParts::OnScroll(int, int) {}
+
+void CGridParts::ShowMoved() {
+  if (m_windows != nullptr) {
+    m_windows->body.Moved();
+  }
+}
+
+void CGridParts::ShowRange(int startCol, long startRow, int endCol, long endRow) {
+  if (m_windows != nullptr && endCol >= 0 && endRow >= 0) {
+    m_windows->body.RedrawRange(std::max(startCol, 0), std::max(startRow, 0L), endCol, endRow);
+  }
+}
+
+void CGridParts::ShowAll() {
+  if (m_windows != nullptr) {
+    m_windows->body.Invalidate(TRUE);
+  }
+}
+
+void CGridParts::ShowScrollBars() {
+  const CGridLayout wanted = CGridLayout::Of(m_control.GetInfo(), m_control.GetClientRectangle().Size());
+  if (!(wanted == m_layout)) {
+    LayOut();
+  }
+}
+
+void CGridParts::ShowSheets() {}
+
+void CGridParts::LayOut() {
+  if (m_layingOut) {
+    return;
+  }
+  m_layingOut = true;
+  m_layout = CGridLayout::Of(m_control.GetInfo(), m_control.GetClientRectangle().Size());
+  m_control.TakeViewSize(m_layout.body.Size());
+  if (m_windows != nullptr) {
+    PlaceWindows();
+  }
+  m_layingOut = false;
+  ShowScrollBars();
+}
+
+void CGridParts::PlaceWindows() {
+  const auto place = [](CWnd& window, const CRect& rect) {
+    if (!rect.IsRectEmpty()) {
+      window.MoveWindow(rect);
+    }
+    window.ShowWindow(rect.IsRectEmpty() ? SW_HIDE : SW_SHOW);
+  };
+  place(m_windows->body, m_layout.body);
+}
+
+CGridDrawHint* CGridParts::BodyHints() {
+  return m_windows == nullptr ? nullptr : &m_windows->body.GetDrawHints();
+}
+
+bool CGridParts::Measure(const std::function<void(CDC& dc)>& measure) {
+  if (m_windows == nullptr || !m_windows->body.HasWindow()) {
+    return false;
+  }
+  CClientDC dc(&m_windows->body);
+  dc.SelectObject(m_control.GetDefFont());
+  measure(dc);
+  return true;
+}
+
+void CGridParts::FocusBody() {
+  if (m_windows != nullptr) {
+    m_windows->body.SetFocus();
+  }
+}
+
+}  // namespace coregui

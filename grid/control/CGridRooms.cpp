@@ -1,0 +1,21 @@
+#include "grid/control/CGridRooms.h"
+
+#include "grid/control/CGridCtrl.h"
+
+namespace coregui {
+
+CGridRooms::CGridRooms(CGridCtrl& control)
+    : parts(control),
+      sheets(control),
+      sources(sheets, control),
+      cells(sheets, sources, control),
+      joins(sheets, cells),
+      geometry(sheets, joins),
+      types(cells, control),
+      vetoes(sources, control),
+      navigator({sheets, sources, cells, joins, types, vetoes, control, parts}),
+      sizing({sheets, sources, cells, types, navigator, parts}),
+      sorting(sheets),
+      finder(sheets) {}
+
+}  // namespace coregui

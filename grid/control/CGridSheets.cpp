@@ -1,0 +1,34 @@
+#include "grid/control/CGridSheets.h"
+
+#include <algorithm>
+
+#include "grid/control/CGridCtrl.h"
+#include "grid/control/CGridMultiSelect.h"
+#include "grid/data/CGridMem.h"
+
+namespace coregui {
+
+CGridSheets::CGridSheets(CGridCtrl& control) : m_control(control) {
+  SetCount(1);
+}
+
+void CGridSheets::SetCount(int count) {
+  const auto wanted = static_cast<std::size_t>(count);
+  while (m_sheets.size() < wanted) {
+    auto sheet = std::make_unique<CGridInfo>();
+    sheet->memory->SetOwner(&m_control);
+    sheet->ownSelection->SetGridCtrl(&m_control);
+    m_sheets.push_back(std::move(sheet));
+  }
+  m_sheets.resize(wanted);
+  m_current = std::min(m_current, m_sheets.size() - 1);
+}
+
+CString CGridSheets::NameOf(int sheet) const {
+  if (!At(sheet).name.IsEmpty()) {
+    return At(sheet).name;
+  }
+  return CString::Formatted(L"Sheet%d", sheet + 1);
+}
+
+}  // namespace coregui
