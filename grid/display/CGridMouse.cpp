@@ -150,7 +150,10 @@ void CGridMouse::Move(UINT flags, CPoint point) {
     m_control.OnMouseMove(hit.col, hit.row, &point, flags, processed);
     if (!alive) return;
   }
-  if (!m_typeTook && m_leftDown && (flags & MK_LBUTTON) != 0) Drag(hit, point);
+  if (m_typeTook || !m_leftDown || (flags & MK_LBUTTON) == 0) return;
+  m_control.GetInfo().view.keepSelectionOnGoto = 1;  // the moves extend the selection
+  Drag(hit, point);
+  if (alive) m_control.GetInfo().view.keepSelectionOnGoto = 0;
 }
 
 void CGridMouse::Drag(const Hit& hit, CPoint point) {
