@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdarg>
 
+#include "core/Utf8.h"
 #include "platform/TextFormat.h"
 #include "platform/UnicodeText.h"
 
@@ -21,11 +22,11 @@ const wchar_t* OrEmpty(const wchar_t* text) {
 CString::CString(const wchar_t* text) : m_text(OrEmpty(text)) {}
 
 CString CString::FromUtf8(std::string_view text) {
-  return CString(coregui::WideFromUtf8(text));
+  return {coregui::FromUtf8(text)};
 }
 
 std::string CString::ToUtf8() const {
-  return coregui::Utf8FromWide(m_text);
+  return coregui::ToUtf8(m_text);
 }
 
 int CString::Compare(const wchar_t* other) const {

@@ -9,7 +9,7 @@
 #include <cwchar>
 #include <string_view>
 
-#include "platform/UnicodeText.h"
+#include "core/Utf8.h"
 
 namespace coregui {
 namespace {
@@ -117,7 +117,7 @@ void AppendText(std::wstring& out, const Directive& directive, Arguments& argume
       directive.precision < 0 ? std::wstring::npos : static_cast<std::size_t>(directive.precision);
   if (directive.conversion == L'S' || directive.size == Size::shortSize) {
     const char* text = va_arg(arguments.list, const char*);
-    AppendField(out, directive, text == nullptr ? L"" : WideFromUtf8(text).substr(0, limit));
+    AppendField(out, directive, text == nullptr ? L"" : FromUtf8(text).substr(0, limit));
     return;
   }
   const wchar_t* text = va_arg(arguments.list, const wchar_t*);
@@ -133,7 +133,7 @@ void AppendCharacter(std::wstring& out, const Directive& directive, Arguments& a
   wchar_t character = static_cast<wchar_t>(va_arg(arguments.list, int));
   if (directive.conversion == L'C' || directive.size == Size::shortSize) {
     const char byte = static_cast<char>(character);
-    character = WideFromUtf8(std::string_view(&byte, 1))[0];
+    character = FromUtf8(std::string_view(&byte, 1))[0];
   }
   AppendField(out, directive, std::wstring_view(&character, 1));
 }

@@ -7,8 +7,8 @@
 #include <QPainter>
 #include <QTextLayout>
 #include <cmath>
-#include <cstring>
 #include <map>
+#include <tuple>
 
 #include "platform/FontData.h"
 #include "platform/qt/Application.h"
@@ -111,7 +111,8 @@ void FontFace::SetSize(LONG dotHeight) {
   m_strikeTop = m_font.strikeOut() ? m_ascent - Rounded(metrics.strikeOutPos()) : 0;
 }
 
-FontFace& FontFace::For(const std::shared_ptr<FontData>& font, int dotsPerInch, double scale) {
+std::shared_ptr<FontFace> FontFace::For(const std::shared_ptr<FontData>& font, int dotsPerInch,
+                                        double scale) {
   static const auto system = [] {
     CFont standard;
     standard.CreatePointFont(systemTenthsOfPoint, L"");
@@ -122,7 +123,7 @@ FontFace& FontFace::For(const std::shared_ptr<FontData>& font, int dotsPerInch, 
                             static_cast<std::uint32_t>(std::lround(scale * 4096.0));
   for (const auto& [known, face] : data.faces) {
     if (known == key) {
-      return *face;
+      return face;
     }
   }
   LOGFONT wanted = data.font;
@@ -133,12 +134,24 @@ FontFace& FontFace::For(const std::shared_ptr<FontData>& font, int dotsPerInch, 
   wanted.lfHeight = static_cast<LONG>(std::lround(std::clamp(height * scale, -1e6, 1e6)));
   wanted.lfHeight = wanted.lfHeight == 0 ? -1 : wanted.lfHeight;
   data.faces.emplace_back(key, SharedFace(wanted));
-  return *data.faces.back().second;
+  return data.faces.back().second;
 }
 
 std::shared_ptr<FontFace> FontFace::SharedFace(const LOGFONT& font) {
   using Key = std::tuple<std::wstring, LONG, LONG, LONG, int, BYTE>;
   static std::map<Key, std::weak_ptr<FontFace>> faces;
+  static const bool released = [] {
+    qAddPostRoutine([] {
+      for (const auto& [key, known] : faces) {
+        if (const std::shared_ptr<FontFace> face = known.lock()) {
+          face->Release();
+        }
+      }
+      faces.clear();
+    });
+    return true;
+  }();
+  static_cast<void>(released);
   const int style =
       (font.lfItalic != 0 ? 1 : 0) | (font.lfUnderline != 0 ? 2 : 0) | (font.lfStrikeOut != 0 ? 4 : 0);
   const Key key(font.lfFaceName.Str(), font.lfHeight, font.lfWeight, font.lfEscapement, style,
@@ -175,60 +188,72 @@ const Glyph& FontFace::Load(std::uint32_t code) {
   QPointF advance;
   m_raw.advancesForGlyphIndexes(&index, &advance, 1, QRawFont::SeparateAdvances);
   glyph.advance = static_cast<std::int16_t>(std::clamp(Rounded(advance.x()), 0, 32767));
-  if (shown != 0x20) {
-    Rasterise(index, &glyph);
-  }
+  glyph.index = shown != 0x20 ? index : 0;
   return glyph;
 }
 
-void FontFace::Rasterise(std::uint32_t index, Glyph* glyph) {
-  const QRectF bounds = m_raw.boundingRect(index);
+const Glyph& FontFace::Rasterise(std::uint32_t code) {
+  Glyph& glyph = (*m_pages[code >> 8])[code & 0xFF];
+  glyph.drawn = true;
+  const QRectF bounds = m_raw.boundingRect(glyph.index);
   constexpr int margin = 3;
   const int originX = margin + static_cast<int>(std::ceil(std::max(0.0, -bounds.left())));
   const int originY = margin + std::max(m_ascent, static_cast<int>(std::ceil(std::max(0.0, -bounds.top()))));
   const int width = originX + margin + static_cast<int>(std::ceil(std::max(0.0, bounds.right())));
   const int height = originY + margin + static_cast<int>(std::ceil(std::max(0.0, bounds.bottom())));
-  constexpr int largest = 16000;
-  if (width > largest || height > largest) {
-    glyph->simple = false;
-    return;
+  QImage picture(width, height, QImage::Format_ARGB32_Premultiplied);
+  if (picture.isNull()) {
+    return glyph;
   }
-  QImage scratch(width, height, QImage::Format_ARGB32_Premultiplied);
-  scratch.fill(Qt::transparent);
-  QPainter painter(&scratch);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
   painter.setPen(Qt::black);
   QGlyphRun run;
   run.setRawFont(m_raw);
-  run.setGlyphIndexes({index});
+  run.setGlyphIndexes({glyph.index});
   run.setPositions({QPointF(0, 0)});
   painter.drawGlyphRun(QPointF(originX, originY), run);
   painter.end();
+  Outline(picture, CPoint(originX, originY), &glyph);
+  return glyph;
+}
+
+// Keeps the part of the picture that has ink; the pen stood at `origin` on the baseline.
+void FontFace::Outline(const QImage& picture, CPoint origin, Glyph* glyph) {
+  const auto alpha = [&picture](int x, int y) {
+    return static_cast<std::uint8_t>(qAlpha(reinterpret_cast<const QRgb*>(picture.constScanLine(y))[x]));
+  };
   QRect box;
-  for (int y = 0; y < height; ++y) {
-    const QRgb* row = reinterpret_cast<const QRgb*>(scratch.constScanLine(y));
-    for (int x = 0; x < width; ++x) {
-      if (qAlpha(row[x]) != 0) {
-        box |= QRect(x, y, 1, 1);
-      }
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      box |= alpha(x, y) != 0 ? QRect(x, y, 1, 1) : QRect();
     }
   }
   if (box.isEmpty()) {
     return;
   }
-  m_coverage.push_back(
-      std::make_unique<std::uint8_t[]>(static_cast<std::size_t>(box.width()) * box.height()));
-  std::uint8_t* out = m_coverage.back().get();
-  glyph->coverage = out;
-  for (int y = box.top(); y <= box.bottom(); ++y) {
-    const QRgb* row = reinterpret_cast<const QRgb*>(scratch.constScanLine(y));
-    for (int x = box.left(); x <= box.right(); ++x) {
-      *out++ = static_cast<std::uint8_t>(qAlpha(row[x]));
-    }
-  }
-  glyph->left = static_cast<std::int16_t>(box.left() - originX);
-  glyph->top = static_cast<std::int16_t>(box.top() - originY + m_ascent);
   glyph->width = static_cast<std::int16_t>(box.width());
   glyph->height = static_cast<std::int16_t>(box.height());
+  const int stride = glyph->Stride();
+  m_coverage.push_back(std::make_unique<std::uint8_t[]>(static_cast<std::size_t>(stride) * box.height()));
+  std::uint8_t* out = m_coverage.back().get();
+  glyph->coverage = out;
+  for (int y = 0; y < box.height(); ++y) {
+    for (int x = 0; x < box.width(); ++x) {
+      out[y * stride + x] = alpha(box.left() + x, box.top() + y);
+    }
+  }
+  glyph->left = static_cast<std::int16_t>(box.left() - origin.x);
+  glyph->top = static_cast<std::int16_t>(box.top() - origin.y + m_ascent);
+}
+
+// The toolkit's fonts must not outlive its application. What is left measures nothing and draws nothing.
+void FontFace::Release() {
+  m_raw = QRawFont();
+  m_font = QFont();
+  for (std::unique_ptr<Page>& page : m_pages) {
+    page.reset();
+  }
 }
 
 std::int64_t FontFace::Width(const wchar_t* text, int length) {

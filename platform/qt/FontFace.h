@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFont>
+#include <QImage>
 #include <QRawFont>
 #include <array>
 #include <cstdint>
@@ -21,8 +22,12 @@ struct Glyph {
   std::int16_t width = 0;
   std::int16_t height = 0;
   bool loaded = false;
-  bool simple = false;                     ///< false: the character needs the toolkit's text layout
-  const std::uint8_t* coverage = nullptr;  ///< rows of `width` bytes, owned by the face
+  bool simple = false;      ///< false: the character needs the toolkit's text layout
+  bool drawn = false;       ///< whether the coverage is there
+  std::uint32_t index = 0;  ///< in the font file; 0 for a blank
+  /// Rows are filled up with 0 to a multiple of 4.
+  int Stride() const { return (width + 3) & ~3; }
+  const std::uint8_t* coverage = nullptr;  ///< rows of Stride() bytes, owned by the face; null without ink
 };
 
 /// A font at the dot size of a device. Glyphs are drawn once by the toolkit and kept. Advances are whole
@@ -32,7 +37,7 @@ class FontFace {
   FontFace(const LOGFONT& font, LONG dotHeight);
   /// The face for a selected font (null: the system's) on a device. Shared by all contexts of that device's
   /// scale.
-  static FontFace& For(const std::shared_ptr<FontData>& font, int dotsPerInch, double scale);
+  static std::shared_ptr<FontFace> For(const std::shared_ptr<FontData>& font, int dotsPerInch, double scale);
 
   const Glyph& GlyphOf(wchar_t character) {
     const std::uint32_t code = static_cast<std::uint32_t>(character);
@@ -44,6 +49,11 @@ class FontFace {
       return Load(code);
     }
     return (*page)[code & 0xFF];
+  }
+  /// The same with its coverage.
+  const Glyph& DrawnGlyphOf(wchar_t character) {
+    const Glyph& glyph = GlyphOf(character);
+    return glyph.drawn || glyph.index == 0 ? glyph : Rasterise(static_cast<std::uint32_t>(character));
   }
   const QFont& Font() const { return m_font; }
   int Ascent() const { return m_ascent; }
@@ -65,7 +75,9 @@ class FontFace {
  private:
   using Page = std::array<Glyph, 256>;
   const Glyph& Load(std::uint32_t code);
-  void Rasterise(std::uint32_t index, Glyph* glyph);
+  const Glyph& Rasterise(std::uint32_t code);
+  void Outline(const QImage& picture, CPoint origin, Glyph* glyph);
+  void Release();
   static std::shared_ptr<FontFace> SharedFace(const LOGFONT& font);
   void SetSize(LONG dotHeight);
 

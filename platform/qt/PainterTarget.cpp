@@ -266,11 +266,10 @@ COLORREF PainterTarget::ReadPixel(const DrawAttributes&, int, int) const {
 // --- Text
 
 FontFace& PainterTarget::Face(const DrawAttributes& with) {
-  const std::shared_ptr<FontData> none;
-  const std::shared_ptr<FontData>& data = with.font != nullptr ? with.font->Data() : none;
-  if (m_face == nullptr || m_faceFont != data.get()) {
-    m_face = &FontFace::For(data, DotsPerInch(), Scale());
-    m_faceFont = data.get();
+  const FontData* font = with.font != nullptr ? with.font->Data().get() : nullptr;
+  if (m_face == nullptr || m_faceFont.get() != font) {
+    m_faceFont = with.font != nullptr ? with.font->Data() : nullptr;
+    m_face = FontFace::For(m_faceFont, DotsPerInch(), Scale());
   }
   return *m_face;
 }

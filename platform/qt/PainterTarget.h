@@ -6,6 +6,7 @@
 
 namespace coregui {
 
+class FontData;
 class FontFace;
 
 /// Draws everything with the toolkit's painter: pages to print, and on rasters what has no faster way.
@@ -44,8 +45,8 @@ class PainterTarget : public DrawTarget {
   QPen PenOf(const DrawAttributes& with) const;
   QBrush BrushOf(const CBrush& brush) const;
 
-  FontFace* m_face = nullptr;
-  const void* m_faceFont = nullptr;
+  std::shared_ptr<FontFace> m_face;      ///< of the font that was used last
+  std::shared_ptr<FontData> m_faceFont;  ///< kept so that its address stays its own
 };
 
 /// A colour of ours in the toolkit's order, opaque.

@@ -5,46 +5,30 @@
 
 #include "platform/qt/BitmapData.h"
 #include "platform/qt/FontFace.h"
+#include "platform/qt/GlyphRow.h"
 #include "platform/qt/HardLine.h"
 
 namespace coregui {
 
 namespace {
 
-// dot * (255 - cover) + colour * cover, divided by 255 with rounding, on two channels at a time.
-inline std::uint32_t Blend(std::uint32_t dot, std::uint32_t colour, std::uint32_t cover) {
-  constexpr std::uint32_t mask = 0x00FF00FF;
-  constexpr std::uint32_t half = 0x00800080;
-  const std::uint32_t rest = 255U - cover;
-  std::uint32_t low = (dot & mask) * rest + (colour & mask) * cover + half;
-  low = ((low + ((low >> 8U) & mask)) >> 8U) & mask;
-  std::uint32_t high = ((dot >> 8U) & mask) * rest + ((colour >> 8U) & mask) * cover + half;
-  high = (high + ((high >> 8U) & mask)) & ~mask;
-  return high | low;
-}
-
-void BlendRow(std::uint32_t* dots, const std::uint8_t* coverage, int count, std::uint32_t colour) {
-  for (int i = 0; i < count; ++i) {
-    const std::uint32_t cover = coverage[i];
-    if (cover == 255U) {
-      dots[i] = colour;
-    } else if (cover != 0U) {
-      dots[i] = Blend(dots[i], colour, cover);
-    }
-  }
-}
-
 void BlendGlyph(Surface& surface, const CRect& clip, const Glyph& glyph, int x, int y, std::uint32_t colour) {
   const int left = std::max<int>(x, clip.left);
   const int right = std::min<int>(x + glyph.width, clip.right);
   const int top = std::max<int>(y, clip.top);
   const int bottom = std::min<int>(y + glyph.height, clip.bottom);
-  if (left >= right) {
+  if (left >= right || top >= bottom) {
+    return;
+  }
+  const int stride = glyph.Stride();
+  const std::uint8_t* coverage = glyph.coverage + (top - y) * stride;
+  if (left == x && right == x + glyph.width && x + stride <= surface.Dots().cx) {
+    BlendBlock(surface.Row(top) + left, surface.Stride(), coverage, stride, bottom - top, colour);
     return;
   }
   for (int row = top; row < bottom; ++row) {
-    BlendRow(surface.Row(row) + left, glyph.coverage + (row - y) * glyph.width + (left - x), right - left,
-             colour);
+    BlendRow(surface.Row(row) + left, coverage + (left - x), right - left, colour);
+    coverage += stride;
   }
 }
 
@@ -79,8 +63,14 @@ bool RasterTarget::DrawsHard(const DrawAttributes& with) const {
 }
 
 void RasterTarget::FillDots(const CRect& dots, std::uint32_t colour, int rop) {
-  for (int y = dots.top; y < dots.bottom; ++y) {
-    PutDots(m_surface->Row(y) + dots.left, dots.Width(), colour, rop);
+  const int width = dots.Width();
+  std::uint32_t* row = m_surface->Row(dots.top) + dots.left;
+  for (int y = dots.top; y < dots.bottom; ++y, row += m_surface->Stride()) {
+    if (rop == R2_COPYPEN) {
+      std::fill_n(row, width, colour);
+    } else {
+      PutDots(row, width, colour, rop);
+    }
   }
   m_surface->Damage(dots);
 }
@@ -288,7 +278,7 @@ bool RasterTarget::PutGlyphs(const DrawAttributes& with, FontFace& face, CPoint 
   const std::uint32_t colour = Opaque(with.textColour);
   std::int64_t x = start.x;
   for (int i = 0; i < length && x < with.clip.box.right + face.Height(); ++i) {
-    const Glyph& glyph = face.GlyphOf(text[i]);
+    const Glyph& glyph = face.DrawnGlyphOf(text[i]);
     if (glyph.coverage != nullptr) {
       const int left = static_cast<int>(x) + glyph.left;
       const CRect box(left, start.y + glyph.top, left + glyph.width, start.y + glyph.top + glyph.height);
@@ -296,6 +286,14 @@ bool RasterTarget::PutGlyphs(const DrawAttributes& with, FontFace& face, CPoint 
           box, [&](const CRect& part) { BlendGlyph(*m_surface, part, glyph, box.left, box.top, colour); });
     }
     x += glyph.advance;
+  }
+  // Ink may reach a little out of the advances and the cell.
+  const int margin = face.Height();
+  const LONG right = static_cast<LONG>(std::min<std::int64_t>(x + margin, 1 << 30));
+  CRect changed;
+  if (changed.IntersectRect(with.clip.box,
+                            CRect(start.x - margin, start.y - margin, right, start.y + 2 * margin))) {
+    m_surface->Damage(changed);
   }
   return true;
 }
@@ -325,7 +323,6 @@ void RasterTarget::Text(const DrawAttributes& with, int x, int y, const wchar_t*
       line(face.StrikeTop());
     }
   }
-  m_surface->Damage(with.clip.box);
 }
 
 // --- Bitmaps

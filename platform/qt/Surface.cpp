@@ -11,22 +11,22 @@ int Rounded(double value) {
   return static_cast<int>(std::floor(value + 0.5));
 }
 
-QImage WhiteImage(CSize size, double scale) {
-  QImage image(std::max(1, Rounded(size.cx * scale)), std::max(1, Rounded(size.cy * scale)),
-               QImage::Format_RGB32);
-  image.fill(Qt::white);
-  return image;
+CSize DotsOf(CSize size, double scale) {
+  return {std::max(1, Rounded(size.cx * scale)), std::max(1, Rounded(size.cy * scale))};
 }
 
 }  // namespace
 
-Surface::Surface(CSize size, double scale) : m_size(size), m_scale(scale), m_image(WhiteImage(size, scale)) {
+Surface::Surface(CSize size, double scale) : m_size(size), m_scale(scale), m_dots(DotsOf(size, scale)) {
+  m_image = QImage(m_dots.cx, m_dots.cy, QImage::Format_RGB32);
+  m_image.fill(Qt::white);
   Attach();
 }
 
 Surface::Surface(QImage image, double scale)
     : m_size(Rounded(image.width() / scale), Rounded(image.height() / scale)),
       m_scale(scale),
+      m_dots(image.width(), image.height()),
       m_image(std::move(image)) {
   Attach();
 }
@@ -45,20 +45,21 @@ void Surface::Resize(CSize size, double scale) {
     return;
   }
   EndPainter();
-  QImage resized = WhiteImage(size, scale);
-  if (scale == m_scale) {
-    const std::size_t bytes =
-        sizeof(std::uint32_t) * static_cast<std::size_t>(std::min(resized.width(), m_image.width()));
-    const int rows = std::min(resized.height(), m_image.height());
-    for (int y = 0; y < rows; ++y) {
-      std::memcpy(resized.scanLine(y), m_image.constScanLine(y), bytes);
-    }
+  const CSize dots = DotsOf(size, scale);
+  const CSize kept =
+      scale == m_scale ? CSize(std::min(dots.cx, m_dots.cx), std::min(dots.cy, m_dots.cy)) : CSize();
+  if (dots.cx > m_image.width() || dots.cy > m_image.height()) {
+    m_image =
+        m_image.copy(0, 0, std::max<int>(dots.cx, m_image.width()), std::max<int>(dots.cy, m_image.height()));
+    Attach();
+  }
+  for (int y = 0; y < dots.cy; ++y) {
+    std::fill(Row(y) + (y < kept.cy ? kept.cx : 0), Row(y) + dots.cx, 0xFFFFFFFFU);
   }
   m_size = size;
   m_scale = scale;
-  m_image = std::move(resized);
-  Attach();
-  Damage(CRect(CPoint(), Dots()));
+  m_dots = dots;
+  Damage(CRect(CPoint(), dots));
 }
 
 QPainter& Surface::Painter() {
@@ -121,7 +122,7 @@ void Surface::Expose(QPainter& exposure, const CRect& rect) {
 }
 
 QImage Surface::Snapshot() const {
-  QImage copy = m_image.copy();
+  QImage copy = m_image.copy(0, 0, m_dots.cx, m_dots.cy);
   copy.setDevicePixelRatio(m_scale);
   return copy;
 }

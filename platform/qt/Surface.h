@@ -22,15 +22,17 @@ class Surface {
   Surface(const Surface&) = delete;
   Surface& operator=(const Surface&) = delete;
 
-  /// Keeps what is in the common part, unless the scale changes; the rest is white. Contexts that were made
-  /// before must not draw afterwards.
+  /// Keeps what is in the common part, unless the scale changes; the rest is white. The memory never
+  /// shrinks: a context that was made before may still draw where it could. A new scale needs new targets.
   void Resize(CSize size, double scale);
   CSize Size() const { return m_size; }
   double Scale() const { return m_scale; }
-  CSize Dots() const { return {m_image.width(), m_image.height()}; }
+  CSize Dots() const { return m_dots; }
 
   std::uint32_t* Row(int y) { return m_bits + static_cast<std::ptrdiff_t>(y) * m_stride; }
   const std::uint32_t* Row(int y) const { return m_bits + static_cast<std::ptrdiff_t>(y) * m_stride; }
+
+  std::ptrdiff_t Stride() const { return m_stride; }  ///< from row to row, in dots
 
   /// The shared painter, in dots, opened when first asked for; EndPainter closes it (exposures and the end of
   /// the last context do).
@@ -68,7 +70,8 @@ class Surface {
 
   CSize m_size;
   double m_scale;
-  QImage m_image;
+  CSize m_dots;    ///< in use
+  QImage m_image;  ///< at least as large
   std::uint32_t* m_bits = nullptr;
   std::ptrdiff_t m_stride = 0;  ///< in dots
   std::optional<QPainter> m_painter;

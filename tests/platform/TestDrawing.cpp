@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
+
 #include "platform/CDC.h"
 #include "platform/qt/BitmapData.h"
 #include "platform/qt/RasterTarget.h"
@@ -64,6 +67,255 @@ TEST_P(Drawing, Text_LeavesInkInsideItsExtent) {
     }
   }
   EXPECT_GT(ink, 20);
+}
+
+TEST_P(Drawing, NeighbouringRectangles_NeitherGapNorOverlap) {
+  for (int x = 0; x < 60; x += 7) {
+    for (int y = 0; y < 40; y += 3) {
+      dc.InvertRect(CRect(x, y, x + 7, y + 3));
+    }
+  }
+  EXPECT_EQ(CountDots(0), surface->Dots().cx * surface->Dots().cy);
+}
+
+TEST_P(Drawing, StraightLine_LeavesOutItsLastPixelInEitherDirection) {
+  CPen pen(PS_SOLID, 1, red);
+  dc.SelectObject(&pen);
+  const int thick = std::max(1, static_cast<int>(std::floor(GetParam() + 0.5)));
+  dc.MoveTo(4, 10);
+  dc.LineTo(20, 10);
+  EXPECT_EQ(CountDots(0xFF0000), (Edge(20) - Edge(4)) * thick);
+  EXPECT_EQ(dc.GetPixel(19, 10), red);
+  EXPECT_EQ(dc.GetPixel(20, 10), white);
+  dc.FillSolidRect(CRect(0, 0, 60, 40), white);
+  dc.MoveTo(30, 20);
+  dc.LineTo(30, 5);
+  EXPECT_EQ(CountDots(0xFF0000), (Edge(21) - Edge(6)) * thick);
+  EXPECT_EQ(dc.GetPixel(30, 20), red);
+  EXPECT_EQ(dc.GetPixel(30, 5), white);
+}
+
+TEST_P(Drawing, ExclusiveOrTwice_Restores) {
+  dc.FillSolidRect(CRect(10, 5, 40, 30), RGB(12, 200, 99));
+  const QImage before = surface->Snapshot();
+  CPen pen(PS_DOT, 1, RGB(255, 255, 255));
+  CPen wide(PS_SOLID, 3, RGB(90, 10, 255));
+  CBrush brush(RGB(1, 2, 3));
+  dc.SelectObject(&brush);
+  dc.SetROP2(R2_XORPEN);
+  const POINT zigzag[] = {{0, 0}, {59, 39}, {3, 17}, {50, 2}, {50, 38}, {-20, 38}};
+  const RECT frame = CRect(8, 8, 33, 29);
+  for (int pass = 0; pass < 2; ++pass) {
+    dc.SelectObject(&pen);
+    dc.Polyline(zigzag, 6);
+    dc.SelectObject(&wide);
+    dc.Polyline(zigzag, 6);
+    dc.Rectangle(frame);
+    dc.Ellipse(frame);
+    dc.DrawFocusRect(frame);
+    if (pass == 0) {
+      EXPECT_NE(surface->Snapshot(), before);
+    }
+  }
+  EXPECT_EQ(surface->Snapshot(), before);
+}
+
+TEST_P(Drawing, Clip_ConfinesEveryKindOfDrawing) {
+  const CRect inside(11, 7, 31, 23);
+  CPen pen(PS_SOLID, 1, red);
+  CBrush brush(red);
+  dc.SelectObject(&pen);
+  dc.SelectObject(&brush);
+  dc.SetTextColor(red);
+  dc.SetBkColor(red);
+  dc.IntersectClipRect(inside);
+  dc.ExcludeClipRect(CRect(15, 10, 20, 15));
+  const POINT points[] = {{-5, -5}, {70, 45}, {70, -5}};
+  dc.FillSolidRect(CRect(0, 0, 60, 40), red);
+  dc.Polyline(points, 3);
+  dc.Polygon(points, 3);
+  dc.Rectangle(CRect(0, 0, 60, 40));
+  dc.Ellipse(CRect(0, 0, 60, 40));
+  dc.TextOut(0, 0, L"WWWWWWWWWWWWWWWW \u05D0\u0301", -1);
+  EXPECT_EQ(CountDots(0xFFFFFF), surface->Dots().cx * surface->Dots().cy -
+                                     (Edge(31) - Edge(11)) * (Edge(23) - Edge(7)) +
+                                     (Edge(20) - Edge(15)) * (Edge(15) - Edge(10)));
+  EXPECT_TRUE(dc.RectVisible(CRect(11, 7, 16, 11)));
+  EXPECT_FALSE(dc.RectVisible(CRect(15, 10, 20, 15)));
+  RECT box;
+  EXPECT_TRUE(dc.GetClipBox(&box));
+  EXPECT_EQ(CRect(box), inside);
+}
+
+TEST_P(Drawing, LineThroughAClip_HasTheDotsOfTheWholeLine) {
+  CPen pen(PS_SOLID, 1, 0);
+  dc.SelectObject(&pen);
+  const POINT line[] = {{-70, -33}, {101, 57}};
+  dc.Polyline(line, 2);
+  const QImage whole = surface->Snapshot();
+  dc.FillSolidRect(CRect(0, 0, 60, 40), white);
+  for (int x = 0; x < 60; x += 11) {
+    for (int y = 0; y < 40; y += 9) {
+      dc.SelectClipRect(nullptr);
+      dc.IntersectClipRect(CRect(x, y, x + 11, y + 9));
+      dc.Polyline(line, 2);
+    }
+  }
+  EXPECT_EQ(surface->Snapshot(), whole);
+}
+
+TEST_P(Drawing, ViewportOrigin_MovesDrawingAndClip) {
+  dc.SetViewportOrg(20, 10);
+  dc.IntersectClipRect(CRect(0, 0, 5, 5));
+  dc.FillSolidRect(CRect(-50, -50, 50, 50), red);
+  EXPECT_EQ(dc.GetPixel(0, 0), red);
+  RECT box;
+  dc.GetClipBox(&box);
+  EXPECT_EQ(CRect(box), CRect(0, 0, 5, 5));
+  dc.SetViewportOrg(0, 0);
+  EXPECT_EQ(dc.GetPixel(20, 10), red);
+  EXPECT_EQ(dc.GetPixel(19, 10), white);
+  EXPECT_EQ(CountDots(0xFF0000), (Edge(25) - Edge(20)) * (Edge(15) - Edge(10)));
+}
+
+TEST_P(Drawing, ExtremeCoordinates_DrawWhatIsVisible) {
+  constexpr LONG low = std::numeric_limits<LONG>::min();
+  constexpr LONG high = std::numeric_limits<LONG>::max();
+  dc.SetViewportOrg(5, 5);
+  dc.FillSolidRect(CRect(low, low, high, 3), red);
+  EXPECT_EQ(CountDots(0xFF0000), surface->Dots().cx * Edge(8));
+  dc.MoveTo(low, 20);
+  dc.LineTo(high, 20);
+  EXPECT_EQ(dc.GetPixel(30, 20), 0U);
+  dc.MoveTo(low, low);
+  dc.LineTo(high, high);
+  EXPECT_EQ(dc.GetPixel(12, 12), 0U);
+  dc.DrawFocusRect(CRect(low, low, high, high));
+  dc.SetPixel(high, high, red);
+  RECT rect = CRect(low, low, high, high);
+  dc.DrawText(L"far", -1, &rect, DT_SINGLELINE | DT_VCENTER | DT_CENTER);
+  dc.TextOut(high, low, L"far", -1);
+  dc.TextOut(low, 0, L"far", -1);
+  const double wild[] = {-1e300, 3, 1e300, 3, std::nan(""), 0, 10, 10, 20, 20};
+  dc.PolylineF(wild, 5);
+  EXPECT_EQ(dc.GetPixel(15, 15), 0U);
+}
+
+TEST_P(Drawing, CopyWithinItself_MovesOverlappingPixelsRight) {
+  for (int i = 0; i < 40; ++i) {
+    dc.FillSolidRect(CRect(i, i, 60, 40), RGB(i * 6, 255 - i * 5, i));
+  }
+  const QImage before = surface->Snapshot();
+  // Distances that are whole dots at every scale here.
+  dc.BitBlt(4, 8, 40, 24, &dc, 0, 0, SRCCOPY);
+  dc.BitBlt(0, 0, 40, 24, &dc, 4, 8, SRCCOPY);
+  const QRect kept(0, 0, Edge(40), Edge(24));
+  EXPECT_EQ(surface->Snapshot().copy(kept), before.copy(kept));
+}
+
+TEST_P(Drawing, MovePixels_StaysInsideTheClip) {
+  dc.FillSolidRect(CRect(0, 12, 60, 16), red);
+  ASSERT_TRUE(surface->MovePixels(CRect(0, 4, 60, 40), 0, -8, CRect(0, 4, 60, 40)));
+  EXPECT_EQ(dc.GetPixel(5, 4), red);
+  EXPECT_EQ(dc.GetPixel(5, 3), white);
+  EXPECT_EQ(dc.GetPixel(5, 8), white);
+  ASSERT_TRUE(surface->MovePixels(CRect(0, 0, 60, 40), 0, -8, CRect(0, 4, 60, 40)));
+  EXPECT_EQ(dc.GetPixel(5, 3), white) << "nothing moves out of the clip";
+}
+
+TEST_P(Drawing, BoxEdges_CoverTheBoxOnce) {
+  dc.FrameRect(CRect(2, 2, 12, 12), red);
+  const int inner = (Edge(11) - Edge(3)) * (Edge(11) - Edge(3));
+  EXPECT_EQ(CountDots(0xFF0000), (Edge(12) - Edge(2)) * (Edge(12) - Edge(2)) - inner);
+  dc.Draw3dRect(CRect(20, 20, 30, 30), RGB(1, 1, 1), RGB(2, 2, 2));
+  EXPECT_EQ(dc.GetPixel(20, 20), RGB(1, 1, 1));
+  EXPECT_EQ(dc.GetPixel(29, 20), RGB(2, 2, 2));
+  EXPECT_EQ(dc.GetPixel(20, 29), RGB(2, 2, 2));
+  EXPECT_EQ(dc.GetPixel(28, 20), RGB(1, 1, 1));
+}
+
+TEST(DrawingState, RestoreDC_BringsBackTheLevelAskedFor) {
+  CRecordingDC dc;
+  CPen pen(PS_SOLID, 2, red);
+  CFont font;
+  font.CreatePointFont(120, L"Sans");
+  EXPECT_EQ(dc.SaveDC(), 1);
+  dc.SelectObject(&pen);
+  dc.SetTextColor(red);
+  EXPECT_EQ(dc.SaveDC(), 2);
+  dc.SelectObject(&font);
+  dc.SetViewportOrg(3, 4);
+  dc.SetROP2(R2_NOT);
+  EXPECT_EQ(dc.SaveDC(), 3);
+  EXPECT_FALSE(dc.RestoreDC(4));
+  EXPECT_FALSE(dc.RestoreDC(0));
+  EXPECT_TRUE(dc.RestoreDC(2));
+  EXPECT_EQ(dc.GetCurrentPen(), &pen);
+  EXPECT_EQ(dc.GetCurrentFont(), nullptr);
+  EXPECT_EQ(dc.GetViewportOrg(), CPoint());
+  EXPECT_EQ(dc.GetROP2(), R2_COPYPEN);
+  EXPECT_TRUE(dc.RestoreDC(-1));
+  EXPECT_EQ(dc.GetTextColor(), 0U);
+  EXPECT_EQ(dc.GetCurrentPen(), CDC::GetStockPen(StockObject::blackPen));
+  EXPECT_FALSE(dc.RestoreDC(-1));
+}
+
+TEST(SurfaceMemory, Resize_KeepsTheCommonPartAndOldContextsInBounds) {
+  const auto surface = std::make_shared<coregui::Surface>(CSize(50, 50), 1.0);
+  SurfaceDC old(surface);
+  old.FillSolidRect(CRect(0, 0, 50, 50), red);
+  surface->Resize(CSize(20, 30), 1.0);
+  SurfaceDC dc(surface);
+  old.FillSolidRect(CRect(25, 0, 50, 50), RGB(0, 0, 9));
+  EXPECT_EQ(dc.GetPixel(19, 29), red);
+  EXPECT_EQ(dc.GetPixel(20, 0), 0xFFFFFFFFU);
+  surface->Resize(CSize(60, 40), 1.0);
+  SurfaceDC grown(surface);
+  EXPECT_EQ(grown.GetPixel(19, 29), red);
+  EXPECT_EQ(grown.GetPixel(20, 10), white);
+  EXPECT_EQ(grown.GetPixel(59, 39), white);
+}
+
+TEST(SurfaceDamage, Damage_AsksForOneExposureUntilTaken) {
+  const auto surface = std::make_shared<coregui::Surface>(CSize(50, 50), 1.25);
+  int asked = 0;
+  surface->onDamage = [&asked] { ++asked; };
+  SurfaceDC dc(surface);
+  dc.FillSolidRect(CRect(3, 3, 5, 5), red);
+  dc.MoveTo(10, 10);
+  dc.LineTo(20, 10);
+  EXPECT_EQ(asked, 1);
+  const CRect damage = surface->TakeDamage();
+  EXPECT_TRUE(damage.left <= 3 && damage.top <= 3 && damage.right >= 20 && damage.bottom >= 11);
+  EXPECT_EQ(surface->TakeDamage(), CRect());
+  dc.TextOut(5, 5, L"a", 1);
+  EXPECT_EQ(asked, 2);
+}
+
+TEST(MemoryContext, Bitmap_IsDrawnOnAndCopiedBack) {
+  CBitmap bitmap;
+  ASSERT_TRUE(bitmap.CreateCompatibleBitmap(nullptr, 20, 10));
+  CMemoryDC memory(nullptr, &bitmap);
+  memory.FillSolidRect(CRect(0, 0, 20, 10), white);
+  memory.FillSolidRect(CRect(5, 5, 10, 10), red);
+  const auto surface = std::make_shared<coregui::Surface>(CSize(50, 50), 1.0);
+  SurfaceDC dc(surface);
+  EXPECT_TRUE(dc.BitBlt(10, 10, 100, 100, &memory, 5, 5, SRCCOPY)) << "more than there is: what there is";
+  EXPECT_EQ(dc.GetPixel(10, 10), red);
+  EXPECT_EQ(dc.GetPixel(15, 10), white);
+  EXPECT_FALSE(bitmap.CreateCompatibleBitmap(nullptr, 0, 5));
+  EXPECT_FALSE(bitmap.IsCreated());
+}
+
+TEST(MemoryContext, TransparentDots_LetTheGroundThrough) {
+  CBitmap bitmap;
+  ASSERT_TRUE(bitmap.CreateFromPixels(2, 1, {0xFFFF0000, 0x00000000}));
+  const auto surface = std::make_shared<coregui::Surface>(CSize(10, 10), 1.0);
+  SurfaceDC dc(surface);
+  dc.DrawBitmap(bitmap, 3, 3);
+  EXPECT_EQ(dc.GetPixel(3, 3), red);
+  EXPECT_EQ(dc.GetPixel(4, 3), white);
+  EXPECT_FALSE(bitmap.CreateFromPixels(3, 3, {1, 2}));
 }
 
 }  // namespace

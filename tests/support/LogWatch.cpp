@@ -6,7 +6,7 @@
 #include <mutex>
 
 #include "core/Status.h"
-#include "platform/UnicodeText.h"
+#include "core/Utf8.h"
 
 namespace coregui::test {
 namespace {
@@ -57,8 +57,8 @@ void NoteLogLine(std::wstring line) {
 std::string CloseLog() {
   const std::lock_guard lock(TheLog().mutex);
   std::string faults;
-  for (const auto& line : TheLog().lines) faults += "unexpected log line: " + Utf8FromWide(line) + "\n";
-  for (const auto& part : TheLog().expected) faults += "missing log line: " + Utf8FromWide(part) + "\n";
+  for (const auto& line : TheLog().lines) faults += "unexpected log line: " + ToUtf8(line) + "\n";
+  for (const auto& part : TheLog().expected) faults += "missing log line: " + ToUtf8(part) + "\n";
   TheLog().lines.clear();
   TheLog().expected.clear();
   return faults;
@@ -66,6 +66,7 @@ std::string CloseLog() {
 
 void InstallLogWatch() {
   qInstallMessageHandler(NoteToolkitMessage);
+  SetStatusSink(NoteLogLine);
 }
 
 }  // namespace coregui::test

@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <memory>
 
+#include "platform/Clipboard.h"
 #include "platform/KeyState.h"
 #include "platform/Locale.h"
 #include "platform/System.h"
@@ -68,6 +69,7 @@ void ResetGlobalState() {
   SetDpiScale(0.0);
   ResetKeyState();
   ResetSysColors();
+  EmptyClipboard();
   FixLook();
 }
 

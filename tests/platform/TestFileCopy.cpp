@@ -1,0 +1,153 @@
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <vector>
+
+#include "platform/CString.h"
+#include "platform/FileCopy.h"
+#include "tests/support/TestEnvironment.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using coregui::CopyAnswer;
+using coregui::CopyProgress;
+using coregui::CopyReason;
+
+class FileCopyTest : public testing::Test {
+ protected:
+  FileCopyTest() { fs::create_directories(m_folder); }
+  ~FileCopyTest() override { fs::remove_all(m_folder); }
+  std::string At(const char* name) const { return m_folder + "/" + name; }
+  void Write(const char* name, const std::string& bytes) const {
+    std::ofstream(At(name), std::ios::binary) << bytes;
+  }
+  std::string Read(const char* name) const {
+    std::ostringstream text;
+    text << std::ifstream(At(name), std::ios::binary).rdbuf();
+    return text.str();
+  }
+  bool Copy(const char* from, const char* to, const bool* cancel = nullptr) {
+    m_calls.clear();
+    errno = 0;
+    return coregui::CopyFileWithProgress(
+        CString::FromUtf8(At(from)), CString::FromUtf8(At(to)),
+        [this](const CopyProgress& p) {
+          m_calls.push_back(p);
+          return m_calls.size() == m_cancelAt ? CopyAnswer::cancel : CopyAnswer::proceed;
+        },
+        cancel);
+  }
+  std::size_t FileCount() const {
+    return static_cast<std::size_t>(
+        std::distance(fs::directory_iterator(m_folder), fs::directory_iterator()));
+  }
+
+  std::string m_folder = coregui::test::ScratchFolder() + "/copy";
+  std::vector<CopyProgress> m_calls;
+  std::size_t m_cancelAt = 0;
+};
+
+TEST_F(FileCopyTest, ReportsTheStartAndEveryChunk) {
+  const std::string bytes(600 * 1024, 'x');
+  Write("a", bytes);
+  Write("b", "old and to be replaced");
+  fs::permissions(At("a"), fs::perms::owner_read | fs::perms::owner_write | fs::perms::owner_exec);
+  ASSERT_TRUE(Copy("a", "b"));
+  EXPECT_EQ(Read("b"), bytes);
+  EXPECT_EQ(fs::status(At("b")).permissions(), fs::status(At("a")).permissions());
+  EXPECT_EQ(fs::last_write_time(At("b")), fs::last_write_time(At("a")));
+  ASSERT_GE(m_calls.size(), 3U);
+  EXPECT_EQ(m_calls.front().reason, CopyReason::started);
+  EXPECT_EQ(m_calls.front().transferred, 0U);
+  for (std::size_t i = 1; i < m_calls.size(); ++i) {
+    EXPECT_EQ(m_calls[i].reason, CopyReason::chunkFinished);
+    EXPECT_GT(m_calls[i].transferred, m_calls[i - 1].transferred);
+    EXPECT_EQ(m_calls[i].total, bytes.size());
+  }
+  EXPECT_EQ(m_calls.back().transferred, bytes.size());
+}
+
+TEST_F(FileCopyTest, AnEmptyFileHasOneChunk) {
+  Write("a", "");
+  ASSERT_TRUE(Copy("a", "b"));
+  ASSERT_EQ(m_calls.size(), 2U);
+  EXPECT_EQ(m_calls[1].reason, CopyReason::chunkFinished);
+  EXPECT_EQ(m_calls[1].total, 0U);
+  EXPECT_TRUE(fs::exists(At("b")));
+}
+
+TEST_F(FileCopyTest, CancellingLeavesTheOldFile) {
+  Write("a", std::string(900 * 1024, 'x'));
+  Write("b", "old");
+  m_cancelAt = 2;
+  EXPECT_FALSE(Copy("a", "b"));
+  EXPECT_EQ(errno, ECANCELED);
+  m_cancelAt = 0;
+  const bool cancel = true;
+  EXPECT_FALSE(Copy("a", "b", &cancel));
+  EXPECT_EQ(errno, ECANCELED);
+  EXPECT_EQ(Read("b"), "old");
+  EXPECT_EQ(FileCount(), 2U);
+}
+
+TEST_F(FileCopyTest, AFailedWriteLeavesTheOldFileAndNoTemporaryOne) {
+  Write("a", std::string(900 * 1024, 'x'));
+  Write("b", "old");
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit small{300 * 1024, before.rlim_max};
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  setrlimit(RLIMIT_FSIZE, &small);
+  const bool copied = Copy("a", "b");
+  const int reason = errno;
+  setrlimit(RLIMIT_FSIZE, &before);
+  std::signal(SIGXFSZ, handler);
+  EXPECT_FALSE(copied);
+  EXPECT_EQ(reason, EFBIG);
+  EXPECT_EQ(Read("b"), "old");
+  EXPECT_EQ(FileCount(), 2U);
+}
+
+TEST_F(FileCopyTest, TooLittleRoomIsKnownBeforeAnythingIsWritten) {
+  Write("a", "x");
+  if (::truncate(At("a").c_str(), off_t{1} << 42) != 0) GTEST_SKIP() << "no sparse files here";
+  ASSERT_LT(coregui::GetFreeDiskSpace(CString::FromUtf8(At("b"))), std::uint64_t{1} << 42U);
+  EXPECT_FALSE(Copy("a", "b"));
+  EXPECT_EQ(errno, ENOSPC);
+  EXPECT_TRUE(m_calls.empty());
+  EXPECT_EQ(FileCount(), 1U);
+}
+
+TEST_F(FileCopyTest, OnlyPlainFilesThatDifferAreCopied) {
+  EXPECT_FALSE(Copy("missing", "b"));
+  EXPECT_EQ(errno, ENOENT);
+  Write("a", "x");
+  EXPECT_FALSE(Copy("a", "a"));
+  EXPECT_EQ(errno, EINVAL);
+  EXPECT_EQ(Read("a"), "x");
+  EXPECT_FALSE(Copy(".", "b"));
+  EXPECT_EQ(errno, EISDIR);
+  fs::create_directory(At("d"));
+  EXPECT_FALSE(Copy("a", "d"));
+  EXPECT_EQ(errno, EISDIR);
+  EXPECT_FALSE(Copy("a", "nowhere/b"));
+  EXPECT_EQ(errno, ENOENT);
+}
+
+TEST_F(FileCopyTest, ALinkAsDestinationStaysALink) {
+  Write("a", "new");
+  Write("real", "old");
+  fs::create_symlink(At("real"), At("link"));
+  ASSERT_TRUE(Copy("a", "link"));
+  EXPECT_TRUE(fs::is_symlink(At("link")));
+  EXPECT_EQ(Read("real"), "new");
+}
+
+}  // namespace

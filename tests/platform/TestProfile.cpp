@@ -1,0 +1,117 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "platform/Clipboard.h"
+#include "platform/Profile.h"
+#include "tests/support/LogWatch.h"
+#include "tests/support/TestEnvironment.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class ProfileTest : public testing::Test {
+ protected:
+  ProfileTest() {
+    fs::create_directories(m_folder);
+    m_profile.SetFolder(CString::FromUtf8(m_folder));
+    m_profile.SetCompany(L"Fenwarrow");
+    m_profile.SetName(L"Desk 8/1");
+  }
+  ~ProfileTest() override { fs::remove_all(m_folder); }
+  std::string File() const { return m_folder + "/Fenwarrow/Desk 8_1.ini"; }
+  std::string Contents() const {
+    std::ostringstream text;
+    text << std::ifstream(File()).rdbuf();
+    return text.str();
+  }
+  void Write(const std::string& text) const {
+    fs::create_directories(m_folder + "/Fenwarrow");
+    std::ofstream(File()) << text;
+  }
+
+  std::string m_folder = coregui::test::ScratchFolder() + "/profile";
+  coregui::Profile m_profile;
+};
+
+TEST_F(ProfileTest, EntriesAreKeptAcrossObjects) {
+  EXPECT_EQ(m_profile.GetInt(L"UnitTesting", L"PopupChoiceId", 7), 7);
+  EXPECT_TRUE(m_profile.WriteInt(L"UnitTesting", L"PopupChoiceId", -5));
+  EXPECT_TRUE(m_profile.WriteString(L"View", L"Title", L"L\u00E4nge = 5; # \"x\""));
+  coregui::Profile other;
+  other.SetFolder(CString::FromUtf8(m_folder));
+  other.SetCompany(L"Fenwarrow");
+  other.SetName(L"Desk 8/1");
+  EXPECT_EQ(other.GetInt(L"unittesting", L"POPUPCHOICEID", 0), -5);
+  EXPECT_EQ(other.GetString(L"View", L"Title"), L"L\u00E4nge = 5; # \"x\"");
+  EXPECT_EQ(other.GetPath().ToUtf8(), File());
+}
+
+TEST_F(ProfileTest, EveryTextComesBackAsItWas) {
+  for (const wchar_t* text :
+       {L"", L" ", L" a ", L"\"", L"\"\"", L"\"a\"", L"a\nb\r\nc", L"\\", L" \\n\\", L"[x]", L"=", L"\t;#"}) {
+    ASSERT_TRUE(m_profile.WriteString(L"S", L"E", text));
+    EXPECT_EQ(m_profile.GetString(L"S", L"E", L"?"), text) << CString(text).ToUtf8();
+  }
+}
+
+TEST_F(ProfileTest, HandEditedFilesKeepTheirLines) {
+  Write("; mine\nstray\n[A]\nx = 1\n\n[ B ]\ny=0x10\nz\n[A]\nx=2\n");
+  EXPECT_EQ(m_profile.GetInt(L"A", L"X", 0), 1);
+  EXPECT_EQ(m_profile.GetInt(L"b", L"y", 9), 0);
+  EXPECT_EQ(m_profile.GetInt(L"B", L"z", 9), 9);
+  EXPECT_TRUE(m_profile.WriteInt(L"A", L"new", 3));
+  EXPECT_TRUE(m_profile.WriteInt(L"B", L"Y", 4));
+  EXPECT_TRUE(m_profile.WriteInt(L"C", L"n", 5));
+  EXPECT_EQ(Contents(), "; mine\nstray\n[A]\nx = 1\nnew=3\n\n[ B ]\nY=4\nz\n[A]\nx=2\n\n[C]\nn=5\n");
+  EXPECT_TRUE(m_profile.WriteString(L"A", L"x", nullptr));
+  EXPECT_TRUE(m_profile.WriteString(L"C", nullptr, nullptr));
+  EXPECT_TRUE(m_profile.WriteString(L"none", nullptr, nullptr));
+  EXPECT_EQ(Contents(), "; mine\nstray\n[A]\nnew=3\n\n[ B ]\nY=4\nz\n[A]\nx=2\n\n");
+}
+
+TEST_F(ProfileTest, WhatAnotherProgramWritesIsSeen) {
+  Write("[U]\nn=1\n");
+  EXPECT_EQ(m_profile.GetInt(L"U", L"n", 0), 1);
+  Write("[U]\nn=4294967295\n");
+  EXPECT_EQ(m_profile.GetInt(L"U", L"n", 0), -1);
+}
+
+TEST_F(ProfileTest, NamesThatAFileCannotHoldAreRefused) {
+  EXPECT_FALSE(m_profile.WriteInt(L"", L"e", 1));
+  EXPECT_FALSE(m_profile.WriteInt(L"a]b", L"e", 1));
+  EXPECT_FALSE(m_profile.WriteInt(L"a", L"e=f", 1));
+  EXPECT_FALSE(m_profile.WriteInt(L"a", L";e", 1));
+  EXPECT_FALSE(m_profile.WriteInt(L"a", L"e\nf", 1));
+  EXPECT_FALSE(fs::exists(File()));
+}
+
+TEST_F(ProfileTest, AnUnwritableFolderIsReportedOnceAndTheValuesLast) {
+  std::ofstream(m_folder + "/plain") << "x";
+  m_profile.SetFolder(CString::FromUtf8(m_folder + "/plain"));
+  coregui::test::ExpectLog(L"Unable to write profile " + CString::FromUtf8(m_folder).Str());
+  EXPECT_FALSE(m_profile.WriteInt(L"U", L"n", 0x0706));
+  EXPECT_FALSE(m_profile.WriteInt(L"U", L"n", 0x07));
+  EXPECT_EQ(m_profile.GetInt(L"U", L"n", 0), 0x07);
+  EXPECT_FALSE(m_profile.WriteString(L"U", L"n", nullptr));
+  EXPECT_EQ(m_profile.GetInt(L"U", L"n", 3), 3);
+  fs::remove(m_folder + "/plain");
+  EXPECT_TRUE(m_profile.WriteInt(L"U", L"m", 1));
+}
+
+TEST(Clipboard, HoldsTextUntilItIsEmptied) {
+  coregui::EmptyClipboard();
+  CString text = L"before";
+  EXPECT_FALSE(coregui::GetClipboardText(text));
+  EXPECT_EQ(text, L"before");
+  EXPECT_TRUE(coregui::SetClipboardText(L"a\tb\n\u00E4\U0001F600"));
+  EXPECT_TRUE(coregui::GetClipboardText(text));
+  EXPECT_EQ(text, L"a\tb\n\u00E4\U0001F600");
+  coregui::EmptyClipboard();
+  EXPECT_FALSE(coregui::GetClipboardText(text));
+}
+
+}  // namespace
