@@ -18,7 +18,7 @@ class CScrollBar;
 namespace coregui {
 class NativeWindow;
 class WindowState;
-}
+}  // namespace coregui
 
 /// What a window is created with; PreCreateWindow may change it.
 struct CREATESTRUCT {
@@ -38,8 +38,8 @@ struct CREATESTRUCT {
 /// that needs no pixels works without one: text, style, id, parent and children, rectangle, enabled and
 /// visible state, the update region, timers' bookkeeping, messages.
 ///
-/// Whatever reaches a window (mouse, key, wheel, focus, timer, paint request, SendMessage) arrives as one call
-/// of WindowProc, which looks the message up in the class's message table and hands the rest to
+/// Whatever reaches a window (mouse, key, wheel, focus, timer, paint request, SendMessage) arrives as one
+/// call of WindowProc, which looks the message up in the class's message table and hands the rest to
 /// DefWindowProc. CWnd has no notification members of its own, so that a derived class's notifications
 /// neither hide nor clash.
 ///
@@ -64,8 +64,8 @@ class COREGUI_API CWnd : public CObject {
 
   /// Creates the native window. Sends WM_CREATE (a handler that answers -1 refuses), WM_SIZE and WM_MOVE.
   /// A child needs a parent whose native window exists. 0 when the window exists already or was refused.
-  virtual BOOL Create(const wchar_t* className, const wchar_t* name, DWORD style, const RECT& rect, CWnd* parent,
-                      UINT id);
+  virtual BOOL Create(const wchar_t* className, const wchar_t* name, DWORD style, const RECT& rect,
+                      CWnd* parent, UINT id);
   BOOL CreateEx(DWORD exStyle, const wchar_t* className, const wchar_t* name, DWORD style, const RECT& rect,
                 CWnd* parent, UINT id);
   /// Called before the native window is made; 0 refuses. The default allows.
@@ -168,7 +168,8 @@ class COREGUI_API CWnd : public CObject {
   void RedrawWindow();  ///< Invalidate and UpdateWindow
   /// Moves the pixels of `rect` (null: the client area) by (dx, dy) inside `clip` (null: the same) and
   /// invalidates what is uncovered. An update region inside moves along.
-  void ScrollWindow(int dx, int dy, const RECT* rect = nullptr, const RECT* clip = nullptr, BOOL erase = TRUE);
+  void ScrollWindow(int dx, int dy, const RECT* rect = nullptr, const RECT* clip = nullptr,
+                    BOOL erase = TRUE);
   /// Off: invalidations are recorded but no WM_PAINT is sent; on again: repaints what was invalid.
   void SetRedraw(BOOL redraw);
   /// Dots per surface dot of a logical pixel (1, 1.25, 2 ...).
@@ -196,6 +197,8 @@ class COREGUI_API CWnd : public CObject {
   const coregui::WindowState& State() const { return *m_state; }
 
  protected:
+  /// Sends WM_COMMAND with this window's id and `code` to the parent: what controls notify with.
+  LRESULT NotifyParent(int code);
   /// Inside a handler: the default handling of the message at hand, with its own parameters.
   LRESULT Default();
   static const coregui::MessageTable& Messages();
@@ -204,6 +207,14 @@ class COREGUI_API CWnd : public CObject {
   virtual std::unique_ptr<coregui::NativeWindow> MakeNative(const CREATESTRUCT& create);
 
  private:
+  BOOL CreateNative(const CREATESTRUCT& create, CWnd* family);
+  BOOL FinishCreation(bool show);
+  void DestroyChildren();
+  void ReleaseNative();
+  friend class coregui::NativeWindow;
+  void Place(const CRect& rect);
+  void PlaceChanged(const CRect& old);
+  void StackBelow(const CWnd* after);
   std::unique_ptr<coregui::WindowState> m_state;
 };
 

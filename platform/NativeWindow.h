@@ -46,7 +46,6 @@ class NativeWindow {
   virtual void Activate() = 0;
   /// Brings all mouse events here while on.
   virtual void Grab(bool on) = 0;
-  virtual void ShowCursor(HCURSOR cursor) = 0;
   virtual CPoint ClientOrigin() const = 0;  ///< of the client area on the screen
   virtual double Scale() const = 0;
   virtual void StartTimer(UINT id, UINT milliseconds) = 0;
@@ -56,8 +55,9 @@ class NativeWindow {
   virtual std::shared_ptr<DrawTarget> Target() = 0;
   /// Copies this part of the surface to the screen at the toolkit's next chance (empty: nothing).
   virtual void Expose(const CRect& rect) = 0;
-  /// Moves pixels of the surface, and the exposure with them.
-  virtual void MovePixels(const CRect& rect, const CRect& clip, int dx, int dy) = 0;
+  /// Moves the pixels of `rect` inside `clip`, and the exposure with them. False when they cannot be moved (a
+  /// fraction of a dot): nothing happened.
+  virtual bool MovePixels(const CRect& rect, const CRect& clip, int dx, int dy) = 0;
   /// Draws the window as it is shown (a control over a widget: the widget) at the context's origin.
   virtual void PrintTo(CDC& dc) = 0;
 
@@ -70,6 +70,8 @@ class NativeWindow {
 
  protected:
   NativeWindow() = default;
+  /// The toolkit moved the window (a person dragged its frame): takes the place over and tells the window.
+  static void NotePlace(CWnd& window, const CRect& rect);
 };
 
 /// A window that we paint ourselves: what CWnd::MakeNative gives. Null when the toolkit cannot start.

@@ -47,7 +47,8 @@ class WindowState {
   struct Update {
     Region region;  ///< client coordinates, inside the client area
     bool erase = false;
-    bool hold = false;  ///< SetRedraw(FALSE)
+    bool hold = false;    ///< SetRedraw(FALSE)
+    bool queued = false;  ///< waits in the paint queue
   } update;
 
   std::map<UINT, UINT> timers;  ///< id -> milliseconds

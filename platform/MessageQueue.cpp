@@ -1,0 +1,134 @@
+#include "platform/MessageQueue.h"
+
+#include <algorithm>
+#include <deque>
+#include <vector>
+
+#include "platform/CWnd.h"
+#include "platform/Toolkit.h"
+#include "platform/WindowState.h"
+
+namespace coregui {
+namespace {
+
+struct PostedMessage {
+  WindowRef window;
+  UINT message = 0;
+  WPARAM wParam = 0;
+  LPARAM lParam = 0;
+};
+
+std::deque<PostedMessage>& Posted() {
+  static std::deque<PostedMessage> queue;
+  return queue;
+}
+
+std::vector<WindowRef>& Dirty() {
+  static std::vector<WindowRef> windows;
+  return windows;
+}
+
+bool CanPaint(const CWnd& window) {
+  const WindowState& state = window.State();
+  return state.native != nullptr && !state.destroying && !state.update.hold &&
+         !state.update.region.IsEmpty() && window.IsWindowVisible();
+}
+
+bool IsQueued(UINT message) {
+  return (message >= WM_KEYDOWN && message <= WM_SYSKEYDOWN) ||
+         (message >= WM_MOUSEMOVE && message <= WM_MOUSEHWHEEL);
+}
+
+}  // namespace
+
+void QueueMessage(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam) {
+  Posted().push_back({WindowRef(&window), message, wParam, lParam});
+  WakeForMessages();
+}
+
+bool DeliverPosted() {
+  std::size_t count = Posted().size();
+  const bool any = count > 0;
+  // A handler may run a nested loop that takes messages out of the same queue.
+  for (; count > 0 && !Posted().empty(); --count) {
+    const PostedMessage next = Posted().front();
+    Posted().pop_front();
+    if (!Posted().empty()) {
+      WakeForMessages();
+    }
+    if (CWnd* window = next.window.Get()) {
+      TranslateAndSend(*window, next.message, next.wParam, next.lParam);
+    }
+  }
+  return any;
+}
+
+bool TranslateAndSend(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {
+  const WindowRef target(&window);
+  if (IsQueued(message)) {
+    MSG queued{window.GetSafeHwnd(), message, wParam, lParam};
+    for (WindowRef asked = target; CWnd* at = asked.Get();) {
+      const WindowRef next(at->GetParent());
+      if (at->PreTranslateMessage(&queued) != FALSE) {
+        return false;
+      }
+      asked = next;
+    }
+  }
+  if (CWnd* alive = target.Get()) {
+    const LRESULT answer = alive->SendMessage(message, wParam, lParam);
+    if (result != nullptr) {
+      *result = answer;
+    }
+  }
+  return true;
+}
+
+void QueuePaint(CWnd& window) {
+  WindowState& state = window.State();
+  if (state.native == nullptr || state.update.queued) {
+    return;
+  }
+  state.update.queued = true;
+  Dirty().emplace_back(&window);
+  WakeForPaint();
+}
+
+void QueuePaintTree(CWnd& window) {
+  if (!window.State().update.region.IsEmpty()) {
+    QueuePaint(window);
+  }
+  for (CWnd* child : window.State().family.children) {
+    QueuePaintTree(*child);
+  }
+}
+
+bool PaintPending() {
+  const std::vector<WindowRef> windows = std::exchange(Dirty(), {});
+  bool any = false;
+  for (const WindowRef& window : windows) {
+    if (CWnd* alive = window.Get()) {
+      alive->State().update.queued = false;
+    }
+  }
+  for (const WindowRef& window : windows) {
+    CWnd* alive = window.Get();
+    if (alive == nullptr || !CanPaint(*alive)) {
+      continue;
+    }
+    any = true;
+    alive->SendMessage(WM_PAINT);
+    if (window && CanPaint(*alive)) {
+      QueuePaint(*alive);
+    }
+  }
+  return any;
+}
+
+void PaintNow(CWnd& window) {
+  if (CanPaint(window)) {
+    window.SendMessage(WM_PAINT);
+  }
+}
+
+}  // namespace coregui

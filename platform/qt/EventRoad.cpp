@@ -1,0 +1,406 @@
+#include "platform/qt/EventRoad.h"
+
+#include <QApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QNativeGestureEvent>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/CWnd.h"
+#include "platform/KeyState.h"
+#include "platform/MessageQueue.h"
+#include "platform/WindowFocus.h"
+#include "platform/WindowState.h"
+#include "platform/qt/CursorTarget.h"
+#include "platform/qt/KeyCodes.h"
+
+namespace coregui {
+namespace {
+
+constexpr int kHitClient = 1;
+constexpr LPARAM kFirstPress = 1;
+constexpr LPARAM kHeldBefore = 0x40000000;
+constexpr LPARAM kReleased = static_cast<LPARAM>(0xC0000001);
+/// Pixels of a touchpad that reports no angles, for one notch.
+constexpr int kPixelsPerNotch = 40;
+
+void NoteModifiers(Qt::KeyboardModifiers modifiers) {
+  NoteKeyState(VK_SHIFT, (modifiers & Qt::ShiftModifier) != 0);
+  NoteKeyState(VK_CONTROL, (modifiers & Qt::ControlModifier) != 0);
+  NoteKeyState(VK_MENU, (modifiers & Qt::AltModifier) != 0);
+}
+
+void NoteButtons(Qt::MouseButtons buttons) {
+  NoteKeyState(VK_LBUTTON, (buttons & Qt::LeftButton) != 0);
+  NoteKeyState(VK_RBUTTON, (buttons & Qt::RightButton) != 0);
+  NoteKeyState(VK_MBUTTON, (buttons & Qt::MiddleButton) != 0);
+}
+
+UINT FlagsOf(Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers) {
+  UINT flags = 0;
+  if ((buttons & Qt::LeftButton) != 0) flags |= MK_LBUTTON;
+  if ((buttons & Qt::RightButton) != 0) flags |= MK_RBUTTON;
+  if ((buttons & Qt::MiddleButton) != 0) flags |= MK_MBUTTON;
+  if ((modifiers & Qt::ShiftModifier) != 0) flags |= MK_SHIFT;
+  if ((modifiers & Qt::ControlModifier) != 0) flags |= MK_CONTROL;
+  return flags;
+}
+
+/// 0 for a button that has no message.
+UINT MouseMessage(const QMouseEvent& event) {
+  if (event.type() == QEvent::MouseMove) {
+    return WM_MOUSEMOVE;
+  }
+  UINT down = 0;
+  switch (event.button()) {
+    case Qt::LeftButton:
+      down = WM_LBUTTONDOWN;
+      break;
+    case Qt::RightButton:
+      down = WM_RBUTTONDOWN;
+      break;
+    case Qt::MiddleButton:
+      down = WM_MBUTTONDOWN;
+      break;
+    default:
+      return 0;
+  }
+  if (event.type() == QEvent::MouseButtonPress) return down;
+  return event.type() == QEvent::MouseButtonRelease ? down + 1 : down + 2;
+}
+
+CWnd* EnabledAtOrAbove(CWnd* window) {
+  while (window != nullptr && window->IsWindowEnabled() == FALSE) {
+    window = window->GetParent();
+  }
+  return window;
+}
+
+CWnd* WindowOf(const QWidget* widget) {
+  const QtWindow* window = QtWindow::Of(widget);
+  return window == nullptr ? nullptr : &window->Window();
+}
+
+}  // namespace
+
+EventRoad::EventRoad(QtWindow& window, QWidget& receiver, QEvent& event)
+    : m_window(&window), m_receiver(receiver), m_event(event) {}
+
+bool EventRoad::Travel() {
+  switch (m_event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+      return Mouse(static_cast<QMouseEvent&>(m_event));
+    case QEvent::Wheel:
+      return Wheel(static_cast<QWheelEvent&>(m_event));
+    case QEvent::KeyPress:
+      return KeyDown(static_cast<QKeyEvent&>(m_event));
+    case QEvent::KeyRelease:
+      return KeyUp(static_cast<QKeyEvent&>(m_event));
+    case QEvent::InputMethod:
+      return InputMethod(static_cast<QInputMethodEvent&>(m_event));
+    case QEvent::NativeGesture:
+      return Pinch(static_cast<QNativeGestureEvent&>(m_event));
+    case QEvent::ContextMenu:
+      return ContextMenu();
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+      return FocusChange();
+    default:
+      return Other();
+  }
+}
+
+LRESULT EventRoad::Send(CWnd& target, UINT message, WPARAM wParam, LPARAM lParam, bool withEvent,
+                        bool* translated) {
+  QtWindow::InFlight flight{&m_receiver, &m_event, message, false};
+  QtWindow::InFlight* outer = m_window->m_inFlight;
+  const bool own = &target == &m_window->Window();
+  if (own && withEvent) {
+    m_window->m_inFlight = &flight;
+  }
+  LRESULT result = 0;
+  const bool sent = TranslateAndSend(target, message, wParam, lParam, &result);
+  if (translated != nullptr) {
+    *translated = sent;
+  }
+  if (IsAlive()) {
+    m_window->m_inFlight = outer;
+  }
+  return result;
+}
+
+CWnd* EventRoad::MouseTarget(const QPointF& global, bool mayLeave) const {
+  if (CWnd* capture = CWnd::GetCapture()) {
+    return capture;
+  }
+  CWnd* own = &m_window->Window();
+  // The toolkit keeps a drag with the widget that was pressed; without capture the window under the pointer
+  // gets the message. A widget with a behaviour of its own relies on the toolkit's rule.
+  if (mayLeave && !m_window->HasOwnBehaviour() &&
+      !m_receiver.rect().contains(m_receiver.mapFromGlobal(global.toPoint()))) {
+    own = WindowOf(QApplication::widgetAt(global.toPoint()));
+  }
+  return EnabledAtOrAbove(own);
+}
+
+bool EventRoad::Mouse(const QMouseEvent& event) {
+  NoteModifiers(event.modifiers());
+  NoteButtons(event.buttons());
+  const UINT message = MouseMessage(event);
+  m_event.accept();
+  const QPointF global = m_receiver.mapToGlobal(event.position());
+  const bool mayLeave = message == WM_MOUSEMOVE || event.type() == QEvent::MouseButtonRelease;
+  CWnd* target = message == 0 ? nullptr : MouseTarget(global, mayLeave);
+  if (target == nullptr) {
+    return true;
+  }
+  const WindowRef targetRef(target);
+  POINT client{static_cast<LONG>(std::floor(global.x())), static_cast<LONG>(std::floor(global.y()))};
+  target->ScreenToClient(&client);
+  if (message == WM_MOUSEMOVE && CWnd::GetCapture() == nullptr) {
+    SetCursorTarget(static_cast<QWidget*>(target->State().native->Widget()));
+    target->SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(target->GetSafeHwnd()),
+                        MAKELPARAM(kHitClient, static_cast<int>(message)));
+  }
+  if (IsAlive() && targetRef) {
+    Send(*target, message, FlagsOf(event.buttons(), event.modifiers()), MAKELPARAM(client.x, client.y), true);
+  }
+  return true;
+}
+
+bool EventRoad::Wheel(QWheelEvent& event) {
+  NoteModifiers(event.modifiers());
+  m_event.accept();
+  if (Pan(event)) {
+    return true;
+  }
+  QPoint delta = event.angleDelta();
+  if (delta.isNull()) {
+    delta = event.pixelDelta() * WHEEL_DELTA / kPixelsPerNotch;
+  }
+  bool used = true;
+  if (delta.y() != 0) {
+    used = WheelAxis(event, false, delta.y());
+  }
+  if (delta.x() != 0 && IsAlive()) {
+    used = WheelAxis(event, true, -delta.x()) || used;
+  }
+  if (!used && IsAlive()) {
+    IgnoreForHost();
+  }
+  return true;
+}
+
+bool EventRoad::WheelAxis(const QWheelEvent& event, bool horizontal, int delta) {
+  int notches = m_window->m_wheel[horizontal ? 1 : 0].Add(delta);
+  const int step = notches < 0 ? -1 : 1;
+  const UINT flags = FlagsOf(event.buttons(), event.modifiers());
+  const QPoint screen = m_receiver.mapToGlobal(event.position()).toPoint();
+  bool used = true;
+  for (; notches != 0 && IsAlive(); notches -= step) {
+    CWnd* target = EnabledAtOrAbove(&m_window->Window());
+    if (target == nullptr) {
+      return true;
+    }
+    used = Send(*target, horizontal ? WM_MOUSEHWHEEL : WM_MOUSEWHEEL,
+                MAKEWPARAM(static_cast<int>(flags), step * WHEEL_DELTA), MAKELPARAM(screen.x(), screen.y()),
+                true) != 0;
+  }
+  return used;
+}
+
+bool EventRoad::Pan(const QWheelEvent& event) {
+  const bool touchpad = !event.pixelDelta().isNull() && event.phase() != Qt::NoScrollPhase;
+  CWnd& window = m_window->Window();
+  if (!touchpad || window.SendMessage(WM_COREGUI_WANTPAN) != 1 || !IsAlive()) {
+    return !IsAlive();
+  }
+  Send(window, WM_COREGUI_PAN, FlagsOf(event.buttons(), event.modifiers()),
+       MAKELPARAM(event.pixelDelta().x(), event.pixelDelta().y()), true);
+  return true;
+}
+
+bool EventRoad::Pinch(const QNativeGestureEvent& event) {
+  if (event.gestureType() != Qt::ZoomNativeGesture) {
+    return false;
+  }
+  m_event.accept();
+  const QPoint at = event.position().toPoint();
+  const double factor = std::max(0.0, 1.0 + event.value());
+  Send(m_window->Window(), WM_COREGUI_PINCH, static_cast<WPARAM>(std::lround(factor * 65536.0)),
+       MAKELPARAM(at.x(), at.y()), true);
+  return true;
+}
+
+bool EventRoad::KeyDown(const QKeyEvent& event) {
+  const UINT key = VirtualKeyOf(event);
+  NoteModifiers(event.modifiers());
+  if (key != 0) NoteKeyState(key, true);
+  m_event.accept();
+  const std::wstring characters = CharactersOf(event);
+  const bool system =
+      (event.modifiers() & Qt::AltModifier) != 0 && (event.modifiers() & Qt::ControlModifier) == 0;
+  bool translate = true;
+  bool unused = false;
+  if (key != 0) {
+    const LPARAM detail = kFirstPress | (event.isAutoRepeat() ? kHeldBefore : 0);
+    CWnd& window = m_window->Window();
+    Send(window, system ? WM_SYSKEYDOWN : WM_KEYDOWN, key, detail, characters.empty(), &translate);
+    unused = translate && IsAlive() && window.GetMessageTable().Find(WM_KEYDOWN, 0) == nullptr;
+  }
+  if (translate && !characters.empty() && IsAlive()) {
+    Typed(characters);
+    unused = unused && IsAlive() && m_window->Window().GetMessageTable().Find(WM_CHAR, 0) == nullptr;
+  }
+  if (unused && IsAlive() && !m_window->HasOwnBehaviour()) {
+    IgnoreForHost();
+  }
+  return true;
+}
+
+bool EventRoad::Typed(const std::wstring& characters) {
+  for (const wchar_t character : characters) {
+    if (!IsAlive()) return true;
+    // Focus may have moved with the key; the character goes where the key went.
+    Send(m_window->Window(), WM_CHAR, static_cast<WPARAM>(character), kFirstPress, true);
+  }
+  return true;
+}
+
+bool EventRoad::KeyUp(const QKeyEvent& event) {
+  const UINT key = VirtualKeyOf(event);
+  NoteModifiers(event.modifiers());
+  m_event.accept();
+  if (event.isAutoRepeat()) {
+    return true;  // a held key is pressed again and again, and released once
+  }
+  if (key != 0) {
+    NoteKeyState(key, false);
+    Send(m_window->Window(), WM_KEYUP, key, kReleased, true);
+  }
+  return true;
+}
+
+bool EventRoad::InputMethod(QInputMethodEvent& event) {
+  const std::wstring committed = event.commitString().toStdWString();
+  if (!m_window->HasOwnBehaviour()) {
+    m_event.accept();
+    return Typed(committed);
+  }
+  // The widget composes by itself; of what is committed it gets the characters that the handlers leave over.
+  std::wstring left;
+  for (const wchar_t character : committed) {
+    QtWindow::InFlight flight{nullptr, nullptr, WM_CHAR, true};
+    QtWindow::InFlight* outer = std::exchange(m_window->m_inFlight, &flight);
+    flight.delivered = false;
+    QKeyEvent probe(QEvent::None, 0, Qt::NoModifier);
+    flight.event = &probe;
+    flight.receiver = &m_receiver;
+    TranslateAndSend(m_window->Window(), WM_CHAR, static_cast<WPARAM>(character), kFirstPress);
+    if (!IsAlive()) return true;
+    m_window->m_inFlight = outer;
+    if (flight.delivered) left += character;
+  }
+  if (left == committed) {
+    return false;
+  }
+  event.setCommitString(QString::fromStdWString(left), event.replacementStart(), event.replacementLength());
+  return false;
+}
+
+bool EventRoad::ContextMenu() {
+  m_event.accept();
+  if (!m_window->HasOwnBehaviour()) {
+    return true;  // comes from the button or the key itself
+  }
+  const auto& event = static_cast<QContextMenuEvent&>(m_event);
+  const bool byKey = event.reason() == QContextMenuEvent::Keyboard;
+  const CPoint at = byKey ? CPoint(-1, -1) : CPoint(event.globalPos().x(), event.globalPos().y());
+  CWnd& window = m_window->Window();
+  Send(window, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(window.GetSafeHwnd()), MAKELPARAM(at.x, at.y), true);
+  return true;
+}
+
+bool EventRoad::FocusChange() {
+  const auto reason = static_cast<QFocusEvent&>(m_event).reason();
+  if (reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason) {
+    return false;  // a menu borrows the keys; the focus stays
+  }
+  CWnd* own = &m_window->Window();
+  if (m_event.type() == QEvent::FocusIn) {
+    MoveFocus(own);
+  } else if (CWnd::GetFocus() == own) {
+    MoveFocus(WindowOf(QApplication::focusWidget()));
+  }
+  return !IsAlive();
+}
+
+bool EventRoad::Close() {
+  if (!m_window->IsTopLevel()) {
+    return false;
+  }
+  m_event.ignore();
+  m_window->Window().SendMessage(WM_CLOSE);
+  return true;
+}
+
+void EventRoad::Leave() {
+  CWnd& window = m_window->Window();
+  if (window.State().tracksLeave) {
+    window.State().tracksLeave = false;
+    window.SendMessage(WM_MOUSELEAVE);
+  }
+}
+
+bool EventRoad::Other() {
+  if (&m_receiver == m_window->m_widget) {
+    switch (m_event.type()) {
+      case QEvent::Close:
+        return Close();
+      case QEvent::Leave:
+        Leave();
+        break;
+      case QEvent::Move:
+      case QEvent::Resize:
+        m_window->NoteWidgetSize();
+        m_window->NoteGeometry();
+        break;
+      case QEvent::Show:
+        m_window->NoteGeometry();
+        if (IsAlive()) m_window->NoteScale();
+        if (IsAlive()) QueuePaintTree(m_window->Window());
+        break;
+      case QEvent::ScreenChangeInternal:
+        m_window->NoteScale();
+        break;
+      case QEvent::WindowActivate:
+        if (m_window->IsTopLevel()) MoveActivation(&m_window->Window(), false);
+        break;
+      case QEvent::WindowDeactivate:
+        if (m_window->IsTopLevel() && CWnd::GetActiveWindow() == &m_window->Window()) {
+          MoveActivation(WindowOf(QApplication::activeWindow()), false);
+        }
+        break;
+      default:
+        break;
+    }
+  }
+  return !IsAlive() || m_window->FilterOther(m_receiver, m_event);
+}
+
+void EventRoad::IgnoreForHost() {
+  const QWidget* widget = m_window->GetWidget();
+  if (m_window->Window().GetParent() == nullptr && widget != nullptr && widget->parentWidget() != nullptr &&
+      !widget->isWindow()) {
+    m_event.ignore();
+  }
+}
+
+}  // namespace coregui

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QEvent>
+#include <QPointer>
+
+#include "platform/Geometry.h"
+#include "platform/WindowRef.h"
+#include "platform/qt/QtWindow.h"
+
+namespace coregui {
+
+/// The one road from an event of the toolkit to the messages of a window. Made for one event.
+class EventRoad {
+ public:
+  EventRoad(QtWindow& window, QWidget& receiver, QEvent& event);
+  /// True when the event is dealt with and the widget must not see it (again).
+  bool Travel();
+
+ private:
+  bool Mouse(const QMouseEvent& event);
+  bool Wheel(QWheelEvent& event);
+  bool WheelAxis(const QWheelEvent& event, bool horizontal, int delta);
+  bool Pan(const QWheelEvent& event);
+  bool KeyDown(const QKeyEvent& event);
+  bool KeyUp(const QKeyEvent& event);
+  bool Typed(const std::wstring& characters);
+  bool InputMethod(QInputMethodEvent& event);
+  bool Pinch(const QNativeGestureEvent& event);
+  bool ContextMenu();
+  bool FocusChange();
+  bool Other();
+  bool Close();
+  void Leave();
+
+  /// Sends a message to `target`, with the event behind it if that is this window.
+  LRESULT Send(CWnd& target, UINT message, WPARAM wParam, LPARAM lParam, bool withEvent,
+               bool* translated = nullptr);
+  CWnd* MouseTarget(const QPointF& global, bool mayLeave) const;
+  void IgnoreForHost();
+  bool IsAlive() const { return !m_window.isNull(); }
+
+  QPointer<QtWindow> m_window;  ///< null once a handler destroyed the window
+  QWidget& m_receiver;
+  QEvent& m_event;
+};
+
+}  // namespace coregui

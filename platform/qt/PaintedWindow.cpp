@@ -1,0 +1,127 @@
+#include "platform/qt/PaintedWindow.h"
+
+#include <QKeyEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include "platform/CDC.h"
+#include "platform/CWnd.h"
+#include "platform/Toolkit.h"
+#include "platform/WindowState.h"
+#include "platform/qt/Application.h"
+#include "platform/qt/Pump.h"
+
+namespace coregui {
+namespace {
+
+/// Shows a surface. Painting it copies pixels and calls nothing of the library.
+class SurfaceWidget : public QWidget {
+ public:
+  explicit SurfaceWidget(std::shared_ptr<Surface> surface) : m_surface(std::move(surface)) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_NoSystemBackground);
+    setAttribute(Qt::WA_InputMethodEnabled);
+    setFocusPolicy(Qt::NoFocus);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QPainter painter(this);
+    for (const QRect& part : event->region()) {
+      m_surface->Expose(painter,
+                        {part.left(), part.top(), part.left() + part.width(), part.top() + part.height()});
+    }
+  }
+
+ private:
+  std::shared_ptr<Surface> m_surface;
+};
+
+CSize SizeOf(const CREATESTRUCT& create) {
+  return {create.width, create.height};
+}
+
+}  // namespace
+
+std::unique_ptr<NativeWindow> MakePaintedWindow(CWnd& window, const CREATESTRUCT& create) {
+  EnsureApplication();
+  return std::make_unique<PaintedWindow>(window, create);
+}
+
+PaintedWindow::PaintedWindow(CWnd& window, const CREATESTRUCT& create)
+    : PaintedWindow(window, create, std::make_shared<Surface>(SizeOf(create), 1.0)) {}
+
+PaintedWindow::PaintedWindow(CWnd& window, const CREATESTRUCT& create,
+                             const std::shared_ptr<Surface>& surface)
+    : QtWindow(window, create, std::make_unique<SurfaceWidget>(surface)),
+      m_surface(surface),
+      m_target(std::make_shared<RasterTarget>(surface)) {
+  m_surface->onDamage = [this] { Pump::Get().QueueExposure(this); };
+  FitSurface(SizeOf(create), QtWindow::Scale());
+}
+
+PaintedWindow::~PaintedWindow() {
+  m_surface->onDamage = nullptr;
+}
+
+void PaintedWindow::FitSurface(CSize size, double scale) {
+  if (size == m_surface->Size() && scale == m_surface->Scale()) {
+    return;
+  }
+  const bool rescaled = scale != m_surface->Scale();
+  m_surface->Resize(size, scale);
+  if (rescaled) {
+    m_target = std::make_shared<RasterTarget>(m_surface);
+    Window().Invalidate();
+  }
+}
+
+void PaintedWindow::Move(const CRect& rect) {
+  FitSurface(rect.Size(), m_surface->Scale());
+  QtWindow::Move(rect);
+}
+
+void PaintedWindow::NoteScale() {
+  const double scale = QtWindow::Scale();
+  if (scale == m_surface->Scale()) {
+    return;
+  }
+  FitSurface(m_surface->Size(), scale);
+  const int dots = Window().GetDpi();
+  Window().SendMessage(WM_DPICHANGED, MAKEWPARAM(dots, dots));
+}
+
+void PaintedWindow::NoteWidgetSize() {
+  if (GetWidget() != nullptr && GetWidget()->isVisible()) {
+    FitSurface({GetWidget()->width(), GetWidget()->height()}, m_surface->Scale());
+  }
+}
+
+void PaintedWindow::Expose(const CRect& /*rect*/) {
+  const CRect damage = m_surface->TakeDamage();
+  if (!damage.IsRectEmpty()) {
+    QtWindow::Expose(damage);
+  }
+}
+
+bool PaintedWindow::MovePixels(const CRect& rect, const CRect& clip, int dx, int dy) {
+  return m_surface->MovePixels(rect, dx, dy, clip);
+}
+
+void PaintedWindow::PrintTo(CDC& dc) {
+  CClientDC source(&Window());
+  const CSize size = m_surface->Size();
+  dc.BitBlt(0, 0, size.cx, size.cy, &source, 0, 0, SRCCOPY);
+}
+
+bool PaintedWindow::FilterOther(QWidget& /*receiver*/, QEvent& event) {
+  if (event.type() == QEvent::ShortcutOverride) {
+    // Characters typed into the window are for the window, not for single-key commands of a host program.
+    auto& key = static_cast<QKeyEvent&>(event);
+    const bool plain = (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
+    if (plain && !key.text().isEmpty() && key.text().at(0).isPrint()) event.accept();
+  }
+  return false;
+}
+
+}  // namespace coregui

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/qt/QtWindow.h"
+#include "platform/qt/RasterTarget.h"
+#include "platform/qt/Surface.h"
+
+namespace coregui {
+
+/// A window that we paint: its retained surface, and the widget that shows it.
+class PaintedWindow : public QtWindow {
+ public:
+  PaintedWindow(CWnd& window, const CREATESTRUCT& create);
+  ~PaintedWindow() override;
+
+  void Move(const CRect& rect) override;
+  std::shared_ptr<DrawTarget> Target() override { return m_target; }
+  double Scale() const override { return m_surface->Scale(); }
+  void Expose(const CRect& rect) override;
+  bool MovePixels(const CRect& rect, const CRect& clip, int dx, int dy) override;
+  void PrintTo(CDC& dc) override;
+
+ protected:
+  bool HasOwnBehaviour() const override { return false; }
+  void NoteScale() override;
+  void NoteWidgetSize() override;
+  bool FilterOther(QWidget& receiver, QEvent& event) override;
+
+ private:
+  PaintedWindow(CWnd& window, const CREATESTRUCT& create, const std::shared_ptr<Surface>& surface);
+  void FitSurface(CSize size, double scale);
+
+  std::shared_ptr<Surface> m_surface;
+  std::shared_ptr<RasterTarget> m_target;
+};
+
+}  // namespace coregui

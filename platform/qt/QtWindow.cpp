@@ -1,0 +1,311 @@
+#include "platform/qt/QtWindow.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QImage>
+#include <QPainter>
+#include <QTimerEvent>
+#include <algorithm>
+#include <unordered_map>
+
+#include "platform/CDC.h"
+#include "platform/CWnd.h"
+#include "platform/WindowState.h"
+#include "platform/qt/EventRoad.h"
+#include "platform/qt/SyntheticEvents.h"
+
+namespace coregui {
+namespace {
+
+std::unordered_map<const QObject*, QtWindow*>& Windows() {
+  static std::unordered_map<const QObject*, QtWindow*> windows;
+  return windows;
+}
+
+QWidget* WidgetOf(const CWnd* window) {
+  return window == nullptr || window->State().native == nullptr
+             ? nullptr
+             : static_cast<QWidget*>(window->State().native->Widget());
+}
+
+QRect ToQt(const CRect& rect) {
+  return {rect.left, rect.top, rect.Width(), rect.Height()};
+}
+
+/// A widget may be in the middle of an event: it goes when the event loop is back.
+void PutAway(QWidget* widget) {
+  QWidget* focus = QApplication::focusWidget();
+  if (focus != nullptr && (focus == widget || widget->isAncestorOf(focus))) {
+    focus->clearFocus();
+  }
+  if (QWidget::mouseGrabber() == widget) {
+    widget->releaseMouse();
+  }
+  widget->hide();
+  widget->setParent(nullptr);
+  widget->deleteLater();
+}
+
+}  // namespace
+
+QtWindow::QtWindow(CWnd& window, const CREATESTRUCT& create, std::unique_ptr<QWidget> widget)
+    : m_window(window), m_widget(widget.release()) {
+  Windows()[m_widget] = this;
+  QWidget* parent = WidgetOf((create.style & WS_CHILD) != 0 ? CWnd::FromHandle(create.parent)
+                                                            : window.State().family.owner.Get());
+  m_widget->setParent(parent, FlagsOf(create.style));
+  m_widget->setMouseTracking(true);
+  m_widget->setGeometry(ToQt(window.State().look.rect));
+  m_widget->setEnabled((create.style & WS_DISABLED) == 0);
+  m_widget->setWindowTitle(QString::fromWCharArray(create.name));
+  m_widget->setAccessibleName(QString::fromStdWString(window.State().look.accessibleName.Str()));
+  m_widget->installEventFilter(this);
+  connect(m_widget, &QObject::destroyed, this, &QtWindow::WidgetLost);
+}
+
+QtWindow::~QtWindow() {
+  for (auto entry = Windows().begin(); entry != Windows().end();) {
+    entry = entry->second == this ? Windows().erase(entry) : std::next(entry);
+  }
+  if (m_widget != nullptr) {
+    disconnect(m_widget, nullptr, this, nullptr);
+    m_widget->removeEventFilter(this);
+    PutAway(m_widget);
+  }
+}
+
+QtWindow* QtWindow::Of(const QWidget* widget) {
+  for (const QWidget* at = widget; at != nullptr; at = at->parentWidget()) {
+    const auto found = Windows().find(at);
+    if (found != Windows().end()) return found->second;
+    if (at->isWindow()) return nullptr;
+  }
+  return nullptr;
+}
+
+void QtWindow::Watch(QWidget* inner) {
+  Windows()[inner] = this;
+  inner->installEventFilter(this);
+  connect(inner, &QObject::destroyed, this, [inner] { Windows().erase(inner); });
+}
+
+void QtWindow::WidgetLost() {
+  for (auto entry = Windows().begin(); entry != Windows().end();) {
+    entry = entry->second == this ? Windows().erase(entry) : std::next(entry);
+  }
+  m_widget = nullptr;
+  m_window.DestroyWindow();
+}
+
+bool QtWindow::IsTopLevel() const {
+  return (m_window.GetStyle() & WS_CHILD) == 0;
+}
+
+Qt::WindowFlags QtWindow::FlagsOf(DWORD style) const {
+  if ((style & WS_CHILD) != 0) {
+    return Qt::Widget;
+  }
+  if ((style & WS_CAPTION) != WS_CAPTION && (style & WS_POPUP) != 0) {
+    return Qt::Tool | Qt::FramelessWindowHint;
+  }
+  return (style & WS_POPUP) != 0 ? Qt::Dialog : Qt::Window;
+}
+
+void QtWindow::Move(const CRect& rect) {
+  if (m_widget != nullptr) m_widget->setGeometry(ToQt(rect));
+}
+
+void QtWindow::Show(int command) {
+  if (m_widget == nullptr) {
+    return;
+  }
+  m_widget->setAttribute(Qt::WA_ShowWithoutActivating, command == SW_SHOWNOACTIVATE);
+  switch (command) {
+    case SW_HIDE:
+      m_widget->hide();
+      break;
+    case SW_SHOWMAXIMIZED:
+      m_widget->showMaximized();
+      break;
+    case SW_MINIMIZE:
+      m_widget->showMinimized();
+      break;
+    case SW_SHOWNORMAL:
+      m_widget->showNormal();
+      break;
+    default:
+      m_widget->show();
+      break;
+  }
+}
+
+void QtWindow::Enable(bool enable) {
+  if (m_widget != nullptr) m_widget->setEnabled(enable);
+}
+
+void QtWindow::SetText(const CString& text) {
+  if (m_widget != nullptr) m_widget->setWindowTitle(QString::fromStdWString(text.Str()));
+}
+
+bool QtWindow::ReadText(CString& /*text*/) const {
+  return false;
+}
+
+void QtWindow::SetAccessibleName(const CString& name) {
+  if (m_widget != nullptr) m_widget->setAccessibleName(QString::fromStdWString(name.Str()));
+}
+
+void QtWindow::SetFont(const CFont* /*font*/) {}
+
+void QtWindow::SetParent(NativeWindow* parent) {
+  if (m_widget == nullptr) {
+    return;
+  }
+  const bool shown = (m_window.GetStyle() & WS_VISIBLE) != 0;
+  const QRect place = m_widget->geometry();
+  QWidget* under = parent == nullptr ? nullptr : static_cast<QWidget*>(parent->Widget());
+  m_widget->setParent(
+      under, under != nullptr ? Qt::WindowFlags(Qt::Widget) : FlagsOf(m_window.GetStyle() & ~WS_CHILD));
+  m_widget->setGeometry(place);
+  m_widget->setVisible(shown);
+}
+
+void QtWindow::Raise() {
+  if (m_widget != nullptr) m_widget->raise();
+}
+
+void QtWindow::StackUnder(NativeWindow& sibling) {
+  auto* other = static_cast<QWidget*>(sibling.Widget());
+  if (m_widget != nullptr && other != nullptr) m_widget->stackUnder(other);
+}
+
+void QtWindow::StyleChanged() {}
+
+void QtWindow::TakeFocus() {
+  if (m_widget == nullptr) {
+    return;
+  }
+  if (m_widget->isVisible() && !m_widget->isActiveWindow()) {
+    m_widget->activateWindow();
+  }
+  m_widget->setFocus(Qt::OtherFocusReason);
+}
+
+void QtWindow::Activate() {
+  if (m_widget != nullptr) {
+    m_widget->raise();
+    m_widget->activateWindow();
+  }
+}
+
+void QtWindow::Grab(bool on) {
+  if (m_widget == nullptr || !m_widget->isVisible()) {
+    return;
+  }
+  // While a button is down the toolkit keeps the mouse with the widget that was pressed, and EventRoad brings
+  // its events to the capturing window.
+  if (on && QApplication::mouseButtons() == Qt::NoButton) {
+    m_widget->grabMouse();
+  } else if (!on && QWidget::mouseGrabber() == m_widget) {
+    m_widget->releaseMouse();
+  }
+}
+
+CPoint QtWindow::ClientOrigin() const {
+  if (m_widget == nullptr) {
+    return m_window.State().look.rect.TopLeft();
+  }
+  const QPoint origin = m_widget->mapToGlobal(QPoint(0, 0));
+  return {origin.x(), origin.y()};
+}
+
+double QtWindow::Scale() const {
+  return m_widget == nullptr ? 1.0 : m_widget->devicePixelRatioF();
+}
+
+void QtWindow::StartTimer(UINT id, UINT milliseconds) {
+  m_timers[id].start(static_cast<int>(std::min<UINT>(milliseconds, 0x7FFFFFFF)), this);
+}
+
+void QtWindow::StopTimer(UINT id) {
+  m_timers.erase(id);
+}
+
+void QtWindow::timerEvent(QTimerEvent* event) {
+  const auto timer = std::find_if(m_timers.begin(), m_timers.end(), [event](const auto& entry) {
+    return entry.second.timerId() == event->timerId();
+  });
+  if (timer != m_timers.end()) {
+    m_window.SendMessage(WM_TIMER, timer->first);
+  }
+}
+
+void QtWindow::Expose(const CRect& rect) {
+  if (m_widget != nullptr) m_widget->update(ToQt(rect));
+}
+
+bool QtWindow::MovePixels(const CRect& /*rect*/, const CRect& clip, int /*dx*/, int /*dy*/) {
+  Expose(clip);
+  return true;
+}
+
+void QtWindow::PrintTo(CDC& dc) {
+  if (m_widget == nullptr) {
+    return;
+  }
+  const CRect place = m_window.GetClientRectangle();
+  QImage picture(m_widget->size() * Scale(), QImage::Format_ARGB32);
+  picture.setDevicePixelRatio(Scale());
+  picture.fill(Qt::transparent);
+  m_widget->render(&picture, QPoint(), QRegion(), QWidget::RenderFlags());
+  std::vector<DWORD> pixels;
+  pixels.reserve(static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(picture.height()));
+  for (int y = 0; y < picture.height(); ++y) {
+    const auto* row = reinterpret_cast<const DWORD*>(picture.constScanLine(y));
+    pixels.insert(pixels.end(), row, row + picture.width());
+  }
+  CBitmap bitmap;
+  if (bitmap.CreateFromPixels(picture.width(), picture.height(), pixels) != FALSE) {
+    dc.StretchBitmap(bitmap, place);
+  }
+}
+
+bool QtWindow::DefaultMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
+  if (!HasOwnBehaviour() || m_widget == nullptr) {
+    return false;
+  }
+  result = 0;
+  if (m_inFlight != nullptr && m_inFlight->message == message) {
+    if (!m_inFlight->delivered) {
+      m_inFlight->delivered = true;
+      static_cast<QObject*>(m_inFlight->receiver)->event(m_inFlight->event);
+    }
+    return !IsWheel(message) || m_inFlight->event->isAccepted();
+  }
+  if (m_inFlight != nullptr && IsInput(message)) {
+    return true;  // the other half of an event that the widget gets as a whole
+  }
+  return GiveAsEvent(*m_widget, message, wParam, lParam) || message == WM_PAINT || message == WM_ERASEBKGND ||
+         message == WM_SETCURSOR;
+}
+
+bool QtWindow::FilterOther(QWidget& /*receiver*/, QEvent& /*event*/) {
+  return false;
+}
+
+bool QtWindow::eventFilter(QObject* receiver, QEvent* event) {
+  if (!receiver->isWidgetType() || m_widget == nullptr) {
+    return false;
+  }
+  return EventRoad(*this, *static_cast<QWidget*>(receiver), *event).Travel();
+}
+
+void QtWindow::NoteGeometry() {
+  const QRect place = m_widget->geometry();
+  const CRect rect(place.left(), place.top(), place.left() + place.width(), place.top() + place.height());
+  if (m_widget->isVisible() && !(rect == m_window.State().look.rect)) {
+    NotePlace(m_window, rect);
+  }
+}
+
+}  // namespace coregui
