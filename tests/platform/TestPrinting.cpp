@@ -1,0 +1,115 @@
+// Pages to PDF and SVG.
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <cmath>
+
+#include "platform/CPrinterDC.h"
+
+namespace {
+
+class Printing : public testing::Test {
+ protected:
+  QTemporaryDir folder;
+  CString Path(const char* name) const { return CString(folder.filePath(name).toStdWString()); }
+  QByteArray Content(const char* name) const {
+    QFile file(folder.filePath(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+};
+
+void DrawSheet(CDC& dc, const wchar_t* text) {
+  CFont font;
+  font.CreatePointFont(120, L"");
+  dc.SelectObject(&font);
+  dc.SetBkMode(TRANSPARENT);
+  dc.TextOut(600, 600, text, -1);
+  dc.MoveTo(600, 1000);
+  dc.LineTo(1200, 1000);
+  dc.FillSolidRect(CRect(600, 1200, 900, 1300), RGB(0, 0, 255));
+  dc.SelectStockObject(StockObject::systemFont);
+}
+
+TEST_F(Printing, Pdf_HasTheSheetsItsSizeAndItsText) {
+  const CString path = Path("plot.pdf");
+  CPrinterDC dc(PrintOutput::pdf, path, {420.0, 297.0, 600});
+  EXPECT_EQ(dc.GetDeviceCaps(LOGPIXELSX), 600);
+  EXPECT_EQ(dc.GetDeviceCaps(HORZRES), static_cast<int>(std::lround(420.0 / 25.4 * 600)));
+  CFont font;
+  font.CreatePointFont(120, L"");
+  dc.SelectObject(&font);
+  TEXTMETRIC metrics;
+  dc.GetTextMetrics(&metrics);
+  EXPECT_GE(metrics.tmHeight, 100) << "12 points are 100 dots";
+  EXPECT_LE(metrics.tmHeight, 150);
+  dc.SelectStockObject(StockObject::systemFont);
+
+  EXPECT_FALSE(dc.StartPage()) << "no document yet";
+  ASSERT_TRUE(dc.StartDoc(L"Long section"));
+  EXPECT_FALSE(dc.StartDoc(L"again"));
+  dc.TextOut(0, 0, L"dropped", -1);
+  EXPECT_TRUE(dc.StartPage());
+  DrawSheet(dc, L"Sheet one");
+  EXPECT_TRUE(dc.EndPage());
+  EXPECT_TRUE(dc.StartPage());
+  DrawSheet(dc, L"Sheet two");
+  EXPECT_TRUE(dc.EndPage());
+  EXPECT_FALSE(dc.EndPage());
+  EXPECT_TRUE(dc.EndDoc());
+  EXPECT_FALSE(dc.EndDoc());
+
+  const QByteArray pdf = Content("plot.pdf");
+  const QRegularExpression box(R"(/MediaBox \[0 0 ([\d.]+) ([\d.]+)\])");
+  const QRegularExpressionMatch match = box.match(QString::fromLatin1(pdf));
+  ASSERT_TRUE(match.hasMatch());
+  EXPECT_NEAR(match.captured(1).toDouble(), 420.0 / 25.4 * 72.0, 1.0);
+  EXPECT_NEAR(match.captured(2).toDouble(), 297.0 / 25.4 * 72.0, 1.0);
+  if (QStandardPaths::findExecutable("pdftotext").isEmpty()) {
+    GTEST_SKIP() << "pdftotext is not installed: the text is not checked";
+  }
+  QProcess reader;
+  reader.start("pdftotext", {folder.filePath("plot.pdf"), "-"});
+  ASSERT_TRUE(reader.waitForFinished());
+  const QByteArray text = reader.readAllStandardOutput();
+  EXPECT_TRUE(text.contains("Sheet one") && text.contains("Sheet two")) << text.constData();
+  EXPECT_FALSE(text.contains("dropped"));
+}
+
+TEST_F(Printing, Svg_IsOneFileASheet) {
+  const CString path = Path("plot.svg");
+  CPrinterDC dc(PrintOutput::svg, path, {210.0, 297.0, 96});
+  ASSERT_TRUE(dc.StartDoc(L"Plan"));
+  ASSERT_TRUE(dc.StartPage());
+  DrawSheet(dc, L"First");
+  EXPECT_TRUE(dc.EndPage());
+  ASSERT_TRUE(dc.StartPage());
+  DrawSheet(dc, L"Second");
+  EXPECT_TRUE(dc.EndDoc()) << "ends the open page too";
+  EXPECT_TRUE(Content("plot.svg").contains("First"));
+  EXPECT_TRUE(Content("plot-2.svg").contains("Second"));
+  EXPECT_TRUE(Content("plot.svg").contains("viewBox=\"0 0 794 1123\""));
+  EXPECT_TRUE(Content("plot.svg").contains("width=\"210"));
+}
+
+TEST_F(Printing, Failures_AreReported) {
+  const CString nowhere = Path("no/such/folder/plot.pdf");
+  CPrinterDC dc(PrintOutput::pdf, nowhere);
+  EXPECT_FALSE(dc.StartDoc(L"x"));
+  EXPECT_FALSE(dc.EndDoc());
+  CPrinterDC printer(PrintOutput::printer, L"no such printer at all");
+  EXPECT_FALSE(printer.StartDoc(L"x"));
+  const CString dropped = Path("dropped.pdf");
+  CPrinterDC aborted(PrintOutput::pdf, dropped);
+  ASSERT_TRUE(aborted.StartDoc(L"x"));
+  ASSERT_TRUE(aborted.StartPage());
+  aborted.AbortDoc();
+  EXPECT_FALSE(QFile::exists(folder.filePath("dropped.pdf")));
+}
+
+}  // namespace

@@ -1,0 +1,301 @@
+// Text on a raster: the cached glyphs against the toolkit's own drawing, extents, fonts.
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "platform/CDC.h"
+#include "platform/FontFamilies.h"
+#include "platform/qt/GlyphRow.h"
+#include "platform/qt/RasterTarget.h"
+
+namespace {
+
+/// Draws every text by the toolkit's layout.
+class ShapedTarget : public coregui::RasterTarget {
+ public:
+  using RasterTarget::RasterTarget;
+  void Text(const coregui::DrawAttributes& with, int x, int y, const wchar_t* text, int length) override {
+    TextByPainter(with, x, y, text, length);
+  }
+};
+
+template <typename Device>
+class TargetDC : public CDC {
+ public:
+  explicit TargetDC(std::shared_ptr<coregui::Surface> surface)
+      : CDC(std::make_shared<Device>(std::move(surface))) {}
+};
+
+using FastDC = TargetDC<coregui::RasterTarget>;
+using ShapedDC = TargetDC<ShapedTarget>;
+
+constexpr COLORREF white = RGB(255, 255, 255);
+constexpr COLORREF dark = RGB(30, 30, 36);
+
+int CountInk(const coregui::Surface& surface, const CRect& dots, std::uint32_t ground = 0xFFFFFF) {
+  int ink = 0;
+  for (int y = std::max<LONG>(0, dots.top); y < std::min(dots.bottom, surface.Dots().cy); ++y) {
+    for (int x = std::max<LONG>(0, dots.left); x < std::min(dots.right, surface.Dots().cx); ++x) {
+      ink += (surface.Row(y)[x] & 0xFFFFFFU) != ground ? 1 : 0;
+    }
+  }
+  return ink;
+}
+
+double MeanDifference(const QImage& a, const QImage& b) {
+  double sum = 0;
+  for (int y = 0; y < a.height(); ++y) {
+    for (int x = 0; x < a.width(); ++x) {
+      sum += std::abs(qGreen(a.pixel(x, y)) - qGreen(b.pixel(x, y)));
+    }
+  }
+  return sum / (a.width() * a.height());
+}
+
+class TextDrawing : public testing::TestWithParam<double> {
+ protected:
+  std::shared_ptr<coregui::Surface> surface = std::make_shared<coregui::Surface>(CSize(300, 60), GetParam());
+  FastDC dc{surface};
+};
+
+INSTANTIATE_TEST_SUITE_P(Scales, TextDrawing, testing::Values(1.0, 1.25, 1.5, 2.0));
+
+TEST_P(TextDrawing, CachedGlyphs_LookLikeTheToolkitsLayout) {
+  for (const bool light : {true, false}) {
+    const auto other = std::make_shared<coregui::Surface>(CSize(300, 60), GetParam());
+    ShapedDC shaped(other);
+    for (CDC* context : {static_cast<CDC*>(&dc), static_cast<CDC*>(&shaped)}) {
+      context->FillSolidRect(CRect(0, 0, 300, 60), light ? white : dark);
+      context->SetBkMode(TRANSPARENT);
+      context->SetTextColor(light ? RGB(0, 0, 0) : RGB(230, 230, 240));
+      context->TextOut(5, 5, L"Chainage 1234.567, \u00C4\u00F6\u00DF \u20AC \u0416\u03A9", -1);
+    }
+    const std::uint32_t ground = light ? 0xFFFFFF : 0x1E1E24;
+    EXPECT_GT(CountInk(*surface, CRect(0, 0, 1000, 1000), ground), 300);
+    EXPECT_LT(MeanDifference(surface->Snapshot(), other->Snapshot()), 0.5) << "light " << light;
+  }
+}
+
+TEST_P(TextDrawing, Extent_IsWhatDrawingCovers) {
+  dc.SetBkColor(RGB(255, 255, 0));
+  dc.SetTextColor(RGB(255, 255, 0));
+  for (const wchar_t* text :
+       {L"Wide WAVE 0.1", L"iiii", L"e\u0301a\u0301", L"\u05E9\u05DC\u05D5\u05DD", L" "}) {
+    dc.FillSolidRect(CRect(0, 0, 300, 60), white);
+    dc.SetBkColor(RGB(255, 255, 0));
+    const CSize extent = dc.GetTextExtent(text, -1);
+    EXPECT_GT(extent.cx, 0);
+    dc.TextOut(20, 10, text, -1);
+    const CSize dots(static_cast<LONG>(std::floor((20 + extent.cx) * GetParam() + 0.5)), 0);
+    EXPECT_EQ(CountInk(*surface, CRect(dots.cx + 1, 0, 1000, 1000)), 0);
+    EXPECT_EQ(dc.GetPixel(20, 10), RGB(255, 255, 0));
+    EXPECT_EQ(dc.GetPixel(19 + extent.cx, 9 + extent.cy), RGB(255, 255, 0));
+  }
+}
+
+TEST_P(TextDrawing, PartsOfAText_MeasureLikeTheWholeAtWholeScales) {
+  if (GetParam() != std::floor(GetParam())) {
+    EXPECT_GE(dc.GetTextExtent(L"AVATAR", 3).cx * 2 + 1, dc.GetTextExtent(L"AVAAVA", 6).cx);
+    return;
+  }
+  EXPECT_EQ(dc.GetTextExtent(L"AVATAR", 2).cx + dc.GetTextExtent(L"ATAR", 4).cx,
+            dc.GetTextExtent(L"AVATAR", 6).cx);
+}
+
+TEST_P(TextDrawing, Alignments_PlaceTheCellAtThePoint) {
+  dc.SetBkColor(RGB(0, 0, 255));
+  const CSize extent = dc.GetTextExtent(L"Mg", 2);
+  TEXTMETRIC metrics;
+  dc.GetTextMetrics(&metrics);
+  EXPECT_EQ(metrics.tmHeight, metrics.tmAscent + metrics.tmDescent);
+  const auto cellLeftTop = [&](UINT align, int x, int y) {
+    dc.FillSolidRect(CRect(0, 0, 300, 60), white);
+    dc.SetBkColor(RGB(0, 0, 255));
+    dc.SetTextAlign(align);
+    dc.TextOut(x, y, L"Mg", 2);
+    for (int top = 0; top < 60; ++top) {
+      for (int left = 0; left < 300; ++left) {
+        if (dc.GetPixel(left, top) != white) {
+          return CPoint(left, top);
+        }
+      }
+    }
+    return CPoint(-1, -1);
+  };
+  EXPECT_EQ(cellLeftTop(TA_LEFT | TA_TOP, 100, 20), CPoint(100, 20));
+  EXPECT_EQ(cellLeftTop(TA_RIGHT, 100, 20), CPoint(100 - extent.cx, 20));
+  EXPECT_EQ(cellLeftTop(TA_CENTER | TA_BOTTOM, 100, 40), CPoint(100 - extent.cx / 2, 40 - extent.cy));
+  EXPECT_EQ(cellLeftTop(TA_BASELINE, 100, 40), CPoint(100, 40 - metrics.tmAscent));
+}
+
+TEST_P(TextDrawing, AccessKeyLine_LiesUnderItsCharacter) {
+  dc.SetBkMode(TRANSPARENT);
+  RECT rect = CRect(10, 10, 200, 50);
+  dc.DrawText(L"ii&ii", -1, &rect, DT_SINGLELINE | DT_NOPREFIX);
+  const int plain = CountInk(*surface, CRect(0, 0, 1000, 1000));
+  dc.FillSolidRect(CRect(0, 0, 300, 60), white);
+  dc.DrawText(L"iiii", -1, &rect, DT_SINGLELINE);
+  const QImage without = surface->Snapshot();
+  dc.FillSolidRect(CRect(0, 0, 300, 60), white);
+  dc.DrawText(L"ii&ii", -1, &rect, DT_SINGLELINE);
+  EXPECT_NE(surface->Snapshot(), without);
+  EXPECT_NE(CountInk(*surface, CRect(0, 0, 1000, 1000)), plain);
+  TEXTMETRIC metrics;
+  dc.GetTextMetrics(&metrics);
+  const int before = dc.GetTextExtent(L"ii", 2).cx;
+  EXPECT_EQ(dc.GetPixel(10 + before, 10 + metrics.tmAscent + 1), 0U);
+  EXPECT_EQ(dc.GetPixel(10 + before - 2, 10 + metrics.tmAscent + 1), white);
+}
+
+TEST_P(TextDrawing, DrawText_ClipsToItsRectangleUnlessToldNotTo) {
+  RECT narrow = CRect(10, 10, 20, 40);
+  dc.SetBkMode(TRANSPARENT);
+  dc.DrawText(L"WWWWWWWW", -1, &narrow, DT_SINGLELINE);
+  const int right = static_cast<int>(std::floor(20 * GetParam() + 0.5));
+  EXPECT_EQ(CountInk(*surface, CRect(right, 0, 1000, 1000)), 0);
+  EXPECT_GT(CountInk(*surface, CRect(0, 0, right, 1000)), 5);
+  dc.DrawText(L"WWWWWWWW", -1, &narrow, DT_SINGLELINE | DT_NOCLIP);
+  EXPECT_GT(CountInk(*surface, CRect(right, 0, 1000, 1000)), 5);
+}
+
+TEST_P(TextDrawing, TextThroughAClip_HasTheDotsOfTheWholeText) {
+  dc.SetBkMode(TRANSPARENT);
+  dc.TextOut(3, 3, L"Level 0123456789", -1);
+  const QImage whole = surface->Snapshot();
+  dc.FillSolidRect(CRect(0, 0, 300, 60), white);
+  for (int x = 0; x < 300; x += 5) {
+    for (int y = 0; y < 60; y += 4) {
+      dc.SelectClipRect(nullptr);
+      dc.IntersectClipRect(CRect(x, y, x + 5, y + 4));
+      dc.TextOut(3, 3, L"Level 0123456789", -1);
+    }
+  }
+  EXPECT_EQ(surface->Snapshot(), whole);
+}
+
+TEST(TextFonts, Fonts_FollowTheirProperties) {
+  const auto surface = std::make_shared<coregui::Surface>(CSize(200, 200), 1.0);
+  FastDC dc(surface);
+  dc.SetBkMode(TRANSPARENT);
+  TEXTMETRIC system;
+  dc.GetTextMetrics(&system);
+  CFont twelve;
+  twelve.CreatePointFont(90, L"");
+  CFont big;
+  big.CreatePointFont(180, L"");
+  dc.SelectObject(&twelve);
+  TEXTMETRIC metrics;
+  dc.GetTextMetrics(&metrics);
+  EXPECT_EQ(metrics.tmHeight, system.tmHeight) << "9 points is the system's size";
+  dc.SelectObject(&big);
+  dc.GetTextMetrics(&metrics);
+  EXPECT_NEAR(metrics.tmHeight, 2 * system.tmHeight, 2);
+  LOGFONT cell;
+  cell.lfHeight = 40;
+  CFont byCell;
+  byCell.CreateFontIndirect(cell);
+  dc.SelectObject(&byCell);
+  dc.GetTextMetrics(&metrics);
+  EXPECT_NEAR(metrics.tmHeight, 40, 2);
+  LOGFONT lined;
+  lined.lfUnderline = 1;
+  lined.lfStrikeOut = 1;
+  CFont withLines;
+  withLines.CreateFontIndirect(lined);
+  dc.SelectObject(&withLines);
+  dc.TextOut(10, 10, L"    ", 4);
+  const int width = dc.GetTextExtent(L"    ", 4).cx;
+  EXPECT_GE(CountInk(*surface, CRect(10, 10, 10 + width, 60)), 2 * width);
+  EXPECT_EQ(CountInk(*surface, CRect(10 + width, 0, 200, 200)), 0);
+}
+
+TEST(TextFonts, Escapement_TurnsTheTextAroundItsPoint) {
+  const auto surface = std::make_shared<coregui::Surface>(CSize(200, 200), 1.0);
+  FastDC dc(surface);
+  dc.SetBkMode(TRANSPARENT);
+  LOGFONT turned;
+  turned.lfEscapement = 900;
+  CFont upwards;
+  upwards.CreateFontIndirect(turned);
+  dc.SelectObject(&upwards);
+  dc.TextOut(100, 150, L"Chainage", -1);
+  EXPECT_GT(CountInk(*surface, CRect(95, 60, 130, 152)), 80);
+  EXPECT_EQ(CountInk(*surface, CRect(0, 153, 200, 200)), 0);
+  EXPECT_EQ(CountInk(*surface, CRect(130, 0, 200, 200)), 0);
+}
+
+TEST(TextFonts, ContextOnADeletedFontsAddress_DrawsTheNewFont) {
+  const auto surface = std::make_shared<coregui::Surface>(CSize(20, 20), 1.0);
+  FastDC dc(surface);
+  LONG height = 0;
+  for (int points = 80; points <= 400; points += 80) {
+    CFont font;
+    font.CreatePointFont(points, L"");
+    dc.SelectObject(&font);
+    TEXTMETRIC metrics;
+    dc.GetTextMetrics(&metrics);
+    EXPECT_GT(metrics.tmHeight, height);
+    height = metrics.tmHeight;
+    dc.SelectStockObject(StockObject::systemFont);
+  }
+}
+
+TEST(TextSafety, HugeAndOddTexts_AreMeasuredAndDrawn) {
+  const auto surface = std::make_shared<coregui::Surface>(CSize(100, 40), 1.0);
+  FastDC dc(surface);
+  dc.SetBkMode(TRANSPARENT);
+  const std::wstring huge(3000000, L'x');
+  EXPECT_GT(dc.GetTextExtent(huge.c_str(), -1).cx, 3000000);
+  dc.TextOut(0, 0, huge.c_str(), -1);
+  RECT rect = CRect(0, 0, 100, 40);
+  dc.DrawText(huge.c_str(), -1, &rect, DT_SINGLELINE | DT_END_ELLIPSIS);
+  dc.DrawText(huge.c_str(), 100000, &rect, DT_WORDBREAK | DT_EDITCONTROL);
+  EXPECT_EQ(dc.GetTextExtent(nullptr, -1).cx, 0);
+  dc.TextOut(0, 0, nullptr, 5);
+  const wchar_t odd[] = {0xD800, 0x1F600, 0x110000, 0xFFFF, 1, L'\t', 0x202E, L'a', 0};
+  EXPECT_GT(dc.GetTextExtent(odd, -1).cx, 0);
+  dc.TextOut(0, 20, odd, -1);
+  EXPECT_GT(CountInk(*surface, CRect(0, 0, 100, 40)), 50);
+}
+
+TEST(GlyphBlending, FourAtATime_EqualsOneByOne) {
+  std::vector<std::uint32_t> dots;
+  std::vector<std::uint8_t> coverage;
+  for (std::uint32_t i = 0; i < 256; ++i) {
+    dots.push_back(0xFF000000U | (i * 2654435761U >> 8U));
+    coverage.push_back(static_cast<std::uint8_t>(i));
+  }
+  std::vector<std::uint32_t> single = dots;
+  coregui::BlendBlock(dots.data(), 64, coverage.data(), 64, 4, 0xFF3C80F0U);
+  coregui::BlendRow(single.data(), coverage.data(), 256, 0xFF3C80F0U);
+  EXPECT_EQ(dots, single);
+  EXPECT_EQ(dots[0], 0xFF000000U) << "no cover: untouched";
+  EXPECT_EQ(dots[255], 0xFF3C80F0U) << "full cover: the colour itself";
+}
+
+TEST(FontFamilies, Enumeration_GivesNamesBytesAndStops) {
+  std::vector<LOGFONT> all;
+  EXPECT_TRUE(EnumFontFamilies([&all](const LOGFONT& family) {
+    all.push_back(family);
+    return true;
+  }));
+  ASSERT_GE(all.size(), 1U);
+  for (const LOGFONT& family : all) {
+    EXPECT_FALSE(family.lfFaceName.IsEmpty());
+    const int pitch = family.lfPitchAndFamily & 3;
+    EXPECT_TRUE(pitch == FIXED_PITCH || pitch == VARIABLE_PITCH);
+    if (family.lfFaceName == L"DejaVu Serif") {
+      EXPECT_EQ(family.lfPitchAndFamily, FF_ROMAN | VARIABLE_PITCH);
+    } else if (family.lfFaceName == L"DejaVu Sans") {
+      EXPECT_EQ(family.lfPitchAndFamily, FF_SWISS | VARIABLE_PITCH);
+    } else if (family.lfFaceName == L"DejaVu Sans Mono") {
+      EXPECT_EQ(family.lfPitchAndFamily, FF_MODERN | FIXED_PITCH);
+    }
+  }
+  int seen = 0;
+  EXPECT_FALSE(EnumFontFamilies([&seen](const LOGFONT&) { return ++seen < 1; }));
+  EXPECT_EQ(seen, 1);
+}
+
+}  // namespace
