@@ -200,3 +200,30 @@ int CGridCtrl::FindNext(CString* text, int* col, long* row, int flags) {
 int CGridCtrl::FindInAllCols(int on) {
   return m_rooms->finder.FindInAllCols(on != 0);
 }
+
+// --- Clipboard
+
+int CGridCtrl::CreateSelectedString(CString& text, int cut) {
+  return m_rooms->clipboard.CreateSelectedString(text, cut != 0);
+}
+int CGridCtrl::CopySelected() {
+  return m_rooms->clipboard.CopySelected(false);
+}
+int CGridCtrl::CopySelected(int cut) {
+  return m_rooms->clipboard.CopySelected(cut != 0);
+}
+int CGridCtrl::CutSelected() {
+  return m_rooms->clipboard.CopySelected(true);
+}
+int CGridCtrl::CopyToClipBoard(CString* text) {
+  return m_rooms->clipboard.CopyToClipBoard(*text);
+}
+int CGridCtrl::CopyFromClipBoard(CString* text) {
+  return m_rooms->clipboard.CopyFromClipBoard(*text);
+}
+int CGridCtrl::Paste() {
+  return m_rooms->clipboard.Paste();
+}
+int CGridCtrl::Paste(CString& text) {
+  return m_rooms->clipboard.Paste(text);
+}

@@ -16,6 +16,7 @@ CGridRooms::CGridRooms(CGridCtrl& control)
       navigator({sheets, sources, cells, joins, types, vetoes, control, parts}),
       sizing({sheets, sources, cells, types, navigator, parts}),
       sorting(sheets),
-      finder(sheets) {}
+      finder(sheets),
+      clipboard({sheets, cells, navigator, control, parts}) {}
 
 }  // namespace coregui

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "grid/control/CGridCells.h"
+#include "grid/control/CGridClipboard.h"
 #include "grid/control/CGridFinder.h"
 #include "grid/control/CGridFonts.h"
 #include "grid/control/CGridGeometry.h"
@@ -35,6 +36,7 @@ struct CGridRooms {
   CGridSizing sizing;
   CGridSorting sorting;
   CGridFinder finder;
+  CGridClipboard clipboard;
 
   bool updates = true;  ///< the control's redraw switch
   bool initialSizing = false;
