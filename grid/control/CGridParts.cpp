@@ -1,10 +1,16 @@
 #include "grid/control/CGridParts.h"
 
+#include <algorithm>
+
 #include "grid/celltypes/CGridCellType.h"
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridInfo.h"
 #include "grid/display/CGrid.h"
+#include "grid/display/CGridCnrBtn.h"
+#include "grid/display/CGridSideHdg.h"
+#include "grid/display/CGridTopHdg.h"
 #include "platform/CDC.h"
+#include "platform/WindowRef.h"
 
 namespace coregui {
 
@@ -13,9 +19,13 @@ struct CGridParts::Types {
 };
 
 struct CGridParts::Windows {
-  explicit Windows(CGridCtrl& control) : body(&control) {}
+  explicit Windows(CGridCtrl& control)
+      : body(&control), topHeading(&control), sideHeading(&control), corner(&control) {}
 
   CGrid body;
+  CGridTopHdg topHeading;
+  CGridSideHdg sideHeading;
+  CGridCnrBtn corner;
 };
 
 CGridParts::CGridParts(CGridCtrl& control) : m_control(control), m_types(std::make_unique<Types>()) {}
@@ -68,21 +78,47 @@ void CGridParts::TempDisableFocusRect() {
 void CGridParts::OnScroll(int, int) {}
 
 void CGridParts::ShowMoved() {
-  if (m_windows != nullptr) {
-    m_windows->body.Moved();
+  if (m_windows == nullptr) {
+    return;
+  }
+  // A handler inside a paint pass may destroy the grid.
+  const WindowRef alive(&m_control);
+  m_windows->body.Moved();
+  if (alive) {
+    m_windows->topHeading.Moved();
+  }
+  if (alive) {
+    m_windows->sideHeading.Moved();
   }
 }
 
 void CGridParts::ShowRange(int startCol, long startRow, int endCol, long endRow) {
-  if (m_windows != nullptr && endCol >= 0 && endRow >= 0) {
+  if (m_windows == nullptr) {
+    return;
+  }
+  const WindowRef alive(&m_control);
+  if (startCol < 0 && startRow < 0) {
+    m_windows->corner.Invalidate(TRUE);
+  }
+  if (startRow < 0 && endCol >= 0) {
+    m_windows->topHeading.RedrawRange(std::max(startCol, 0), startRow, endCol, std::min(endRow, -1L));
+  }
+  if (alive && startCol < 0 && endRow >= 0) {
+    m_windows->sideHeading.RedrawRange(startCol, std::max(startRow, 0L), std::min(endCol, -1), endRow);
+  }
+  if (alive && endCol >= 0 && endRow >= 0) {
     m_windows->body.RedrawRange(std::max(startCol, 0), std::max(startRow, 0L), endCol, endRow);
   }
 }
 
 void CGridParts::ShowAll() {
-  if (m_windows != nullptr) {
-    m_windows->body.Invalidate(TRUE);
+  if (m_windows == nullptr) {
+    return;
   }
+  m_windows->body.Invalidate(TRUE);
+  m_windows->topHeading.Invalidate(TRUE);
+  m_windows->sideHeading.Invalidate(TRUE);
+  m_windows->corner.Invalidate(TRUE);
 }
 
 void CGridParts::ShowScrollBars() {
@@ -116,6 +152,9 @@ void CGridParts::PlaceWindows() {
     window.ShowWindow(rect.IsRectEmpty() ? SW_HIDE : SW_SHOW);
   };
   place(m_windows->body, m_layout.body);
+  place(m_windows->topHeading, m_layout.topHeading);
+  place(m_windows->sideHeading, m_layout.sideHeading);
+  place(m_windows->corner, m_layout.corner);
 }
 
 CGridDrawHint* CGridParts::BodyHints() {
