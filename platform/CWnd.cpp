@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/CWinApp.h"
 #include "platform/MessageQueue.h"
 #include "platform/System.h"
 #include "platform/WindowFocus.h"
@@ -199,6 +200,7 @@ void CWnd::ReleaseNative() {
   SetParent(nullptr);
   state.family.owner = WindowRef();
   state.destroying = false;
+  CWinApp::NoteDestroyed(*this);
 }
 
 BOOL CWnd::SubclassDlgItem(UINT id, CWnd* parent) {

@@ -87,6 +87,7 @@ inline constexpr UINT DLGC_WANTARROWS = 0x0001;
 inline constexpr UINT DLGC_WANTTAB = 0x0002;
 inline constexpr UINT DLGC_WANTALLKEYS = 0x0004;
 inline constexpr UINT DLGC_WANTCHARS = 0x0080;
+inline constexpr UINT DLGC_BUTTON = 0x2000;  ///< a push button: Enter presses it
 
 // Scroll-bar codes.
 inline constexpr int SB_LINEUP = 0;

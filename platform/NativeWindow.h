@@ -44,6 +44,8 @@ class NativeWindow {
   virtual void TakeFocus() = 0;
   /// Puts the window's top level in front and makes it the active one.
   virtual void Activate() = 0;
+  /// A top-level window that keeps input from all others while it is shown.
+  virtual void SetModal(bool modal) = 0;
   /// Brings all mouse events here while on.
   virtual void Grab(bool on) = 0;
   virtual CPoint ClientOrigin() const = 0;  ///< of the client area on the screen

@@ -28,11 +28,16 @@ class EventLoop {
   /// Until Exit; at once when Exit came first.
   virtual void Run() = 0;
   virtual void Exit() = 0;
+  virtual bool HasExited() const = 0;
 
  protected:
   EventLoop() = default;
 };
 std::unique_ptr<EventLoop> MakeEventLoop();
+/// Ends every run of an event loop that is under way.
+void ExitEventLoops();
+/// Makes the toolkit's application if there is none; false when the program has one without windows.
+bool EnsureToolkit();
 
 /// The part of the primary screen that windows may use; a plain 1024 x 768 without a toolkit.
 CRect ScreenRect();

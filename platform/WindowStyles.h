@@ -21,6 +21,9 @@ inline constexpr DWORD WS_TABSTOP = 0x00010000;
 inline constexpr DWORD WS_GROUP = 0x00020000;
 inline constexpr DWORD WS_OVERLAPPEDWINDOW = WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | 0x00030000;
 
+/// Extended style: shown in front without becoming active, and lets the mouse through (tips).
+inline constexpr DWORD WS_EX_NOACTIVATE = 0x08000000;
+
 inline constexpr DWORD ES_LEFT = 0x0000;
 inline constexpr DWORD ES_CENTER = 0x0001;
 inline constexpr DWORD ES_RIGHT = 0x0002;

@@ -8,7 +8,6 @@
 #include "platform/CWnd.h"
 #include "platform/Toolkit.h"
 #include "platform/WindowState.h"
-#include "platform/qt/Application.h"
 #include "platform/qt/Pump.h"
 
 namespace coregui {
@@ -44,7 +43,9 @@ CSize SizeOf(const CREATESTRUCT& create) {
 }  // namespace
 
 std::unique_ptr<NativeWindow> MakePaintedWindow(CWnd& window, const CREATESTRUCT& create) {
-  EnsureApplication();
+  if (!EnsureToolkit()) {
+    return nullptr;
+  }
   return std::make_unique<PaintedWindow>(window, create);
 }
 

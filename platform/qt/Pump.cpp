@@ -13,6 +13,7 @@
 #include "platform/Toolkit.h"
 #include "platform/WindowRegistry.h"
 #include "platform/WindowState.h"
+#include "platform/qt/Application.h"
 
 namespace coregui {
 namespace {
@@ -46,15 +47,25 @@ void TellTheme() {
   }
 }
 
+class QtEventLoop;
+std::vector<QtEventLoop*>& Loops() {
+  static std::vector<QtEventLoop*> loops;
+  return loops;
+}
+
 class QtEventLoop : public EventLoop {
  public:
   void Run() override {
-    if (!m_exited) m_loop.exec();
+    if (m_exited) return;
+    Loops().push_back(this);
+    m_loop.exec();
+    std::erase(Loops(), this);
   }
   void Exit() override {
     m_exited = true;
     m_loop.exit();
   }
+  bool HasExited() const override { return m_exited; }
 
  private:
   QEventLoop m_loop;
@@ -151,6 +162,15 @@ bool HandleEvents(bool wait) {
 
 std::unique_ptr<EventLoop> MakeEventLoop() {
   return std::make_unique<QtEventLoop>();
+}
+
+void ExitEventLoops() {
+  for (QtEventLoop* loop : Loops()) loop->Exit();
+}
+
+bool EnsureToolkit() {
+  if (QCoreApplication::instance() == nullptr) EnsureApplication();
+  return HasToolkit();
 }
 
 CRect ScreenRect() {

@@ -13,6 +13,7 @@
 #include "platform/WindowState.h"
 #include "platform/qt/EventRoad.h"
 #include "platform/qt/SyntheticEvents.h"
+#include "platform/qt/interop.h"
 
 namespace coregui {
 namespace {
@@ -20,12 +21,6 @@ namespace {
 std::unordered_map<const QObject*, QtWindow*>& Windows() {
   static std::unordered_map<const QObject*, QtWindow*> windows;
   return windows;
-}
-
-QWidget* WidgetOf(const CWnd* window) {
-  return window == nullptr || window->State().native == nullptr
-             ? nullptr
-             : static_cast<QWidget*>(window->State().native->Widget());
 }
 
 QRect ToQt(const CRect& rect) {
@@ -55,6 +50,7 @@ QtWindow::QtWindow(CWnd& window, const CREATESTRUCT& create, std::unique_ptr<QWi
                                                             : window.State().family.owner.Get());
   m_widget->setParent(parent, FlagsOf(create.style));
   m_widget->setMouseTracking(true);
+  m_widget->setAttribute(Qt::WA_TransparentForMouseEvents, (create.exStyle & WS_EX_NOACTIVATE) != 0);
   m_widget->setGeometry(ToQt(window.State().look.rect));
   m_widget->setEnabled((create.style & WS_DISABLED) == 0);
   m_widget->setWindowTitle(QString::fromWCharArray(create.name));
@@ -63,11 +59,12 @@ QtWindow::QtWindow(CWnd& window, const CREATESTRUCT& create, std::unique_ptr<QWi
   connect(m_widget, &QObject::destroyed, this, &QtWindow::WidgetLost);
 }
 
+QtWindow::QtWindow(CWnd& window, QWidget& borrowed)
+    : m_window(window), m_widget(&borrowed), m_borrowed(true) {}
+
 QtWindow::~QtWindow() {
-  for (auto entry = Windows().begin(); entry != Windows().end();) {
-    entry = entry->second == this ? Windows().erase(entry) : std::next(entry);
-  }
-  if (m_widget != nullptr) {
+  Forget();
+  if (m_widget != nullptr && !m_borrowed) {
     disconnect(m_widget, nullptr, this, nullptr);
     m_widget->removeEventFilter(this);
     PutAway(m_widget);
@@ -89,10 +86,12 @@ void QtWindow::Watch(QWidget* inner) {
   connect(inner, &QObject::destroyed, this, [inner] { Windows().erase(inner); });
 }
 
+void QtWindow::Forget() {
+  std::erase_if(Windows(), [this](const auto& entry) { return entry.second == this; });
+}
+
 void QtWindow::WidgetLost() {
-  for (auto entry = Windows().begin(); entry != Windows().end();) {
-    entry = entry->second == this ? Windows().erase(entry) : std::next(entry);
-  }
+  Forget();
   m_widget = nullptr;
   m_window.DestroyWindow();
 }
@@ -104,6 +103,9 @@ bool QtWindow::IsTopLevel() const {
 Qt::WindowFlags QtWindow::FlagsOf(DWORD style) const {
   if ((style & WS_CHILD) != 0) {
     return Qt::Widget;
+  }
+  if ((m_window.GetExStyle() & WS_EX_NOACTIVATE) != 0) {
+    return Qt::ToolTip | Qt::WindowDoesNotAcceptFocus;
   }
   if ((style & WS_CAPTION) != WS_CAPTION && (style & WS_POPUP) != 0) {
     return Qt::Tool | Qt::FramelessWindowHint;
@@ -196,6 +198,10 @@ void QtWindow::Activate() {
     m_widget->raise();
     m_widget->activateWindow();
   }
+}
+
+void QtWindow::SetModal(bool modal) {
+  if (m_widget != nullptr) m_widget->setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
 }
 
 void QtWindow::Grab(bool on) {

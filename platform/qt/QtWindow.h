@@ -31,6 +31,8 @@ class QtWindow : public QObject, public NativeWindow {
  public:
   /// `widget` has no parent yet; it gets the window's own.
   QtWindow(CWnd& window, const CREATESTRUCT& create, std::unique_ptr<QWidget> widget);
+  /// For a widget that is not ours: its life and its events are left alone.
+  QtWindow(CWnd& window, QWidget& borrowed);
   ~QtWindow() override;
 
   /// The window of a widget or of the nearest parent that has one; null when there is none.
@@ -53,6 +55,7 @@ class QtWindow : public QObject, public NativeWindow {
   void StyleChanged() override;
   void TakeFocus() override;
   void Activate() override;
+  void SetModal(bool modal) override;
   void Grab(bool on) override;
   CPoint ClientOrigin() const override;
   double Scale() const override;
@@ -83,9 +86,11 @@ class QtWindow : public QObject, public NativeWindow {
   void NoteGeometry();
   bool IsTopLevel() const;
   Qt::WindowFlags FlagsOf(DWORD style) const;
+  void Forget();
 
   CWnd& m_window;
   QPointer<QWidget> m_widget;
+  bool m_borrowed = false;
   std::map<UINT, QBasicTimer> m_timers;
   WheelGatherer m_wheel[2];  ///< vertical, horizontal
 

@@ -1,7 +1,0 @@
-#include "grid/data/CGridCellFormat.h"
-
-void CGridCellFormat::ApplyDisplayFormat(CGridCell* /*cell*/) {}
-
-int CGridCellFormat::ValidateCellInfo(CGridCell* /*cell*/) {
-  return 0;
-}
