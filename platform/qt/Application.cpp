@@ -1,7 +1,6 @@
 #include "platform/qt/Application.h"
 
 #include <QApplication>
-#include <memory>
 
 namespace coregui {
 
@@ -18,7 +17,8 @@ QApplication& EnsureApplication() {
   static int count = 1;
   static char name[] = "coregui";
   static char* arguments[] = {name, nullptr};
-  static const std::unique_ptr<QApplication> application = std::make_unique<QApplication>(count, arguments);
+  // Never destroyed: at exit the toolkit's own statics, some younger than it, are gone before it could be.
+  static QApplication* const application = new QApplication(count, arguments);
   return *application;
 }
 

@@ -113,16 +113,17 @@ void FontFace::SetSize(LONG dotHeight) {
 
 std::shared_ptr<FontFace> FontFace::For(const std::shared_ptr<FontData>& font, int dotsPerInch,
                                         double scale) {
-  static const auto system = [] {
+  // Never destroyed: its faces may be in use as long as there is a context.
+  static const std::shared_ptr<FontData>& system = *new std::shared_ptr<FontData>([] {
     CFont standard;
     standard.CreatePointFont(systemTenthsOfPoint, L"");
     return standard.Data();
-  }();
+  }());
   FontData& data = font != nullptr ? *font : *system;
   const std::uint64_t key = (static_cast<std::uint64_t>(dotsPerInch) << 32U) |
                             static_cast<std::uint32_t>(std::lround(scale * 4096.0));
   for (const auto& [known, face] : data.faces) {
-    if (known == key) {
+    if (known == key && face->IsAlive()) {
       return face;
     }
   }
@@ -139,7 +140,7 @@ std::shared_ptr<FontFace> FontFace::For(const std::shared_ptr<FontData>& font, i
 
 std::shared_ptr<FontFace> FontFace::SharedFace(const LOGFONT& font) {
   using Key = std::tuple<std::wstring, LONG, LONG, LONG, int, BYTE>;
-  static std::map<Key, std::weak_ptr<FontFace>> faces;
+  static std::map<Key, std::weak_ptr<FontFace>>& faces = *new std::map<Key, std::weak_ptr<FontFace>>;
   static const bool released = [] {
     qAddPostRoutine([] {
       for (const auto& [key, known] : faces) {
@@ -156,6 +157,10 @@ std::shared_ptr<FontFace> FontFace::SharedFace(const LOGFONT& font) {
       (font.lfItalic != 0 ? 1 : 0) | (font.lfUnderline != 0 ? 2 : 0) | (font.lfStrikeOut != 0 ? 4 : 0);
   const Key key(font.lfFaceName.Str(), font.lfHeight, font.lfWeight, font.lfEscapement, style,
                 font.lfPitchAndFamily);
+  constexpr std::size_t mostKeys = 256;
+  if (faces.size() >= mostKeys) {
+    std::erase_if(faces, [](const auto& entry) { return entry.second.expired(); });
+  }
   std::weak_ptr<FontFace>& known = faces[key];
   std::shared_ptr<FontFace> face = known.lock();
   if (face == nullptr) {

@@ -68,6 +68,8 @@ class FontFace {
   int UnderlineTop() const { return m_underlineTop; }
   int StrikeTop() const { return m_strikeTop; }
   int LineThickness() const { return m_lineThickness; }
+  /// False once the toolkit's application is gone; a later one needs a new face.
+  bool IsAlive() const { return m_raw.isValid(); }
   bool IsRotated() const { return m_degrees != 0.0; }
   /// The advance in dots of a text of any kind.
   std::int64_t Width(const wchar_t* text, int length);
