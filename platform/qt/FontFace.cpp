@@ -88,6 +88,8 @@ FontFace::FontFace(const LOGFONT& font, LONG dotHeight) : m_degrees(font.lfEscap
   SetSize(dotHeight);
 }
 
+FontFace::~FontFace() = default;
+
 void FontFace::SetSize(LONG dotHeight) {
   constexpr LONG largest = 4000;
   const LONG wanted = std::clamp<LONG>(dotHeight, -largest, largest);
@@ -254,6 +256,8 @@ void FontFace::Outline(const QImage& picture, CPoint origin, Glyph* glyph) {
 
 // The toolkit's fonts must not outlive its application. What is left measures nothing and draws nothing.
 void FontFace::Release() {
+  m_alive = false;
+  m_shaped.clear();
   m_raw = QRawFont();
   m_font = QFont();
   for (std::unique_ptr<Page>& page : m_pages) {
@@ -261,12 +265,30 @@ void FontFace::Release() {
   }
 }
 
+const ShapedText& FontFace::Shaped(const wchar_t* text, int length) {
+  constexpr std::size_t mostKept = 1024;
+  constexpr int longestKept = 4096;
+  const std::wstring_view wanted(text, static_cast<std::size_t>(length));
+  const auto found = m_shaped.find(wanted);
+  if (found != m_shaped.end()) {
+    return *found->second;
+  }
+  // A long text takes the place of the one before it, under a name that no text has.
+  const bool keeps = length > 0 && length <= longestKept;
+  if (keeps && m_shaped.size() >= mostKept) {
+    m_shaped.clear();
+  }
+  std::unique_ptr<ShapedText>& shaped = m_shaped[keeps ? std::wstring(wanted) : std::wstring()];
+  shaped = std::make_unique<ShapedText>(m_font, text, length);
+  return *shaped;
+}
+
 std::int64_t FontFace::Width(const wchar_t* text, int length) {
   std::int64_t width = 0;
   for (int i = 0; i < length; ++i) {
     const Glyph& glyph = GlyphOf(text[i]);
     if (!glyph.simple) {
-      return ShapedText(m_font, text, length).Width();
+      return Shaped(text, length).Width();
     }
     width += glyph.advance;
   }

@@ -5,7 +5,10 @@
 #include <QRawFont>
 #include <array>
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "platform/CFont.h"
@@ -13,6 +16,7 @@
 namespace coregui {
 
 class FontData;
+class ShapedText;
 
 /// One character drawn at one size: its advance and its coverage, in dots.
 struct Glyph {
@@ -35,6 +39,7 @@ struct Glyph {
 class FontFace {
  public:
   FontFace(const LOGFONT& font, LONG dotHeight);
+  ~FontFace();
   /// The face for a selected font (null: the system's) on a device. Shared by all contexts of that device's
   /// scale.
   static std::shared_ptr<FontFace> For(const std::shared_ptr<FontData>& font, int dotsPerInch, double scale);
@@ -69,8 +74,10 @@ class FontFace {
   int StrikeTop() const { return m_strikeTop; }
   int LineThickness() const { return m_lineThickness; }
   /// False once the toolkit's application is gone; a later one needs a new face.
-  bool IsAlive() const { return m_raw.isValid(); }
+  bool IsAlive() const { return m_alive; }
   bool IsRotated() const { return m_degrees != 0.0; }
+  /// A text that is not simple, shaped; kept for the next call with the same text. Valid until the next call.
+  const ShapedText& Shaped(const wchar_t* text, int length);
   /// The advance in dots of a text of any kind.
   std::int64_t Width(const wchar_t* text, int length);
 
@@ -95,8 +102,10 @@ class FontFace {
   int m_lineThickness = 1;
   double m_degrees = 0.0;
   Glyph m_none;
+  bool m_alive = true;
   std::array<std::unique_ptr<Page>, 256> m_pages;
   std::vector<std::unique_ptr<std::uint8_t[]>> m_coverage;
+  std::map<std::wstring, std::unique_ptr<ShapedText>, std::less<>> m_shaped;
 };
 
 }  // namespace coregui

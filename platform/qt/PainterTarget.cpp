@@ -296,13 +296,13 @@ void PainterTarget::Text(const DrawAttributes& with, int x, int y, const wchar_t
 
 void PainterTarget::TextByPainter(const DrawAttributes& with, int x, int y, const wchar_t* text, int length) {
   FontFace& face = Face(with);
-  QPainter* painter = Begin(with);
+  QPainter* painter = length > 0 ? Begin(with) : nullptr;
   if (painter == nullptr) {
     return;
   }
   const int dotX = Dot(std::int64_t{x} + with.origin.x);
   const int dotY = Dot(std::int64_t{y} + with.origin.y);
-  const ShapedText shaped(face.Font(), text, length);
+  const ShapedText& shaped = face.Shaped(text, length);
   painter->setCompositionMode(QPainter::CompositionMode_SourceOver);
   painter->setPen(QColor::fromRgb(Opaque(with.textColour)));
   if (face.IsRotated()) {

@@ -241,6 +241,20 @@ TEST(TextFonts, ContextOnADeletedFontsAddress_DrawsTheNewFont) {
   }
 }
 
+TEST(TextSafety, ShapedTexts_AreNotMixedUp) {
+  const auto surface = std::make_shared<coregui::Surface>(CSize(400, 40), 1.0);
+  ShapedDC dc(surface);
+  dc.SetBkMode(TRANSPARENT);
+  const std::wstring longText = L"\u05D0" + std::wstring(5000, L'x');
+  const int longWidth = dc.GetTextExtent(longText.c_str(), -1).cx;
+  const int shortWidth = dc.GetTextExtent(L"\u05D0x", -1).cx;
+  EXPECT_LT(shortWidth * 1000, longWidth);
+  EXPECT_EQ(dc.GetTextExtent((longText + L"x").c_str(), -1).cx, longWidth + dc.GetTextExtent(L"x", 1).cx);
+  RECT rect = CRect(0, 0, 400, 40);
+  dc.DrawText(L"\n", -1, &rect, 0);
+  EXPECT_EQ(CountInk(*surface, CRect(0, 0, 400, 40)), 0);
+}
+
 TEST(TextSafety, HugeAndOddTexts_AreMeasuredAndDrawn) {
   const auto surface = std::make_shared<coregui::Surface>(CSize(100, 40), 1.0);
   FastDC dc(surface);
