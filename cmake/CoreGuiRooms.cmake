@@ -40,26 +40,29 @@ function(coregui_room name folder)
   set_property(GLOBAL APPEND PROPERTY COREGUI_ROOMS coregui_${name})
 endfunction()
 
-# coregui_library(): the shared library of all rooms, and the interface target `coregui_all` that
-# tests link to reach what the shared library hides.
+# coregui_library(): the shared library of all rooms, and the static one `coregui_all`, which tests link to reach what the
+# shared one hides. Both are made of the rooms' objects, each once, since some rooms need each other.
 function(coregui_library)
   get_property(rooms GLOBAL PROPERTY COREGUI_ROOMS)
-  add_library(coregui_all INTERFACE)
-  target_link_libraries(coregui_all INTERFACE "$<LINK_GROUP:RESCAN,${rooms}>")
-  target_link_libraries(coregui_all INTERFACE coregui_flags)
-
-  file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/anchor.cpp" "")
-  add_library(coregui SHARED "${CMAKE_CURRENT_BINARY_DIR}/anchor.cpp")
-  add_library(CoreGUI::CoreGUI ALIAS coregui)
-  set_target_properties(coregui PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 0 EXPORT_NAME CoreGUI)
-  # The rooms' objects, each once, and what the rooms link from outside.
+  set(objects "")
+  set(outside "")  # what the rooms link that is not ours
   foreach(room IN LISTS rooms)
-    target_sources(coregui PRIVATE "$<TARGET_OBJECTS:${room}>")
+    list(APPEND objects "$<TARGET_OBJECTS:${room}>")
     get_target_property(libraries ${room} LINK_LIBRARIES)
     list(FILTER libraries EXCLUDE REGEX "coregui")
-    target_link_libraries(coregui PRIVATE ${libraries})
+    list(APPEND outside ${libraries})
   endforeach()
-  target_link_libraries(coregui PRIVATE "$<BUILD_INTERFACE:coregui_flags>")
+
+  add_library(coregui_all STATIC ${objects})
+  set_target_properties(coregui_all PROPERTIES LINKER_LANGUAGE CXX)
+  target_include_directories(coregui_all PUBLIC "${PROJECT_SOURCE_DIR}")
+  target_link_libraries(coregui_all PUBLIC coregui_flags PRIVATE ${outside})
+
+  add_library(coregui SHARED ${objects})
+  set_target_properties(coregui PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 0 EXPORT_NAME CoreGUI
+    LINKER_LANGUAGE CXX)
+  add_library(CoreGUI::CoreGUI ALIAS coregui)
+  target_link_libraries(coregui PRIVATE ${outside} "$<BUILD_INTERFACE:coregui_flags>")
   target_include_directories(coregui PUBLIC
     "$<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>"
     "$<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include/coregui>"
