@@ -32,7 +32,9 @@ const CGridInfo& CGridMouse::Info() const {
 
 CGridMouse::Hit CGridMouse::HitTest(CPoint point) const {
   Hit hit;
-  hit.found = m_control.GetCellFromPoint(point.x, point.y, &hit.col, &hit.row, &hit.rect) == 0;
+  const CRect body(0, 0, Info().columns.Extent(), Info().rows.Extent());
+  hit.found = body.PtInRect(point) &&  // cells go on outside what is shown
+              m_control.GetCellFromPoint(point.x, point.y, &hit.col, &hit.row, &hit.rect) == 0;
   if (!hit.found) hit = Hit();
   return hit;
 }

@@ -79,6 +79,7 @@ bool CGridPainter::Begin(Pass& pass) {
 bool CGridPainter::WalkRows(Pass& pass) {
   const LineOrder order(m_control.GetInfo().rows.Locked(), m_control.GetInfo().rows.First());
   for (long row = order.First(); row < m_control.GetInfo().rows.Count(); row = order.After(row)) {
+    const long before = m_control.GetInfo().rows.Count();
     const int height = m_control.GetInfo().rows.SizeOf(row);
     if (height <= 0) continue;
     if (!DrawRow(pass, row, height)) return false;
@@ -89,20 +90,20 @@ bool CGridPainter::WalkRows(Pass& pass) {
       pass.allRows = false;
       return true;
     }
-    if (row + 1 >= info.rows.Count() && !GrowRows(pass, row + 1)) return false;
+    if (row + 1 >= before && !GrowRows(pass, row + 1, before)) return false;
   }
+  m_control.GetInfo().rows.last = m_control.GetInfo().rows.Count();
   return true;
 }
 
-/// A source may have more rows than it told of: it learns that the next one is wanted.
-bool CGridPainter::GrowRows(Pass& pass, long next) {
-  const long before = m_control.GetInfo().rows.Count();
+/// There may be more rows than were told of: the control learns that the next one is wanted, and where there
+/// are more than `before` now, that one is drawn in the same pass.
+bool CGridPainter::GrowRows(Pass& pass, long next, long before) {
   long wanted = next;
   m_control.VerifyCurrentRow(&wanted);
   if (!pass.alive) return false;
   CGridInfo& info = m_control.GetInfo();
   if (info.rows.Count() > before) {
-    info.rows.last = info.rows.Count();
     m_hints.AddHint(0, next, static_cast<int>(info.columns.Count()), next);
   }
   return true;

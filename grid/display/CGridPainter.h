@@ -63,7 +63,7 @@ class COREGUI_API CGridPainter {
   bool Run(Pass& pass);
   bool Begin(Pass& pass);
   bool WalkRows(Pass& pass);
-  bool GrowRows(Pass& pass, long next);
+  bool GrowRows(Pass& pass, long next, long before);
   bool DrawRow(Pass& pass, long row, int height);
   bool DrawCell(Pass& pass, CGridCellPainter::Cell cell);
   void RememberFocus(Pass& pass, long row, int height);

@@ -128,9 +128,8 @@ TEST_F(CGridPainterTest, ReachesTheLastPossibleRow) {
   EXPECT_EQ(grid.type.drawn.size(), 10U);
 }
 
-TEST_F(CGridPainterTest, DrawsARowThatVerifyingTheNextOneAdds) {
-  /// A source that turns out to have one more row each time the end is reached, up to five.
-  struct Growing : FakeGrid {};
+TEST_F(CGridPainterTest, DrawsRowsThatComeUpAtTheEndInTheSamePass) {
+  // There turns out to be one more row each time the end is reached, up to five.
   grid.SetNumberRows(2);
   grid.type.onDraw = [this](int, long row) {
     if (row + 1 == grid.GetNumberRows() && row < 4) grid.SetNumberRows(row + 2, 0);
@@ -138,8 +137,9 @@ TEST_F(CGridPainterTest, DrawsARowThatVerifyingTheNextOneAdds) {
   painter.Hints().AddHint(0, 0, 0, 1);
   SetCurrent(-1, -1);
   Paint();
-  EXPECT_EQ(grid.type.drawn.front(), "0,0");
-  EXPECT_GE(grid.GetBottomRow(), 3);
+  EXPECT_THAT(grid.type.drawn, testing::Contains("0,2"));
+  EXPECT_EQ(grid.type.drawn.back(), "4,4");
+  EXPECT_EQ(grid.GetBottomRow(), 5);
 }
 
 TEST_F(CGridPainterTest, SurvivesRowsDeletedByTheDrawing) {
@@ -188,8 +188,9 @@ struct FocusCase {
 
 TEST_F(CGridPainterTest, FocusRectangleNeedsTheFocusAndIsLeftOutOnce) {
   SetCurrent(1, 1);
-  for (const FocusCase& row : {FocusCase{"focus", true, false, true}, FocusCase{"no focus", false, false, false},
-                               FocusCase{"disabled once", true, true, false}, FocusCase{"again", true, false, true}}) {
+  for (const FocusCase& row :
+       {FocusCase{"focus", true, false, true}, FocusCase{"no focus", false, false, false},
+        FocusCase{"disabled once", true, true, false}, FocusCase{"again", true, false, true}}) {
     SCOPED_TRACE(row.name);
     painter.SetFocus(row.hasFocus);
     if (row.disabled) painter.DisableFocusRectOnce();
@@ -230,7 +231,8 @@ TEST(CHintedRow, AnswersAsTheHintsDo) {
   CHintedRow row(hints);
   for (long at = 0; at < 11; ++at) {
     row.Enter(at);
-    for (int col = 0; col < 8; ++col) EXPECT_EQ(row.IsInvalid(col), hints.IsInvalid(col, at) != 0) << col << ',' << at;
+    for (int col = 0; col < 8; ++col)
+      EXPECT_EQ(row.IsInvalid(col), hints.IsInvalid(col, at) != 0) << col << ',' << at;
   }
 }
 

@@ -12,7 +12,9 @@
 namespace coregui::test {
 
 /// The cell (col, row) as the text "col,row".
-inline std::string At(int col, long row) { return std::to_string(col) + "," + std::to_string(row); }
+inline std::string At(int col, long row) {
+  return std::to_string(col) + "," + std::to_string(row);
+}
 
 /// A cell type that writes down what it is asked, and draws nothing.
 class LoggingType : public CGridCellType {
@@ -49,8 +51,8 @@ struct TypeHolder {
   LoggingType type;
 };
 
-/// A grid without a window: 20 columns of 50 pixels and 100 rows of 20 in a body of 210 × 110 pixels, all cells of one
-/// logging type. It writes down the notifications that the tests look at.
+/// A grid without a window: 20 columns of 50 pixels and 100 rows of 20 in a body of 210 × 110 pixels, all
+/// cells of one logging type. It writes down the notifications that the tests look at.
 class FakeGrid : public TypeHolder, public CGridCtrl {
  public:
   FakeGrid() {

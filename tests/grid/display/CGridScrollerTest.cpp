@@ -1,0 +1,109 @@
+#include "grid/display/CGridScroller.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "grid/display/CGridPainter.h"
+#include "tests/grid/display/FakeGrid.h"
+
+namespace coregui::test {
+namespace {
+
+using Range = CGridDrawHint::Range;
+using testing::ElementsAre;
+
+constexpr CRect kClient(0, 0, 210, 110);
+
+/// Rows 30.. and columns 5.. were painted; each test moves from there.
+struct CGridScrollerTest : testing::Test {
+  FakeGrid grid;
+  CGridPainter painter{grid, grid};
+  CGridScroller scroller{grid, painter};
+  CRecordingDC screen;
+
+  CGridScrollerTest() { Show(5, 30); }
+  void Show(int left, long top) {
+    grid.GetInfo().columns.SetFirst(left);
+    grid.GetInfo().rows.SetFirst(top);
+    painter.Paint({&screen, nullptr, kClient});
+    painter.Hints().ClearHints();
+  }
+  CGridScroller::Shift MoveTo(int left, long top) {
+    grid.GetInfo().columns.SetFirst(left);
+    grid.GetInfo().rows.SetFirst(top);
+    const CGridScroller::Shift shift = scroller.Plan(kClient, 1.0);
+    scroller.HintUncovered(shift);
+    return shift;
+  }
+};
+
+TEST_F(CGridScrollerTest, DownHintsFromTheLastRowOn) {
+  const CGridScroller::Shift shift = MoveTo(5, 32);
+  EXPECT_EQ(shift.dy, 40);
+  EXPECT_EQ(shift.dx, 0);
+  EXPECT_THAT(painter.Hints().GetRanges(), ElementsAre(Range{0, 35, 20, 100}));
+}
+
+TEST_F(CGridScrollerTest, UpHintsToThePreviousTopRow) {
+  EXPECT_EQ(MoveTo(5, 29).dy, -20);
+  EXPECT_THAT(painter.Hints().GetRanges(), ElementsAre(Range{0, 0, 20, 30}));
+}
+
+TEST_F(CGridScrollerTest, RightAndLeftAreTheSameForColumns) {
+  EXPECT_EQ(MoveTo(6, 30).dx, 50);
+  EXPECT_THAT(painter.Hints().GetRanges(), ElementsAre(Range{9, 0, 20, 100}));
+  painter.Hints().ClearHints();
+  EXPECT_EQ(MoveTo(3, 30).dx, -100);
+  EXPECT_THAT(painter.Hints().GetRanges(), ElementsAre(Range{0, 0, 5, 100}));
+}
+
+TEST_F(CGridScrollerTest, FurtherThanTheWindowRepaintsEverything) {
+  EXPECT_EQ(MoveTo(5, 35).dy, 100) << "just within";
+  painter.Hints().ClearHints();
+  EXPECT_TRUE(MoveTo(5, 36).IsNone());
+  EXPECT_THAT(painter.Hints().GetRanges(), ElementsAre(Range{0, 0, 20, 100}));
+}
+
+TEST_F(CGridScrollerTest, FractionalDotsAreNotMoved) {
+  grid.GetInfo().rows.SetFirst(31);
+  EXPECT_EQ(scroller.Plan(kClient, 1.5).dy, 20);
+  grid.GetInfo().rows.SetSize(30, 21);
+  EXPECT_TRUE(scroller.Plan(kClient, 1.5).IsNone());
+}
+
+TEST_F(CGridScrollerTest, LockedCellsStayOutOfAMoveAlongOneAxis) {
+  grid.GetInfo().columns.SetLocked(1);
+  grid.GetInfo().rows.SetLocked(2);
+  EXPECT_EQ(MoveTo(5, 31).area, CRect(0, 40, 210, 110));
+  EXPECT_EQ(MoveTo(6, 30).area, CRect(50, 0, 210, 110));
+}
+
+TEST_F(CGridScrollerTest, AMoveAlongBothAxesPutsTheLockedCellsBack) {
+  grid.GetInfo().columns.SetLocked(1);
+  grid.GetInfo().rows.SetLocked(2);
+  EXPECT_EQ(MoveTo(6, 31).area, kClient);
+  EXPECT_EQ(painter.Hints().IsInvalid(0, 31), 1);
+  EXPECT_EQ(painter.Hints().IsInvalid(7, 0), 1);
+  EXPECT_EQ(painter.Hints().IsInvalid(7, 32), 0);
+}
+
+TEST_F(CGridScrollerTest, MovesPixelsInsideTheArea) {
+  CGridScroller::Move(screen, {0, 40, CRect(0, 20, 210, 110)});
+  EXPECT_EQ(screen.CountOf(L"BitBlt 0,20,210,70 "), 1) << screen.GetLog().ToUtf8();
+  screen.ClearLog();
+  CGridScroller::Move(screen, {-50, 0, CRect(0, 0, 210, 110)});
+  EXPECT_EQ(screen.CountOf(L"BitBlt 50,0,210,110"), 1) << screen.GetLog().ToUtf8();
+  screen.ClearLog();
+  CGridScroller::Move(screen, {0, 200, CRect(0, 0, 210, 110)});
+  EXPECT_EQ(screen.GetLog(), L"");
+}
+
+TEST(OverlapsPartly, IsNeitherApartNorAllOver) {
+  constexpr CRect window(10, 10, 50, 50);
+  EXPECT_FALSE(OverlapsPartly(window, CRect(0, 0, 100, 100)));
+  EXPECT_FALSE(OverlapsPartly(window, CRect(50, 0, 100, 100)));
+  EXPECT_TRUE(OverlapsPartly(window, CRect(40, 0, 100, 100)));
+}
+
+}  // namespace
+}  // namespace coregui::test
