@@ -1,0 +1,7 @@
+#include "grid/data/CGridCellFormat.h"
+
+void CGridCellFormat::ApplyDisplayFormat(CGridCell* /*cell*/) {}
+
+int CGridCellFormat::ValidateCellInfo(CGridCell* /*cell*/) {
+  return 0;
+}

@@ -1,0 +1,264 @@
+#include "grid/data/CellCodec.h"
+
+#include <algorithm>
+#include <bit>
+#include <new>
+
+#include "grid/data/NumberText.h"
+
+namespace coregui {
+namespace {
+
+constexpr DWORD OWN_PROPERTIES =
+    CELLPROP_MASK | CELLPROP_LABEL | CELLPROP_PARAM | CELLPROP_EXTRAMEM | CELLPROP_JOIN;
+constexpr std::size_t INLINE_CAPACITY = 8;
+constexpr std::size_t LONGEST_BLOCK = 1U << 28U;
+
+bool IsPositiveZero(double number) {
+  return std::bit_cast<std::uint64_t>(number) == 0;
+}
+
+std::size_t BlockSize(const TextBlock& block) {
+  return sizeof(TextBlock) + (block.hasNumber != 0 ? sizeof(double) : 0) +
+         static_cast<std::size_t>(block.length) * block.width;
+}
+
+unsigned char* Characters(TextBlock& block) {
+  return reinterpret_cast<unsigned char*>(&block + 1) + (block.hasNumber != 0 ? sizeof(double) : 0);
+}
+
+/// The least width that every character fits in.
+std::uint16_t WidthFor(const std::wstring& text) {
+  std::uint32_t all = 0;
+  for (const wchar_t character : text) all |= static_cast<std::uint32_t>(character);
+  return all <= 0xFF ? 1 : all <= 0xFFFF ? 2 : 4;
+}
+
+template <typename Unit>
+void Pack(const std::wstring& text, unsigned char* target) {
+  for (const wchar_t character : text) {
+    const auto unit = static_cast<Unit>(character);
+    std::memcpy(target, &unit, sizeof unit);
+    target += sizeof unit;
+  }
+}
+
+void Pack(const std::wstring& text, std::uint16_t width, unsigned char* target) {
+  if (width == 1) return Pack<std::uint8_t>(text, target);
+  if (width == 2) return Pack<std::uint16_t>(text, target);
+  Pack<std::uint32_t>(text, target);
+}
+
+bool NeedsExtras(const CellLook& look, const std::shared_ptr<CGridCell>& initial) {
+  return (look.flags & (CELLPROP_MASK | CELLPROP_LABEL | CELLPROP_EXTRAMEM)) != 0 || initial != nullptr;
+}
+
+StoredText Wide(const CString& text) {
+  static_assert(sizeof(wchar_t) == 4);
+  return {reinterpret_cast<const unsigned char*>(text.GetString()),
+          static_cast<std::uint32_t>(text.GetLength()), 4};
+}
+
+}  // namespace
+
+wchar_t StoredText::At(std::uint32_t index) const {
+  if (width == 1) return static_cast<wchar_t>(characters[index]);
+  if (width == 2) {
+    std::uint16_t unit = 0;
+    std::memcpy(&unit, characters + std::size_t{2} * index, sizeof unit);
+    return static_cast<wchar_t>(unit);
+  }
+  wchar_t unit = 0;
+  std::memcpy(&unit, characters + std::size_t{4} * index, sizeof unit);
+  return unit;
+}
+
+void CellCodec::Store(CGridCell& cell, CellSlot& slot, bool isNew) {
+  const std::uint32_t look = m_looks.Acquire(cell.m_look);
+  const CellSlot before = slot;
+  if ((cell.m_look.flags & OWN_PROPERTIES) != 0 || cell.m_initial != nullptr) {
+    StoreBox(cell, slot, look);
+  } else {
+    StoreValue(cell, slot, look);
+  }
+  if (!cell.Has(CELLPROP_EXTRAMEM)) cell.m_extra.pointer = nullptr;
+  if (isNew) return;
+  CellSlot old = before;
+  Release(old);
+}
+
+void CellCodec::StoreValue(const CGridCell& cell, CellSlot& slot, std::uint32_t look) {
+  if (!cell.Has(CELLPROP_TEXT)) {
+    slot.SetTag(SlotKind::noValue, look);
+    slot.SetNumber(0.0);
+  } else if (const std::wstring& text = cell.m_text.Str(); text.empty()) {
+    slot.SetTag(SlotKind::number, look);
+    slot.SetNumber(cell.m_number);
+  } else if (text.size() > LONGEST_BLOCK) {
+    StoreBox(cell, slot, look);
+  } else {
+    StoreText(text, cell.m_number, slot, look);
+  }
+}
+
+void CellCodec::StoreText(const std::wstring& text, double number, CellSlot& slot, std::uint32_t look) {
+  const std::uint16_t width = WidthFor(text);
+  const bool hasNumber = !IsPositiveZero(number);
+  if (width == 1 && !hasNumber && text.size() <= INLINE_CAPACITY) {
+    slot.SetNumber(0.0);
+    Pack<std::uint8_t>(text, slot.Bytes());
+    slot.SetTag(static_cast<SlotKind>(text.size()), look);
+    return;
+  }
+  const TextBlock header{static_cast<std::uint32_t>(text.size()), width,
+                         static_cast<std::uint16_t>(hasNumber)};
+  auto* const block = ::new (m_pool.Allocate(BlockSize(header))) TextBlock(header);
+  if (hasNumber) std::memcpy(block + 1, &number, sizeof number);
+  Pack(text, width, Characters(*block));
+  slot.SetPointer(block);
+  slot.SetTag(SlotKind::heapText, look);
+}
+
+void CellCodec::StoreBox(const CGridCell& cell, CellSlot& slot, std::uint32_t look) {
+  auto* const box = ::new (m_pool.Allocate(sizeof(CellBox))) CellBox;
+  if (cell.Has(CELLPROP_TEXT)) {
+    box->text = cell.m_text;
+    box->number = cell.m_number;
+  }
+  if (cell.Has(CELLPROP_PARAM)) box->param = cell.m_param;
+  if (cell.Has(CELLPROP_JOIN)) box->join = cell.m_join;
+  if (NeedsExtras(cell.m_look, cell.m_initial)) {
+    box->extras = std::make_unique<CellBox::Extras>();
+    if (cell.Has(CELLPROP_LABEL)) box->extras->label = cell.m_label;
+    if (cell.Has(CELLPROP_MASK)) box->extras->mask = cell.m_mask;
+    if (cell.Has(CELLPROP_EXTRAMEM)) box->extras->memory = cell.m_extra;
+    box->extras->initial = cell.m_initial;
+  }
+  slot.SetPointer(box);
+  slot.SetTag(SlotKind::box, look);
+}
+
+void CellCodec::MergeInto(const CellSlot& slot, CGridCell& cell) const {
+  const CellLook& look = Look(slot);
+  cell.m_look.flags |= look.flags;
+  cell.m_look.CopySetFieldsFrom(look);
+  const auto has = [&look](long bit) { return (look.flags & static_cast<DWORD>(bit)) != 0; };
+  if (has(CELLPROP_TEXT)) {
+    ReadText(TextField(slot), cell.m_text);
+    cell.m_number = NumberField(slot);
+  }
+  const CellBox* const box = slot.Kind() == SlotKind::box ? slot.Pointer<CellBox>() : nullptr;
+  const CellBox::Extras* const extras = box != nullptr ? box->extras.get() : nullptr;
+  if (box != nullptr && has(CELLPROP_PARAM)) cell.m_param = box->param;
+  if (box != nullptr && has(CELLPROP_JOIN)) cell.m_join = box->join;
+  if (extras != nullptr && has(CELLPROP_LABEL)) cell.m_label = extras->label;
+  if (extras != nullptr && has(CELLPROP_MASK)) cell.m_mask = extras->mask;
+  if (extras != nullptr && has(CELLPROP_EXTRAMEM)) {
+    cell.m_extra = extras->memory;
+  } else {
+    cell.m_extra.pointer = nullptr;
+  }
+  if (extras != nullptr) {
+    cell.m_initial = extras->initial;
+  } else if (cell.m_initial != nullptr) {
+    cell.m_initial.reset();
+  }
+}
+
+void CellCodec::Release(CellSlot& slot) {
+  ReleasePayload(slot);
+  m_looks.Release(slot.Look());
+}
+
+void CellCodec::ReleasePayload(CellSlot& slot) {
+  if (slot.Kind() == SlotKind::heapText) {
+    auto* const block = slot.Pointer<TextBlock>();
+    m_pool.Release(block, BlockSize(*block));
+  } else if (slot.Kind() == SlotKind::box) {
+    auto* const box = slot.Pointer<CellBox>();
+    box->~CellBox();
+    m_pool.Release(box, sizeof(CellBox));
+  }
+}
+
+void CellCodec::Clear() {
+  m_looks.Clear();
+  m_pool.Clear();
+}
+
+short CellCodec::DataType(const CellSlot& slot) const {
+  const CellLook& look = Look(slot);
+  return (look.flags & CELLPROP_DATATYPE) != 0 ? look.dataType : CELLDATA_TEXT;
+}
+
+double CellCodec::NumberField(const CellSlot& slot) const {
+  if (slot.Kind() == SlotKind::number) return slot.Number();
+  if (slot.Kind() == SlotKind::box) return slot.Pointer<CellBox>()->number;
+  double number = 0.0;
+  if (slot.Kind() == SlotKind::heapText) {
+    const auto* const block = slot.Pointer<TextBlock>();
+    if (block->hasNumber != 0) std::memcpy(&number, block + 1, sizeof number);
+  }
+  return number;
+}
+
+StoredText CellCodec::TextField(const CellSlot& slot) const {
+  if (slot.IsInlineText()) return {slot.Bytes(), slot.InlineLength(), 1};
+  if (slot.Kind() == SlotKind::heapText) {
+    auto* const block = slot.Pointer<TextBlock>();
+    return {Characters(*block), block->length, block->width};
+  }
+  if (slot.Kind() == SlotKind::box) return Wide(slot.Pointer<CellBox>()->text);
+  return {};
+}
+
+StoredText CellCodec::ShownText(const CellSlot& slot, CString& scratch) const {
+  const CellLook& look = Look(slot);
+  if ((look.flags & CELLPROP_TEXT) == 0) return {};
+  if (DataType(slot) != CELLDATA_NUMBER) return TextField(slot);
+  const NumberForm form{(look.flags & CELLPROP_DECIMALS) != 0, look.decimals,
+                        (look.flags & CELLPROP_NOLOCALEFORMAT) == 0};
+  WriteNumber(NumberField(slot), form, scratch);
+  return Wide(scratch);
+}
+
+CString CellCodec::ShownString(const CellSlot& slot) const {
+  CString scratch;
+  CString shown;
+  ReadText(ShownText(slot, scratch), shown);
+  return shown;
+}
+
+double CellCodec::NumberValue(const CellSlot& slot) const {
+  if (!HasValue(slot)) return 0.0;
+  const short type = DataType(slot);
+  if (type == CELLDATA_NUMBER || type == CELLDATA_TIME || type == CELLDATA_CURRENCY) return NumberField(slot);
+  CString text;
+  ReadText(TextField(slot), text);
+  return ReadNumber(text);
+}
+
+void CellCodec::ReadText(const StoredText& text, CString& target) {
+  target.Empty();
+  if (text.length == 0) return;
+  wchar_t small[INLINE_CAPACITY + 1];
+  if (text.width == 1 && text.length <= INLINE_CAPACITY) {
+    for (std::size_t i = 0; i < text.length; ++i) small[i] = static_cast<wchar_t>(text.characters[i]);
+    small[text.length] = L'\0';
+    target += small;
+    return;
+  }
+  std::wstring wide(text.length, L'\0');
+  for (std::uint32_t i = 0; i < text.length; ++i) wide[i] = text.At(i);
+  target = CString(std::move(wide));
+}
+
+bool CellCodec::Check(const CellSlot& slot) const {
+  if (slot.Kind() > SlotKind::box || slot.Look() >= m_looks.Size() || m_looks.Count(slot.Look()) == 0)
+    return false;
+  const bool hasValue = HasValue(slot);
+  if (slot.Kind() == SlotKind::box) return true;
+  return hasValue == (slot.Kind() != SlotKind::noValue);
+}
+
+}  // namespace coregui

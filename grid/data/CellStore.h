@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cstdint>
+
+#include "grid/data/CellCodec.h"
+#include "grid/data/ColumnMap.h"
+#include "grid/data/RowTree.h"
+
+class CGridCell;
+
+namespace coregui {
+
+/// The cells of a memory store: rows in a tree, their cells by storage column, values in slots. It answers
+/// what a list of rows with a list of positions each would answer (see CGridMem).
+class CellStore {
+ public:
+  CellStore() = default;
+  ~CellStore() { Clear(); }
+  CellStore(const CellStore&) = delete;
+  CellStore& operator=(const CellStore&) = delete;
+
+  // Rows: FirstRow() to EndRow() - 1; none when the store is empty.
+  bool IsEmpty() const { return m_rows.Count() == 0; }
+  std::int64_t FirstRow() const { return m_firstRow; }
+  std::int64_t EndRow() const { return m_firstRow + m_rows.Count(); }
+  bool HasRow(std::int64_t row) const { return row >= FirstRow() && row < EndRow(); }
+  bool HasPosition(int col, std::int64_t row);
+
+  /// The stored cell, or null. Valid until the store changes.
+  const CellSlot* Find(int col, std::int64_t row);
+  /// Merges the stored cell over `cell`; false when there is none.
+  bool Get(int col, std::int64_t row, CGridCell& cell);
+  void Set(int col, std::int64_t row, CGridCell& cell);
+  /// Leaves the position empty; false when it does not exist.
+  bool Delete(int col, std::int64_t row);
+  void InsertRow(std::int64_t row);  ///< the row exists
+  void DeleteRow(std::int64_t row);  ///< the row exists
+  void InsertCol(int col);
+  void DeleteCol(int col);
+  void Clear();
+  /// The last position of a row that exists; false when it has none.
+  bool LastPosition(std::int64_t row, int& col);
+
+  const RowTree& Rows() const { return m_rows; }
+  const ColumnMap& Columns() const { return m_columns; }
+  const CellCodec& Codec() const { return m_codec; }
+  /// Puts the rows in the order of `rows`, which names each row that has positions once; runs without
+  /// positions go as one.
+  void Rebuild(RowTree&& rows);
+  bool Check() const;
+
+ private:
+  /// A row of the tree: its leaf and its index in the leaf.
+  struct Place {
+    RowLeaf* leaf = nullptr;
+    int row = 0;
+    std::int64_t wide = 0;  // the index where the leaf is a run
+  };
+  Place Locate(std::int64_t row);
+  Place MakeRow(std::int64_t row);
+  void IncludeRow(std::int64_t row);
+  void ForgetPlace() { m_nearLeaf = nullptr; }
+  void ReleaseCell(RowLeaf& leaf, int storage, int row);
+  void ReleaseRow(RowLeaf& leaf, int row);
+  void ReleaseColumn(int storage);
+  void MoveCell(RowLeaf& leaf, int row, int from, int to);
+
+  RowTree m_rows;
+  std::int64_t m_firstRow = 0;
+  ColumnMap m_columns;
+  CellCodec m_codec;
+  RowLeaf* m_nearLeaf = nullptr;  // borrowed: the leaf used last, where the next access mostly falls
+  std::int64_t m_nearStart = 0;   // the row that it begins with
+};
+
+}  // namespace coregui

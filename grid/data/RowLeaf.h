@@ -1,0 +1,77 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "grid/data/ColumnChunk.h"
+
+namespace coregui {
+
+class RowInner;
+
+/// A node of the tree of rows.
+class RowNode {
+ public:
+  virtual ~RowNode() = default;
+  RowNode(const RowNode&) = delete;
+  RowNode& operator=(const RowNode&) = delete;
+  bool IsLeaf() const { return m_isLeaf; }
+
+  RowInner* parent = nullptr;  // borrowed: the node that owns this one; null for the root
+  int place = 0;               // this node's index in the parent
+
+ protected:
+  explicit RowNode(bool isLeaf) : m_isLeaf(isLeaf) {}
+
+ private:
+  bool m_isLeaf;
+};
+
+/// Neighbouring rows. A leaf with positions has at most 64 rows and keeps their cells; a leaf without stands
+/// for any number of rows that have no position at all.
+class RowLeaf final : public RowNode {
+ public:
+  static constexpr int ROWS = ColumnChunk::ROWS;
+  /// The positions of each row: first to last; none when last < first.
+  struct Positions {
+    std::array<int, ROWS> first{};
+    std::array<int, ROWS> last{};
+  };
+
+  RowLeaf() : RowNode(true) {}
+  bool HasPositions() const { return positions != nullptr; }
+  /// Gives a leaf of at most 64 rows its positions, none for each row.
+  void MakePositions();
+  /// The storage column's cells, or null.
+  ColumnChunk* Find(int storage) {
+    return static_cast<std::size_t>(storage) < columns.size() ? &columns[static_cast<std::size_t>(storage)]
+                                                              : nullptr;
+  }
+  CellSlot* FindCell(int storage, int row) {
+    ColumnChunk* const chunk = Find(storage);
+    return chunk != nullptr ? chunk->Find(row) : nullptr;
+  }
+  ColumnChunk& FindOrAdd(int storage);
+  /// Appends a row without positions; there is room.
+  void AppendRow();
+  void InsertRow(int row);
+  /// The row has no cells any more.
+  void EraseRow(int row);
+  /// Moves the rows from `from` on behind the rows of `target`, which has room.
+  void MoveTail(int from, RowLeaf& target);
+  bool HasPosition(int col, int row) const {
+    return positions != nullptr && positions->first[static_cast<std::size_t>(row)] <= col &&
+           col <= positions->last[static_cast<std::size_t>(row)];
+  }
+  bool Check() const;
+
+  std::int64_t count = 0;
+  std::unique_ptr<Positions> positions;  // null: a run of rows without positions
+  std::vector<ColumnChunk> columns;      // by storage column
+  RowLeaf* previous = nullptr;           // borrowed: the tree owns them
+  RowLeaf* next = nullptr;
+};
+
+}  // namespace coregui

@@ -1,0 +1,261 @@
+#include "grid/data/RowSorter.h"
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+#include <unordered_map>
+
+#include "grid/data/CGridCell.h"
+#include "grid/data/InsertionOrder.h"
+#include "grid/data/SortKeys.h"
+
+namespace coregui {
+namespace {
+
+/// Compares rows by keys that were read once, as the standard comparison does.
+class KeyCompare {
+ public:
+  KeyCompare(std::vector<std::vector<SortKey>> keys, bool descending)
+      : m_keys(std::move(keys)), m_descending(descending) {}
+  void Take(std::uint32_t row) { m_row = row; }
+  int First(std::uint32_t other) const {
+    return m_keys.empty() ? 0 : CompareKeys(m_keys[0][m_row], m_keys[0][other], m_descending);
+  }
+  int All(std::uint32_t other) const {
+    for (const auto& keys : m_keys) {
+      if (const int result = CompareKeys(keys[m_row], keys[other], m_descending); result != 0) return result;
+    }
+    return 0;
+  }
+
+ private:
+  std::vector<std::vector<SortKey>> m_keys;  // by key column and row
+  bool m_descending;
+  std::uint32_t m_row = 0;
+};
+
+/// Compares rows by the owner's own comparison. A missing cell is one with no property set.
+class OwnerCompare {
+ public:
+  OwnerCompare(const CellCodec& codec, CGridSourceOwner& owner, int flags, std::vector<KeyCells> cells)
+      : m_codec(codec), m_owner(owner), m_flags(flags), m_cells(std::move(cells)), m_taken(m_cells.size()) {}
+  void Take(std::uint32_t row) {
+    for (std::size_t key = 0; key < m_cells.size(); ++key) Read(m_cells[key][row], m_taken[key]);
+  }
+  int First(std::uint32_t other) { return m_cells.empty() ? 0 : CompareKey(0, other); }
+  int All(std::uint32_t other) {
+    for (std::size_t key = 0; key < m_cells.size(); ++key) {
+      if (const int result = CompareKey(key, other); result != 0) return result;
+    }
+    return 0;
+  }
+
+ private:
+  void Read(const CellSlot* cell, CGridCell& target) const {
+    target.ClearAll();
+    target.SetPropertyFlags(0);
+    if (cell != nullptr) m_codec.MergeInto(*cell, target);
+  }
+  int CompareKey(std::size_t key, std::uint32_t other) {
+    Read(m_cells[key][other], m_other);
+    return m_owner.OnSortEvaluate(&m_taken[key], &m_other, m_flags);
+  }
+
+  const CellCodec& m_codec;
+  CGridSourceOwner& m_owner;
+  int m_flags;
+  std::vector<KeyCells> m_cells;
+  std::vector<CGridCell> m_taken;
+  CGridCell m_other;
+};
+
+std::vector<std::uint32_t> InStoredOrder(std::size_t count) {
+  std::vector<std::uint32_t> order(count);
+  std::iota(order.begin(), order.end(), 0U);
+  return order;
+}
+
+/// For comparisons by column that do not contradict each other: by the last key first, each sort stable.
+std::vector<std::uint32_t> OrderByColumns(const CellCodec& codec, const std::vector<KeyCells>& keys,
+                                          bool descending) {
+  std::vector<std::uint32_t> order = InStoredOrder(keys.empty() ? 0 : keys[0].size());
+  // Two cells without text decide for the stored order; keys after them do not count.
+  std::vector<std::vector<bool>> ended(keys.size());
+  for (std::size_t key = 1; key < keys.size(); ++key) {
+    ended[key] = ended[key - 1];
+    ended[key].resize(order.size());
+    for (const std::uint32_t row : order) {
+      if (IsBlankKey(codec, keys[key - 1][row])) ended[key][row] = true;
+    }
+  }
+  for (std::size_t key = keys.size(); key-- > 0;)
+    SortByColumn(codec, keys[key], descending, ended[key], order);
+  return order;
+}
+
+}  // namespace
+
+void RowSorter::Gather() {
+  std::int64_t row = m_store.FirstRow();
+  m_items.reserve(static_cast<std::size_t>(std::min<std::int64_t>(m_store.EndRow() - row, 1 << 26)));
+  const auto addRun = [this](RowLeaf* leaf, std::int64_t rows) {
+    if (rows > 0) m_items.push_back({leaf, 0, rows});
+  };
+  for (RowLeaf* leaf = m_store.Rows().First(); leaf != nullptr; leaf = leaf->next) {
+    const std::int64_t before = std::clamp<std::int64_t>(-row, 0, leaf->count);
+    if (leaf->HasPositions()) {
+      for (int i = 0; i < static_cast<int>(leaf->count); ++i) m_items.push_back({leaf, i, 0});
+      m_fixed += static_cast<std::size_t>(before);
+    } else {
+      addRun(leaf, before);
+      m_fixed += before > 0 ? 1 : 0;
+      addRun(leaf, leaf->count - before);
+    }
+    row += leaf->count;
+  }
+}
+
+void RowSorter::OpenRuns() {
+  if (std::none_of(m_items.begin() + static_cast<std::ptrdiff_t>(m_fixed), m_items.end(),
+                   [](const Item& item) { return item.run > 1; })) {
+    return;
+  }
+  std::vector<Item> opened(m_items.begin(), m_items.begin() + static_cast<std::ptrdiff_t>(m_fixed));
+  for (std::size_t i = m_fixed; i < m_items.size(); ++i) {
+    const Item& item = m_items[i];
+    for (std::int64_t rows = std::max<std::int64_t>(item.run, 1); rows > 0; --rows) {
+      opened.push_back({item.leaf, item.row, item.run > 0 ? 1 : 0});
+    }
+  }
+  m_items = std::move(opened);
+}
+
+std::vector<const CellSlot*> RowSorter::KeyCells(int col) const {
+  std::vector<const CellSlot*> cells(m_items.size() - m_fixed, nullptr);
+  const int storage = m_store.Columns().Find(col);
+  if (storage == ColumnMap::NONE) return cells;
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    const Item& item = m_items[i + m_fixed];
+    if (item.run == 0) cells[i] = item.leaf->FindCell(storage, item.row);
+  }
+  return cells;
+}
+
+std::vector<std::uint32_t> RowSorter::Order(const std::vector<int>& cols) {
+  const SortOrder known = m_owner != nullptr ? m_owner->GetSortOrder() : SortOrder::standard;
+  const bool descending = (m_flags & SORT_DESCENDING) != 0;
+  const CellCodec& codec = m_store.Codec();
+  const auto readKeys = [&] {
+    std::vector<coregui::KeyCells> keys;
+    for (const int col : cols) keys.push_back(KeyCells(col));
+    return keys;
+  };
+  std::vector<coregui::KeyCells> keys = readKeys();
+  if (known == SortOrder::standard &&
+      std::all_of(keys.begin(), keys.end(), [&](const auto& cells) { return IsConsistent(codec, cells); })) {
+    return OrderByColumns(codec, keys, descending);
+  }
+  OpenRuns();
+  keys = readKeys();
+  const std::size_t count = m_items.size() - m_fixed;
+  if (known == SortOrder::standard) {
+    std::vector<std::vector<SortKey>> sortKeys;
+    for (const auto& cells : keys) sortKeys.push_back(MakeSortKeys(codec, cells));
+    KeyCompare compare(std::move(sortKeys), descending);
+    return InsertionOrder(compare).Sort(static_cast<std::uint32_t>(count));
+  }
+  OwnerCompare compare(codec, *m_owner, m_flags, std::move(keys));
+  if (known == SortOrder::unknown) return InsertionOrder(compare).Sort(static_cast<std::uint32_t>(count));
+  std::vector<std::uint32_t> order = InStoredOrder(count);
+  std::stable_sort(order.begin(), order.end(), [&compare](std::uint32_t a, std::uint32_t b) {
+    compare.Take(a);
+    return compare.All(b) < 0;
+  });
+  return order;
+}
+
+void RowSorter::Sort(const std::vector<int>& cols) {
+  if (cols.empty()) return;
+  Gather();
+  std::vector<std::uint32_t> order = InStoredOrder(m_fixed);
+  const std::vector<std::uint32_t> sorted = Order(cols);
+  order.reserve(m_fixed + sorted.size());
+  for (const std::uint32_t row : sorted) order.push_back(row + static_cast<std::uint32_t>(m_fixed));
+  Rebuild(order);
+}
+
+std::vector<RowLeaf*> RowSorter::BuildLeaves(const std::vector<std::uint32_t>& order, RowTree& rows) const {
+  std::vector<RowLeaf*> leaves;
+  std::unique_ptr<RowLeaf> leaf;
+  const auto finish = [&] {
+    if (leaf == nullptr) return;
+    leaves.push_back(leaf.get());
+    rows.AppendLeaf(std::move(leaf));
+  };
+  for (const std::uint32_t at : order) {
+    const Item& item = m_items[at];
+    if (item.run > 0) {
+      finish();
+      if (rows.Last() != nullptr && !rows.Last()->HasPositions()) {
+        rows.Append(item.run);
+        continue;
+      }
+      auto run = std::make_unique<RowLeaf>();
+      run->count = item.run;
+      rows.AppendLeaf(std::move(run));
+      continue;
+    }
+    if (leaf != nullptr && leaf->count == RowLeaf::ROWS) finish();
+    if (leaf == nullptr) {
+      leaf = std::make_unique<RowLeaf>();
+      leaf->MakePositions();
+    }
+    const auto to = static_cast<std::size_t>(leaf->count++);
+    leaf->positions->first[to] = item.leaf->positions->first[static_cast<std::size_t>(item.row)];
+    leaf->positions->last[to] = item.leaf->positions->last[static_cast<std::size_t>(item.row)];
+  }
+  finish();
+  return leaves;
+}
+
+void RowSorter::FillColumn(int storage, const std::vector<std::uint32_t>& order,
+                           const std::vector<RowLeaf*>& leaves) const {
+  // Read in stored order first: the places to read at random then lie close together.
+  struct Cell {
+    CellSlot slot;
+    bool stored;
+  };
+  std::vector<Cell> cells(m_items.size());
+  bool any = false;
+  for (std::size_t i = 0; i < m_items.size(); ++i) {
+    const Item& item = m_items[i];
+    const CellSlot* const slot = item.run == 0 ? item.leaf->FindCell(storage, item.row) : nullptr;
+    cells[i].stored = slot != nullptr;
+    if (slot != nullptr) cells[i].slot = *slot;
+    any = any || slot != nullptr;
+  }
+  if (!any) return;
+  auto at = order.begin();
+  for (RowLeaf* const leaf : leaves) {
+    ColumnChunk* chunk = nullptr;
+    for (int row = 0; row < static_cast<int>(leaf->count); ++at) {
+      if (m_items[*at].run > 0) continue;
+      const Cell& cell = cells[*at];
+      if (cell.stored) {
+        if (chunk == nullptr) chunk = &leaf->FindOrAdd(storage);
+        chunk->Add(row) = cell.slot;
+      }
+      ++row;
+    }
+  }
+}
+
+void RowSorter::Rebuild(const std::vector<std::uint32_t>& order) {
+  RowTree rows;
+  const std::vector<RowLeaf*> leaves = BuildLeaves(order, rows);
+  for (int storage = 0; storage < m_store.Columns().StorageCount(); ++storage)
+    FillColumn(storage, order, leaves);
+  m_store.Rebuild(std::move(rows));
+}
+
+}  // namespace coregui

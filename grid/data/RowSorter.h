@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "grid/data/CGridSourceOwner.h"
+#include "grid/data/CellStore.h"
+
+namespace coregui {
+
+/// Sorts a store's rows from row 0 on.
+class RowSorter {
+ public:
+  /// `owner` compares; null for the standard comparison.
+  RowSorter(CellStore& store, CGridSourceOwner* owner, int flags)
+      : m_store(store), m_owner(owner), m_flags(flags) {}
+  void Sort(const std::vector<int>& cols);
+
+ private:
+  /// A row to move, or a run of rows without positions, which stay together.
+  struct Item {
+    RowLeaf* leaf;  // borrowed from the store
+    int row;
+    std::int64_t run;  // the number of rows; 0 for a single row with positions
+  };
+  void Gather();
+  /// Gives each row of a run an item of its own, for comparisons that may part them.
+  void OpenRuns();
+  std::vector<std::uint32_t> Order(const std::vector<int>& cols);
+  std::vector<const CellSlot*> KeyCells(int col) const;
+  void Rebuild(const std::vector<std::uint32_t>& order);
+  std::vector<RowLeaf*> BuildLeaves(const std::vector<std::uint32_t>& order, RowTree& rows) const;
+  void FillColumn(int storage, const std::vector<std::uint32_t>& order,
+                  const std::vector<RowLeaf*>& leaves) const;
+
+  CellStore& m_store;  // borrowed
+  CGridSourceOwner* m_owner;
+  int m_flags;
+  std::vector<Item> m_items;
+  std::size_t m_fixed = 0;  // the first items, rows before row 0, stay where they are
+};
+
+}  // namespace coregui

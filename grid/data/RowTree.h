@@ -1,0 +1,74 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+
+#include "grid/data/RowLeaf.h"
+
+namespace coregui {
+
+/// An inner node: children and how many rows stand before each.
+class RowInner final : public RowNode {
+ public:
+  static constexpr int CHILDREN = 64;
+  RowInner() : RowNode(false) {}
+  /// The child that holds the row; `row` becomes its index in the child.
+  RowNode* Descend(std::int64_t& row) const;
+  void Insert(int at, std::unique_ptr<RowNode> child, std::int64_t rows);
+  std::unique_ptr<RowNode> Remove(int at);
+  void AddRows(int at, std::int64_t rows);
+  std::int64_t RowsOf(int at) const { return starts[At(at) + 1] - starts[At(at)]; }
+
+  int size = 0;
+  std::array<std::int64_t, CHILDREN + 1>
+      starts{};  // rows before each child; starts[size] is the number of rows
+  std::array<std::unique_ptr<RowNode>, CHILDREN> children;
+
+ private:
+  static std::size_t At(int at) { return static_cast<std::size_t>(at); }
+};
+
+/// The rows in order, numbered from 0: a B+-tree of leaves with counts. Finding, inserting and erasing a row
+/// cost O(log n); going on to the next leaf costs nothing.
+class RowTree {
+ public:
+  std::int64_t Count() const { return m_count; }
+  RowLeaf* First() const { return m_first; }
+  RowLeaf* Last() const { return m_last; }
+  /// The leaf that holds the row, and the row's index in it. 0 <= row < Count().
+  RowLeaf* Find(std::int64_t row, std::int64_t& inLeaf) const;
+  /// A row without positions takes the index `row`, at most Count().
+  void InsertRow(std::int64_t row);
+  /// The row has no cells any more.
+  void EraseRow(std::int64_t row);
+  /// Rows without positions at the end, or before the first.
+  void Append(std::int64_t rows);
+  void Prepend(std::int64_t rows);
+  /// Makes the leaf around a row of a leaf without positions have positions; updates the row's index in its
+  /// leaf.
+  RowLeaf* MakePositions(RowLeaf* leaf, std::int64_t& inLeaf);
+  void AppendLeaf(std::unique_ptr<RowLeaf> leaf);
+  void Clear();
+  bool Check() const;
+
+ private:
+  RowLeaf* InsertAfter(RowLeaf* leaf, std::unique_ptr<RowLeaf> added);
+  RowLeaf* InsertBefore(RowLeaf* leaf, std::unique_ptr<RowLeaf> added);
+  void InsertNode(RowNode& neighbour, bool after, std::unique_ptr<RowNode> added, std::int64_t rows);
+  RowInner* SplitInner(RowInner& inner, int& at);
+  void AddRows(RowNode& node, std::int64_t rows);
+  void Remove(RowLeaf& leaf);
+  void Collapse();
+  void MergeWithNext(RowLeaf& leaf);
+  RowLeaf* Split(RowLeaf& leaf, int from);
+  RowLeaf* CutRun(RowLeaf& leaf, std::int64_t from);
+  bool CheckNode(const RowNode& node, std::int64_t& rows, const RowLeaf*& previous) const;
+
+  std::unique_ptr<RowNode> m_root;
+  RowLeaf* m_first = nullptr;  // borrowed from the root
+  RowLeaf* m_last = nullptr;
+  std::int64_t m_count = 0;
+};
+
+}  // namespace coregui

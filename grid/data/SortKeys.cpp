@@ -1,0 +1,193 @@
+#include "grid/data/SortKeys.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cmath>
+#include <numeric>
+#include <string>
+
+namespace coregui {
+namespace {
+
+struct Entry {
+  std::uint64_t key;
+  std::uint32_t row;
+};
+
+bool ComparesByNumber(const CellCodec& codec, const CellSlot* cell) {
+  if (cell == nullptr) return false;
+  const short type = codec.DataType(*cell);
+  return type == CELLDATA_NUMBER || type == CELLDATA_BOOL || type == CELLDATA_CURRENCY;
+}
+
+int CompareTexts(const StoredText& a, const StoredText& b) {
+  const std::uint32_t common = std::min(a.length, b.length);
+  for (std::uint32_t i = 0; i < common; ++i) {
+    const wchar_t x = a.At(i);
+    const wchar_t y = b.At(i);
+    if (x != y) return x < y ? -1 : 1;
+  }
+  return a.length < b.length ? -1 : a.length > b.length ? 1 : 0;
+}
+
+/// A number whose order among unsigned numbers is the double's; both zeros are one.
+std::uint64_t NumberKey(double number) {
+  const auto bits = std::bit_cast<std::uint64_t>(number == 0.0 ? 0.0 : number);
+  constexpr std::uint64_t SIGN = 1ULL << 63U;
+  return (bits & SIGN) != 0 ? ~bits : bits | SIGN;
+}
+
+/// The first 8 characters, for texts of one byte each.
+std::uint64_t NarrowKey(const StoredText& text) {
+  std::uint64_t key = 0;
+  const std::uint32_t used = std::min<std::uint32_t>(text.length, 8);
+  for (std::uint32_t i = 0; i < used; ++i) key |= static_cast<std::uint64_t>(text.At(i)) << (56 - 8 * i);
+  return key;
+}
+
+/// The first 4 characters; those beyond U+FFFE are alike, and what follows one does not count.
+std::uint64_t WideKey(const StoredText& text) {
+  std::uint64_t key = 0;
+  const std::uint32_t used = std::min<std::uint32_t>(text.length, 4);
+  for (std::uint32_t i = 0; i < used; ++i) {
+    const auto unit = std::min<std::uint32_t>(static_cast<std::uint32_t>(text.At(i)), 0xFFFF);
+    key |= static_cast<std::uint64_t>(unit) << (48 - 16 * i);
+    if (unit == 0xFFFF) break;
+  }
+  return key;
+}
+
+/// How a column's texts become keys.
+struct TextForm {
+  bool narrow = true;    ///< every text has characters of one byte
+  bool complete = true;  ///< and 8 at most, so that the key is the text
+};
+
+TextForm FormOf(const CellCodec& codec, const KeyCells& cells) {
+  TextForm form;
+  for (const CellSlot* const cell : cells) {
+    if (cell == nullptr || cell->IsInlineText() || !codec.HasValue(*cell)) continue;
+    const StoredText text = codec.TextField(*cell);
+    if (text.width != 1 && text.length != 0) form.narrow = false;
+    if (text.length > 8) form.complete = false;
+  }
+  if (!form.narrow) form.complete = false;
+  return form;
+}
+
+/// Sorts by key, stable: by each byte that is not the same everywhere, from the last to the first.
+void RadixSort(std::vector<Entry>& entries) {
+  std::array<std::array<std::size_t, 256>, 8> counts{};
+  for (const Entry& entry : entries) {
+    for (unsigned byte = 0; byte < 8; ++byte) ++counts[byte][(entry.key >> (8 * byte)) & 0xFFU];
+  }
+  std::vector<Entry> other(entries.size());
+  for (unsigned byte = 0; byte < 8; ++byte) {
+    auto& places = counts[byte];
+    if (std::find(places.begin(), places.end(), entries.size()) != places.end()) continue;
+    std::exclusive_scan(places.begin(), places.end(), places.begin(), std::size_t{0});
+    for (const Entry& entry : entries) other[places[(entry.key >> (8 * byte)) & 0xFFU]++] = entry;
+    entries.swap(other);
+  }
+}
+
+/// Sorts the stretches of equal keys by the whole texts.
+void RefineTexts(const CellCodec& codec, const KeyCells& cells, bool descending,
+                 std::vector<Entry>& entries) {
+  const auto less = [&](const Entry& a, const Entry& b) {
+    const int order = CompareTexts(codec.TextField(*cells[a.row]), codec.TextField(*cells[b.row]));
+    return descending ? order > 0 : order < 0;
+  };
+  for (auto begin = entries.begin(); begin != entries.end();) {
+    const auto end =
+        std::find_if(begin, entries.end(), [&](const Entry& entry) { return entry.key != begin->key; });
+    if (end - begin > 1) std::stable_sort(begin, end, less);
+    begin = end;
+  }
+}
+
+}  // namespace
+
+bool IsBlankKey(const CellCodec& codec, const CellSlot* cell) {
+  return cell == nullptr || (!ComparesByNumber(codec, cell) && !codec.HasValue(*cell));
+}
+
+bool IsConsistent(const CellCodec& codec, const KeyCells& cells) {
+  bool numbers = false;
+  bool texts = false;
+  for (const CellSlot* const cell : cells) {
+    const bool byNumber = ComparesByNumber(codec, cell);
+    (byNumber ? numbers : texts) = true;
+    if (numbers && texts) return false;
+    if (byNumber && std::isnan(codec.NumberValue(*cell))) return false;
+  }
+  return true;
+}
+
+void SortByColumn(const CellCodec& codec, const KeyCells& cells, bool descending,
+                  const std::vector<bool>& ended, std::vector<std::uint32_t>& order) {
+  const TextForm form = FormOf(codec, cells);
+  std::vector<Entry> entries;
+  std::vector<std::uint32_t> blank;
+  entries.reserve(order.size());
+  bool byNumber = false;
+  for (const std::uint32_t row : order) {
+    const CellSlot* const cell = cells[row];
+    if ((!ended.empty() && ended[row]) || IsBlankKey(codec, cell)) {
+      blank.push_back(row);
+      continue;
+    }
+    byNumber = ComparesByNumber(codec, cell);
+    std::uint64_t key = 0;
+    if (byNumber) {
+      key = NumberKey(codec.NumberValue(*cell));
+    } else {
+      const StoredText text = codec.TextField(*cell);
+      key = form.narrow ? NarrowKey(text) : WideKey(text);
+    }
+    entries.push_back({descending ? ~key : key, row});
+  }
+  RadixSort(entries);
+  if (!byNumber && !form.complete) RefineTexts(codec, cells, descending, entries);
+  auto target = order.begin();
+  if (descending) target = std::copy(blank.begin(), blank.end(), target);
+  target =
+      std::transform(entries.begin(), entries.end(), target, [](const Entry& entry) { return entry.row; });
+  if (!descending) std::copy(blank.begin(), blank.end(), target);
+}
+
+std::vector<SortKey> MakeSortKeys(const CellCodec& codec, const KeyCells& cells) {
+  std::vector<SortKey> keys(cells.size());
+  std::vector<CString> texts(cells.size());
+  std::vector<std::uint32_t> withText;
+  for (std::uint32_t row = 0; row < cells.size(); ++row) {
+    const CellSlot* const cell = cells[row];
+    if (cell == nullptr) continue;
+    keys[row].number = codec.NumberValue(*cell);
+    keys[row].byNumber = ComparesByNumber(codec, cell);
+    keys[row].hasText = codec.HasValue(*cell);
+    if (!keys[row].hasText) continue;
+    texts[row] = codec.ShownString(*cell);
+    withText.push_back(row);
+  }
+  std::sort(withText.begin(), withText.end(),
+            [&](std::uint32_t a, std::uint32_t b) { return texts[a] < texts[b]; });
+  std::uint32_t rank = 0;
+  for (std::size_t i = 0; i < withText.size(); ++i) {
+    if (i != 0 && texts[withText[i]] != texts[withText[i - 1]]) ++rank;
+    keys[withText[i]].rank = rank;
+  }
+  return keys;
+}
+
+int CompareKeys(const SortKey& a, const SortKey& b, bool descending) {
+  const SortKey& first = descending ? b : a;
+  const SortKey& second = descending ? a : b;
+  if (first.byNumber) return first.number < second.number ? -1 : first.number > second.number ? 1 : 0;
+  if (!first.hasText) return 1;
+  if (!second.hasText) return -1;
+  return first.rank < second.rank ? -1 : first.rank > second.rank ? 1 : 0;
+}
+
+}  // namespace coregui

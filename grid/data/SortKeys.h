@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "grid/data/CellCodec.h"
+
+namespace coregui {
+
+/// A row's standing in one key column, for the standard comparison.
+struct SortKey {
+  double number = 0.0;     ///< what GetNumber gives
+  std::uint32_t rank = 0;  ///< the place of its text among the column's texts; equal for equal texts
+  bool byNumber = false;   ///< compares by number when it is the first of two
+  bool hasText = false;
+};
+
+/// The cells of one key column, null where there is none.
+using KeyCells = std::vector<const CellSlot*>;
+
+/// Whether the standard comparison orders these cells without contradiction: all by number, none of them NaN,
+/// or all by text. A cell without text goes behind (with descending order before) all others, and such cells
+/// keep their order.
+bool IsConsistent(const CellCodec& codec, const KeyCells& cells);
+
+/// Sorts `order` by one column, stable. `ended` marks rows for which an earlier column has decided that no
+/// later one counts; they, and rows without text, keep their order behind (descending: before) the others.
+/// Only for consistent columns.
+void SortByColumn(const CellCodec& codec, const KeyCells& cells, bool descending,
+                  const std::vector<bool>& ended, std::vector<std::uint32_t>& order);
+
+/// Whether the cell compares by text and has none.
+bool IsBlankKey(const CellCodec& codec, const CellSlot* cell);
+
+std::vector<SortKey> MakeSortKeys(const CellCodec& codec, const KeyCells& cells);
+
+/// What the standard comparison answers for the first key cell against the second.
+int CompareKeys(const SortKey& a, const SortKey& b, bool descending);
+
+}  // namespace coregui
