@@ -1,6 +1,5 @@
 #include "platform/CDC.h"
 
-#include <limits>
 #include <utility>
 
 #include "platform/CallLog.h"
@@ -8,6 +7,7 @@
 
 using coregui::CallLog;
 using coregui::DrawAttributes;
+using coregui::Saturated;
 using coregui::Shape;
 using coregui::ShapeDetail;
 
@@ -29,9 +29,7 @@ StockObjects& Stock() {
 
 // A rectangle whose far edges stop at the end of the number range.
 CRect RectAt(LONG x, LONG y, CSize size) {
-  constexpr std::int64_t last = std::numeric_limits<LONG>::max();
-  return {x, y, static_cast<LONG>(std::min(last, std::int64_t{x} + size.cx)),
-          static_cast<LONG>(std::min(last, std::int64_t{y} + size.cy))};
+  return {x, y, Saturated(std::int64_t{x} + size.cx), Saturated(std::int64_t{y} + size.cy)};
 }
 
 }  // namespace
@@ -198,9 +196,9 @@ bool CDC::GetClipBox(RECT* rect) const {
   }
   const double scale = m_target->Scale();
   const auto logical = [scale](LONG dot) { return static_cast<LONG>(std::floor(dot / scale + 0.5)); };
-  CRect box(logical(bounds.left), logical(bounds.top), logical(bounds.right), logical(bounds.bottom));
-  box.OffsetRect(-now.origin.x, -now.origin.y);
-  *rect = box;
+  const auto without = [](std::int64_t device, LONG origin) { return Saturated(device - origin); };
+  *rect = CRect(without(logical(bounds.left), now.origin.x), without(logical(bounds.top), now.origin.y),
+                without(logical(bounds.right), now.origin.x), without(logical(bounds.bottom), now.origin.y));
   return true;
 }
 
@@ -391,8 +389,7 @@ void CDC::SetPixel(int x, int y, COLORREF colour) {
     CallLog::Line(*m_state->log, L"SetPixel", m_state->now).Point(x, y).Colour(colour);
     return;
   }
-  constexpr LONG last = std::numeric_limits<LONG>::max();
-  m_target->Fill(m_state->now, CRect(x, y, x == last ? x : x + 1, y == last ? y : y + 1), colour);
+  m_target->Fill(m_state->now, RectAt(x, y, CSize(1, 1)), colour);
 }
 
 COLORREF CDC::GetPixel(int x, int y) const {
@@ -427,6 +424,6 @@ BOOL CDC::BitBlt(int x, int y, int width, int height, CDC* source, int sourceX, 
     return TRUE;
   }
   const CPoint origin = source->GetViewportOrg();
-  const CPoint from(sourceX + origin.x, sourceY + origin.y);
+  const CPoint from(Saturated(std::int64_t{sourceX} + origin.x), Saturated(std::int64_t{sourceY} + origin.y));
   return m_target->Copy(m_state->now, to, *source->m_target, from, operation == SRCINVERT) ? TRUE : FALSE;
 }

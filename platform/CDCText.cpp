@@ -10,6 +10,7 @@
 
 using coregui::CallLog;
 using coregui::DrawAttributes;
+using coregui::Saturated;
 
 namespace {
 
@@ -25,12 +26,6 @@ int CountOf(const wchar_t* text, int length) {
   }
   constexpr std::size_t limit = std::numeric_limits<int>::max();
   return static_cast<int>(std::min(std::wcslen(text), limit));
-}
-
-LONG Saturated(std::int64_t value) {
-  constexpr std::int64_t low = std::numeric_limits<LONG>::min();
-  constexpr std::int64_t high = std::numeric_limits<LONG>::max();
-  return static_cast<LONG>(value < low ? low : (value > high ? high : value));
 }
 
 LONG LineStart(const RECT& rect, int width, UINT format) {
@@ -197,8 +192,9 @@ void CDC::PutLine(const coregui::TextLine& line, int x, int y) {
     return;
   }
   const DrawAttributes& now = m_state->now;
-  const int before = m_target->TextWidth(now, line.text, line.underlined);
-  const int after = m_target->TextWidth(now, line.text, line.underlined + 1);
-  const int base = y + m_target->Metrics(now).tmAscent + 1;
-  m_target->Fill(now, CRect(x + before, base, x + after, base + 1), now.textColour);
+  const std::int64_t left = std::int64_t{x} + m_target->TextWidth(now, line.text, line.underlined);
+  const std::int64_t right = std::int64_t{x} + m_target->TextWidth(now, line.text, line.underlined + 1);
+  const std::int64_t top = std::int64_t{y} + m_target->Metrics(now).tmAscent + 1;
+  m_target->Fill(now, CRect(Saturated(left), Saturated(top), Saturated(right), Saturated(top + 1)),
+                 now.textColour);
 }

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <limits>
 #include <memory>
 #include <vector>
 
@@ -11,6 +12,13 @@
 namespace coregui {
 
 class CallLog;
+
+/// The nearest coordinate there is.
+constexpr LONG Saturated(std::int64_t value) {
+  constexpr std::int64_t low = std::numeric_limits<LONG>::min();
+  constexpr std::int64_t high = std::numeric_limits<LONG>::max();
+  return static_cast<LONG>(value < low ? low : (value > high ? high : value));
+}
 
 /// What drawing is confined to, in device dots: a box, or the part of a region inside it.
 struct Clip {

@@ -14,8 +14,10 @@ CBitmap::~CBitmap() = default;
 BOOL CBitmap::CreateCompatibleBitmap(const CDC* like, int width, int height) {
   m_data.reset();
   const double scale = like != nullptr ? like->GetScaleFactor() : 1.0;
-  constexpr int largest = 32767;
-  if (width < 1 || height < 1 || width * scale > largest || height * scale > largest) {
+  constexpr double largest = 32767;
+  constexpr double mostDots = 1 << 27;  // half a gigabyte
+  if (width < 1 || height < 1 || width * scale > largest || height * scale > largest ||
+      width * scale * height * scale > mostDots) {
     return FALSE;
   }
   const int dotsX = static_cast<int>(std::floor(width * scale + 0.5));

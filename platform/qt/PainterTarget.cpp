@@ -9,6 +9,7 @@
 #include "platform/FontData.h"
 #include "platform/qt/BitmapData.h"
 #include "platform/qt/FontFace.h"
+#include "platform/qt/RasterTarget.h"
 #include "platform/qt/ShapedText.h"
 
 namespace coregui {
@@ -328,8 +329,23 @@ void PainterTarget::Bitmap(const DrawAttributes& with, const BitmapData& bitmap,
   }
 }
 
-bool PainterTarget::Copy(const DrawAttributes&, const CRect&, DrawTarget&, CPoint, bool) {
-  return false;
+bool PainterTarget::Copy(const DrawAttributes& with, const CRect& to, DrawTarget& source, CPoint from,
+                         bool exclusiveOr) {
+  const auto* raster = dynamic_cast<RasterTarget*>(&source);
+  if (raster == nullptr) {
+    return false;
+  }
+  QPainter* painter = Begin(with);
+  if (painter == nullptr) {
+    return true;
+  }
+  const CRect dots(source.Dot(from.x), source.Dot(from.y), source.Dot(std::int64_t{from.x} + to.Width()),
+                   source.Dot(std::int64_t{from.y} + to.Height()));
+  painter->setCompositionMode(exclusiveOr ? QPainter::RasterOp_SourceXorDestination
+                                          : QPainter::CompositionMode_SourceOver);
+  painter->drawImage(ToQt(DotRect(with, to)), raster->Pixels()->Snapshot(), ToQt(dots));
+  Drawn(with.clip.box);
+  return true;
 }
 
 }  // namespace coregui

@@ -334,8 +334,8 @@ void RasterTarget::Bitmap(const DrawAttributes& with, const BitmapData& bitmap, 
 bool RasterTarget::Copy(const DrawAttributes& with, const CRect& to, DrawTarget& source, CPoint from,
                         bool exclusiveOr) {
   auto* raster = dynamic_cast<RasterTarget*>(&source);
-  if (raster == nullptr) {
-    return false;
+  if (raster == nullptr || raster->Scale() != Scale()) {
+    return PainterTarget::Copy(with, to, source, from, exclusiveOr);
   }
   Surface& other = *raster->m_surface;
   const CRect whole = DotRect(with, to);

@@ -1,5 +1,6 @@
 #include "platform/qt/Surface.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 
@@ -12,7 +13,8 @@ int Rounded(double value) {
 }
 
 CSize DotsOf(CSize size, double scale) {
-  return {std::max(1, Rounded(size.cx * scale)), std::max(1, Rounded(size.cy * scale))};
+  constexpr int largest = 32767;
+  return {std::clamp(Rounded(size.cx * scale), 1, largest), std::clamp(Rounded(size.cy * scale), 1, largest)};
 }
 
 }  // namespace
@@ -85,8 +87,8 @@ bool Surface::MovePixels(const CRect& rect, int dx, int dy, const CRect& clip) {
   if (dotsX != std::floor(dotsX) || dotsY != std::floor(dotsY)) {
     return false;
   }
-  const int moveX = static_cast<int>(dotsX);
-  const int moveY = static_cast<int>(dotsY);
+  const int moveX = Rounded(dotsX);
+  const int moveY = Rounded(dotsY);
   const auto inDots = [this](const CRect& r) {
     return CRect(Rounded(r.left * m_scale), Rounded(r.top * m_scale), Rounded(r.right * m_scale),
                  Rounded(r.bottom * m_scale));

@@ -196,6 +196,15 @@ TEST_P(Drawing, ExtremeCoordinates_DrawWhatIsVisible) {
   dc.DrawText(L"far", -1, &rect, DT_SINGLELINE | DT_VCENTER | DT_CENTER);
   dc.TextOut(high, low, L"far", -1);
   dc.TextOut(low, 0, L"far", -1);
+  rect = CRect(high - 10, high - 10, high, high);
+  dc.DrawText(L"&far", -1, &rect, DT_RIGHT);
+  dc.BitBlt(high, low, 5, 5, &dc, high, high, SRCCOPY);
+  dc.SetViewportOrg(low, high);
+  RECT box;
+  dc.GetClipBox(&box);
+  dc.SetViewportOrg(5, 5);
+  EXPECT_TRUE(surface->MovePixels(CRect(low, low, high, high), 0, high - 3, CRect(low, low, high, high)) ||
+              GetParam() != 1.0);
   const double wild[] = {-1e300, 3, 1e300, 3, std::nan(""), 0, 10, 10, 20, 20};
   dc.PolylineF(wild, 5);
   EXPECT_EQ(dc.GetPixel(15, 15), 0U);
@@ -211,6 +220,16 @@ TEST_P(Drawing, CopyWithinItself_MovesOverlappingPixelsRight) {
   dc.BitBlt(0, 0, 40, 24, &dc, 4, 8, SRCCOPY);
   const QRect kept(0, 0, Edge(40), Edge(24));
   EXPECT_EQ(surface->Snapshot().copy(kept), before.copy(kept));
+}
+
+TEST_P(Drawing, CopyFromAnotherScale_FillsTheSameLogicalPixels) {
+  const auto other = std::make_shared<coregui::Surface>(CSize(20, 20), 3.0);
+  SurfaceDC source(other);
+  source.FillSolidRect(CRect(5, 5, 15, 15), red);
+  EXPECT_TRUE(dc.BitBlt(10, 10, 10, 10, &source, 5, 5, SRCCOPY));
+  EXPECT_EQ(CountDots(0xFF0000), (Edge(20) - Edge(10)) * (Edge(20) - Edge(10)));
+  EXPECT_EQ(dc.GetPixel(10, 10), red);
+  EXPECT_FALSE(dc.BitBlt(0, 0, 0, 5, &source, 0, 0, SRCCOPY));
 }
 
 TEST_P(Drawing, MovePixels_StaysInsideTheClip) {
