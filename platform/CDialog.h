@@ -1,10 +1,8 @@
 #pragma once
 
 #include "platform/CWnd.h"
+#include "platform/DialogIds.h"
 #include "platform/WindowRef.h"
-
-inline constexpr int IDOK = 1;
-inline constexpr int IDCANCEL = 2;
 
 namespace coregui {
 class EventLoop;

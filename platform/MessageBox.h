@@ -4,6 +4,7 @@
 
 #include "core/Export.h"
 #include "platform/CString.h"
+#include "platform/DialogIds.h"
 #include "platform/Types.h"
 
 class CWnd;
@@ -25,15 +26,6 @@ inline constexpr UINT MB_DEFBUTTON2 = 0x100;
 inline constexpr UINT MB_DEFBUTTON3 = 0x200;
 inline constexpr UINT MB_DEFBUTTON4 = 0x300;
 inline constexpr UINT MB_DEFMASK = 0xF00;
-
-// Results.
-inline constexpr int IDOK = 1;
-inline constexpr int IDCANCEL = 2;
-inline constexpr int IDABORT = 3;
-inline constexpr int IDRETRY = 4;
-inline constexpr int IDIGNORE = 5;
-inline constexpr int IDYES = 6;
-inline constexpr int IDNO = 7;
 
 namespace coregui {
 
