@@ -1,0 +1,237 @@
+#include "grid/data/CGridMem.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <random>
+
+#include "grid/data/CGridCell.h"
+#include "tests/grid/data/DataSourceContract.h"
+#include "tests/grid/data/TestOwner.h"
+
+namespace {
+
+void Put(CGridMem& store, int col, long row, const wchar_t* text) {
+  CGridCell cell;
+  cell.SetText(text);
+  store.SetCell(col, row, &cell);
+}
+
+std::string Text(CGridMem& store, int col, long row) {
+  CGridCell cell;
+  cell.SetPropertyFlags(0);
+  CString text;
+  if (store.GetCell(col, row, &cell) != 0) return "none";
+  cell.GetText(&text);
+  return text.ToUtf8();
+}
+
+TEST(CGridMem, KeepsTheContractOfDataSources) {
+  CGridMem store;
+  ExpectDataSourceContract(store);
+  CGridCell* cells[1] = {};
+  EXPECT_EQ(0, store.AppendRow());
+  EXPECT_EQ(-1, store.AppendRow(cells, 1));
+  EXPECT_EQ(-1, store.GetNumCols());
+  EXPECT_EQ(0, store.IsOpen());
+}
+
+TEST(CGridMem, AWriteMakesTheRowsAndPositionsBeforeIt) {
+  CGridMem store;
+  Put(store, 5, 3, L"x");
+  EXPECT_EQ(3, store.GetNumRows());
+  EXPECT_EQ(0, store.DeleteCell(0, 3));
+  EXPECT_EQ(1, store.DeleteCell(6, 3));
+  EXPECT_EQ(1, store.DeleteCell(0, 2));
+  EXPECT_EQ(1, store.InsertRow(4));
+  EXPECT_EQ(0, store.InsertRow(3));
+  EXPECT_EQ("x", Text(store, 5, 4));
+  EXPECT_EQ(0, store.DeleteRow(99));
+}
+
+TEST(CGridMem, ACellWithNoPropertyIsStoredAndAllPropertiesComeBack) {
+  CGridMem store;
+  CGridCell cell;
+  cell.SetPropertyFlags(0);
+  store.SetCell(-1, -1, &cell);
+  EXPECT_EQ(0, store.GetCell(-1, -1, &cell));
+  CGridCell full;
+  full.SetNumber(-0.0);
+  full.GetText();
+  full.SetLabelText(L"label");
+  full.SetMask(L"mask");
+  full.SetParam(4);
+  full.SetJoinInfo(0, -2, -3);
+  full.SetReadOnly(1);
+  full.SetInitialState();
+  std::memcpy(full.AllocExtraMem(3), "ab", 3);
+  store.SetCell(0, 0, &full);
+  CGridCell read;
+  store.GetCell(0, 0, &read);
+  EXPECT_EQ(full.GetPropertyFlags(), read.GetPropertyFlags());
+  EXPECT_TRUE(std::signbit(read.GetNumber()));
+  EXPECT_EQ(full.GetTextLength(), read.GetTextLength());
+  EXPECT_STREQ(L"label", read.GetLabelText());
+  EXPECT_STREQ(L"mask", read.GetMask());
+  EXPECT_EQ(4, read.GetParam());
+  EXPECT_EQ(full.GetExtraMemPtr(), read.GetExtraMemPtr());
+  store.DeleteCell(0, 0);
+  EXPECT_STREQ("ab", static_cast<char*>(read.GetExtraMemPtr()));
+  read.SetText(L"changed");
+  read.LoadInitialState();
+  EXPECT_EQ(CELLDATA_NUMBER, read.GetDataType());
+  EXPECT_TRUE(store.Check());
+}
+
+TEST(CGridMem, ATextKeepsTheNumberThatAReusedCellStillHolds) {
+  CGridMem store;
+  CGridCell cell;
+  cell.SetNumber(45000.0);
+  cell.SetText(L"text");
+  store.SetCell(0, 0, &cell);
+  CGridCell read;
+  store.GetCell(0, 0, &read);
+  EXPECT_STREQ(L"text", read.GetText());
+  read.SetLabelText(L"dates come from the number now");
+  int f[6] = {};
+  read.GetTime(&f[0], &f[1], &f[2], &f[3], &f[4], &f[5]);
+  EXPECT_EQ(2023, f[5]);
+}
+
+TEST(CGridMem, InsertedColumnsFollowTheTranslationIsKept) {
+  CGridMem store;
+  TestOwner owner(3, 10);
+  owner.translations = {2, 0, 1};
+  store.SetOwner(&owner);
+  Put(store, 0, 0, L"a");
+  Put(store, 1, 0, L"b");
+  Put(store, 2, 0, L"c");
+  Put(store, 0, 1, L"short");
+  // Data column 0 is shown by grid column 1, and that is where the position goes in.
+  EXPECT_EQ(0, store.InsertCol(0));
+  EXPECT_EQ("a", Text(store, 0, 0));
+  EXPECT_EQ("none", Text(store, 1, 0));
+  EXPECT_EQ("b", Text(store, 2, 0));
+  EXPECT_EQ((std::vector<int>{3, 0, 2}), owner.translations);
+  EXPECT_EQ(1, store.DeleteCell(1, 1));
+  EXPECT_EQ(0, store.DeleteCol(2));
+  EXPECT_EQ((std::vector<int>{2, 0, 1}), owner.translations);
+  EXPECT_EQ("c", Text(store, 2, 0));
+  CGridMem empty;
+  EXPECT_EQ(1, empty.InsertCol(0));
+  EXPECT_EQ(1, empty.DeleteCol(0));
+}
+
+TEST(CGridMem, FindGoesAroundAndLeavesOutputsAloneWhenItFails) {
+  CGridMem store;
+  TestOwner owner(3, 4);
+  store.SetOwner(&owner);
+  Put(store, 0, 0, L"First");
+  Put(store, 2, 3, L"last");
+  Put(store, 1, 2,
+      L"stra\x00DF"
+      L"e");
+  CGridCell number;
+  number.SetNumber(12.5);
+  store.SetCell(1, 1, &number);
+  int col = 2;
+  long row = 3;
+  CString text = L"f";
+  EXPECT_EQ(0, store.FindNext(&text, &col, &row, FIND_ALLCOLS | FIND_NOCASE | FIND_PARTIAL));
+  EXPECT_EQ(L"F", text);
+  EXPECT_EQ(0, col);
+  EXPECT_EQ(0, row);
+  EXPECT_EQ(0, store.FindNext(&text, &col, &row, FIND_ALLCOLS | FIND_PARTIAL | FIND_UP))
+      << "the only match again";
+  EXPECT_EQ(0, row);
+  text = L"12.5";
+  EXPECT_EQ(0, store.FindFirst(&text, &col, &row, FIND_ALLCOLS));
+  EXPECT_EQ(1, col);
+  EXPECT_EQ(1, row);
+  text = L"LAST";
+  EXPECT_EQ(1, store.FindFirst(&text, &col, &row, FIND_ALLCOLS | FIND_PARTIAL));
+  EXPECT_EQ(1, store.FindFirst(&text, &col, &row, FIND_NOCASE)) << "another column";
+  EXPECT_EQ(1, col);
+  EXPECT_EQ(1, row);
+  owner.numberRows = 3;
+  EXPECT_EQ(1, store.FindFirst(&text, &col, &row, FIND_ALLCOLS | FIND_NOCASE)) << "beyond the control's rows";
+}
+
+/// The search as it is worded, one cell at a time.
+int NaiveFind(CGridMem& store, const TestOwner& owner, const CString& wanted, int* col, long* row,
+              int flags) {
+  const long rows = owner.numberRows;
+  const int cols = owner.GetNumberCols();
+  const int step = (flags & FIND_UP) != 0 ? -1 : 1;
+  int c = *col;
+  long r = *row;
+  long moves = 0;
+  const auto moveRow = [&] {
+    r += step;
+    if (step > 0 && r > rows - 1) r = 0;
+    if (step < 0 && r < 0) r = rows - 1;
+    ++moves;
+  };
+  for (;;) {
+    if ((flags & FIND_ALLCOLS) == 0) {
+      moveRow();
+    } else {
+      c += step;
+      if (c > cols - 1 || c < 0) {
+        c = step > 0 ? 0 : cols - 1;
+        moveRow();
+      }
+    }
+    if (moves > rows + 1) return 1;
+    CGridCell cell;
+    cell.SetPropertyFlags(0);
+    if (store.GetCell(c, r, &cell) != 0) continue;
+    CString text;
+    cell.GetText(&text);
+    if ((flags & FIND_NOCASE) != 0) text.MakeUpper();
+    const bool matches =
+        (flags & FIND_PARTIAL) != 0 ? text.Find(wanted) >= 0 : !text.IsEmpty() && text == wanted;
+    if (!matches) continue;
+    *col = c;
+    *row = r;
+    return 0;
+  }
+}
+
+TEST(CGridMem, FindsWhatTheWordedSearchFindsInRandomTables) {
+  std::mt19937 random(11);
+  const auto pick = [&random](int high) { return static_cast<int>(random() % static_cast<unsigned>(high)); };
+  const wchar_t* const texts[] = {
+      L"a", L"A", L"ab", L"xaB", L"1", L"1.5", L"\x00E9t\x00C9", L"a longer text with \x20AC and B", L""};
+  for (int round = 0; round < 300; ++round) {
+    TestOwner owner(1 + pick(4), 1 + pick(150));
+    CGridMem store;
+    store.SetOwner(&owner);
+    for (int i = pick(12); i > 0; --i) {
+      CGridCell cell;
+      if (pick(3) == 0)
+        cell.SetNumber(pick(30) / 2.0);
+      else
+        cell.SetText(texts[pick(9)]);
+      store.SetCell(pick(6) - 1, pick(160) - 2, &cell);
+    }
+    for (int search = 0; search < 20; ++search) {
+      CString text = texts[pick(9)];
+      const int flags = pick(16);
+      int col = pick(owner.GetNumberCols());
+      long row = pick(static_cast<int>(owner.numberRows));
+      CString upper = text;
+      if ((flags & FIND_NOCASE) != 0) upper.MakeUpper();
+      int wantedCol = col;
+      long wantedRow = row;
+      const int wanted = NaiveFind(store, owner, upper, &wantedCol, &wantedRow, flags);
+      ASSERT_EQ(wanted, store.FindNext(&text, &col, &row, flags))
+          << "round " << round << " flags " << flags << " " << text.ToUtf8();
+      ASSERT_EQ(wantedCol, col);
+      ASSERT_EQ(wantedRow, row);
+      ASSERT_EQ(upper, text);
+    }
+  }
+}
+
+}  // namespace
