@@ -1,5 +1,7 @@
 #include "views/ReduceSeries.h"
 
+#include <algorithm>
+
 #include "views/CPolylineReducer.h"
 #include "views/CViewMapping.h"
 
@@ -154,6 +156,28 @@ void ReduceSeries(const CPlotSeries& series, const CPlotMapping& mapping, CPolyl
   } else {
     Reduce(series, mapping, sink);
   }
+}
+
+bool FindVisible(const CPlotSeries& series, const CPlotMapping& mapping, CRect const& visible,
+                 std::size_t* first, std::size_t* last) {
+  const std::vector<PNT_2D_record>& points = series.GetPoints();
+  if (!series.IsMonotone() || points.empty() || series.FindGap(0) < points.size()) {
+    return false;
+  }
+  const auto pixel = [&](PNT_2D_record const& p) { return mapping.UserToWindow(p).x; };
+  const bool rises = pixel(points.front()) <= pixel(points.back());
+  const LONG from = rises ? visible.left : visible.right;
+  const LONG to = rises ? visible.right : visible.left;
+  const auto begin = std::partition_point(points.begin(), points.end(), [&](PNT_2D_record const& p) {
+    return rises ? pixel(p) < from : pixel(p) > from;
+  });
+  const auto end = std::partition_point(
+      begin, points.end(), [&](PNT_2D_record const& p) { return rises ? pixel(p) <= to : pixel(p) >= to; });
+  *first = static_cast<std::size_t>(begin - points.begin());
+  *last = static_cast<std::size_t>(end - points.begin());
+  *first -= *first > 0 ? 1 : 0;
+  *last += *last < points.size() ? 1 : 0;
+  return true;
 }
 
 }  // namespace coregui

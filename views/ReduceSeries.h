@@ -15,4 +15,9 @@ namespace coregui {
 /// mode.
 COREGUI_API void ReduceSeries(const CPlotSeries& series, const CPlotMapping& mapping, CPolylineSink& sink);
 
+/// The points of a series whose x is monotone that a visible rectangle needs: those inside and one more on
+/// each side, from `first` to before `last`. False when x turns back or the series has gaps.
+COREGUI_API bool FindVisible(const CPlotSeries& series, const CPlotMapping& mapping, CRect const& visible,
+                             std::size_t* first, std::size_t* last);
+
 }  // namespace coregui

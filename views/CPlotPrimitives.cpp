@@ -1,0 +1,273 @@
+#include "views/CPlotPrimitives.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "views/CPolylineSink.h"
+#include "views/ClipPolygon.h"
+#include "views/DeviceNumbers.h"
+#include "views/ReduceSeries.h"
+
+namespace coregui {
+
+namespace {
+
+/// Filled shapes are clipped this far outside the area: their edges keep their slopes and stay out of sight.
+constexpr double kFillRoom = 4096.0;
+/// Smooth lines go through the toolkit point by point up to here; beyond, hard pixels look the same and are
+/// fast.
+constexpr double kSmoothLimit = 1e6;
+constexpr std::size_t kMostSmoothPoints = 8000;
+
+bool AreDrawable(std::initializer_list<PNT_2D_record> points) {
+  return std::all_of(points.begin(), points.end(), CPlotSeries::IsDrawable);
+}
+
+CPoint Rounded(PNT_2D_record const& p) {
+  return {TruncateToDevice(std::floor(p.x + 0.5)), TruncateToDevice(std::floor(p.y + 0.5))};
+}
+
+}  // namespace
+
+CPlotPrimitives::CPlotPrimitives() = default;
+
+CPlotPrimitives::~CPlotPrimitives() = default;
+
+void CPlotPrimitives::BeginPlot(CDC& dc, CRect const& area, CSize dotsPerInch) {
+  m_dc = &dc;
+  m_area = area;
+  m_dpi = dotsPerInch;
+  m_saved = dc.SaveDC();
+  dc.SetBkMode(TRANSPARENT);
+  m_pen = {};
+  m_fill = {};
+  m_text = {};
+  m_smooth = false;
+}
+
+void CPlotPrimitives::EndPlot() {
+  if (m_dc != nullptr) {
+    m_dc->RestoreDC(m_saved);
+  }
+  m_dc = nullptr;
+}
+
+int CPlotPrimitives::PenPixels() const {
+  const double pixels = m_pen.unit == PlotUnit::points ? PixelsOfPoints(m_pen.width) : m_pen.width;
+  return std::max<int>(1, TruncateToDevice(pixels + 0.5));
+}
+
+CRect CPlotPrimitives::VisibleForPen() const {
+  const int room = 4 * std::min(PenPixels(), 10000) + 2;
+  CRect visible = m_area;
+  visible.InflateRect(room, room);
+  return visible;
+}
+
+void CPlotPrimitives::SelectPen() {
+  auto pen = std::make_unique<CPen>(m_pen.style, PenPixels(), m_pen.colour);
+  m_dc->SelectObject(pen.get());
+  m_selected = std::move(pen);
+}
+
+void CPlotPrimitives::StrokeSink(const CPolylineSink& sink) {
+  if (sink.GetCounts().empty()) {
+    return;
+  }
+  SelectPen();
+  m_dc->PolyPolyline(sink.GetPoints().data(), sink.GetCounts().data(),
+                     static_cast<int>(sink.GetCounts().size()));
+}
+
+std::vector<PNT_2D_record> CPlotPrimitives::ToDevice(const std::vector<PNT_2D_record>& points) const {
+  std::vector<PNT_2D_record> device;
+  device.reserve(points.size());
+  for (const PNT_2D_record& p : points) {
+    const PNT_2D_record at = GetPlotMapping().UserToDevice(p);
+    if (CPlotSeries::IsDrawable(at)) {
+      device.push_back(at);
+    }
+  }
+  return device;
+}
+
+void CPlotPrimitives::StrokeDevice(const std::vector<PNT_2D_record>& devicePoints) {
+  const bool near = std::all_of(devicePoints.begin(), devicePoints.end(), [](PNT_2D_record const& p) {
+    return std::fabs(p.x) < kSmoothLimit && std::fabs(p.y) < kSmoothLimit;
+  });
+  if (m_smooth && near && devicePoints.size() > 1) {
+    SelectPen();
+    const bool before = m_dc->SetAntiAliasing(true);
+    m_dc->PolylineF(&devicePoints[0].x, static_cast<int>(devicePoints.size()));
+    m_dc->SetAntiAliasing(before);
+    return;
+  }
+  CPolylineSink sink(VisibleForPen());
+  for (const PNT_2D_record& p : devicePoints) {
+    sink.Add(Rounded(p));
+  }
+  sink.Break();
+  StrokeSink(sink);
+}
+
+bool CPlotPrimitives::StrokeSmoothly(const PNT_2D_record* points, std::size_t count) {
+  if (!m_smooth || count > kMostSmoothPoints) {
+    return false;
+  }
+  StrokeDevice(ToDevice({points, points + count}));
+  return true;
+}
+
+void CPlotPrimitives::FillDevice(const std::vector<PNT_2D_record>& devicePoints) {
+  if (m_fill.kind == PlotFill::Kind::none) {
+    return;
+  }
+  const FRect box(m_area.left - kFillRoom, m_area.top - kFillRoom, m_area.right + kFillRoom,
+                  m_area.bottom + kFillRoom);
+  std::vector<POINT> pixels;
+  for (const PNT_2D_record& p : ClipPolygon(devicePoints, box)) {
+    pixels.push_back(Rounded(p));
+  }
+  if (pixels.size() < 3) {
+    return;
+  }
+  CPen none(PS_NULL, 1, 0);
+  CBrush solid(m_fill.colour);
+  CBrush hatched(m_fill.hatch, m_fill.colour);
+  const int saved = m_dc->SaveDC();
+  m_dc->SelectObject(&none);
+  m_dc->SelectObject(m_fill.kind == PlotFill::Kind::solid ? &solid : &hatched);
+  m_dc->SetAntiAliasing(m_smooth);
+  m_dc->Polygon(pixels.data(), static_cast<int>(pixels.size()));
+  m_dc->RestoreDC(saved);
+}
+
+void CPlotPrimitives::PlotLine(PNT_2D_record const& from, PNT_2D_record const& to) {
+  if (IsPlotting() && AreDrawable({from, to})) {
+    PlotPolyline(std::vector<PNT_2D_record>{from, to});
+  }
+}
+
+void CPlotPrimitives::PlotPolyline(const std::vector<PNT_2D_record>& points) {
+  if (!IsPlotting()) {
+    return;
+  }
+  const bool whole = std::all_of(points.begin(), points.end(), CPlotSeries::IsDrawable);
+  if (!whole || !StrokeSmoothly(points.data(), points.size())) {
+    PlotPolyline(CPlotSeries(points));
+  }
+}
+
+void CPlotPrimitives::PlotPolyline(const CPlotSeries& series) {
+  if (!IsPlotting()) {
+    return;
+  }
+  if (m_dc->GetROP2() != R2_COPYPEN) {
+    // Overlapping pixels cancel out here, so every segment counts.
+    CPolylineSink sink(VisibleForPen());
+    for (const PNT_2D_record& p : series.GetPoints()) {
+      if (CPlotSeries::IsDrawable(p)) {
+        sink.Add(GetPlotMapping().UserToWindow(p));
+      } else {
+        sink.Break();
+      }
+    }
+    sink.Break();
+    StrokeSink(sink);
+    return;
+  }
+  std::size_t first = 0;
+  std::size_t last = 0;
+  if (m_smooth && FindVisible(series, GetPlotMapping(), VisibleForPen(), &first, &last) &&
+      StrokeSmoothly(series.GetPoints().data() + first, last - first)) {
+    return;
+  }
+  CPolylineSink sink(VisibleForPen());
+  ReduceSeries(series, GetPlotMapping(), sink);
+  StrokeSink(sink);
+}
+
+void CPlotPrimitives::PlotPolygon(const std::vector<PNT_2D_record>& points) {
+  if (!IsPlotting()) {
+    return;
+  }
+  std::vector<PNT_2D_record> device = ToDevice(points);
+  if (device.size() < 2) {
+    return;
+  }
+  FillDevice(device);
+  device.push_back(device.front());
+  StrokeDevice(device);
+}
+
+void CPlotPrimitives::PlotRectangle(FRect const& rect) {
+  if (AreDrawable({rect.TopLeft(), rect.BottomRight()})) {
+    PlotPolygon({rect.TopLeft(),
+                 {rect.GetRight(), rect.GetTop()},
+                 rect.BottomRight(),
+                 {rect.GetLeft(), rect.GetBottom()}});
+  }
+}
+
+std::vector<PNT_2D_record> CPlotPrimitives::CurvePoints(PNT_2D_record const& centre,
+                                                        PNT_2D_record const& radii, double start,
+                                                        double sweep) const {
+  // As many chords as keep them within a quarter of a pixel of the curve.
+  const PNT_2D_record at = GetPlotMapping().UserToDevice(centre);
+  const PNT_2D_record edge = GetPlotMapping().UserToDevice({centre.x + radii.x, centre.y + radii.y});
+  const double pixels = std::max({1.0, std::fabs(edge.x - at.x), std::fabs(edge.y - at.y)});
+  const double chords =
+      std::ceil(std::fabs(sweep) / 360.0 * std::numbers::pi * std::sqrt(2.0 * pixels)) + 4.0;
+  const int count = static_cast<int>(std::min(chords, 20000.0));
+  std::vector<PNT_2D_record> points;
+  points.reserve(static_cast<std::size_t>(count) + 1);
+  for (int i = 0; i <= count; ++i) {
+    const double angle = (start + sweep * i / count) * std::numbers::pi / 180.0;
+    points.push_back({centre.x + radii.x * std::cos(angle), centre.y + radii.y * std::sin(angle)});
+  }
+  return points;
+}
+
+void CPlotPrimitives::PlotCircle(PNT_2D_record const& centre, double radius) {
+  PlotEllipse(centre, radius, radius);
+}
+
+void CPlotPrimitives::PlotEllipse(PNT_2D_record const& centre, double radiusX, double radiusY) {
+  if (IsPlotting() && AreDrawable({centre, {radiusX, radiusY}})) {
+    std::vector<PNT_2D_record> points = CurvePoints(centre, {radiusX, radiusY}, 0.0, 360.0);
+    points.pop_back();
+    PlotPolygon(points);
+  }
+}
+
+void CPlotPrimitives::PlotArc(PNT_2D_record const& centre, double radius, double startDegrees,
+                              double sweepDegrees) {
+  if (IsPlotting() && AreDrawable({centre, {radius, radius}, {startDegrees, sweepDegrees}})) {
+    StrokeDevice(ToDevice(
+        CurvePoints(centre, {radius, radius}, startDegrees, std::clamp(sweepDegrees, -360.0, 360.0))));
+  }
+}
+
+void CPlotPrimitives::PlotBitmap(const CBitmap& bitmap, FRect const& to) {
+  if (!IsPlotting() || !bitmap.IsCreated() || !AreDrawable({to.TopLeft(), to.BottomRight()})) {
+    return;
+  }
+  const CPoint a = GetPlotMapping().UserToWindow(to.TopLeft());
+  const CPoint b = GetPlotMapping().UserToWindow(to.BottomRight());
+  CRect rect(std::min(a.x, b.x), std::min(a.y, b.y), std::max(a.x, b.x), std::max(a.y, b.y));
+  CRect seen;
+  if (seen.IntersectRect(rect, m_area)) {
+    m_dc->StretchBitmap(bitmap, rect);
+  }
+}
+
+void CPlotPrimitives::DrawDeviceLine(CPoint from, CPoint to) {
+  CPolylineSink sink(VisibleForPen());
+  sink.Add(from);
+  sink.Add(to);
+  sink.Break();
+  StrokeSink(sink);
+}
+
+}  // namespace coregui
