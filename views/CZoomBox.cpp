@@ -7,6 +7,12 @@ CZoomBox& CZoomBox::Shared() {
   return box;
 }
 
+bool CZoomBox::GetBox(const CZoomBoxHost& host, CPoint* anchor, CPoint* corner) const {
+  *anchor = m_anchor;
+  *corner = m_corner;
+  return m_host == &host;
+}
+
 void CZoomBox::Move(CZoomBoxHost& host, CPoint at) {
   if (!IsInProgress()) {
     return;

@@ -30,6 +30,8 @@ class COREGUI_API CZoomBox {
   static CZoomBox& Shared();
 
   bool IsInProgress() const { return m_host != nullptr; }
+  /// The box that was started in a host, for who paints over it; false when there is none.
+  bool GetBox(const CZoomBoxHost& host, CPoint* anchor, CPoint* corner) const;
   void Move(CZoomBoxHost& host, CPoint at);
   void Click(CZoomBoxHost& host, CPoint at);
   /// A key: only Space finishes, and only a box in progress.

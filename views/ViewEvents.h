@@ -24,13 +24,22 @@ enum EVENT_TYPE : int {
   EVENT_PAN = 16,          ///< one pan step done
 };
 
-// Bits of the key-flags byte.
+// Bits of the key-flags byte. Bit 5 is cleared by every mouse event.
 inline constexpr char KEYFLAG_SHIFT = 0x01;
 inline constexpr char KEYFLAG_CTRL = 0x02;
 inline constexpr char KEYFLAG_LEFT = 0x04;
 inline constexpr char KEYFLAG_RIGHT = 0x08;
 inline constexpr char KEYFLAG_MIDDLE = 0x10;
-inline constexpr char KEYFLAG_CLEARED = 0x20;  ///< cleared by every mouse event
+
+/// The key-flags byte for the MK_ flags of a mouse message.
+constexpr char KeyFlagsOf(UINT mouseFlags) {
+  const int flags = ((mouseFlags & MK_SHIFT) != 0 ? KEYFLAG_SHIFT : 0) |
+                    ((mouseFlags & MK_CONTROL) != 0 ? KEYFLAG_CTRL : 0) |
+                    ((mouseFlags & MK_LBUTTON) != 0 ? KEYFLAG_LEFT : 0) |
+                    ((mouseFlags & MK_RBUTTON) != 0 ? KEYFLAG_RIGHT : 0) |
+                    ((mouseFlags & MK_MBUTTON) != 0 ? KEYFLAG_MIDDLE : 0);
+  return static_cast<char>(flags);
+}
 
 /// The application's end of all input: position in world units, event, key flags, key code (0 for mouse
 /// events) and the view's parent. It may destroy the view.
