@@ -21,6 +21,8 @@ constexpr int MAX_EXACT_DECIMALS = 20;
 constexpr std::uint64_t TEN_DIGITS = 10'000'000'000ULL;
 constexpr int MAX_DECIMALS = 1100;  // no double has more digits
 constexpr std::size_t MAX_WHOLE_DIGITS = 310;
+constexpr std::size_t LONGEST_MARK = 4;  // characters of a mark that the quick road takes
+constexpr std::size_t MOST_DIGITS = 60;
 
 /// A plain number: optional '-', digits, and '.' with more digits.
 class PlainText {
@@ -104,7 +106,11 @@ char* WriteBackwards(char* end, std::uint64_t value) {
 }
 
 char* WriteBackwards(char* end, std::uint64_t value, int digits) {
-  for (; digits > 0; --digits, value /= 10) *--end = static_cast<char>('0' + value % 10);
+  // Ten digits take two numbers of 32 bits, whose divisions are quick.
+  auto low = static_cast<std::uint32_t>(value % 100'000);
+  auto high = static_cast<std::uint32_t>(value / 100'000);
+  for (int i = 0; i < digits && i < 5; ++i, low /= 10) *--end = static_cast<char>('0' + low % 10);
+  for (int i = 5; i < digits; ++i, high /= 10) *--end = static_cast<char>('0' + high % 10);
   return end;
 }
 
@@ -157,6 +163,7 @@ struct Punctuation {
   std::wstring thousands;
   std::wstring minus;
   bool leadingZero = true;
+  bool areShort = true;      ///< none of the marks is longer than LONGEST_MARK
   bool leadingMinus = true;  ///< negative numbers are the minus sign and the digits, as most write them
 
   static const Punctuation& Current() {
@@ -176,6 +183,8 @@ struct Punctuation {
     minus = locale.negative.Str();
     leadingZero = locale.leadingZero;
     leadingMinus = locale.negativeOrder == 1;
+    areShort =
+        decimal.size() <= LONGEST_MARK && thousands.size() <= LONGEST_MARK && minus.size() <= LONGEST_MARK;
   }
 };
 
@@ -183,34 +192,71 @@ void AppendAscii(std::wstring& target, std::string_view text) {
   target.append(text.begin(), text.end());
 }
 
-bool IsPlain(std::string_view text) {
-  return !text.empty() && text.find_first_not_of("0123456789.-") == std::string_view::npos;
+/// A grouped number on its way into a text: 60 digits and their separators fit.
+class GroupedText {
+ public:
+  void Add(wchar_t character) { *m_end++ = character; }
+  void Add(const std::wstring& mark) {
+    for (const wchar_t character : mark) *m_end++ = character;
+  }
+  void Finish(CString& target) {
+    *m_end = L'\0';
+    target.Empty();
+    target += m_text.data();
+  }
+
+ private:
+  std::array<wchar_t, 2 * MOST_DIGITS + 20 * LONGEST_MARK> m_text;
+  wchar_t* m_end = m_text.data();
+};
+
+/// Whether the text is digits with one '.' at most; finds the point, or the end, and whether a digit is not
+/// 0.
+bool IsPlain(std::string_view text, std::size_t& point, bool& notZero) {
+  point = text.size();
+  notZero = false;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char character = text[i];
+    if (character == '.' && point == text.size()) {
+      point = i;
+    } else if (character >= '0' && character <= '9') {
+      notZero = notZero || character != '0';
+    } else {
+      return false;
+    }
+  }
+  return true;
 }
 
 /// Groups and punctuates a plain number that already has its digits. False where the platform has to decide:
 /// what is no number, a zero with a sign, other negative orders, texts near the limit.
-bool WriteGrouped(std::string_view plain, std::wstring& text) {
+bool WriteGrouped(std::string_view plain, CString& target) {
   const Punctuation& marks = Punctuation::Current();
   const bool negative = plain.front() == '-';
   if (negative) plain.remove_prefix(1);
-  if (plain.size() > 60 || !IsPlain(plain) || marks.thousands.size() > 4 || marks.decimal.size() > 4)
-    return false;
-  if (negative && (!marks.leadingMinus || marks.minus.size() > 4)) return false;
-  if (negative && plain.find_first_of("123456789") == std::string_view::npos) return false;
-  const std::size_t point = std::min(plain.find('.'), plain.size());
+  std::size_t point = 0;
+  bool notZero = false;
+  if (!marks.areShort || plain.size() > MOST_DIGITS || !IsPlain(plain, point, notZero)) return false;
+  if (negative && (!notZero || !marks.leadingMinus)) return false;
   std::string_view whole = plain.substr(0, point);
   while (!whole.empty() && whole.front() == '0') whole.remove_prefix(1);
-  text.clear();
-  if (negative) text += marks.minus;
-  if (whole.empty() && (marks.leadingZero || point >= plain.size())) text += L'0';
-  for (std::size_t i = 0; i < whole.size(); ++i) {
-    if (i != 0 && (whole.size() - i) % 3 == 0) text += marks.thousands;
-    text += static_cast<wchar_t>(whole[i]);
+  GroupedText text;
+  if (negative) text.Add(marks.minus);
+  if (whole.empty() && (marks.leadingZero || point == plain.size())) text.Add(L'0');
+  std::size_t untilMark = whole.size() % 3 == 0 ? 3 : whole.size() % 3;
+  for (const char digit : whole) {
+    if (untilMark == 0) {
+      text.Add(marks.thousands);
+      untilMark = 3;
+    }
+    text.Add(static_cast<wchar_t>(digit));
+    --untilMark;
   }
   if (point < plain.size()) {
-    text += marks.decimal;
-    AppendAscii(text, plain.substr(point + 1));
+    text.Add(marks.decimal);
+    for (const char digit : plain.substr(point + 1)) text.Add(static_cast<wchar_t>(digit));
   }
+  text.Finish(target);
   return true;
 }
 
@@ -268,10 +314,7 @@ locale_t PlainLocale() {
 }
 
 void WriteLocale(std::string_view plain, const NumberForm& form, std::wstring& scratch, CString& text) {
-  if (WriteGrouped(plain, scratch)) {
-    Store(scratch, text);
-    return;
-  }
+  if (WriteGrouped(plain, text)) return;
   scratch.clear();
   AppendAscii(scratch, plain);
   const CString source{std::wstring_view(scratch)};
