@@ -88,7 +88,8 @@ QPointF PainterTarget::DotPoint(const DrawAttributes& with, double x, double y) 
   const double dotX = (x + with.origin.x) * Scale();
   const double dotY = (y + with.origin.y) * Scale();
   if (with.smooth) {
-    return {Sane(dotX), Sane(dotY)};
+    // A whole coordinate names the middle of its pixel, so that smooth and hard lines lie on each other.
+    return {Sane(dotX + Scale() / 2.0), Sane(dotY + Scale() / 2.0)};
   }
   return {Sane(std::floor(dotX + 0.5)), Sane(std::floor(dotY + 0.5))};
 }

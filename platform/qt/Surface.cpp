@@ -8,8 +8,10 @@ namespace coregui {
 
 namespace {
 
+// Rounds; what is far beyond any picture is cut off where sums are safe.
 int Rounded(double value) {
-  return static_cast<int>(std::floor(value + 0.5));
+  constexpr double limit = 1 << 29;
+  return static_cast<int>(std::floor(std::clamp(value, -limit, limit) + 0.5));
 }
 
 CSize DotsOf(CSize size, double scale) {
@@ -21,6 +23,10 @@ CSize DotsOf(CSize size, double scale) {
 
 Surface::Surface(CSize size, double scale) : m_size(size), m_scale(scale), m_dots(DotsOf(size, scale)) {
   m_image = QImage(m_dots.cx, m_dots.cy, QImage::Format_RGB32);
+  if (m_image.isNull()) {
+    m_dots = CSize(1, 1);
+    m_image = QImage(1, 1, QImage::Format_RGB32);
+  }
   m_image.fill(Qt::white);
   Attach();
 }
@@ -47,14 +53,19 @@ void Surface::Resize(CSize size, double scale) {
     return;
   }
   EndPainter();
-  const CSize dots = DotsOf(size, scale);
+  CSize dots = DotsOf(size, scale);
+  if (dots.cx > m_image.width() || dots.cy > m_image.height()) {
+    QImage grown =
+        m_image.copy(0, 0, std::max<int>(dots.cx, m_image.width()), std::max<int>(dots.cy, m_image.height()));
+    if (!grown.isNull()) {
+      m_image = std::move(grown);
+      Attach();
+    }
+  }
+  // Without memory the surface stays as large as it is.
+  dots = CSize(std::min<LONG>(dots.cx, m_image.width()), std::min<LONG>(dots.cy, m_image.height()));
   const CSize kept =
       scale == m_scale ? CSize(std::min(dots.cx, m_dots.cx), std::min(dots.cy, m_dots.cy)) : CSize();
-  if (dots.cx > m_image.width() || dots.cy > m_image.height()) {
-    m_image =
-        m_image.copy(0, 0, std::max<int>(dots.cx, m_image.width()), std::max<int>(dots.cy, m_image.height()));
-    Attach();
-  }
   for (int y = 0; y < dots.cy; ++y) {
     std::fill(Row(y) + (y < kept.cy ? kept.cx : 0), Row(y) + dots.cx, 0xFFFFFFFFU);
   }

@@ -164,6 +164,25 @@ TEST_P(Drawing, LineThroughAClip_HasTheDotsOfTheWholeLine) {
   EXPECT_EQ(surface->Snapshot(), whole);
 }
 
+TEST_P(Drawing, SmoothLine_LiesOnTheHardOne) {
+  CPen pen(PS_SOLID, 1, 0);
+  dc.SelectObject(&pen);
+  const POINT line[] = {{5, 10}, {50, 10}};
+  dc.SetAntiAliasing(true);
+  dc.Polyline(line, 2);
+  const double pixel = GetParam();
+  double ink = 0;
+  double moment = 0;
+  for (int y = 0; y < surface->Dots().cy; ++y) {
+    const double cover = 1.0 - (Dot(Edge(30), y) & 0xFF) / 255.0;
+    ink += cover;
+    moment += cover * (y + 0.5);
+  }
+  EXPECT_NEAR(ink, pixel, 0.02) << "one logical pixel thick";
+  EXPECT_NEAR(moment / ink, 10.5 * pixel, 0.1)
+      << "around the middle of pixel 10; covers come in coarse steps";
+}
+
 TEST_P(Drawing, ViewportOrigin_MovesDrawingAndClip) {
   dc.SetViewportOrg(20, 10);
   dc.IntersectClipRect(CRect(0, 0, 5, 5));
