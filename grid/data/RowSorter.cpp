@@ -99,7 +99,9 @@ void RowSorter::Gather() {
   std::int64_t row = m_store.FirstRow();
   m_items.reserve(static_cast<std::size_t>(std::min<std::int64_t>(m_store.EndRow() - row, 1 << 26)));
   const auto addRun = [this](RowLeaf* leaf, std::int64_t rows) {
-    if (rows > 0) m_items.push_back({leaf, 0, rows});
+    if (rows <= 0) return;
+    m_items.push_back({leaf, 0, rows});
+    m_hasRuns = true;
   };
   for (RowLeaf* leaf = m_store.Rows().First(); leaf != nullptr; leaf = leaf->next) {
     const std::int64_t before = std::clamp<std::int64_t>(-row, 0, leaf->count);
@@ -192,9 +194,16 @@ std::vector<RowLeaf*> RowSorter::BuildLeaves(const std::vector<std::uint32_t>& o
     leaves.push_back(leaf.get());
     rows.AppendLeaf(std::move(leaf));
   };
+  // Read in stored order first: the places to read at random then lie close together.
+  std::vector<std::pair<int, int>> positions(m_items.size());
+  for (std::size_t i = 0; i < m_items.size(); ++i) {
+    const Item& item = m_items[i];
+    const auto row = static_cast<std::size_t>(item.row);
+    if (item.run == 0) positions[i] = {item.leaf->positions->first[row], item.leaf->positions->last[row]};
+  }
   for (const std::uint32_t at : order) {
-    const Item& item = m_items[at];
-    if (item.run > 0) {
+    if (IsRun(at)) {
+      const Item& item = m_items[at];
       finish();
       if (rows.Last() != nullptr && !rows.Last()->HasPositions()) {
         rows.Append(item.run);
@@ -211,8 +220,8 @@ std::vector<RowLeaf*> RowSorter::BuildLeaves(const std::vector<std::uint32_t>& o
       leaf->MakePositions();
     }
     const auto to = static_cast<std::size_t>(leaf->count++);
-    leaf->positions->first[to] = item.leaf->positions->first[static_cast<std::size_t>(item.row)];
-    leaf->positions->last[to] = item.leaf->positions->last[static_cast<std::size_t>(item.row)];
+    leaf->positions->first[to] = positions[at].first;
+    leaf->positions->last[to] = positions[at].second;
   }
   finish();
   return leaves;
@@ -220,7 +229,6 @@ std::vector<RowLeaf*> RowSorter::BuildLeaves(const std::vector<std::uint32_t>& o
 
 void RowSorter::FillColumn(int storage, const std::vector<std::uint32_t>& order,
                            const std::vector<RowLeaf*>& leaves) const {
-  // Read in stored order first: the places to read at random then lie close together.
   struct Cell {
     CellSlot slot;
     bool stored;
@@ -239,7 +247,7 @@ void RowSorter::FillColumn(int storage, const std::vector<std::uint32_t>& order,
   for (RowLeaf* const leaf : leaves) {
     ColumnChunk* chunk = nullptr;
     for (int row = 0; row < static_cast<int>(leaf->count); ++at) {
-      if (m_items[*at].run > 0) continue;
+      if (IsRun(*at)) continue;
       const Cell& cell = cells[*at];
       if (cell.stored) {
         if (chunk == nullptr) chunk = &leaf->FindOrAdd(storage);

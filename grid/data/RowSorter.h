@@ -23,6 +23,7 @@ class RowSorter {
     int row;
     std::int64_t run;  // the number of rows; 0 for a single row with positions
   };
+  bool IsRun(std::uint32_t item) const { return m_hasRuns && m_items[item].run > 0; }
   void Gather();
   /// Gives each row of a run an item of its own, for comparisons that may part them.
   void OpenRuns();
@@ -37,6 +38,7 @@ class RowSorter {
   CGridSourceOwner* m_owner;
   int m_flags;
   std::vector<Item> m_items;
+  bool m_hasRuns = false;
   std::size_t m_fixed = 0;  // the first items, rows before row 0, stay where they are
 };
 
