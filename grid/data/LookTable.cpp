@@ -9,8 +9,6 @@
 namespace coregui {
 namespace {
 
-constexpr std::uint32_t NONE = ~0U;
-
 /// Without the fields that are not set, so that they make no difference.
 CellLook Normalized(const CellLook& look) {
   CellLook normal;
@@ -33,12 +31,17 @@ bool LookTable::Equal::operator()(const CellLook& a, const CellLook& b) const no
   return SameBytes(a, b);
 }
 
-LookTable::LookTable() : m_lastId(NONE) {}
+std::size_t LookTable::RecentPlace(const CellLook& look) {
+  const std::uint32_t mixed =
+      look.flags + static_cast<std::uint32_t>(look.dataType) + look.textColor + look.backColor;
+  return (mixed ^ (mixed >> 8U) ^ (mixed >> 16U)) & 7U;
+}
 
 std::uint32_t LookTable::Acquire(const CellLook& look) {
-  if (m_lastId != NONE && SameBytes(look, m_last)) {
-    ++m_entries[m_lastId].count;
-    return m_lastId;
+  Recent& recent = m_recent[RecentPlace(look)];
+  if (recent.id != NONE && SameBytes(look, recent.look)) {
+    ++m_entries[recent.id].count;
+    return recent.id;
   }
   const auto [place, isNew] = m_ids.try_emplace(Normalized(look), 0);
   if (isNew) {
@@ -51,10 +54,9 @@ std::uint32_t LookTable::Acquire(const CellLook& look) {
     m_free.pop_back();
     m_entries[place->second] = {&place->first, 0};
   }
-  m_last = look;
-  m_lastId = place->second;
-  ++m_entries[m_lastId].count;
-  return m_lastId;
+  recent = {look, place->second};
+  ++m_entries[recent.id].count;
+  return recent.id;
 }
 
 void LookTable::Release(std::uint32_t id) {
@@ -63,14 +65,16 @@ void LookTable::Release(std::uint32_t id) {
   m_ids.erase(m_ids.find(*entry.look));
   entry.look = nullptr;
   m_free.push_back(id);
-  if (m_lastId == id) m_lastId = NONE;
+  for (Recent& recent : m_recent) {
+    if (recent.id == id) recent.id = NONE;
+  }
 }
 
 void LookTable::Clear() {
   m_ids.clear();
   m_entries.clear();
   m_free.clear();
-  m_lastId = NONE;
+  m_recent.fill({});
 }
 
 bool LookTable::Check() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string_view>
 #include <unordered_map>
@@ -13,7 +14,6 @@ namespace coregui {
 /// are counted.
 class LookTable {
  public:
-  LookTable();
   /// The number of a look whose set properties equal those of `look`, counted once more.
   std::uint32_t Acquire(const CellLook& look);
   void Release(std::uint32_t id);
@@ -37,11 +37,18 @@ class LookTable {
     std::uint64_t count = 0;
   };
 
+  /// A look as it was asked for, with fields that are not set, and its number; NONE when that was given up.
+  struct Recent {
+    CellLook look;
+    std::uint32_t id = NONE;
+  };
+  static constexpr std::uint32_t NONE = ~0U;
+  static std::size_t RecentPlace(const CellLook& look);
+
   std::unordered_map<CellLook, std::uint32_t, Hash, Equal> m_ids;
   std::vector<Entry> m_entries;
   std::vector<std::uint32_t> m_free;
-  CellLook m_last;  // as it was last asked for, with fields that are not set; valid while m_lastId is
-  std::uint32_t m_lastId;
+  std::array<Recent, 8> m_recent;  // cells of a few looks are written by turns
 };
 
 }  // namespace coregui
