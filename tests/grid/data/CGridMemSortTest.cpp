@@ -140,7 +140,7 @@ std::unique_ptr<CGridCell> RandomCell(Mix mix, std::mt19937& random) {
       cell->SetText(L"a common start " + text);
       break;
     case Mix::wideTexts:
-      cell->SetText(CString(pick(2) == 0 ? L"\x20AC\x10FFFF\x10FFFE" : L"\x20AC\x10FFFF") + text);
+      cell->SetText(CString(pick(2) == 0 ? L"\x20AC\x10FFFE" : L"\x20AC\x10FFFF") + text);
       break;
     default:
       cell->SetText(text);
