@@ -223,12 +223,11 @@ class COREGUI_API CMemoryDC : public CDC {
 /// A line is the call's name, its points and rectangles ("l,t,r,b", viewport origin added), its numbers, then
 /// what it draws with; changes of state (SelectObject, SaveDC, clipping) have no line of their own but show
 /// in the lines of the calls that they affect:
-/// - colours as `#RRGGBB`; a pen as its colour, " w3" when its width is not 1, " style2" when it is not solid,
-/// or
-///   "nopen"; a brush as its colour, "hatch1" before it when hatched, or "nobrush";
+/// - colours as `#RRGGBB`; a pen as its colour, " w3" when its width is not 1, " style2" when it is not
+///   solid, or "nopen"; a brush as its colour, "hatch1" before it when hatched, or "nobrush";
 /// - text as its colour, ` font "Face",height,weight[,italic]` when a font is selected, and the text in
-/// quotes with
-///   `\n`, `\r`, `\t`, `\"` and `\\` escaped: `DrawText 2,0,73,20 0x24 #000000 "12.50"` (format in hexadecimal);
+/// quotes
+///   with the escapes of C: `DrawText 2,0,73,20 0x24 #000000 "12.50"` (format in hexadecimal);
 ///   ExtTextOut writes point, options and rectangle first (0,0,0,0 for none);
 /// - at the end " rop7" when the raster mode is not copy, and " clip l,t,r,b" when drawing is clipped.
 /// LineTo writes both ends, PolylineF only the number of points. Measuring calls have no line.

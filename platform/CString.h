@@ -13,7 +13,7 @@ class COREGUI_API CString {
  public:
   CString() = default;
   /// A null pointer gives the empty text.
-  CString(const wchar_t* text);                          // NOLINT(google-explicit-constructor): literals serve as text
+  CString(const wchar_t* text);  // NOLINT(google-explicit-constructor): literals serve as text
   CString(std::wstring text) : m_text(std::move(text)) {}  // NOLINT(google-explicit-constructor): same value
   explicit CString(std::wstring_view text) : m_text(text) {}
   CString(const wchar_t* text, int length) : m_text(text, static_cast<std::size_t>(length)) {}
@@ -29,7 +29,8 @@ class COREGUI_API CString {
   wchar_t operator[](int index) const { return GetAt(index); }
   void SetAt(int index, wchar_t character) { m_text[static_cast<std::size_t>(index)] = character; }
   const wchar_t* GetString() const { return m_text.c_str(); }
-  operator const wchar_t*() const { return m_text.c_str(); }  // NOLINT(google-explicit-constructor): passes as text
+  // NOLINTNEXTLINE(google-explicit-constructor): passes as text
+  operator const wchar_t*() const { return m_text.c_str(); }
   const std::wstring& Str() const { return m_text; }
 
   CString& operator+=(const CString& text) {
@@ -50,7 +51,9 @@ class COREGUI_API CString {
   friend CString operator+(CString a, wchar_t b) { return a += b; }
   friend bool operator==(const CString& a, const CString& b) { return a.m_text == b.m_text; }
   friend bool operator==(const CString& a, const wchar_t* b) { return a.m_text == (b == nullptr ? L"" : b); }
-  friend std::strong_ordering operator<=>(const CString& a, const CString& b) { return a.m_text <=> b.m_text; }
+  friend std::strong_ordering operator<=>(const CString& a, const CString& b) {
+    return a.m_text <=> b.m_text;
+  }
 
   /// Negative, 0 or positive, code unit by code unit.
   int Compare(const wchar_t* other) const;
@@ -88,7 +91,10 @@ class COREGUI_API CString {
   std::wstring m_text;
 };
 
+// The reference leaves the namespace of the language out.
+/// \cond
 template <>
 struct std::hash<CString> {
   std::size_t operator()(const CString& text) const noexcept { return std::hash<std::wstring>()(text.Str()); }
 };
+/// \endcond
