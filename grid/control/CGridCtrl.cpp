@@ -299,3 +299,12 @@ int CGridCtrl::GetPaintMode() const {
 void CGridCtrl::TempDisableFocusRect() {
   m_rooms->parts.TempDisableFocusRect();
 }
+
+// --- Context menu
+
+CMenu* CGridCtrl::GetMenu() {
+  return m_rooms->menu.Get();
+}
+int CGridCtrl::StartMenu(int col, long row, POINT* point, int section) {
+  return m_rooms->menu.Start(col, row, *point, section);
+}

@@ -2,30 +2,57 @@
 
 #include <algorithm>
 
+#include "grid/celltypes/CGridArrowType.h"
 #include "grid/celltypes/CGridCellType.h"
+#include "grid/celltypes/CGridCheckBoxType.h"
+#include "grid/celltypes/CGridDropListType.h"
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridInfo.h"
 #include "grid/display/CGrid.h"
 #include "grid/display/CGridCnrBtn.h"
+#include "grid/display/CGridHScroll.h"
 #include "grid/display/CGridSideHdg.h"
+#include "grid/display/CGridTab.h"
 #include "grid/display/CGridTopHdg.h"
+#include "grid/display/CGridVScroll.h"
 #include "platform/CDC.h"
 #include "platform/WindowRef.h"
 
 namespace coregui {
 
+namespace {
+
+// Child ids behind those of the sections.
+constexpr int idOfTabs = GRIDSECTION_CORNERBUTTON + 1;
+constexpr int idOfVScroll = idOfTabs + 1;
+constexpr int idOfHScroll = idOfTabs + 2;
+
+}  // namespace
+
 struct CGridParts::Types {
   CGridCellType normal;
+  CGridDropListType dropList;
+  CGridCheckBoxType checkBox;
+  CGridArrowType arrow;
 };
 
 struct CGridParts::Windows {
   explicit Windows(CGridCtrl& control)
-      : body(&control), topHeading(&control), sideHeading(&control), corner(&control) {}
+      : body(&control),
+        topHeading(&control),
+        sideHeading(&control),
+        corner(&control),
+        vScroll(&control),
+        hScroll(&control),
+        tabs(&control) {}
 
   CGrid body;
   CGridTopHdg topHeading;
   CGridSideHdg sideHeading;
   CGridCnrBtn corner;
+  CGridVScroll vScroll;
+  CGridHScroll hScroll;
+  CGridTab tabs;
 };
 
 CGridParts::CGridParts(CGridCtrl& control) : m_control(control), m_types(std::make_unique<Types>()) {}
@@ -75,7 +102,16 @@ void CGridParts::TempDisableFocusRect() {
   }
 }
 
-void CGridParts::OnScroll(int, int) {}
+void CGridParts::OnScroll(int bar, int code) {
+  if (m_windows == nullptr) {
+    return;
+  }
+  if (bar == SB_VERT) {
+    m_windows->vScroll.OnScroll(code);
+  } else {
+    m_windows->hScroll.OnScroll(code);
+  }
+}
 
 void CGridParts::ShowMoved() {
   if (m_windows == nullptr) {
@@ -125,10 +161,19 @@ void CGridParts::ShowScrollBars() {
   const CGridLayout wanted = CGridLayout::Of(m_control.GetInfo(), m_control.GetClientRectangle().Size());
   if (!(wanted == m_layout)) {
     LayOut();
+    return;
+  }
+  if (m_windows != nullptr) {
+    m_windows->vScroll.ShowPosition();
+    m_windows->hScroll.ShowPosition();
   }
 }
 
-void CGridParts::ShowSheets() {}
+void CGridParts::ShowSheets() {
+  if (m_windows != nullptr) {
+    m_windows->tabs.Invalidate(TRUE);
+  }
+}
 
 void CGridParts::LayOut() {
   if (m_layingOut) {
@@ -155,6 +200,9 @@ void CGridParts::PlaceWindows() {
   place(m_windows->topHeading, m_layout.topHeading);
   place(m_windows->sideHeading, m_layout.sideHeading);
   place(m_windows->corner, m_layout.corner);
+  place(m_windows->vScroll, m_layout.vScroll);
+  place(m_windows->hScroll, m_layout.hScroll);
+  place(m_windows->tabs, m_layout.tabs);
 }
 
 CGridDrawHint* CGridParts::BodyHints() {

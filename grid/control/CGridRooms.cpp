@@ -17,6 +17,7 @@ CGridRooms::CGridRooms(CGridCtrl& control)
       sizing({sheets, sources, cells, types, navigator, parts}),
       sorting(sheets),
       finder(sheets),
-      clipboard({sheets, cells, navigator, control, parts}) {}
+      clipboard({sheets, cells, navigator, control, parts}),
+      menu(control, control) {}
 
 }  // namespace coregui

@@ -6,6 +6,7 @@
 #include "grid/control/CGridFonts.h"
 #include "grid/control/CGridGeometry.h"
 #include "grid/control/CGridJoins.h"
+#include "grid/control/CGridMenu.h"
 #include "grid/control/CGridNavigator.h"
 #include "grid/control/CGridParts.h"
 #include "grid/control/CGridSheets.h"
@@ -37,6 +38,7 @@ struct CGridRooms {
   CGridSorting sorting;
   CGridFinder finder;
   CGridClipboard clipboard;
+  CGridMenu menu;
 
   bool updates = true;  ///< the control's redraw switch
   bool initialSizing = false;

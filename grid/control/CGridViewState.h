@@ -42,8 +42,8 @@ struct COREGUI_API CGridViewState {
   int scrollOnPartialCells = 1;
   int columnSwapping = 0;
   int menu = 0;
-  int vScrollMode = 0;  ///< 0: the view moves when the thumb is let go, 1: it follows the thumb
-  int hScrollMode = 0;
+  int vScrollMode = 1;  ///< 0: the view moves when the thumb is let go, 1: it follows the thumb
+  int hScrollMode = 1;
   int trackingWindowMode = 0;  ///< 0: the thumb's tip is shown, 1: it is not
   int multiSelectMode = 0;     ///< 0: one cell, 1 blocks of cells, others the bits of CGridMultiSelect
   Ballistics mouseBallistics{0, 200};

@@ -1,0 +1,97 @@
+#include <gtest/gtest.h>
+
+#include "grid/data/CGridCell.h"
+#include "tests/grid/control/LoggingGrid.h"
+
+using coregui::test::LoggingGrid;
+
+namespace {
+
+struct Block {
+  int startCol;
+  long startRow;
+  int endCol;
+  long endRow;
+  bool operator==(const Block&) const = default;
+};
+
+std::ostream& operator<<(std::ostream& out, const Block& b) {
+  return out << b.startCol << "," << b.startRow << " to " << b.endCol << "," << b.endRow;
+}
+
+Block BlockOf(CGridCtrl& grid, int col, long row) {
+  Block block{col, row, 0, 0};
+  grid.GetJoinRange(&block.startCol, &block.startRow, &block.endCol, &block.endRow);
+  return block;
+}
+
+}  // namespace
+
+TEST(CGridJoins, EveryCellOfABlockKnowsItsStartAndExtent) {
+  LoggingGrid grid(6, 6, 300, 60);
+  grid.Fill();
+  ASSERT_EQ(grid.JoinCells(1, 2, 3, 4), 0);
+  for (long row = 2; row <= 4; ++row) {
+    for (int col = 1; col <= 3; ++col) {
+      EXPECT_EQ(BlockOf(grid, col, row), (Block{1, 2, 3, 4})) << grid;
+    }
+  }
+  EXPECT_EQ(BlockOf(grid, 4, 4), (Block{4, 4, 4, 4}));
+  CGridCell start;
+  grid.GetCell(1, 2, &start);
+  int origin = 0;
+  int across = 0;
+  long down = 0;
+  start.GetJoinInfo(&origin, &across, &down);
+  EXPECT_EQ(origin, 1);
+  EXPECT_EQ(across, 2);
+  EXPECT_EQ(down, 2);
+  EXPECT_EQ(grid.Text(1, 2), "b2") << "joining keeps what the cells hold";
+}
+
+TEST(CGridJoins, RefusesBlocksThatReachOutOrAreTurnedRound) {
+  LoggingGrid grid(4, 4, 300, 60);
+  EXPECT_EQ(grid.JoinCells(2, 0, 1, 0), 1);
+  EXPECT_EQ(grid.JoinCells(0, 2, 0, 1), 1);
+  EXPECT_EQ(grid.JoinCells(0, 0, 4, 0), 1);
+  EXPECT_EQ(grid.JoinCells(0, 0, 0, 4), 1);
+  EXPECT_EQ(grid.JoinCells(-2, 0, 0, 0), 1);
+  EXPECT_EQ(grid.JoinCells(0, -2, 0, 0), 1);
+  EXPECT_EQ(grid.JoinCells(0, -1, 3, -1), 0) << "heading cells join like others";
+  EXPECT_EQ(BlockOf(grid, 2, -1), (Block{0, -1, 3, -1}));
+}
+
+TEST(CGridJoins, UnjoiningLeavesNoTraceWhereNothingWasStored) {
+  LoggingGrid grid(4, 4, 300, 60);
+  grid.QuickSetText(1, 1, L"kept");
+  grid.JoinCells(0, 0, 1, 1);
+  EXPECT_EQ(grid.UnJoinCells(1, 1, 2, 2), 0);
+  EXPECT_EQ(BlockOf(grid, 0, 0), (Block{0, 0, 0, 0}));
+  EXPECT_EQ(grid.Text(1, 1), "kept");
+  CGridCell cell;
+  EXPECT_EQ(grid.GetCell(0, 0, &cell), 1);
+  EXPECT_EQ(grid.UnJoinCells(1, 1, 2, 2), 1);
+}
+
+TEST(CGridJoins, ATornBlockCountsAsNotJoined) {
+  LoggingGrid grid(4, 6, 300, 60);
+  grid.Fill();
+  grid.JoinCells(1, 1, 2, 3);
+  grid.DeleteRow(1);
+  EXPECT_EQ(BlockOf(grid, 1, 1), (Block{1, 1, 1, 1})) << "its first cell is gone: " << grid;
+  EXPECT_EQ(BlockOf(grid, 2, 2), (Block{2, 2, 2, 2}));
+  grid.JoinCells(0, 0, 1, 1);
+  grid.JoinCells(1, 1, 2, 2);
+  EXPECT_EQ(BlockOf(grid, 1, 1), (Block{1, 1, 2, 2})) << "the later block took the cell over";
+  grid.SetNumberRows(2);
+  EXPECT_EQ(BlockOf(grid, 1, 1), (Block{1, 1, 1, 1})) << "the block reaches out of the sheet now";
+}
+
+TEST(CGridJoins, SwitchedOffTheyAreNotSeen) {
+  LoggingGrid grid(4, 4, 300, 60);
+  grid.JoinCells(0, 0, 1, 1);
+  grid.EnableJoins(0);
+  EXPECT_EQ(BlockOf(grid, 1, 1), (Block{1, 1, 1, 1}));
+  grid.EnableJoins(5);
+  EXPECT_EQ(BlockOf(grid, 1, 1), (Block{0, 0, 1, 1}));
+}

@@ -1,0 +1,165 @@
+#include "grid/control/CGridMultiSelect.h"
+
+#include <gtest/gtest.h>
+
+#include "grid/control/CGridDrawHint.h"
+#include "platform/Keys.h"
+#include "platform/Messages.h"
+#include "platform/System.h"
+#include "tests/grid/control/LoggingGrid.h"
+
+using coregui::test::LoggingGrid;
+
+namespace {
+
+std::string Selected(CGridMultiSelect& selection, bool backwards = false) {
+  std::string all;
+  int col = 0;
+  long row = 0;
+  int more = backwards ? selection.EnumLastSelected(&col, &row) : selection.EnumFirstSelected(&col, &row);
+  while (more == 0) {
+    all += std::to_string(col) + "," + std::to_string(row) + " ";
+    more = backwards ? selection.EnumPreviousSelected(&col, &row) : selection.EnumNextSelected(&col, &row);
+  }
+  return all;
+}
+
+}  // namespace
+
+TEST(CGridMultiSelect, TheLastBlockThatCoversACellDecidesUnlessTheFirstShall) {
+  for (const int mode : {0, MULTISELECT_FIRSTWINS}) {
+    CGridMultiSelect selection;
+    selection.SelectMode(mode);
+    selection.StartBlock(0, 0);
+    selection.EndBlock(3, 3);
+    selection.ToggleCell(2, 2);
+    int block = -1;
+    EXPECT_EQ(selection.IsSelected(2, 2, &block), mode == 0 ? 0 : 1);
+    EXPECT_EQ(block, mode == 0 ? 1 : 0);
+    EXPECT_EQ(selection.IsSelected(1, 1), 1);
+    EXPECT_EQ(selection.IsSelected(9, 9, &block), 0);
+    EXPECT_EQ(block, 0);
+  }
+}
+
+TEST(CGridMultiSelect, TogglingTwiceInvertsTheSameBlock) {
+  CGridMultiSelect selection;
+  selection.OnLClick(1, 1, 0);
+  selection.OnLClick(1, 1, MK_CONTROL);
+  EXPECT_EQ(selection.IsSelected(1, 1), 1) << "a Ctrl click adds a block, it never deselects";
+  CGridMultiSelect other;
+  other.StartBlock(0, 0);
+  other.EndBlock(2, 2);
+  other.ToggleCell(1, 1);
+  EXPECT_EQ(other.IsSelected(1, 1), 0);
+  other.ToggleCell(1, 1);
+  EXPECT_EQ(other.IsSelected(1, 1), 1);
+  EXPECT_EQ(other.GetNumberBlocks(), 2);
+}
+
+TEST(CGridMultiSelect, ReportsRightTopLeftBottomInThisOrder) {
+  LoggingGrid grid(10, 20, 500, 100);
+  CGridMultiSelect& selection = *grid.GetMultiSelect();
+  selection.StartBlock(5, 7);
+  selection.EndBlock(2, 9);
+  EXPECT_EQ(grid.TakeLog(), "Selection 5 7 5 7 1; Selection 5 7 2 9 1");
+}
+
+TEST(CGridMultiSelect, WholeRowsReachOnePastTheLastColumnIsKept) {
+  LoggingGrid grid(10, 20, 500, 100);
+  grid.SetMultiSelectMode(MULTISELECT_ROWS);
+  CGridMultiSelect& selection = *grid.GetMultiSelect();
+  selection.StartBlock(5, 7);
+  selection.EndBlock(5, 8);
+  int left = 0;
+  long top = 0;
+  int right = 0;
+  long bottom = 0;
+  EXPECT_EQ(selection.GetCurrentBlock(&left, &top, &right, &bottom), 0);
+  EXPECT_EQ(left, 0);
+  EXPECT_EQ(right, 10);
+  EXPECT_EQ(selection.IsCellInColSelected(99), 1) << "any column stands for column 1";
+  EXPECT_EQ(selection.IsCellInRowSelected(8), 1);
+  EXPECT_EQ(selection.IsCellInRowSelected(9), 0);
+  EXPECT_EQ(Selected(selection), "0,7 0,8 ") << "one cell per row";
+}
+
+TEST(CGridMultiSelect, EnumeratesRowByRowAndTheCurrentCellWhenEmpty) {
+  LoggingGrid grid(10, 20, 500, 100);
+  grid.GotoCell(4, 4);
+  CGridMultiSelect& selection = *grid.GetMultiSelect();
+  EXPECT_EQ(Selected(selection), "4,4 ");
+  EXPECT_EQ(Selected(selection, true), "4,4 ");
+  selection.StartBlock(1, 1);
+  selection.EndBlock(2, 2);
+  selection.ToggleCell(2, 1);
+  selection.StartBlock(6, 2);
+  EXPECT_EQ(Selected(selection), "1,1 1,2 2,2 6,2 ");
+  EXPECT_EQ(Selected(selection, true), "6,2 2,2 1,2 1,1 ");
+  int left = 0;
+  long top = 0;
+  int right = 0;
+  long bottom = 0;
+  EXPECT_EQ(selection.GetTotalRange(&left, &top, &right, &bottom), 0);
+  EXPECT_EQ(right, 6);
+  selection.ClearAll();
+  EXPECT_EQ(selection.GetTotalRange(&left, &top, &right, &bottom), 1);
+  EXPECT_EQ(selection.GetOrigCell(&left, &top), 1);
+  EXPECT_EQ(selection.EndBlock(1, 1), 1);
+}
+
+TEST(CGridMultiSelect, ClicksBeginExtendAndKeepBlocksByTheirKeys) {
+  CGridMultiSelect selection;
+  selection.OnLClick(1, 1, 0);
+  selection.OnLClick(3, 3, MK_SHIFT);
+  EXPECT_EQ(selection.IsSelected(2, 2), 1);
+  selection.OnRClick(2, 2, 0);
+  EXPECT_EQ(selection.IsSelected(3, 3), 1) << "a right click inside keeps the selection";
+  selection.OnLClick(7, 7, MK_CONTROL);
+  selection.OnMouseMove(8, 8, MK_LBUTTON);
+  EXPECT_EQ(selection.IsSelected(2, 2), 1);
+  EXPECT_EQ(selection.IsSelected(8, 7), 1);
+  selection.OnRClick(20, 20, 0);
+  EXPECT_EQ(selection.IsSelected(2, 2), 0) << "a right click outside begins anew";
+  EXPECT_EQ(selection.GetNumberBlocks(), 1);
+}
+
+TEST(CGridMultiSelect, KeyMovesLookAtShiftAndCtrl) {
+  CGridMultiSelect selection;
+  selection.OnKeyMove(1, 1);
+  SetKeyState(VK_SHIFT, true);
+  selection.OnKeyMove(3, 1);
+  SetKeyState(VK_SHIFT, false);
+  EXPECT_EQ(selection.IsSelected(2, 1), 1);
+  SetKeyState(VK_CONTROL, true);
+  selection.OnKeyMove(6, 6);
+  SetKeyState(VK_CONTROL, false);
+  EXPECT_EQ(selection.IsSelected(2, 1), 1) << "Ctrl keeps the old blocks";
+  selection.OnKeyMove(8, 8);
+  EXPECT_EQ(selection.GetNumberBlocks(), 1);
+}
+
+TEST(CGridDrawHint, WideningTheFirstRangeLeavesTheBoxIsKept) {
+  CGridDrawHint hints;
+  EXPECT_EQ(hints.IsInvalid(0, 0), 0);
+  hints.AddHint(2, 2, 4, 4);
+  hints.AddToHint(8, 8);
+  EXPECT_EQ(hints.IsInvalid(4, 4), 1);
+  EXPECT_EQ(hints.IsInvalid(8, 8), 0) << "inside the range, outside the box";
+  int startCol = 9;
+  long startRow = 9;
+  int endCol = 9;
+  long endRow = 9;
+  EXPECT_EQ(hints.GetTotalRange(&startCol, &startRow, &endCol, &endRow), 1);
+  EXPECT_EQ(endCol, 8);
+  hints.AddHint(6, 0);
+  EXPECT_EQ(hints.IsInvalid(6, 0), 1);
+  EXPECT_EQ(hints.IsInvalid(6, 1), 0) << "in the box, in no range";
+  hints.SetAsValid(1, 1);
+  EXPECT_EQ(hints.IsValid(1, 1), 1);
+  hints.ClearHints();
+  EXPECT_EQ(hints.IsValid(1, 1), 0);
+  EXPECT_EQ(hints.IsInvalid(2, 2), 0);
+  EXPECT_EQ(hints.GetTotalRange(&startCol, &startRow, &endCol, &endRow), 0);
+  EXPECT_EQ(endRow, 0);
+}

@@ -1,0 +1,177 @@
+#include <gtest/gtest.h>
+
+#include "grid/data/CGridMem.h"
+#include "platform/Keys.h"
+#include "platform/System.h"
+#include "tests/grid/control/LoggingGrid.h"
+
+using coregui::test::LoggingGrid;
+
+namespace {
+
+/// A source that refuses moves.
+class StubbornSource : public CGridMem {
+ public:
+  int OnCanMove(int oldCol, long oldRow, int newCol, long newRow) override {
+    asked = std::to_string(oldCol) + "," + std::to_string(oldRow) + " " + std::to_string(newCol) + "," +
+            std::to_string(newRow);
+    return 0;
+  }
+  std::string asked;
+};
+
+}  // namespace
+
+TEST(CGridNavigator, GotoCell_AsksWithTheCurrentCellAndTellsWhatChanged) {
+  LoggingGrid grid(20, 40, 200, 100);
+  EXPECT_EQ(grid.GotoCell(7, 20), 0);
+  EXPECT_EQ(grid.TakeLog(),
+            "CanMove 0 0 7 20; CanViewMove 0 0 7 20; ColChange 0 7; RowChange 0 20; CellChange 0 7 0 20; "
+            "LeftColChange 0 4; TopRowChange 0 11");
+  EXPECT_EQ(grid.GotoCell(7, 20), 0);
+  EXPECT_EQ(grid.TakeLog(), "") << "already there: nobody is asked";
+}
+
+TEST(CGridNavigator, AVetoLeavesEverythingAsItWas) {
+  for (const char* veto : {"CanMove", "CanViewMove"}) {
+    LoggingGrid grid(20, 40, 200, 100);
+    grid.refused = {veto};
+    EXPECT_EQ(grid.GotoCell(10, 30), 2) << veto;
+    EXPECT_EQ(grid.GotoCol(10), 2) << veto;
+    EXPECT_EQ(grid.GotoRow(30), 2) << veto;
+    EXPECT_EQ(grid.GetCurrentCol(), 0) << veto;
+    EXPECT_EQ(grid.GetCurrentRow(), 0) << veto;
+    EXPECT_EQ(grid.GetTopRow(), 0) << veto;
+  }
+}
+
+TEST(CGridNavigator, GotoRow_AsksOnlyTheControl) {
+  LoggingGrid grid(20, 40, 200, 100);
+  StubbornSource source;
+  grid.SetDefDataSource(grid.AddDataSource(&source));
+  grid.SetColTranslation(3, 13);
+  EXPECT_EQ(grid.GotoCell(3, 5), 2);
+  EXPECT_EQ(source.asked, "0,0 13,5") << "sources are asked with data columns";
+  EXPECT_EQ(grid.GotoCol(3), 2);
+  EXPECT_EQ(grid.GotoRow(5), 0);
+  EXPECT_EQ(grid.GetCurrentRow(), 5);
+}
+
+TEST(CGridNavigator, GotoColAndGotoRowStartAtTheDragCell) {
+  LoggingGrid grid(20, 40, 1000, 400);
+  grid.GotoCell(5, 6);
+  grid.log.clear();
+  grid.GotoCol(8);
+  grid.GotoRow(9);
+  EXPECT_EQ(grid.TakeLog(),
+            "CanMove 5 6 8 6; CanViewMove 0 0 8 0; ColChange 5 8; CellChange 5 8 6 6; "
+            "CanMove 8 6 8 9; CanViewMove 0 0 0 9; RowChange 6 9; CellChange 8 8 6 9");
+  EXPECT_EQ(grid.GotoRow(9), 0);
+  EXPECT_EQ(grid.TakeLog(), "");
+}
+
+TEST(CGridNavigator, TargetsOutsideAreBroughtInAndNoTargetIsRefused) {
+  LoggingGrid grid(5, 5, 1000, 400);
+  EXPECT_EQ(grid.GotoRow(99), 0);
+  EXPECT_EQ(grid.GetCurrentRow(), 4);
+  EXPECT_EQ(grid.GotoCol(-3), 0);
+  EXPECT_EQ(grid.GetCurrentCol(), 0);
+  LoggingGrid empty(0, 0, 100, 100);
+  EXPECT_EQ(empty.GotoCell(0, 0), 1);
+  EXPECT_EQ(empty.GotoRow(0), 1);
+  EXPECT_EQ(empty.GotoCol(0), 1);
+}
+
+TEST(CGridNavigator, AMoveIntoAJoinedBlockGoesToItsStart) {
+  LoggingGrid grid(10, 10, 1000, 400);
+  grid.JoinCells(2, 3, 4, 5);
+  EXPECT_EQ(grid.GotoCell(4, 4), 0);
+  EXPECT_EQ(grid.GetCurrentCol(), 2);
+  EXPECT_EQ(grid.GetCurrentRow(), 3);
+}
+
+TEST(CGridNavigator, MoveCodesStepPageAndEndAlikeOnBothAxes) {
+  struct Row {
+    const char* name;
+    int code;
+    long from;
+    long to;
+  };
+  for (const Row& r : {Row{"back", 0, 5, 4}, Row{"back at the start", 0, 0, 0}, Row{"forward", 1, 5, 6},
+                       Row{"forward at the end", 1, 39, 39}, Row{"page back", 2, 20, 11},
+                       Row{"page back near the start", 2, 3, 0}, Row{"page forward", 3, 20, 29},
+                       Row{"page forward near the end", 3, 35, 39}, Row{"first", 4, 20, 0},
+                       Row{"last", 5, 20, 39}, Row{"no such code", 6, 20, 20}}) {
+    LoggingGrid grid(40, 40, 500, 100);
+    grid.GotoCell(static_cast<int>(r.from), r.from);
+    EXPECT_EQ(grid.MoveCurrentRow(r.code), 0) << r.name;
+    EXPECT_EQ(grid.GetCurrentRow(), r.to) << r.name;
+    EXPECT_EQ(grid.MoveCurrentCol(r.code), 0) << r.name;
+    EXPECT_EQ(grid.GetCurrentCol(), r.to) << r.name;
+  }
+}
+
+TEST(CGridNavigator, StepsPassOverHiddenRowsAndColumns) {
+  LoggingGrid grid(6, 6, 500, 100);
+  grid.SetRowHeight(1, 0);
+  grid.SetRowHeight(2, 0);
+  grid.SetRowHeight(5, 0);
+  grid.MoveCurrentRow(1);
+  EXPECT_EQ(grid.GetCurrentRow(), 3);
+  grid.MoveCurrentRow(0);
+  EXPECT_EQ(grid.GetCurrentRow(), 0);
+  grid.MoveCurrentRow(5);
+  EXPECT_EQ(grid.GetCurrentRow(), 4) << "the last row is hidden";
+}
+
+TEST(CGridNavigator, TheViewStaysBetweenTheLockedRowsAndTheLastPage) {
+  LoggingGrid grid(20, 40, 200, 100);
+  grid.LockRows(3);
+  long row = 0;
+  grid.VerifyTopRow(&row);
+  EXPECT_EQ(row, 3);
+  row = 99;
+  grid.VerifyTopRow(&row);
+  EXPECT_EQ(row, 33) << "7 rows of 10 pixels fill what 3 locked ones leave of 100";
+  EXPECT_EQ(grid.AdjustTopRow(0), 0);
+  grid.log.clear();
+  EXPECT_EQ(grid.AdjustTopRow(5), 0);
+  EXPECT_EQ(grid.TakeLog(), "CanViewMove 0 3 0 8; TopRowChange 3 8");
+  grid.refused = {"CanViewMove"};
+  EXPECT_EQ(grid.AdjustTopRow(5), 2);
+  EXPECT_EQ(grid.AdjustLeftCol(5), 2);
+  EXPECT_EQ(grid.GetTopRow(), 8);
+  EXPECT_EQ(grid.GetCurrentRow(), 0) << "scrolling moves the view alone";
+  grid.refused = {};
+  grid.GotoRow(1);
+  EXPECT_EQ(grid.GetTopRow(), 8) << "a locked row is always in view";
+}
+
+TEST(CGridNavigator, ANotificationMayTakeTheRowsAway) {
+  class Shrinking : public LoggingGrid {
+   public:
+    Shrinking() : LoggingGrid(5, 50, 200, 100) {}
+    int OnCanViewMove(int, long, int, long) override {
+      SetNumberRows(2);
+      return 1;
+    }
+  } grid;
+  EXPECT_EQ(grid.GotoRow(40), 0);
+  EXPECT_EQ(grid.GetCurrentRow(), 1);
+}
+
+TEST(CGridNavigator, PlainMovesRestartTheSelectionAndShiftExtendsIt) {
+  LoggingGrid grid(10, 10, 1000, 400);
+  grid.SetMultiSelectMode(1);
+  grid.GotoCell(2, 2);
+  grid.log.clear();
+  SetKeyState(VK_SHIFT, true);
+  grid.MoveCurrentCol(1);
+  grid.MoveCurrentRow(1);
+  EXPECT_NE(grid.IsSelected(2, 2), 0) << grid;
+  EXPECT_NE(grid.IsSelected(3, 3), 0) << grid;
+  SetKeyState(VK_SHIFT, false);
+  grid.MoveCurrentRow(1);
+  EXPECT_EQ(grid.IsSelected(2, 2), 0) << grid;
+  EXPECT_NE(grid.IsSelected(3, 4), 0) << grid;
+}
