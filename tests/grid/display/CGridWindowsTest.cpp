@@ -1,0 +1,151 @@
+#include <gtest/gtest.h>
+
+#include "grid/control/CGridInfo.h"
+#include "grid/display/CGridScrollBar.h"
+#include "grid/display/CGridTab.h"
+#include "platform/CDC.h"
+#include "platform/CScrollBar.h"
+#include "tests/grid/GridPicture.h"
+
+namespace {
+
+/// A grid in a window of its own, 300 × 200 pixels, 20 columns of 50 and 100 rows of 10 pixels.
+class WindowedGrid : public CGridCtrl {
+ public:
+  explicit WindowedGrid(bool sizes = false) {
+    EnableInitialSizing(sizes ? 1 : 0);
+    m_frame.Create(L"", L"frame", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 300, 200), nullptr, 0);
+    CreateGrid(WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &m_frame, 1);
+  }
+  ~WindowedGrid() override { m_frame.DestroyWindow(); }
+  void OnSetup() override {
+    log += "setup ";
+    SetVS_Width(16);
+    SetHS_Height(16);
+    SetDefColWidth(50);
+    SetDefRowHeight(10);
+    SetNumberCols(20);
+    SetNumberRows(100);
+    for (long row = 0; row < 100; ++row) {
+      QuickSetText(0, row, CString::Formatted(L"%ld", row));
+    }
+    QuickSetText(1, -1, L"A heading that is wider than fifty pixels");
+  }
+  void OnSetupFinished() override { log += "finished "; }
+  void OnSheetSetup(int sheet) override { log += "sheet" + std::to_string(sheet) + " "; }
+  void OnTabSelected(int sheet) override { log += "tab" + std::to_string(sheet) + " "; }
+  void OnLClicked(int col, long row, int updn, RECT*, POINT*, int) override {
+    if (updn == 1) {
+      log += "click" + std::to_string(col) + "," + std::to_string(row) + " ";
+      if (destroyOnClick) {
+        DestroyWindow();
+      }
+    }
+  }
+
+  std::string log;
+  bool destroyOnClick = false;
+
+ private:
+  CWnd m_frame;
+};
+
+CRect PlaceOf(const CWnd& grid, const CWnd* part) {
+  CRect rect;
+  part->GetWindowRect(&rect);
+  grid.ScreenToClient(&rect);
+  return rect;
+}
+
+}  // namespace
+
+TEST(CGridCtrl, CreatingSetsUpOnceAndLaysThePartsOut) {
+  WindowedGrid grid;
+  ASSERT_TRUE(grid.HasWindow());
+  EXPECT_EQ(grid.log, "setup finished sheet0 ");
+  EXPECT_EQ(PlaceOf(grid, grid.GetGridWnd()), CRect(40, 20, 284, 184));
+  EXPECT_EQ(PlaceOf(grid, grid.GetTopHdgWnd()), CRect(40, 0, 284, 20));
+  EXPECT_EQ(PlaceOf(grid, grid.GetSideHdgWnd()), CRect(0, 20, 40, 184));
+  EXPECT_EQ(PlaceOf(grid, grid.GetCornerWnd()), CRect(0, 0, 40, 20));
+  EXPECT_EQ(PlaceOf(grid, grid.GetScrollBarCtrl(SB_VERT)), CRect(284, 0, 300, 184));
+  grid.MoveWindow(0, 0, 1200, 1200);
+  EXPECT_FALSE(grid.GetScrollBarCtrl(SB_VERT)->IsWindowVisible()) << "everything is in view";
+  EXPECT_EQ(PlaceOf(grid, grid.GetGridWnd()), CRect(40, 20, 1200, 1200));
+  grid.SetNumberRows(200);
+  EXPECT_TRUE(grid.GetScrollBarCtrl(SB_VERT)->IsWindowVisible());
+}
+
+TEST(CGridCtrl, ScrollBarsStepPageAndFollowThePosition) {
+  WindowedGrid grid;
+  CScrollBar& bar = *grid.GetScrollBarCtrl(SB_VERT);
+  const auto scroll = [&](int code) {
+    grid.SendMessage(WM_VSCROLL, MAKEWPARAM(code, 0), reinterpret_cast<LPARAM>(bar.GetSafeHwnd()));
+    return grid.GetTopRow();
+  };
+  EXPECT_EQ(scroll(SB_LINEDOWN), 1);
+  EXPECT_EQ(scroll(SB_PAGEDOWN), 16) << "the last whole row of a page starts the next one";
+  EXPECT_EQ(scroll(SB_PAGEUP), 1);
+  EXPECT_EQ(scroll(SB_BOTTOM), 84);
+  EXPECT_EQ(scroll(SB_LINEDOWN), 84);
+  EXPECT_EQ(bar.GetScrollPos(), 84);
+  EXPECT_EQ(scroll(SB_TOP), 0);
+  grid.GotoRow(50);
+  EXPECT_EQ(bar.GetScrollPos(), grid.GetTopRow()) << "keys move the thumb";
+  grid.SendMessage(WM_HSCROLL, MAKEWPARAM(SB_LINERIGHT, 0));
+  EXPECT_EQ(grid.GetLeftCol(), 1);
+}
+
+TEST(CGridCtrl, DraggingTheThumbNamesTheRowThatTheViewWouldStartWith) {
+  WindowedGrid grid;
+  auto& bar = static_cast<coregui::CGridScrollBar&>(*grid.GetScrollBarCtrl(SB_VERT));
+  grid.SendMessage(WM_VSCROLL, MAKEWPARAM(SB_THUMBTRACK, 0));
+  EXPECT_TRUE(bar.GetTip().IsWindowVisible());
+  EXPECT_EQ(bar.GetTip().GetText(), L"1");
+  grid.SendMessage(WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 0));
+  EXPECT_FALSE(bar.GetTip().IsWindowVisible());
+}
+
+TEST(CGridCtrl, AClickOnATabShowsItsSheet) {
+  WindowedGrid grid;
+  grid.SetNumberSheets(2);
+  grid.SetTabWidth(120);
+  CWnd* tabWindow = grid.GetDlgItem(5);
+  ASSERT_NE(tabWindow, nullptr);
+  const std::vector<CRect> tabs = static_cast<CGridTab*>(tabWindow)->GetTabs();
+  ASSERT_EQ(tabs.size(), 2U);
+  grid.log.clear();
+  tabWindow->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(tabs[1].left + 2, 5));
+  EXPECT_EQ(grid.log, "tab1 ");
+  EXPECT_EQ(grid.GetNumberRows(), 0);
+  tabWindow->SendMessage(WM_KEYDOWN, VK_LEFT);
+  EXPECT_EQ(grid.GetSheetNumber(), 0);
+  EXPECT_EQ(grid.GetNumberRows(), 100);
+}
+
+TEST(CGridCtrl, AClickMovesTheCurrentCellAndMayDestroyTheGrid) {
+  WindowedGrid grid;
+  grid.log.clear();
+  grid.GetGridWnd()->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(60, 35));
+  EXPECT_EQ(grid.log, "click1,3 ");
+  EXPECT_EQ(grid.GetCurrentCol(), 1) << grid;
+  EXPECT_EQ(grid.GetCurrentRow(), 3) << grid;
+  grid.GetGridWnd()->SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(60, 35));
+  grid.destroyOnClick = true;
+  grid.GetGridWnd()->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(10, 5));
+  EXPECT_FALSE(grid.HasWindow());
+  EXPECT_EQ(grid.GotoRow(9), 0) << "and goes on working without a window";
+}
+
+TEST(CGridCtrl, BestFitMakesRoomForHeadingsAndContents) {
+  WindowedGrid grid;
+  EXPECT_EQ(grid.BestFit(0, 1), 0);
+  EXPECT_LT(grid.GetColWidth(0), 50);
+  EXPECT_GT(grid.GetColWidth(0), 5);
+  EXPECT_GT(grid.GetColWidth(1), 100);
+  EXPECT_EQ(grid.BestFit(0, 20), 1);
+  WindowedGrid sized(true);
+  EXPECT_GT(sized.GetColWidth(1), 100) << "the initial sizes are asked for before the grid is shown";
+  CGridCtrl never;
+  never.SetNumberCols(2);
+  EXPECT_EQ(never.BestFit(0, 1), 1) << "nothing can be measured without a window";
+}
