@@ -40,6 +40,9 @@ int CGridCells::Get(int col, long row, CGridCell* cell) {
 }
 
 int CGridCells::GetDisplayed(int col, long row, CGridCell* cell) {
+  if (cell == nullptr) {
+    return 1;
+  }
   CGridInfo& info = m_sheets.Current();
   cell->SetPropertyFlags(0);
   if (row < 0 || !info.columns.Has(col)) {

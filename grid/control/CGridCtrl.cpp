@@ -37,8 +37,7 @@ BOOL CGridCtrl::CreateGrid(DWORD style, const RECT& rect, CWnd* parent, UINT id)
       SetInitialCellStates();
     }
   }
-  GetInfo().view.paintEnabled = 1;
-  AdjustComponentSizes();
+  StartPainting();
   return created;
 }
 
@@ -48,9 +47,15 @@ BOOL CGridCtrl::AttachGrid(CWnd* dialog, UINT id) {
   }
   OnSetup();
   OnSheetSetup(0);
-  GetInfo().view.paintEnabled = 1;
-  AdjustComponentSizes();
+  StartPainting();
   return TRUE;
+}
+
+void CGridCtrl::StartPainting() {
+  for (int sheet = 0; sheet < GetNumberSheets(); ++sheet) {
+    m_rooms->sheets.At(sheet).view.paintEnabled = 1;
+  }
+  AdjustComponentSizes();
 }
 
 int CGridCtrl::EnableInitialSizing(int on) {
@@ -107,6 +112,7 @@ void CGridCtrl::HandleHScroll(int code, CWnd*) {
 }
 
 void CGridCtrl::HandleSystemChange() {
+  m_rooms->sheets.FollowSystemColours();
   m_rooms->types.TellSystemChange();
   RedrawAll();
 }

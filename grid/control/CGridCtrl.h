@@ -378,6 +378,7 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
  private:
   friend class coregui::CGridParts;
 
+  void StartPainting();
   void HandleSize(UINT type, int width, int height);
   void HandleFocus(CWnd* other);
   void HandleVScroll(int code, CWnd* bar);

@@ -372,10 +372,12 @@ void CGridNavigator::Moved() {
 
 void CGridNavigator::TellTypes(const Cell& before, const Cell& after, bool scrolled) {
   const auto tell = [this](const Cell& at, auto call) {
-    CGridCellDelegate* const type = at.col < 0 || at.row < 0 ? nullptr : m_rooms.types.Of(at.col, at.row);
-    if (type != nullptr) {
-      CGridCell cell;
-      m_rooms.cells.GetDisplayed(at.col, at.row, &cell);
+    if (at.col < 0 || at.row < 0) {
+      return;
+    }
+    CGridCell cell;
+    m_rooms.cells.GetDisplayed(at.col, at.row, &cell);
+    if (CGridCellDelegate* const type = m_rooms.types.Of(cell)) {
       call(*type, at, &cell);
     }
   };

@@ -4,6 +4,7 @@
 
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridMultiSelect.h"
+#include "grid/data/CGridCell.h"
 #include "grid/data/CGridMem.h"
 
 namespace coregui {
@@ -29,6 +30,18 @@ CString CGridSheets::NameOf(int sheet) const {
     return At(sheet).name;
   }
   return CString::Formatted(L"Sheet%d", sheet + 1);
+}
+
+void CGridSheets::FollowSystemColours() {
+  const SystemLook now = SystemLook::Read();
+  for (const std::unique_ptr<CGridInfo>& sheet : m_sheets) {
+    m_look.Replace(*sheet->gridDefault, now);
+    m_look.Replace(*sheet->headingDefault, now);
+    for (long col = 0; col < sheet->columns.Count(); ++col) {
+      m_look.Replace(*sheet->columns.At(col).defaults, now);
+    }
+  }
+  m_look = now;
 }
 
 }  // namespace coregui

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "grid/control/CGridInfo.h"
+#include "grid/control/SystemLook.h"
 
 class CGridCtrl;
 
@@ -28,11 +29,14 @@ class CGridSheets {
   void SetCurrent(int sheet) { m_current = static_cast<std::size_t>(sheet); }
   /// The sheet's name, or "Sheet" and its number counted from 1.
   CString NameOf(int sheet) const;
+  /// The system's colours have changed: the default cells that have them change too.
+  void FollowSystemColours();
 
  private:
   CGridCtrl& m_control;
   std::vector<std::unique_ptr<CGridInfo>> m_sheets;
   std::size_t m_current = 0;
+  SystemLook m_look;  ///< what the default cells have
 };
 
 }  // namespace coregui

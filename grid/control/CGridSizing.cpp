@@ -1,7 +1,6 @@
 #include "grid/control/CGridSizing.h"
 
 #include <algorithm>
-#include <vector>
 
 #include "grid/control/CGridCellDelegate.h"
 #include "grid/control/CGridCells.h"
@@ -341,31 +340,17 @@ int CGridSizing::BestFit(int startCol, int endCol, long rows) {
   if (startCol < 0 || endCol >= Cols().Count() || startCol > endCol) {
     return 1;
   }
+  const long count = Rows().Count();
   const long first = rows < 0 ? 0 : Rows().First();
-  const long end = rows < 0    ? Rows().Count()
-                   : rows == 0 ? std::min(Rows().LastInView() + 1, Rows().Count())
-                               : std::min(first + rows, Rows().Count());
+  const long inView = std::min(Rows().LastInView() + 1, count);
+  const long end = rows < 0 ? count : rows == 0 ? inView : std::min(first + rows, count);
   std::vector<int> widths(static_cast<std::size_t>(endCol - startCol + 1), 0);
   const bool measured = m_rooms.screen.Measure([&](CDC& dc) {
-    const auto fit = [&](long row) {
-      for (int col = startCol; col <= endCol; ++col) {
-        CGridCell cell;
-        m_rooms.cells.GetDisplayed(col, row, &cell);
-        CGridCellDelegate* const type =
-            m_rooms.types.Get(cell.IsPropertySet(CELLPROP_CELLTYPE) != 0 ? cell.GetCellType() : 0);
-        CSize size;
-        if (type != nullptr && cell.IsPropertySet(CELLPROP_JOIN) == 0) {
-          type->GetBestSize(&dc, &size, &cell);
-        }
-        int& width = widths[static_cast<std::size_t>(col - startCol)];
-        width = std::max<int>(width, size.cx);
-      }
-    };
     for (long row = -m_rooms.sheets.Current().headings.TopRows(); row < 0; ++row) {
-      fit(row);
+      WidenToRow(dc, row, startCol, widths);
     }
     for (long row = first; row < end; ++row) {
-      fit(row);
+      WidenToRow(dc, row, startCol, widths);
     }
   });
   if (!measured) {
@@ -375,6 +360,20 @@ int CGridSizing::BestFit(int startCol, int endCol, long rows) {
     SetColWidth(col, widths[static_cast<std::size_t>(col - startCol)]);
   }
   return 0;
+}
+
+void CGridSizing::WidenToRow(CDC& dc, long row, int startCol, std::vector<int>& widths) {
+  int col = startCol;
+  for (int& width : widths) {
+    CGridCell cell;
+    m_rooms.cells.GetDisplayed(col++, row, &cell);
+    CGridCellDelegate* const type = m_rooms.types.Of(cell);
+    if (type != nullptr && cell.IsPropertySet(CELLPROP_JOIN) == 0) {
+      CSize size;
+      type->GetBestSize(&dc, &size, &cell);
+      width = std::max<int>(width, size.cx);
+    }
+  }
 }
 
 int CGridSizing::FitToWindow(int startCol, int endCol) {

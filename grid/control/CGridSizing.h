@@ -1,6 +1,10 @@
 #pragma once
 
+#include <vector>
+
 #include "platform/Geometry.h"
+
+class CDC;
 
 namespace coregui {
 
@@ -72,6 +76,9 @@ class CGridSizing {
   void BringIntoRange(CGridAxis& axis);
   void AfterCountChange(CGridAxis& axis);
   int Lock(CGridAxis& axis, long count);
+  /// Raises the widths of the columns from `startCol` on to what the cells of a row need; joined cells count
+  /// for nothing.
+  void WidenToRow(CDC& dc, long row, int startCol, std::vector<int>& widths);
   int ToldWidth(int col, int width);
   int ToldHeight(long row, int height);
 

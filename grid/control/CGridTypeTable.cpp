@@ -31,6 +31,10 @@ CGridCellDelegate* CGridTypeTable::Get(int id) const {
 CGridCellDelegate* CGridTypeTable::Of(int col, long row) {
   CGridCell cell;
   m_cells.GetDisplayed(col, row, &cell);
+  return Of(cell);
+}
+
+CGridCellDelegate* CGridTypeTable::Of(const CGridCell& cell) const {
   return Get(cell.IsPropertySet(CELLPROP_CELLTYPE) != 0 ? cell.GetCellType() : 0);
 }
 

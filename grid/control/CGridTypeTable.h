@@ -2,6 +2,7 @@
 
 #include "grid/data/CGridPtrList.h"
 
+class CGridCell;
 class CGridCtrl;
 
 namespace coregui {
@@ -21,7 +22,8 @@ class CGridTypeTable {
   /// The type of an ID; the normal type for 0, negative and unknown ones. Null only while nothing is
   /// registered.
   CGridCellDelegate* Get(int id) const;
-  /// The type that the displayed cell names.
+  /// The type that a displayed cell names.
+  CGridCellDelegate* Of(const CGridCell& cell) const;
   CGridCellDelegate* Of(int col, long row);
   /// The ID of a registered type, -1 when it is not.
   int IdOf(const CGridCellDelegate* type) const { return m_types.GetPointerIndex(type); }

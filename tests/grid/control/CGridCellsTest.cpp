@@ -5,6 +5,7 @@
 #include "grid/data/CGridCell.h"
 #include "grid/data/CGridCellFormat.h"
 #include "grid/data/CGridMem.h"
+#include "platform/System.h"
 #include "tests/grid/control/LoggingGrid.h"
 
 using coregui::test::LoggingGrid;
@@ -194,4 +195,24 @@ TEST(CGridSourceTable, TheDefaultSourceTakesEveryColumnBack) {
   EXPECT_EQ(first.GetCell(-1, 0, &cell), 0) << "heading columns go to the default source untranslated";
   EXPECT_EQ(grid.SetDefDataSource(0), 0);
   EXPECT_EQ(grid.GetDataSource(0), grid.GetDataSource(grid.GetDefDataSource()));
+}
+
+TEST(CGridSheets, DefaultCellsFollowTheSystemsColoursAndKeepTheirOwn) {
+  LoggingGrid grid(2, 2, 100, 100);
+  CGridCell own;
+  own.SetBackColor(red);
+  grid.SetColDefault(1, &own);
+  SetSysColor(COLOR_WINDOW, 0x202020);
+  SetSysColor(COLOR_WINDOWTEXT, 0xEEEEEE);
+  SetSysColor(COLOR_BTNFACE, 0x404040);
+  grid.SendMessage(WM_SYSCOLORCHANGE);
+  CGridCell cell;
+  grid.GetCellIndirect(0, 0, &cell);
+  EXPECT_EQ(cell.GetBackColor(), 0x202020U);
+  EXPECT_EQ(cell.GetTextColor(), 0xEEEEEEU);
+  grid.GetCellIndirect(1, 0, &cell);
+  EXPECT_EQ(cell.GetBackColor(), red);
+  grid.GetCellIndirect(0, -1, &cell);
+  EXPECT_EQ(cell.GetBackColor(), 0x404040U);
+  ResetSysColors();
 }
