@@ -9,7 +9,7 @@
 
 namespace coregui {
 
-CGridSheets::CGridSheets(CGridCtrl& control) : m_control(control) {
+CGridSheets::CGridSheets(CGridCtrl& control) : m_control(control), m_look(SystemLook::Read()) {
   SetCount(1);
 }
 
