@@ -18,6 +18,7 @@ constexpr double kFillRoom = 4096.0;
 /// Smooth lines go through the toolkit point by point up to here; beyond, hard pixels look the same and are
 /// fast.
 constexpr double kSmoothLimit = 1e6;
+constexpr LONG kPaperDpi = 200;
 constexpr std::size_t kMostSmoothPoints = 8000;
 
 bool AreDrawable(std::initializer_list<PNT_2D_record> points) {
@@ -54,7 +55,9 @@ void CPlotPrimitives::EndPlot() {
 }
 
 int CPlotPrimitives::PenPixels() const {
-  const double pixels = m_pen.unit == PlotUnit::points ? PixelsOfPoints(m_pen.width) : m_pen.width;
+  // A pixel of a fine printer would hardly be seen: there it stands for 1/96 inch.
+  const double finer = m_dpi.cy >= kPaperDpi ? m_dpi.cy / 96.0 : 1.0;
+  const double pixels = m_pen.unit == PlotUnit::points ? PixelsOfPoints(m_pen.width) : m_pen.width * finer;
   return std::max<int>(1, TruncateToDevice(pixels + 0.5));
 }
 

@@ -149,10 +149,15 @@ void CPlotSheet::DrawTableRow(const PlotTableRow& row, CRect const& place) {
       continue;
     }
     free = at + half + gap / 2;
-    // Standing texts are read from the right, so their cell's top left corner comes to the lower left.
+    // Standing texts are read from the right, so their cell's top left corner comes to the lower left. At the
+    // ends of the row they stand beside the frame.
     const LONG length = row.upright ? size.cx : size.cy;
-    DrawDeviceText({at - half, middle + (row.upright ? length / 2 : -length / 2)}, entry.text, text);
-    DrawDeviceLine({at, place.top}, {at, place.top + gap});
+    const LONG start =
+        std::clamp(at - half, place.left + 1, std::max(place.left + 1, place.right - 2 * half));
+    DrawDeviceText({start, middle + (row.upright ? length / 2 : -length / 2)}, entry.text, text);
+    if (length + 2 * gap < place.Height()) {
+      DrawDeviceLine({at, place.top}, {at, place.top + gap});
+    }
   }
 }
 

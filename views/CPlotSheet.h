@@ -24,7 +24,7 @@ struct PlotTableEntry {
 /// A row of the table under a section. Heights are in points.
 struct PlotTableRow {
   CString title;  ///< in the left margin
-  double height = 36.0;
+  double height = 46.0;
   bool upright = true;  ///< the texts stand on end, as levels do; otherwise they lie
   std::vector<PlotTableEntry> entries;
 };

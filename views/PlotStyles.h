@@ -4,7 +4,7 @@
 
 /// How long a width or height of the drawing is meant to be.
 enum class PlotUnit {
-  pixels,  ///< of the device
+  pixels,  ///< of the screen; on paper 1/96 inch
   points,  ///< 1/72 inch: the same on screen and paper
   world,   ///< world units along y; grows with the zoom
 };
@@ -12,7 +12,7 @@ enum class PlotUnit {
 /// Draws the lines of a plot.
 struct PlotPen {
   COLORREF colour = 0;
-  double width = 1.0;  ///< pixels or points; one pixel at least is drawn
+  double width = 1.0;  ///< pixels or points; one dot at least is drawn
   PlotUnit unit = PlotUnit::pixels;
   int style = PS_SOLID;
 };
