@@ -281,18 +281,22 @@ bool QtWindow::DefaultMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
     return false;
   }
   result = 0;
-  if (m_inFlight != nullptr && m_inFlight->message == message) {
-    if (!m_inFlight->delivered) {
-      m_inFlight->delivered = true;
-      static_cast<QObject*>(m_inFlight->receiver)->event(m_inFlight->event);
+  if (InFlight* flight = m_inFlight; flight != nullptr && flight->message == message) {
+    if (!flight->delivered) {
+      flight->delivered = true;
+      Deliver(*flight->receiver, *flight->event);  // may destroy this object
     }
-    return !IsWheel(message) || m_inFlight->event->isAccepted();
+    return !IsWheel(message) || flight->event->isAccepted();
   }
   if (m_inFlight != nullptr && IsInput(message)) {
     return true;  // the other half of an event that the widget gets as a whole
   }
   return GiveAsEvent(*m_widget, message, wParam, lParam) || message == WM_PAINT || message == WM_ERASEBKGND ||
          message == WM_SETCURSOR;
+}
+
+void QtWindow::Deliver(QWidget& receiver, QEvent& event) {
+  static_cast<QObject&>(receiver).event(&event);
 }
 
 bool QtWindow::FilterOther(QWidget& /*receiver*/, QEvent& /*event*/) {

@@ -76,6 +76,8 @@ class QtWindow : public QObject, public NativeWindow {
   virtual bool FilterOther(QWidget& receiver, QEvent& event);
   /// Whether the widget gets the events that the window's handlers leave over.
   virtual bool HasOwnBehaviour() const { return true; }
+  /// Gives an event to the widget that it is for.
+  virtual void Deliver(QWidget& receiver, QEvent& event);
   /// The widget's scale may have changed.
   virtual void NoteScale() {}
   virtual void NoteWidgetSize() {}

@@ -23,8 +23,8 @@ Log& TheLog() {
 }
 
 void NoteToolkitMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
-  // Capturing the mouse works without it: there are no other programs on the display of the tests.
-  if (message.contains(QLatin1String("does not support grabbing the mouse"))) return;
+  // What the headless display cannot do (raise, grab) is no fault of the code that asks for it.
+  if (message.startsWith(QLatin1String("This plugin does not support"))) return;
   if (type != QtDebugMsg && type != QtInfoMsg) NoteLogLine(message.toStdWString());
   if (type == QtFatalMsg) {
     std::fprintf(stderr, "fatal: %s\n", message.toUtf8().constData());
