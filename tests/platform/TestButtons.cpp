@@ -1,0 +1,82 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QTest>
+
+#include "platform/CButton.h"
+#include "platform/CStatic.h"
+#include "tests/platform/ControlHost.h"
+
+namespace {
+
+using coregui::test::ControlHost;
+using coregui::test::WidgetOf;
+
+TEST(Button, EveryKindNotifiesOfAClick) {
+  ControlHost host;
+  struct Kind {
+    DWORD style;
+    int state;  ///< after one click
+  };
+  constexpr Kind kinds[] = {{BS_PUSHBUTTON, BST_UNCHECKED},     {BS_DEFPUSHBUTTON, BST_UNCHECKED},
+                            {BS_CHECKBOX, BST_UNCHECKED},       {BS_AUTOCHECKBOX, BST_CHECKED},
+                            {BS_AUTO3STATE, BST_INDETERMINATE}, {BS_AUTORADIOBUTTON, BST_CHECKED}};
+  for (const Kind& kind : kinds) {
+    CButton button;
+    ASSERT_TRUE(button.Create(L"&Go", WS_CHILD | WS_VISIBLE | kind.style, CRect(5, 5, 100, 30), &host, 9));
+    QTest::mouseClick(WidgetOf(button), Qt::LeftButton, {}, QPoint(8, 12));
+    EXPECT_EQ(host.TakeLog(), L"9:0 ") << kind.style;
+    EXPECT_EQ(button.GetCheck(), kind.state) << kind.style;
+    button.EnableWindow(FALSE);
+    button.Click();
+    EXPECT_EQ(host.TakeLog(), L"") << kind.style;
+  }
+}
+
+TEST(Button, SpacePressesAndSetCheckIsSilent) {
+  ControlHost host;
+  CButton box;
+  box.Create(L"x", WS_CHILD | WS_VISIBLE | BS_AUTO3STATE, CRect(5, 5, 100, 30), &host, 9);
+  box.SetCheck(BST_INDETERMINATE);
+  EXPECT_EQ(box.GetCheck(), BST_INDETERMINATE);
+  EXPECT_EQ(host.TakeLog(), L"");
+  QTest::keyClick(WidgetOf(box), Qt::Key_Space);
+  EXPECT_EQ(box.GetCheck(), BST_CHECKED);
+  EXPECT_EQ(host.TakeLog(), L"9:0 ");
+}
+
+TEST(Button, RadioButtonsExcludeEachOtherWithinTheirGroup) {
+  ControlHost host;
+  CButton buttons[4];
+  for (int i = 0; i < 4; ++i) {
+    const DWORD group = i % 2 == 0 ? WS_GROUP : 0;
+    buttons[i].Create(L"r", WS_CHILD | WS_VISIBLE | BS_AUTORADIOBUTTON | group,
+                      CRect(5, 5 + 20 * i, 100, 22 + 20 * i), &host, static_cast<UINT>(i));
+  }
+  buttons[0].Click();
+  buttons[3].Click();
+  buttons[1].Click();
+  EXPECT_EQ(buttons[0].GetCheck(), BST_UNCHECKED);
+  EXPECT_EQ(buttons[1].GetCheck(), BST_CHECKED);
+  EXPECT_EQ(buttons[2].GetCheck(), BST_UNCHECKED);
+  EXPECT_EQ(buttons[3].GetCheck(), BST_CHECKED);
+  buttons[1].Click();
+  EXPECT_EQ(buttons[1].GetCheck(), BST_CHECKED);
+  buttons[1].SetCheck(BST_UNCHECKED);
+  EXPECT_EQ(buttons[1].GetCheck(), BST_UNCHECKED);
+}
+
+TEST(Static, HidesTheMarkOfItsAccessKeyAndTellsOfClicks) {
+  ControlHost host;
+  CStatic text;
+  text.Create(L"&Find && go", WS_CHILD | WS_VISIBLE | SS_NOTIFY, CRect(5, 5, 100, 30), &host, 4);
+  EXPECT_EQ(static_cast<QLabel*>(WidgetOf(text))->text(), "Find & go");
+  EXPECT_EQ(text.GetWindowTextString(), L"&Find && go");
+  QTest::mouseClick(WidgetOf(text), Qt::LeftButton);
+  EXPECT_EQ(host.TakeLog(), L"4:0 ");
+  text.SetWindowText(L"<b>5</b>");
+  EXPECT_EQ(static_cast<QLabel*>(WidgetOf(text))->text(), "<b>5</b>");
+}
+
+}  // namespace
