@@ -1,0 +1,133 @@
+#include "platform/MessageBox.h"
+
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QMessageBox>
+#include <QPushButton>
+#include <algorithm>
+#include <memory>
+
+#include "platform/WindowFocus.h"
+#include "platform/qt/Application.h"
+#include "platform/qt/ControlWindow.h"
+
+namespace coregui {
+namespace {
+
+constexpr std::size_t kMostButtons = 4;
+
+std::vector<MessageBoxButton> StandardButtons(UINT type) {
+  const auto ok = MessageBoxButton{IDOK, L"OK"};
+  const auto cancel = MessageBoxButton{IDCANCEL, L"Cancel"};
+  const auto retry = MessageBoxButton{IDRETRY, L"&Retry"};
+  switch (type & MB_TYPEMASK) {
+    case MB_OKCANCEL:
+      return {ok, cancel};
+    case MB_ABORTRETRYIGNORE:
+      return {{IDABORT, L"&Abort"}, retry, {IDIGNORE, L"&Ignore"}};
+    case MB_YESNOCANCEL:
+      return {{IDYES, L"&Yes"}, {IDNO, L"&No"}, cancel};
+    case MB_YESNO:
+      return {{IDYES, L"&Yes"}, {IDNO, L"&No"}};
+    case MB_RETRYCANCEL:
+      return {retry, cancel};
+    default:
+      return {ok};
+  }
+}
+
+QMessageBox::Icon IconOf(UINT style) {
+  switch (style & MB_ICONMASK) {
+    case MB_ICONSTOP:
+      return QMessageBox::Critical;
+    case MB_ICONQUESTION:
+      return QMessageBox::Question;
+    case MB_ICONWARNING:
+      return QMessageBox::Warning;
+    case MB_ICONINFORMATION:
+      return QMessageBox::Information;
+    default:
+      return QMessageBox::NoIcon;
+  }
+}
+
+/// The button that Esc and closing press; null: none.
+const MessageBoxButton* EscapeButton(const std::vector<MessageBoxButton>& buttons) {
+  const auto cancel =
+      std::find_if(buttons.begin(), buttons.end(), [](const auto& b) { return b.id == IDCANCEL; });
+  if (cancel != buttons.end()) return &*cancel;
+  return buttons.size() == 1 ? &buttons.front() : nullptr;
+}
+
+/// Stays open at Esc and the frame's cross when there is no button for them.
+class Box : public QMessageBox {
+ public:
+  using QMessageBox::QMessageBox;
+  bool closable = true;
+
+ protected:
+  void reject() override {
+    if (closable) QMessageBox::reject();
+  }
+  void closeEvent(QCloseEvent* event) override {
+    if (closable) {
+      QMessageBox::closeEvent(event);
+    } else {
+      event->ignore();
+    }
+  }
+  void keyPressEvent(QKeyEvent* event) override {
+    if (closable || event->key() != Qt::Key_Escape) QMessageBox::keyPressEvent(event);
+  }
+};
+
+/// One role for all keeps them in the order given, whatever the desktop's habit.
+void AddButtons(Box& box, const std::vector<MessageBoxButton>& buttons, UINT style) {
+  const std::size_t wanted = (style & MB_DEFMASK) >> 8U;
+  const MessageBoxButton* escape = EscapeButton(buttons);
+  box.closable = escape != nullptr;
+  for (std::size_t i = 0; i < buttons.size(); ++i) {
+    QPushButton* button = box.addButton(ToQt(buttons[i].text), QMessageBox::ActionRole);
+    button->setProperty("id", buttons[i].id);
+    if (i == wanted || i == 0) box.setDefaultButton(button);
+    if (escape == &buttons[i]) box.setEscapeButton(button);
+  }
+}
+
+}  // namespace
+
+int ShowMessageBox(const MessageBoxParams& params) {
+  EnsureApplication();
+  const WindowRef focus(CWnd::GetFocus());
+  Box box(WidgetOf(params.owner));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(ToQt(params.text));
+  box.setWindowTitle(ToQt(params.caption));
+  box.setIcon(IconOf(params.style));
+  std::vector<MessageBoxButton> buttons = params.buttons;
+  if (buttons.empty()) buttons = StandardButtons(params.style);
+  buttons.resize(std::min(buttons.size(), kMostButtons));
+  AddButtons(box, buttons, params.style);
+  if (!params.checkText.IsEmpty()) {
+    auto check = std::make_unique<QCheckBox>(ToQt(params.checkText));
+    check->setChecked(params.checked != nullptr && *params.checked != 0);
+    box.setCheckBox(check.release());
+  }
+  box.exec();
+  if (params.checked != nullptr && box.checkBox() != nullptr)
+    *params.checked = box.checkBox()->isChecked() ? 1 : 0;
+  if (CWnd* before = focus.Get()) before->SetFocus();
+  const QAbstractButton* pressed = box.clickedButton();
+  return pressed == nullptr ? 0 : pressed->property("id").toInt();
+}
+
+}  // namespace coregui
+
+int CWnd::MessageBox(const wchar_t* text, const wchar_t* caption, UINT type) {
+  coregui::MessageBoxParams params;
+  params.owner = this;
+  params.text = text;
+  params.caption = caption;
+  params.style = type;
+  return coregui::ShowMessageBox(params);
+}
