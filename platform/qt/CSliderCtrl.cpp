@@ -1,0 +1,122 @@
+#include "platform/CSliderCtrl.h"
+
+#include <QSlider>
+
+#include "platform/qt/Application.h"
+#include "platform/qt/ControlWindow.h"
+
+namespace {
+
+class SliderWindow : public coregui::ControlWindow {
+ public:
+  SliderWindow(CWnd& window, const CREATESTRUCT& create)
+      : ControlWindow(
+            window, create,
+            std::make_unique<QSlider>((create.style & TBS_VERT) != 0 ? Qt::Vertical : Qt::Horizontal)) {
+    Slider().setRange(0, 100);
+    Slider().setPageStep(20);
+    if ((create.style & TBS_AUTOTICKS) != 0) Slider().setTickPosition(QSlider::TicksBelow);
+    // Larger positions lie further down, as the parent of a vertical one expects.
+    Slider().setInvertedAppearance((create.style & TBS_VERT) != 0);
+    Slider().setInvertedControls((create.style & TBS_VERT) != 0);
+    connect(&Slider(), &QAbstractSlider::actionTriggered, this, [this](int action) { m_action = action; });
+    connect(&Slider(), &QAbstractSlider::valueChanged, this, [this] { NoteMove(); });
+    connect(&Slider(), &QAbstractSlider::sliderReleased, this, [this] { NoteRelease(); });
+  }
+  QSlider& Slider() const { return static_cast<QSlider&>(*GetWidget()); }
+
+ private:
+  int Code() const {
+    switch (m_action) {
+      case QAbstractSlider::SliderSingleStepAdd:
+        return SB_LINEDOWN;
+      case QAbstractSlider::SliderSingleStepSub:
+        return SB_LINEUP;
+      case QAbstractSlider::SliderPageStepAdd:
+        return SB_PAGEDOWN;
+      case QAbstractSlider::SliderPageStepSub:
+        return SB_PAGEUP;
+      case QAbstractSlider::SliderToMinimum:
+        return SB_TOP;
+      case QAbstractSlider::SliderToMaximum:
+        return SB_BOTTOM;
+      default:
+        return SB_THUMBTRACK;
+    }
+  }
+  void NoteMove() {
+    const QPointer<QObject> self(this);
+    Tell(Code());
+    if (self && !Slider().isSliderDown()) Tell(SB_ENDSCROLL);
+  }
+  void NoteRelease() {
+    const QPointer<QObject> self(this);
+    Tell(SB_THUMBPOSITION);
+    if (self) Tell(SB_ENDSCROLL);
+  }
+  void Tell(int code) {
+    CWnd* parent = Window().GetParent();
+    if (parent == nullptr || !Window().HasWindow()) return;
+    parent->SendMessage((Window().GetStyle() & TBS_VERT) != 0 ? WM_VSCROLL : WM_HSCROLL,
+                        MAKEWPARAM(code, Slider().value()), reinterpret_cast<LPARAM>(Window().GetSafeHwnd()));
+  }
+  int m_action = QAbstractSlider::SliderNoAction;
+};
+
+QSlider* SliderOf(const CSliderCtrl& control) {
+  const auto* native = coregui::NativeOf<SliderWindow>(control);
+  return native == nullptr ? nullptr : &native->Slider();
+}
+
+}  // namespace
+
+BOOL CSliderCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
+  return Create(L"SLIDER", L"", style, rect, parent, id);
+}
+
+std::unique_ptr<coregui::NativeWindow> CSliderCtrl::MakeNative(const CREATESTRUCT& create) {
+  coregui::EnsureApplication();
+  return std::make_unique<SliderWindow>(*this, create);
+}
+
+void CSliderCtrl::SetRange(int minimum, int maximum, BOOL /*redraw*/) {
+  if (auto* slider = SliderOf(*this)) {
+    const QSignalBlocker quiet(slider);
+    slider->setRange(minimum, maximum);
+  }
+}
+
+int CSliderCtrl::GetRangeMin() const {
+  const auto* slider = SliderOf(*this);
+  return slider == nullptr ? 0 : slider->minimum();
+}
+
+int CSliderCtrl::GetRangeMax() const {
+  const auto* slider = SliderOf(*this);
+  return slider == nullptr ? 0 : slider->maximum();
+}
+
+void CSliderCtrl::SetPos(int position) {
+  if (auto* slider = SliderOf(*this)) {
+    const QSignalBlocker quiet(slider);
+    slider->setValue(position);
+    slider->update();
+  }
+}
+
+int CSliderCtrl::GetPos() const {
+  const auto* slider = SliderOf(*this);
+  return slider == nullptr ? 0 : slider->value();
+}
+
+void CSliderCtrl::SetLineSize(int size) {
+  if (auto* slider = SliderOf(*this)) slider->setSingleStep(size);
+}
+
+void CSliderCtrl::SetPageSize(int size) {
+  if (auto* slider = SliderOf(*this)) slider->setPageStep(size);
+}
+
+void CSliderCtrl::SetTicFreq(int frequency) {
+  if (auto* slider = SliderOf(*this)) slider->setTickInterval(frequency);
+}
