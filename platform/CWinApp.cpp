@@ -1,6 +1,7 @@
 #include "platform/CWinApp.h"
 
 #include "platform/CWnd.h"
+#include "platform/MachineIdentity.h"
 #include "platform/MessageQueue.h"
 #include "platform/Toolkit.h"
 
@@ -22,6 +23,7 @@ constexpr int kMostRounds = 200;
 CWinApp::CWinApp() {
   application = this;
   quit = Quit();
+  coregui::SetUpUserName();
 }
 
 CWinApp::~CWinApp() {

@@ -2,6 +2,7 @@
 
 #include "core/Export.h"
 #include "platform/CObject.h"
+#include "platform/Profile.h"
 #include "platform/Types.h"
 #include "platform/WindowRef.h"
 
@@ -9,6 +10,7 @@
 /// its own event loop. The toolkit's application is made when the first window needs it.
 class COREGUI_API CWinApp : public CObject {
  public:
+  /// Gives the environment the user's name where the desktop did not.
   CWinApp();
   ~CWinApp() override;
   CWinApp(const CWinApp&) = delete;
@@ -35,6 +37,24 @@ class COREGUI_API CWinApp : public CObject {
   /// Handles everything that is waiting, paint requests included, without waiting for more. What keeps a long
   /// operation's windows alive. False once the program is to quit.
   static bool PumpPending();
+
+  // --- The program's profile (coregui::Profile), which windows without a program object reach as well
+
+  void SetRegistryKey(const wchar_t* company) { coregui::Profile::Get().SetCompany(company); }
+  void SetProfileName(const wchar_t* name) { coregui::Profile::Get().SetName(name); }
+  UINT GetProfileInt(const wchar_t* section, const wchar_t* entry, int fallback) const {
+    return static_cast<UINT>(coregui::Profile::Get().GetInt(section, entry, fallback));
+  }
+  BOOL WriteProfileInt(const wchar_t* section, const wchar_t* entry, int value) {
+    return coregui::Profile::Get().WriteInt(section, entry, value) ? TRUE : FALSE;
+  }
+  CString GetProfileString(const wchar_t* section, const wchar_t* entry,
+                           const wchar_t* fallback = L"") const {
+    return coregui::Profile::Get().GetString(section, entry, fallback);
+  }
+  BOOL WriteProfileString(const wchar_t* section, const wchar_t* entry, const wchar_t* value) {
+    return coregui::Profile::Get().WriteString(section, entry, value) ? TRUE : FALSE;
+  }
 
   /// Internal: a native window is gone.
   static void NoteDestroyed(const CWnd& window);
