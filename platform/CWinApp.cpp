@@ -28,6 +28,7 @@ CWinApp::CWinApp() {
 
 CWinApp::~CWinApp() {
   if (application == this) application = nullptr;
+  quit = Quit();
 }
 
 CWinApp* CWinApp::Get() {

@@ -46,8 +46,6 @@ class NativeWindow {
   virtual void Activate() = 0;
   /// A top-level window that keeps input from all others while it is shown.
   virtual void SetModal(bool modal) = 0;
-  /// Brings all mouse events here while on.
-  virtual void Grab(bool on) = 0;
   virtual CPoint ClientOrigin() const = 0;  ///< of the client area on the screen
   virtual double Scale() const = 0;
   virtual void StartTimer(UINT id, UINT milliseconds) = 0;

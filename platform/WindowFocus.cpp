@@ -1,7 +1,6 @@
 #include "platform/WindowFocus.h"
 
 #include "platform/CWnd.h"
-#include "platform/WindowState.h"
 
 namespace coregui {
 namespace {
@@ -62,12 +61,6 @@ CWnd* MoveCapture(CWnd* to) {
   }
   const WindowRef oldRef(old);
   Focus().capture = WindowRef(to);
-  if (old != nullptr && old->State().native != nullptr) {
-    old->State().native->Grab(false);
-  }
-  if (to != nullptr && to->State().native != nullptr) {
-    to->State().native->Grab(true);
-  }
   if (old != nullptr) {
     old->SendMessage(WM_CAPTURECHANGED, 0, static_cast<LPARAM>(HandleOf(to)));
   }

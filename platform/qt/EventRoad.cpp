@@ -17,6 +17,7 @@
 #include "platform/WindowState.h"
 #include "platform/qt/CursorTarget.h"
 #include "platform/qt/KeyCodes.h"
+#include "platform/qt/interop.h"
 
 namespace coregui {
 namespace {
@@ -80,7 +81,7 @@ CWnd* EnabledAtOrAbove(CWnd* window) {
   return window;
 }
 
-CWnd* WindowOf(const QWidget* widget) {
+CWnd* OurWindowOf(const QWidget* widget) {
   const QtWindow* window = QtWindow::Of(widget);
   return window == nullptr ? nullptr : &window->Window();
 }
@@ -137,6 +138,8 @@ LRESULT EventRoad::Send(CWnd& target, UINT message, WPARAM wParam, LPARAM lParam
 }
 
 CWnd* EventRoad::MouseTarget(const QPointF& global, bool mayLeave) const {
+  // While a button is down the toolkit keeps the mouse with the pressed widget, so captured drags reach
+  // beyond our windows without a grab, which not every desktop grants.
   if (CWnd* capture = CWnd::GetCapture()) {
     return capture;
   }
@@ -145,9 +148,19 @@ CWnd* EventRoad::MouseTarget(const QPointF& global, bool mayLeave) const {
   // gets the message. A widget with a behaviour of its own relies on the toolkit's rule.
   if (mayLeave && !m_window->HasOwnBehaviour() &&
       !m_receiver.rect().contains(m_receiver.mapFromGlobal(global.toPoint()))) {
-    own = WindowOf(QApplication::widgetAt(global.toPoint()));
+    own = OurWindowOf(QApplication::widgetAt(global.toPoint()));
   }
   return EnabledAtOrAbove(own);
+}
+
+CPoint EventRoad::ClientPosition(const CWnd& target, const QPointF& position, const QPointF& global) const {
+  const QWidget* own = m_window->GetWidget();
+  const QWidget* widget = WidgetOf(&target);
+  // Through the screen only where it must be: a window's place may be half a pixel there.
+  const QPointF at = &target == &m_window->Window() && &m_receiver == own ? position
+                     : widget != nullptr                                  ? widget->mapFromGlobal(global)
+                                                                          : QPointF();
+  return {static_cast<LONG>(std::floor(at.x())), static_cast<LONG>(std::floor(at.y()))};
 }
 
 bool EventRoad::Mouse(const QMouseEvent& event) {
@@ -162,10 +175,9 @@ bool EventRoad::Mouse(const QMouseEvent& event) {
     return true;
   }
   const WindowRef targetRef(target);
-  POINT client{static_cast<LONG>(std::floor(global.x())), static_cast<LONG>(std::floor(global.y()))};
-  target->ScreenToClient(&client);
+  const CPoint client = ClientPosition(*target, event.position(), global);
   if (message == WM_MOUSEMOVE && CWnd::GetCapture() == nullptr) {
-    SetCursorTarget(static_cast<QWidget*>(target->State().native->Widget()));
+    SetCursorTarget(WidgetOf(target));
     target->SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(target->GetSafeHwnd()),
                         MAKELPARAM(kHitClient, static_cast<int>(message)));
   }
@@ -337,7 +349,7 @@ bool EventRoad::FocusChange() {
   if (m_event.type() == QEvent::FocusIn) {
     MoveFocus(own);
   } else if (CWnd::GetFocus() == own) {
-    MoveFocus(WindowOf(QApplication::focusWidget()));
+    MoveFocus(OurWindowOf(QApplication::focusWidget()));
   }
   return !IsAlive();
 }
@@ -385,7 +397,7 @@ bool EventRoad::Other() {
         break;
       case QEvent::WindowDeactivate:
         if (m_window->IsTopLevel() && CWnd::GetActiveWindow() == &m_window->Window()) {
-          MoveActivation(WindowOf(QApplication::activeWindow()), false);
+          MoveActivation(OurWindowOf(QApplication::activeWindow()), false);
         }
         break;
       default:

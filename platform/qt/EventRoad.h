@@ -36,6 +36,7 @@ class EventRoad {
   LRESULT Send(CWnd& target, UINT message, WPARAM wParam, LPARAM lParam, bool withEvent,
                bool* translated = nullptr);
   CWnd* MouseTarget(const QPointF& global, bool mayLeave) const;
+  CPoint ClientPosition(const CWnd& target, const QPointF& position, const QPointF& global) const;
   void IgnoreForHost();
   bool IsAlive() const { return !m_window.isNull(); }
 

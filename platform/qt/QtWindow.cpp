@@ -33,9 +33,6 @@ void PutAway(QWidget* widget) {
   if (focus != nullptr && (focus == widget || widget->isAncestorOf(focus))) {
     focus->clearFocus();
   }
-  if (QWidget::mouseGrabber() == widget) {
-    widget->releaseMouse();
-  }
   widget->hide();
   widget->setParent(nullptr);
   widget->deleteLater();
@@ -202,19 +199,6 @@ void QtWindow::Activate() {
 
 void QtWindow::SetModal(bool modal) {
   if (m_widget != nullptr) m_widget->setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
-}
-
-void QtWindow::Grab(bool on) {
-  if (m_widget == nullptr || !m_widget->isVisible()) {
-    return;
-  }
-  // While a button is down the toolkit keeps the mouse with the widget that was pressed, and EventRoad brings
-  // its events to the capturing window.
-  if (on && QApplication::mouseButtons() == Qt::NoButton) {
-    m_widget->grabMouse();
-  } else if (!on && QWidget::mouseGrabber() == m_widget) {
-    m_widget->releaseMouse();
-  }
 }
 
 CPoint QtWindow::ClientOrigin() const {

@@ -56,7 +56,6 @@ class QtWindow : public QObject, public NativeWindow {
   void TakeFocus() override;
   void Activate() override;
   void SetModal(bool modal) override;
-  void Grab(bool on) override;
   CPoint ClientOrigin() const override;
   double Scale() const override;
   void StartTimer(UINT id, UINT milliseconds) override;

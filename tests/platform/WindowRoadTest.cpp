@@ -1,49 +1,288 @@
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
+#include <QNativeGestureEvent>
 #include <QTest>
+#include <QWheelEvent>
+#include <type_traits>
 
 #include "platform/CDC.h"
-#include "platform/CWnd.h"
-#include "platform/WindowState.h"
+#include "platform/CWinApp.h"
+#include "platform/System.h"
+#include "tests/platform/LogWindow.h"
+
+using coregui::MessageTable;
+using coregui::test::LogWindow;
 
 namespace {
 
-class ClickWindow : public CWnd {
- public:
-  const coregui::MessageTable& GetMessageTable() const override {
-    static const coregui::MessageTable table = coregui::MessageTable(CWnd::Messages())
-                                                   .On<WM_LBUTTONDOWN>(&ClickWindow::HandleDown)
-                                                   .On<WM_PAINT>(&ClickWindow::HandlePaint);
-    return table;
+class WindowRoad : public testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(window.Open());
+    CWinApp::PumpPending();
+    window.TakeLog();
   }
-  CString log;
-
- private:
-  void HandleDown(UINT flags, CPoint at) { log.AppendFormat(L"down %u %d,%d;", flags, at.x, at.y); }
-  void HandlePaint() {
-    CPaintDC dc(this);
-    dc.FillSolidRect(GetClientRectangle(), RGB(10, 20, 30));
-    log += L"paint;";
-  }
+  QWidget* Widget() { return coregui::WidgetOf(&window); }
+  LogWindow window;
 };
 
-QWidget* WidgetOf(CWnd& window) { return static_cast<QWidget*>(window.State().native->Widget()); }
+void Scroll(QWidget* widget, QPoint pixels, QPoint angle, Qt::ScrollPhase phase = Qt::NoScrollPhase) {
+  const QPointF at(20, 10);
+  QWheelEvent event(at, widget->mapToGlobal(at), pixels, angle, Qt::NoButton, Qt::NoModifier, phase, false);
+  QCoreApplication::sendEvent(widget, &event);
+}
 
-TEST(WindowRoad, AClickAndAMessageReachTheSameHandlerWithTheSameArguments) {
-  ClickWindow window;
-  ASSERT_TRUE(window.Create(L"", L"road", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 200, 100), nullptr, 0));
-  QCoreApplication::processEvents();
-  EXPECT_EQ(window.log, L"paint;");
-  window.log.Empty();
-  QTest::mousePress(WidgetOf(window), Qt::LeftButton, Qt::ControlModifier, QPoint(12, 34));
-  const CString byHand = window.log;
-  window.log.Empty();
-  window.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON | MK_CONTROL, MAKELPARAM(12, 34));
-  EXPECT_EQ(byHand, L"down 9 12,34;");
-  EXPECT_EQ(window.log, byHand);
-  CClientDC dc(&window);
-  EXPECT_EQ(dc.GetPixel(5, 5), RGB(10, 20, 30));
+/// What a person's double click brings: the toolkit's test driver gives only the second press.
+void DoubleClick(QWidget* widget, Qt::MouseButton button, QPoint at) {
+  QTest::mouseClick(widget, button, Qt::NoModifier, at);
+  QTest::mouseDClick(widget, button, Qt::NoModifier, at);
+  QTest::mouseRelease(widget, button, Qt::NoModifier, at);
+}
+
+struct ButtonRow {
+  Qt::MouseButton button;
+  UINT down;
+  UINT flag;
+};
+
+TEST_F(WindowRoad, AHandAndAMessageReachTheSameHandlerWithTheSameArguments) {
+  const ButtonRow rows[] = {{Qt::LeftButton, WM_LBUTTONDOWN, MK_LBUTTON},
+                            {Qt::RightButton, WM_RBUTTONDOWN, MK_RBUTTON},
+                            {Qt::MiddleButton, WM_MBUTTONDOWN, MK_MBUTTON}};
+  for (const ButtonRow& row : rows) {
+    const LPARAM at = MAKELPARAM(12, 34);
+    QTest::mousePress(Widget(), row.button, Qt::ControlModifier, QPoint(12, 34));
+    QTest::mouseRelease(Widget(), row.button, Qt::ShiftModifier, QPoint(12, 34));
+    DoubleClick(Widget(), row.button, QPoint(12, 34));
+    const std::string byHand = window.TakeLog();
+    window.SendMessage(row.down, row.flag | MK_CONTROL, at);
+    window.SendMessage(row.down + 1, MK_SHIFT, at);
+    for (const UINT message : {row.down, row.down + 1, row.down + 2, row.down + 1}) {
+      window.SendMessage(message, message == row.down + 1 ? 0 : row.flag, at);
+    }
+    EXPECT_EQ(byHand, window.TakeLog()) << row.down;
+  }
+}
+
+TEST_F(WindowRoad, ADoubleClickIsDownUpDoubleUp) {
+  DoubleClick(Widget(), Qt::LeftButton, QPoint(1, 2));
+  EXPECT_EQ(window.TakeLog(), "201 1 1,2;202 0 1,2;203 1 1,2;202 0 1,2;");
+}
+
+TEST_F(WindowRoad, AMoveAsksForTheCursorFirst) {
+  window.logsCursor = true;
+  QMouseEvent move(QEvent::MouseMove, QPointF(30, 40), Widget()->mapToGlobal(QPointF(30, 40)), Qt::NoButton,
+                   Qt::NoButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(Widget(), &move);
+  EXPECT_EQ(window.TakeLog(), "cursor 1,512;200 0 30,40;");
+}
+
+struct KeyRow {
+  int key;
+  Qt::KeyboardModifiers modifiers;
+  const char* log;
+};
+
+TEST_F(WindowRoad, KeysGiveTheirCodesAndCharacters) {
+  const KeyRow rows[] = {
+      {Qt::Key_A, Qt::NoModifier, "100 65;102 97;101 65;"},
+      {Qt::Key_V, Qt::ControlModifier, "100 17;100 86;102 22;101 86;101 17;"},
+      {Qt::Key_Left, Qt::NoModifier, "100 37;101 37;"},
+      {Qt::Key_Delete, Qt::NoModifier, "100 46;101 46;"},
+      {Qt::Key_Backspace, Qt::NoModifier, "100 8;102 8;101 8;"},
+      {Qt::Key_Return, Qt::NoModifier, "100 13;102 13;101 13;"},
+      {Qt::Key_Enter, Qt::KeypadModifier, "100 13;102 13;101 13;"},
+      {Qt::Key_Escape, Qt::NoModifier, "100 27;102 27;101 27;"},
+      {Qt::Key_Tab, Qt::NoModifier, "100 9;102 9;101 9;"},
+      {Qt::Key_Backtab, Qt::ShiftModifier, "100 16;100 9;102 9;101 9;101 16;"},
+      {Qt::Key_7, Qt::KeypadModifier, "100 103;102 55;101 103;"},
+      {Qt::Key_F2, Qt::NoModifier, "100 113;101 113;"},
+      {Qt::Key_Home, Qt::ControlModifier, "100 17;100 36;101 36;101 17;"},
+      {Qt::Key_X, Qt::AltModifier, "104 18;104 88;101 88;101 18;"},
+  };
+  for (const KeyRow& row : rows) {
+    QTest::keyClick(Widget(), static_cast<Qt::Key>(row.key), row.modifiers);
+    EXPECT_EQ(window.TakeLog(), row.log) << row.key;
+  }
+}
+
+TEST_F(WindowRoad, TypedTextArrivesCharacterByCharacter) {
+  QInputMethodEvent composed;
+  composed.setCommitString(QStringLiteral("ü€"));
+  QCoreApplication::sendEvent(Widget(), &composed);
+  EXPECT_EQ(window.TakeLog(), "102 252;102 8364;");
+}
+
+TEST_F(WindowRoad, TheKeyStateIsThatOfTheMessageAtHand) {
+  short held = 0;
+  window.onMessage = [&held](UINT message) {
+    if (message == WM_KEYDOWN) held = GetKeyState(VK_SHIFT);
+  };
+  QTest::keyClick(Widget(), Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_LT(held, 0);
+  QTest::keyClick(Widget(), Qt::Key_Down);
+  EXPECT_GE(held, 0);
+}
+
+TEST_F(WindowRoad, SmallWheelMovesAreGatheredIntoNotchesPerAxis) {
+  const QPoint screen = Widget()->mapToGlobal(QPoint(20, 10));
+  const std::string at = CString::Formatted(L"%d,%d;", screen.x(), screen.y()).ToUtf8();
+  for (int i = 0; i < 3; ++i) Scroll(Widget(), {}, {0, 35});
+  Scroll(Widget(), {}, {60, 0});
+  EXPECT_EQ(window.TakeLog(), "");
+  Scroll(Widget(), {}, {0, 35});
+  EXPECT_EQ(window.TakeLog(), "wheel 120 " + at);
+  Scroll(Widget(), {}, {0, -119});
+  EXPECT_EQ(window.TakeLog(), "") << "what was left of the other direction is dropped";
+  Scroll(Widget(), {}, {0, -241});
+  EXPECT_EQ(window.TakeLog(), "wheel -120 " + at + "wheel -120 " + at + "wheel -120 " + at);
+  Scroll(Widget(), {}, {60, 0});
+  EXPECT_EQ(window.TakeLog(), "hwheel -120 " + at) << "positive is to the right";
+  window.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 60), MAKELPARAM(screen.x(), screen.y()));
+  EXPECT_EQ(window.TakeLog(), "wheel 60 " + at) << "what code sends arrives as sent";
+}
+
+TEST_F(WindowRoad, ATouchpadPansOnlyAWindowThatWantsIt) {
+  Scroll(Widget(), {-7, 9}, {0, 120}, Qt::ScrollUpdate);
+  EXPECT_EQ(window.TakeLog().substr(0, 9), "wheel 120");
+  window.wantsPan = true;
+  Scroll(Widget(), {-7, 9}, {0, 120}, Qt::ScrollUpdate);
+  EXPECT_EQ(window.TakeLog(), "pan -7,9;");
+  Scroll(Widget(), {}, {0, 120});
+  EXPECT_EQ(window.TakeLog().substr(0, 9), "wheel 120") << "a wheel is no touchpad";
+}
+
+TEST_F(WindowRoad, APinchGivesItsFactorAndPlace) {
+  QNativeGestureEvent pinch(Qt::ZoomNativeGesture, QPointingDevice::primaryPointingDevice(), 2, QPointF(5, 6),
+                            QPointF(5, 6), Widget()->mapToGlobal(QPointF(5, 6)), 0.25, QPointF());
+  QCoreApplication::sendEvent(Widget(), &pinch);
+  EXPECT_EQ(window.TakeLog(), "pinch 81920 5,6;");
+}
+
+TEST_F(WindowRoad, TheMenuIsAskedForByTheRightButtonAndByKey) {
+  window.logsMenu = true;
+  window.passes = true;
+  const QPoint screen = Widget()->mapToGlobal(QPoint(3, 4));
+  QTest::mouseClick(Widget(), Qt::RightButton, Qt::NoModifier, QPoint(3, 4));
+  EXPECT_EQ(window.TakeLog(),
+            "204 2 3,4;205 0 3,4;" + CString::Formatted(L"menu %d,%d;", screen.x(), screen.y()).ToUtf8());
+  QTest::keyPress(Widget(), Qt::Key_Menu);
+  EXPECT_EQ(window.TakeLog(), "100 93;menu -1,-1;");
+}
+
+TEST_F(WindowRoad, TheLeaveMessageComesOnceAndOnlyWhenAskedFor) {
+  QEvent leave(QEvent::Leave);
+  QCoreApplication::sendEvent(Widget(), &leave);
+  EXPECT_EQ(window.TakeLog(), "");
+  window.TrackMouseLeave();
+  QCoreApplication::sendEvent(Widget(), &leave);
+  QCoreApplication::sendEvent(Widget(), &leave);
+  EXPECT_EQ(window.TakeLog(), "leave;");
+}
+
+TEST_F(WindowRoad, ADisabledChildLetsTheMouseThroughToItsParent) {
+  LogWindow child;
+  ASSERT_TRUE(child.OpenIn(window, CRect(10, 20, 60, 60)));
+  child.EnableWindow(FALSE);
+  window.TakeLog();
+  QTest::mouseClick(coregui::WidgetOf(&child), Qt::LeftButton, Qt::NoModifier, QPoint(1, 2));
+  EXPECT_EQ(window.TakeLog(), "201 1 11,22;202 0 11,22;");
+}
+
+TEST_F(WindowRoad, MessagesAreOfferedFromTheTargetUpwardsBeforeTheyAreSent) {
+  LogWindow child;
+  ASSERT_TRUE(child.OpenIn(window, CRect(10, 20, 60, 60)));
+  child.TakeLog();
+  window.TakeLog();
+  CString order;
+  child.preTranslate = [&](const MSG&) { return order += L"child ", false; };
+  window.preTranslate = [&](const MSG& message) {
+    order += L"parent ";
+    return message.message == WM_KEYDOWN && message.wParam == 'Q';
+  };
+  QTest::keyClick(coregui::WidgetOf(&child), Qt::Key_A);
+  EXPECT_EQ(order, L"child parent child parent child parent ");
+  EXPECT_EQ(child.TakeLog(), "100 65;102 97;101 65;");
+  QTest::keyPress(coregui::WidgetOf(&child), Qt::Key_Q);
+  EXPECT_EQ(child.TakeLog(), "") << "a key that was taken types nothing";
+  order.Empty();
+  child.SendMessage(WM_KEYDOWN, 'Q', 1);
+  EXPECT_EQ(order, L"") << "what is sent is not queued";
+  child.PostMessage(WM_KEYDOWN, 'Q', 1);
+  CWinApp::PumpPending();
+  EXPECT_EQ(order, L"child parent ");
+}
+
+TEST_F(WindowRoad, PostedMessagesArriveInOrderAndNotAtDestroyedWindows) {
+  auto gone = std::make_unique<LogWindow>();
+  ASSERT_TRUE(gone->Open());
+  gone->PostMessage(WM_APP, 1, 0);
+  window.PostMessage(WM_APP, 1, 0);
+  window.PostMessage(WM_APP, 2, 0);
+  window.TakeLog();
+  gone.reset();
+  EXPECT_EQ(window.TakeLog(), "");
+  CWinApp::PumpPending();
+  EXPECT_EQ(window.TakeLog(), "app 1;app 2;");
+}
+
+TEST_F(WindowRoad, AThemeChangeTellsEveryWindow) {
+  SetDarkTheme(true);
+  CWinApp::PumpPending();
+  EXPECT_NE(window.TakeLog().find("colours;"), std::string::npos);
+  SetDarkTheme(false);
+  CWinApp::PumpPending();
+}
+
+// --- The table
+
+class TableBase : public CWnd {
+ public:
+  const MessageTable& GetMessageTable() const override {
+    static const MessageTable table = MessageTable(CWnd::Messages())
+                                          .On<WM_SETFOCUS>(&TableBase::HandleFocus)
+                                          .OnCommand(7, BN_CLICKED, &TableBase::HandleSeven)
+                                          .OnCommand(-1, EN_CHANGE, &TableBase::HandleAnyChange);
+    return table;
+  }
+  void HandleFocus(CWnd* other) { log.AppendFormat(L"base %d;", other == this ? 1 : 0); }
+  void HandleSeven() { log += L"seven;"; }
+  void HandleAnyChange() { log += L"change;"; }
+  CString log;
+};
+
+class TableDerived : public TableBase {
+ public:
+  const MessageTable& GetMessageTable() const override {
+    static const MessageTable table = MessageTable(TableBase::GetMessageTable())
+                                          .On<WM_SETFOCUS>(&TableDerived::HandleFocusToo)
+                                          .OnMessage(WM_USER + 1, &TableDerived::HandleUser);
+    return table;
+  }
+  void HandleFocusToo(CWnd* /*other*/) { log += L"derived;"; }
+  LRESULT HandleUser(WPARAM wParam, LPARAM lParam) { return static_cast<LRESULT>(wParam) * lParam; }
+};
+
+template <UINT message, class Handler>
+concept Accepts = requires(MessageTable table, Handler handler) {
+  std::move(table).template On<message>(handler);
+};
+
+static_assert(Accepts<WM_SIZE, void (TableBase::*)(UINT, int, int)>);
+static_assert(!Accepts<WM_SIZE, void (TableBase::*)(UINT, CPoint)>);
+static_assert(!Accepts<WM_MOUSEWHEEL, void (TableBase::*)(UINT, short, CPoint)>, "the result is required");
+static_assert(!Accepts<WM_PAINT, void (TableBase::*)(CDC*)>);
+static_assert(!Accepts<WM_USER, void (TableBase::*)()>);
+
+TEST(MessageTables, TheMostDerivedRowAnswersAndCommandsMatchIdAndCode) {
+  TableDerived window;
+  window.SendMessage(WM_SETFOCUS);
+  window.SendMessage(WM_COMMAND, MAKEWPARAM(7, BN_CLICKED));
+  window.SendMessage(WM_COMMAND, MAKEWPARAM(8, BN_CLICKED));
+  window.SendMessage(WM_COMMAND, MAKEWPARAM(7, EN_SETFOCUS));
+  window.SendMessage(WM_COMMAND, MAKEWPARAM(99, EN_CHANGE));
+  EXPECT_EQ(window.log, L"derived;seven;change;");
+  EXPECT_EQ(window.SendMessage(WM_USER + 1, 6, -7), -42);
 }
 
 }  // namespace

@@ -47,7 +47,8 @@ void FixEnvironment() {
   qputenv("LC_ALL", "C.UTF-8");
   qputenv("LANGUAGE", "");
   qputenv("TZ", "UTC");
-  qputenv("QT_SCALE_FACTOR", "1");
+  const QByteArray scale = qgetenv("COREGUI_TEST_SCALE");
+  qputenv("QT_SCALE_FACTOR", scale.isEmpty() ? QByteArray("1") : scale);
   qputenv("QT_FONT_DPI", "96");
   qputenv("QT_STYLE_OVERRIDE", "Fusion");
   qputenv("QT_QPA_PLATFORMTHEME", "generic");

@@ -1,0 +1,383 @@
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QTest>
+#include <memory>
+
+#include "platform/CDialog.h"
+#include "platform/CWinApp.h"
+#include "platform/WindowState.h"
+#include "platform/qt/QtWindow.h"
+#include "tests/platform/LogWindow.h"
+
+using coregui::WidgetOf;
+using coregui::WindowRef;
+using coregui::test::LogWindow;
+
+namespace {
+
+// --- Without a native window
+
+TEST(WindowWithoutNative, KeepsPlaceFamilyTextAndUpdateRegion) {
+  LogWindow parent;
+  LogWindow child;
+  child.SetParent(&parent);
+  parent.logsState = true;
+  parent.MoveWindow(100, 50, 400, 300);
+  child.MoveWindow(10, 20, 30, 40);
+  child.SetDlgCtrlID(5);
+  child.SetWindowText(L"text");
+  EXPECT_EQ(parent.TakeLog(), "3 0 100,50;5 0 400,300;");
+  EXPECT_EQ(parent.GetDlgItem(5), &child);
+  EXPECT_EQ(child.GetTopLevelParent(), &parent);
+  EXPECT_EQ(child.GetWindowTextString(), L"text");
+  POINT point{1, 2};
+  child.ClientToScreen(&point);
+  EXPECT_EQ(CPoint(point), CPoint(111, 72));
+  child.ValidateRect(nullptr);
+  const RECT outside{-5, -5, 3, 4};
+  child.InvalidateRect(&outside);
+  RECT update;
+  EXPECT_TRUE(child.GetUpdateRect(&update));
+  EXPECT_EQ(CRect(update), CRect(0, 0, 3, 4));
+  EXPECT_EQ(child.SetFocus(), nullptr);
+  EXPECT_EQ(CWnd::GetFocus(), &child);
+  EXPECT_FALSE(child.HasWindow());
+  EXPECT_FALSE(child.DestroyWindow());
+}
+
+TEST(WindowWithoutNative, AParentThatGoesLetsItsChildrenGo) {
+  LogWindow child;
+  {
+    LogWindow parent;
+    child.SetParent(&parent);
+    EXPECT_EQ(parent.SetParent(&child), nullptr) << "no window is inside itself";
+  }
+  EXPECT_EQ(child.GetParent(), nullptr);
+}
+
+// --- Creation and destruction
+
+TEST(WindowLife, CreationAndDestructionSendTheirMessagesInOrder) {
+  LogWindow window;
+  window.logsState = true;
+  ASSERT_TRUE(window.Open(CRect(5, 6, 105, 56)));
+  EXPECT_EQ(window.TakeLog(), "1 0 0,0;5 0 100,50;3 0 5,6;18 1 0,0;");
+  EXPECT_FALSE(window.Open()) << "it exists already";
+  const HWND handle = window.GetSafeHwnd();
+  EXPECT_EQ(CWnd::FromHandle(handle), &window);
+  LogWindow child;
+  child.logsState = true;
+  ASSERT_TRUE(child.OpenIn(window, CRect(0, 0, 9, 9)));
+  child.TakeLog();
+  EXPECT_TRUE(window.DestroyWindow());
+  EXPECT_EQ(window.TakeLog(), "2 0 0,0;82 0 0,0;");
+  EXPECT_EQ(child.TakeLog(), "2 0 0,0;82 0 0,0;");
+  EXPECT_FALSE(child.HasWindow());
+  EXPECT_FALSE(IsWindow(handle));
+  ASSERT_TRUE(window.Open()) << "and may be created again";
+  EXPECT_NE(window.GetSafeHwnd(), handle) << "a handle is never used twice";
+}
+
+TEST(WindowLife, AChildNeedsAParentWithAWindowAndMayBeRefused) {
+  LogWindow parent;
+  LogWindow child;
+  EXPECT_FALSE(child.OpenIn(parent, CRect(0, 0, 9, 9)));
+  class Refusing : public CWnd {
+    BOOL PreCreateWindow(CREATESTRUCT& /*create*/) override { return FALSE; }
+  } refusing;
+  EXPECT_FALSE(refusing.Create(L"", L"", WS_POPUP, CRect(0, 0, 9, 9), nullptr, 0));
+  class Late : public CWnd {
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+      return message == WM_CREATE ? -1 : CWnd::WindowProc(message, wParam, lParam);
+    }
+  } late;
+  EXPECT_FALSE(late.Create(L"", L"", WS_POPUP, CRect(0, 0, 9, 9), nullptr, 0));
+  EXPECT_FALSE(late.HasWindow());
+}
+
+struct EndRow {
+  const char* name;
+  bool deletesObject;
+  bool deletesParent;
+};
+
+class WindowEnd : public testing::TestWithParam<EndRow> {};
+
+/// In the middle of a real press, a real key and a message, the window or its parent goes.
+TEST_P(WindowEnd, InItsOwnHandlerIsSafe) {
+  for (const UINT when : {WM_LBUTTONDOWN, WM_KEYDOWN, WM_CHAR, WM_MOUSEWHEEL, WM_SETFOCUS, WM_DESTROY}) {
+    auto parent = std::make_unique<LogWindow>();
+    auto child = std::make_unique<LogWindow>();
+    ASSERT_TRUE(parent->Open());
+    ASSERT_TRUE(child->OpenIn(*parent, CRect(0, 0, 50, 50)));
+    CWinApp::PumpPending();
+    bool done = false;
+    child->onMessage = [&](UINT message) {
+      if (message != when || std::exchange(done, true)) return;
+      if (GetParam().deletesParent) parent.reset();
+      if (GetParam().deletesObject) {
+        child.reset();
+      } else {
+        child->DestroyWindow();
+      }
+    };
+    const QPointer<QWidget> widget = WidgetOf(child.get());
+    switch (when) {
+      case WM_LBUTTONDOWN:
+        QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, QPoint(3, 3));
+        break;
+      case WM_SETFOCUS:
+        child->SetFocus();
+        break;
+      case WM_DESTROY:
+        parent->DestroyWindow();
+        break;
+      case WM_MOUSEWHEEL:
+        child->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 120), 0);
+        break;
+      default:
+        QTest::keyPress(widget, Qt::Key_A);
+        break;
+    }
+    EXPECT_TRUE(done) << when;
+    EXPECT_EQ(child == nullptr, GetParam().deletesObject);
+    EXPECT_FALSE(child != nullptr && child->HasWindow());
+    CWinApp::PumpPending();
+    EXPECT_TRUE(widget.isNull()) << "the widget goes when the event is over";
+    EXPECT_EQ(CWnd::GetFocus(), nullptr);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Ends, WindowEnd,
+                         testing::Values(EndRow{"Window", false, false}, EndRow{"Object", true, false},
+                                         EndRow{"Parent", false, true},
+                                         EndRow{"ParentAndObject", true, true}),
+                         [](const auto& row) { return row.param.name; });
+
+// --- Family and state
+
+TEST(WindowFamily, SiblingsKeepTheirOrderAsTheyAreRaisedAndPlaced) {
+  LogWindow parent;
+  LogWindow a;
+  LogWindow b;
+  LogWindow c;
+  ASSERT_TRUE(parent.Open());
+  for (LogWindow* child : {&a, &b, &c}) ASSERT_TRUE(child->OpenIn(parent, CRect(0, 0, 20, 20)));
+  const auto order = [&] {
+    std::vector<CWnd*> found;
+    for (CWnd* at = parent.GetWindow(GW_CHILD); at != nullptr; at = at->GetWindow(GW_HWNDNEXT))
+      found.push_back(at);
+    std::vector<CWnd*> widgets;
+    for (QObject* widget : WidgetOf(&parent)->children()) {
+      widgets.insert(widgets.begin(), coregui::WindowOf(static_cast<QWidget*>(widget)));
+    }
+    EXPECT_EQ(widgets, found) << "what is seen is what is said";
+    return found;
+  };
+  EXPECT_EQ(order(), (std::vector<CWnd*>{&c, &b, &a}));
+  a.BringWindowToTop();
+  EXPECT_EQ(order(), (std::vector<CWnd*>{&a, &c, &b}));
+  a.SetWindowPos(&c, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+  EXPECT_EQ(order(), (std::vector<CWnd*>{&c, &a, &b}));
+  EXPECT_EQ(b.GetWindow(GW_HWNDPREV), &a);
+  POINT screen{5, 5};
+  parent.ClientToScreen(&screen);
+  EXPECT_EQ(CWnd::WindowFromPoint(screen), &c);
+  c.ShowWindow(SW_HIDE);
+  EXPECT_EQ(CWnd::WindowFromPoint(screen), &a);
+}
+
+TEST(WindowFamily, AWindowMovesUnderAnotherParent) {
+  LogWindow first;
+  LogWindow second;
+  LogWindow child;
+  ASSERT_TRUE(first.Open());
+  ASSERT_TRUE(second.Open());
+  ASSERT_TRUE(child.OpenIn(first, CRect(7, 8, 27, 28), 3));
+  EXPECT_EQ(child.SetParent(&second), &first);
+  EXPECT_EQ(WidgetOf(&child)->parentWidget(), WidgetOf(&second));
+  EXPECT_EQ(WidgetOf(&child)->geometry(), QRect(7, 8, 20, 20));
+  EXPECT_TRUE(WidgetOf(&child)->isVisible());
+  EXPECT_EQ(first.GetDlgItem(3), nullptr);
+  first.DestroyWindow();
+  EXPECT_TRUE(child.HasWindow());
+}
+
+TEST(WindowFamily, VisibleMeansEveryParentToo) {
+  LogWindow parent;
+  LogWindow child;
+  ASSERT_TRUE(parent.Open());
+  ASSERT_TRUE(child.OpenIn(parent, CRect(0, 0, 9, 9)));
+  parent.ShowWindow(SW_HIDE);
+  EXPECT_FALSE(child.IsWindowVisible());
+  EXPECT_TRUE((child.GetStyle() & WS_VISIBLE) != 0);
+}
+
+// --- Focus and capture
+
+class FocusPair : public testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(top.Open());
+    ASSERT_TRUE(a.OpenIn(top, CRect(0, 0, 50, 50)));
+    ASSERT_TRUE(b.OpenIn(top, CRect(50, 0, 100, 50)));
+    WidgetOf(&top)->activateWindow();
+    CWinApp::PumpPending();
+  }
+  void Watch(LogWindow& window, const char* name) {
+    window.name = name;
+    window.journal = &journal;
+  }
+  std::string journal;
+  LogWindow top;
+  LogWindow a;
+  LogWindow b;
+};
+
+TEST_F(FocusPair, BothWindowsLearnOfEachOther) {
+  Watch(a, "a");
+  Watch(b, "b");
+  a.SetFocus();
+  EXPECT_EQ(b.SetFocus(), &a);
+  CWinApp::PumpPending();
+  EXPECT_EQ(journal, "a gets from -;a gives to b;b gets from a;");
+  EXPECT_TRUE(WidgetOf(&b)->hasFocus());
+  journal.clear();
+  WidgetOf(&a)->setFocus();
+  EXPECT_EQ(journal, "b gives to a;a gets from b;") << "the toolkit's own change takes the same road";
+  journal.clear();
+  a.DestroyWindow();
+  EXPECT_EQ(journal, "a gives to -;");
+  EXPECT_EQ(CWnd::GetFocus(), nullptr);
+}
+
+TEST_F(FocusPair, AHandlerMayMoveTheFocusOn) {
+  Watch(a, "a");
+  Watch(b, "b");
+  a.onMessage = [this](UINT message) {
+    if (message == WM_SETFOCUS) b.SetFocus();
+  };
+  a.SetFocus();
+  CWinApp::PumpPending();
+  EXPECT_EQ(CWnd::GetFocus(), &b);
+  EXPECT_TRUE(WidgetOf(&b)->hasFocus());
+}
+
+TEST_F(FocusPair, CaptureBringsTheMouseUntilItIsReleasedOrLost) {
+  a.TakeLog();
+  a.SetCapture();
+  QTest::mousePress(WidgetOf(&b), Qt::LeftButton, Qt::NoModifier, QPoint(5, 6));
+  QTest::mouseMove(WidgetOf(&b), QPoint(-60, 8));
+  QTest::mouseRelease(WidgetOf(&b), Qt::LeftButton, Qt::NoModifier, QPoint(5, 6));
+  EXPECT_EQ(a.TakeLog(), "201 1 55,6;200 1 -10,8;202 0 55,6;");
+  EXPECT_EQ(b.TakeLog(), "");
+  HWND taker = nullptr;
+  a.captureLost = [&taker](HWND to) { taker = to; };
+  EXPECT_EQ(b.SetCapture(), &a);
+  EXPECT_EQ(taker, b.GetSafeHwnd());
+  b.DestroyWindow();
+  EXPECT_EQ(CWnd::GetCapture(), nullptr);
+}
+
+TEST_F(FocusPair, ADragWithoutCaptureGoesToTheWindowUnderThePointer) {
+  a.TakeLog();
+  b.TakeLog();
+  QTest::mousePress(WidgetOf(&a), Qt::LeftButton, Qt::NoModifier, QPoint(5, 6));
+  QMouseEvent away(QEvent::MouseMove, QPointF(70, 9), WidgetOf(&a)->mapToGlobal(QPointF(70, 9)), Qt::NoButton,
+                   Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(WidgetOf(&a), &away);
+  EXPECT_EQ(a.TakeLog(), "201 1 5,6;");
+  EXPECT_EQ(b.TakeLog(), "200 1 20,9;");
+  QTest::mouseRelease(WidgetOf(&a), Qt::LeftButton, Qt::NoModifier, QPoint(5, 6));
+}
+
+// --- Timers
+
+TEST(WindowTimers, RunUntilKilledAndSayWhich) {
+  LogWindow window;
+  ASSERT_TRUE(window.Open());
+  int ticks = 0;
+  std::vector<UINT> ids;
+  window.timer = [&](UINT id) {
+    ids.push_back(id);
+    if (id == 7 && ++ticks == 3) {
+      EXPECT_TRUE(window.KillTimer(7));
+      window.PostMessage(WM_CLOSE);
+    }
+  };
+  EXPECT_EQ(window.SetTimer(7, 1), 7U);
+  EXPECT_EQ(window.SetTimer(8, 3600000), 8U);
+  while (window.HasWindow()) CWinApp::PumpMessage();
+  EXPECT_EQ(ids, (std::vector<UINT>{7, 7, 7}));
+  EXPECT_FALSE(window.KillTimer(7));
+}
+
+// --- Controls over widgets
+
+/// A line edit behind a window, as the edit controls are.
+class EditWindow : public LogWindow {
+ protected:
+  std::unique_ptr<coregui::NativeWindow> MakeNative(const CREATESTRUCT& create) override {
+    return std::make_unique<coregui::QtWindow>(*this, create, std::make_unique<QLineEdit>());
+  }
+};
+
+class WidgetControl : public testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(top.Open());
+    ASSERT_TRUE(edit.OpenIn(top, CRect(0, 0, 150, 25), 4));
+    CWinApp::PumpPending();
+    edit.TakeLog();
+    edit.passes = true;
+  }
+  QLineEdit* Line() { return static_cast<QLineEdit*>(WidgetOf(&edit)); }
+  std::string journal;
+  LogWindow top;
+  EditWindow edit;
+};
+
+TEST_F(WidgetControl, GetsTheEventOnceBehindTheMessage) {
+  QTest::keyClicks(Line(), QStringLiteral("ab"));
+  QTest::keyClick(Line(), Qt::Key_Backspace);
+  EXPECT_EQ(edit.TakeLog(), "100 65;102 97;101 65;100 66;102 98;101 66;100 8;102 8;101 8;");
+  EXPECT_EQ(Line()->text(), QStringLiteral("a"));
+  for (const UINT key : {UINT{'X'}, VK_LEFT}) {
+    edit.SendMessage(WM_KEYDOWN, key, 1);
+    if (key == 'X') edit.SendMessage(WM_CHAR, 'x', 1);
+  }
+  EXPECT_EQ(Line()->text(), QStringLiteral("ax")) << "what is sent types as well";
+  EXPECT_EQ(Line()->cursorPosition(), 1);
+  edit.passes = false;
+  QTest::keyClick(Line(), Qt::Key_Z);
+  EXPECT_EQ(Line()->text(), QStringLiteral("ax")) << "a handler keeps a key from the widget";
+}
+
+TEST_F(WidgetControl, ComposedTextLosesWhatAHandlerTakes) {
+  edit.passes = true;
+  edit.onMessage = [this](UINT message) {
+    if (message == WM_CHAR) edit.passes = !edit.passes;
+  };
+  QInputMethodEvent composed;
+  composed.setCommitString(QStringLiteral("1234"));
+  QCoreApplication::sendEvent(Line(), &composed);
+  EXPECT_EQ(Line()->text(), QStringLiteral("24"));
+}
+
+TEST_F(WidgetControl, AClickFocusesByTheSameRoad) {
+  WidgetOf(&top)->activateWindow();
+  CWinApp::PumpPending();
+  top.SetFocus();
+  edit.TakeLog();
+  top.name = "top";
+  edit.name = "edit";
+  edit.journal = &journal;
+  QTest::mouseClick(Line(), Qt::LeftButton, Qt::NoModifier, QPoint(4, 4));
+  Line()->setFocus(Qt::MouseFocusReason);
+  EXPECT_EQ(journal, "edit gets from top;");
+  EXPECT_EQ(CWnd::GetFocus(), &edit);
+  EXPECT_EQ(edit.TakeLog(), "201 1 4,4;202 0 4,4;");
+}
+
+}  // namespace

@@ -1,0 +1,261 @@
+#include <gtest/gtest.h>
+
+#include <QColor>
+#include <QImage>
+#include <QWidget>
+#include <cstdlib>
+#include <string>
+
+#include "platform/CDC.h"
+#include "platform/CWinApp.h"
+#include "platform/System.h"
+#include "platform/WindowState.h"
+#include "platform/qt/interop.h"
+#include "tests/platform/LogWindow.h"
+
+// Everything here holds at any scale: the run at scale 2 repeats it.
+
+namespace {
+
+constexpr COLORREF kRed = RGB(255, 0, 0);
+constexpr COLORREF kBlue = RGB(0, 0, 255);
+
+/// Paints a colour for each of its 10-pixel rows, so that moved pixels are told apart from painted ones.
+class Striped : public CWnd {
+ public:
+  ~Striped() override { DestroyWindow(); }
+  const coregui::MessageTable& GetMessageTable() const override {
+    static const coregui::MessageTable table = coregui::MessageTable(CWnd::Messages())
+                                                   .On<WM_PAINT>(&Striped::HandlePaint)
+                                                   .On<WM_ERASEBKGND>(&Striped::HandleErase);
+    return table;
+  }
+  static COLORREF ColourOf(int row) { return RGB(row, 100, 200); }
+  COLORREF At(int x, int y) {
+    CClientDC dc(this);
+    return dc.GetPixel(x, y);
+  }
+
+  int paints = 0;
+  int erases = 0;
+  int first = 0;  ///< the row that is at the top
+  CRect painted;
+  bool nested = false;
+
+ private:
+  void HandlePaint() {
+    ++paints;
+    CPaintDC dc(this);
+    painted = dc.GetPaintRect();
+    for (int row = 0; row < 20; ++row) {
+      dc.FillSolidRect(CRect(0, row * 10, 300, row * 10 + 10), ColourOf(first + row));
+    }
+    if (nested) {
+      CClientDC whole(this);
+      whole.FillSolidRect(CRect(90, 90, 100, 100), kBlue);
+      dc.FillSolidRect(CRect(0, 0, 5, 5), kRed);
+    }
+  }
+  BOOL HandleErase(CDC* /*dc*/) { return ++erases, TRUE; }
+};
+
+class WindowPaint : public testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(window.Create(L"", L"", WS_POPUP | WS_VISIBLE, CRect(0, 0, 100, 100), nullptr, 0));
+    CWinApp::PumpPending();
+    window.paints = window.erases = 0;
+  }
+  CRect Update() {
+    RECT rect;
+    window.GetUpdateRect(&rect);
+    return rect;
+  }
+  Striped window;
+};
+
+TEST_F(WindowPaint, HappensWhenNothingElseWaitsAndOnceForManyRequests) {
+  window.InvalidateRect(nullptr, FALSE);
+  const RECT part{90, 95, 500, 500};
+  window.InvalidateRect(&part, FALSE);
+  EXPECT_EQ(window.paints, 0);
+  EXPECT_EQ(Update(), CRect(0, 0, 100, 100));
+  CWinApp::PumpPending();
+  EXPECT_EQ(window.paints, 1);
+  EXPECT_EQ(window.erases, 0);
+  EXPECT_EQ(Update(), CRect());
+}
+
+TEST_F(WindowPaint, IsClippedToTheUpdateRegionAndAtOnceOnDemand) {
+  const RECT a{10, 10, 20, 20};
+  const RECT b{50, 60, 70, 80};
+  const RECT hole{50, 60, 70, 70};
+  window.first = 50;
+  window.InvalidateRect(&a);
+  window.InvalidateRect(&b);
+  window.ValidateRect(&hole);
+  EXPECT_EQ(Update(), CRect(10, 10, 70, 80));
+  window.UpdateWindow();
+  EXPECT_EQ(window.paints, 1);
+  EXPECT_EQ(window.erases, 1);
+  EXPECT_EQ(window.painted, CRect(10, 10, 70, 80));
+  EXPECT_EQ(window.At(15, 15), Striped::ColourOf(51));
+  EXPECT_EQ(window.At(60, 75), Striped::ColourOf(57));
+  EXPECT_EQ(window.At(60, 65), Striped::ColourOf(6)) << "validated";
+  EXPECT_EQ(window.At(30, 30), Striped::ColourOf(3)) << "between the two";
+  window.UpdateWindow();
+  EXPECT_EQ(window.paints, 1) << "nothing is invalid";
+}
+
+TEST_F(WindowPaint, NestedContextsShareTheSurface) {
+  window.nested = true;
+  const RECT part{0, 0, 50, 50};
+  window.InvalidateRect(&part);
+  window.UpdateWindow();
+  EXPECT_EQ(window.At(2, 2), kRed);
+  EXPECT_EQ(window.At(95, 95), kBlue) << "a client context is not held to the update region";
+}
+
+TEST_F(WindowPaint, HeldBackWhileRedrawIsOffOrTheWindowIsHidden) {
+  window.SetRedraw(FALSE);
+  window.Invalidate();
+  window.UpdateWindow();
+  CWinApp::PumpPending();
+  EXPECT_EQ(window.paints, 0);
+  window.SetRedraw(TRUE);
+  CWinApp::PumpPending();
+  EXPECT_EQ(window.paints, 1);
+  window.ShowWindow(SW_HIDE);
+  window.Invalidate();
+  CWinApp::PumpPending();
+  EXPECT_EQ(window.paints, 1);
+  window.ShowWindow(SW_SHOW);
+  CWinApp::PumpPending();
+  EXPECT_EQ(window.paints, 2);
+}
+
+TEST_F(WindowPaint, AnExposureCopiesTheSurfaceAndCallsNothing) {
+  QImage shown(100, 100, QImage::Format_RGB32);
+  coregui::WidgetOf(&window)->render(&shown);
+  EXPECT_EQ(window.paints, 0);
+  EXPECT_EQ(QColor(shown.pixel(50, 35)), QColor(3, 100, 200));
+}
+
+TEST_F(WindowPaint, AResizeKeepsThePixelsUntilTheNewPaint) {
+  window.first = 100;
+  window.MoveWindow(0, 0, 140, 120);
+  EXPECT_EQ(window.At(50, 35), Striped::ColourOf(3));
+  EXPECT_EQ(Update(), CRect(0, 0, 140, 120));
+  CWinApp::PumpPending();
+  EXPECT_EQ(window.At(135, 115), Striped::ColourOf(111));
+}
+
+struct ScrollRow {
+  const char* name;
+  int dx;
+  int dy;
+  CRect rect;  ///< empty: null
+  CRect clip;
+  CRect pending;
+  CRect update;  ///< afterwards
+};
+
+class WindowScroll : public WindowPaint, public testing::WithParamInterface<ScrollRow> {};
+
+/// Held against moving the pixels one by one.
+TEST_P(WindowScroll, MovesPixelsUncoversABandAndCarriesThePendingRegion) {
+  const ScrollRow& row = GetParam();
+  {
+    CClientDC dc(&window);
+    for (int x = 0; x < 100; x += 10) dc.FillSolidRect(CRect(x, 0, x + 1, 100), RGB(x, 0, 0));
+  }
+  COLORREF before[100][100];
+  for (int y = 0; y < 100; ++y) {
+    for (int x = 0; x < 100; ++x) before[y][x] = window.At(x, y);
+  }
+  if (!row.pending.IsRectEmpty()) window.InvalidateRect(&row.pending, FALSE);
+  window.ScrollWindow(row.dx, row.dy, row.rect.IsRectEmpty() ? nullptr : &row.rect,
+                      row.clip.IsRectEmpty() ? nullptr : &row.clip);
+  EXPECT_EQ(Update(), row.update);
+  const CRect client(0, 0, 100, 100);
+  const CRect area = row.rect.IsRectEmpty() ? client : row.rect;
+  const CRect clip = row.clip.IsRectEmpty() ? area : row.clip;
+  int wrong = 0;
+  for (int y = 0; y < 100; ++y) {
+    for (int x = 0; x < 100; ++x) {
+      const CPoint from(x - row.dx, y - row.dy);
+      const bool moved = clip.PtInRect(CPoint(x, y)) && area.PtInRect(from) && client.PtInRect(from);
+      wrong += window.At(x, y) == (moved ? before[from.y][from.x] : before[y][x]) ? 0 : 1;
+    }
+  }
+  EXPECT_EQ(wrong, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Scrolls, WindowScroll,
+    testing::Values(ScrollRow{"Up", 0, -10, {}, {}, {}, CRect(0, 90, 100, 100)},
+                    ScrollRow{"Down", 0, 15, {}, {}, {}, CRect(0, 0, 100, 15)},
+                    ScrollRow{"Left", -30, 0, {}, {}, {}, CRect(70, 0, 100, 100)},
+                    ScrollRow{"Right", 7, 0, {}, {}, {}, CRect(0, 0, 7, 100)},
+                    ScrollRow{"Diagonal", 20, -30, {}, {}, {}, CRect(0, 0, 100, 100)},
+                    ScrollRow{"PartOnly", 0, -10, CRect(20, 20, 80, 80), {}, {}, CRect(20, 70, 80, 80)},
+                    ScrollRow{
+                        "Clipped", 0, 10, CRect(0, 0, 100, 50), CRect(0, 0, 50, 50), {}, CRect(0, 0, 50, 10)},
+                    ScrollRow{"AllGone", 0, -100, {}, {}, {}, CRect(0, 0, 100, 100)},
+                    ScrollRow{"PendingMoves", 0, -10, {}, {}, CRect(0, 40, 100, 50), CRect(0, 30, 100, 100)},
+                    ScrollRow{"PendingOutsideStays",
+                              0,
+                              -10,
+                              CRect(0, 20, 100, 60),
+                              {},
+                              CRect(0, 0, 10, 10),
+                              CRect(0, 0, 100, 60)},
+                    ScrollRow{"Nowhere", 0, 0, {}, {}, {}, CRect()}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(WindowPaint, AScrollAndItsPaintGiveTheScrolledPicture) {
+  window.ScrollWindow(0, -30);
+  window.first = 3;
+  CWinApp::PumpPending();
+  EXPECT_EQ(window.painted, CRect(0, 70, 100, 100));
+  for (int row = 0; row < 10; ++row)
+    EXPECT_EQ(window.At(50, row * 10 + 5), Striped::ColourOf(3 + row)) << row;
+}
+
+TEST_F(WindowPaint, TheDefaultErasesWithTheWindowColour) {
+  CWnd plain;
+  ASSERT_TRUE(plain.Create(L"", L"", WS_CHILD | WS_VISIBLE, CRect(10, 10, 30, 30), &window, 0));
+  {
+    CClientDC dc(&plain);
+    dc.FillSolidRect(CRect(0, 0, 20, 20), kRed);
+  }
+  plain.RedrawWindow();
+  CClientDC dc(&plain);
+  EXPECT_EQ(dc.GetPixel(5, 5), GetSysColor(COLOR_WINDOW));
+}
+
+TEST_F(WindowPaint, TheSurfaceHasTheDotsOfTheScreensScale) {
+  EXPECT_EQ(window.GetScaleFactor(), coregui::WidgetOf(&window)->devicePixelRatioF());
+  CClientDC dc(&window);
+  EXPECT_EQ(dc.GetScaleFactor(), window.GetScaleFactor());
+  EXPECT_EQ(window.GetClientRectangle(), CRect(0, 0, 100, 100)) << "coordinates stay logical";
+  if (const char* wanted = std::getenv("COREGUI_TEST_SCALE")) {
+    EXPECT_EQ(window.GetScaleFactor(), std::stod(wanted));
+  }
+}
+
+TEST_F(WindowPaint, PrintingTakesTheWindowAndItsChildren) {
+  CWnd child;
+  ASSERT_TRUE(child.Create(L"", L"", WS_CHILD | WS_VISIBLE, CRect(40, 40, 60, 60), &window, 0));
+  child.UpdateWindow();
+  CClientDC screen(&window);
+  CBitmap bitmap;
+  ASSERT_TRUE(bitmap.CreateCompatibleBitmap(&screen, 100, 100));
+  CMemoryDC dc(&screen, &bitmap);
+  window.PrintTo(&dc);
+  EXPECT_EQ(dc.GetPixel(5, 25), Striped::ColourOf(2));
+  EXPECT_EQ(dc.GetPixel(50, 50), GetSysColor(COLOR_WINDOW));
+  EXPECT_EQ(dc.GetPixel(65, 65), Striped::ColourOf(6));
+}
+
+}  // namespace
