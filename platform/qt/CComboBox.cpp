@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <functional>
 #include <limits>
 
 #include "platform/CDC.h"
@@ -26,17 +27,19 @@ class PictureDC : public CDC {
 /// The toolkit's combo box, which tells when its list opens and closes.
 class ComboWidget : public QComboBox {
  public:
-  std::function<void(bool)> onList;
-  std::function<void(QPainter&)> drawClosed;
+  std::function<void(bool)> onList;  ///< called by a copy: the box may go meanwhile
 
   void showPopup() override {
-    if (onList) onList(true);
+    const auto tell = onList;
+    if (tell) tell(true);
+    if (tell && !onList) return;  // the box has gone
     QComboBox::showPopup();
   }
   void hidePopup() override {
     const bool open = view()->isVisible();
     QComboBox::hidePopup();
-    if (open && onList) onList(false);
+    const auto tell = onList;
+    if (open && tell) tell(false);
   }
 };
 
@@ -90,6 +93,11 @@ class ComboWindow : public coregui::ControlWindow {
     }
     Combo().onList = [this](bool open) { Notify(open ? CBN_DROPDOWN : CBN_CLOSEUP); };
     connect(&Combo(), &QComboBox::activated, this, [this] { Notify(CBN_SELCHANGE); });
+  }
+
+  /// The list closes with the widget, when nobody is left to tell.
+  ~ComboWindow() override {
+    if (GetWidget() != nullptr) Combo().onList = nullptr;
   }
 
   ComboWidget& Combo() const { return static_cast<ComboWidget&>(*GetWidget()); }

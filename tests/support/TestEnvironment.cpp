@@ -6,12 +6,14 @@
 #include <QStyle>
 #include <QStyleFactory>
 #include <QTemporaryDir>
+#include <cstdio>
 #include <cstdlib>
 #include <memory>
 
 #include "platform/Clipboard.h"
 #include "platform/KeyState.h"
 #include "platform/Locale.h"
+#include "platform/Profile.h"
 #include "platform/System.h"
 
 namespace coregui::test {
@@ -67,6 +69,10 @@ void FixLook() {
 void ResetGlobalState() {
   SetUserLocale(L"en_US");
   SetSleepHook(nullptr);
+  std::remove(Profile::Get().GetPath().ToUtf8().c_str());
+  Profile::Get().SetFolder(L"");
+  Profile::Get().SetCompany(L"");
+  Profile::Get().SetName(L"");
   SetDpiScale(0.0);
   ResetKeyState();
   ResetSysColors();
