@@ -147,7 +147,7 @@ bool CGUIBaseView::GoForward() {
 }
 
 void CGUIBaseView::SetCurrentPos(PNT_2D_record const& p, bool force) {
-  if (m_options.crossHair) {
+  if (m_options.crossHair || m_measuring) {
     Invalidate(TRUE);
   }
   m_currentPos = p;
@@ -240,12 +240,15 @@ void CGUIBaseView::PrintMapped(CDC& dc, CSize page, const coregui::CViewMapping&
   }
   // The limit of zooming out belongs to the window and is put back with the rest.
   const coregui::CViewMapping::Scale saved = m_mapping.now;
+  const coregui::VertMode savedMode = m_mapping.vertMode;
   m_isPrinting = true;
   m_printRect = CRect(0, 0, page.cx, page.cy);
   m_mapping.now = mapping.now;
+  m_mapping.vertMode = mapping.vertMode;
   BeginPlot(dc, m_printRect, {m_mapping.now.dpiX, m_mapping.now.dpiY});
   OnDraw(&dc);
   EndPlot();
   m_mapping.now = saved;
+  m_mapping.vertMode = savedMode;
   m_isPrinting = false;
 }

@@ -33,8 +33,9 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
     bool zoomUnderPointer = false;  ///< the wheel keeps the world under the pointer where it is
     bool history = false;           ///< every gesture can be undone: see GoBack
     bool touchpad = false;          ///< pinch zooms, two fingers pan
-    bool crossHair = false;         ///< lines through the current position
-    int snapPixels = 0;             ///< tracking jumps to drawn points (SetSnapSeries) this near
+    bool crossHair = false;         ///< lines through the current position, with its coordinates
+    PlotNumberFormat readOut = PlotNumberFormat::decimal;  ///< of the cross-hair's x
+    int snapPixels = 0;  ///< tracking jumps to drawn points (SetSnapSeries) this near
   };
 
   /// `parent` is borrowed and may be null; it hears of every change of the mapping.
@@ -103,6 +104,16 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
   PNT_2D_record GetBasePoint() const { return m_basePoint; }
   /// Moves the position, and the pointer with it (in a slave only with `force`), and tells the hook.
   void SetCurrentPos(PNT_2D_record const& p, bool force = false);
+
+  // --- Measuring and picking
+  /// Draws a line from here to the current position, with distance, differences and gradient, until
+  /// StopMeasure.
+  void StartMeasure(PNT_2D_record const& from);
+  void StopMeasure();
+  /// "5.000  dx 3.000  dy 4.000  133.33 %"; empty when nothing is measured.
+  CString GetMeasureText() const;
+  /// The point of a series nearest to a client pixel; false when none is within so many pixels. For the hook.
+  bool Pick(const CPlotSeries& series, CPoint at, int pixels, std::size_t* index) const;
 
   // --- Slave
   /// Borrowed; null: none. A slave shows the same x range, pixel for pixel, and keeps its own vertical
@@ -180,6 +191,9 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
   void ScrollFor(CSize moved);
   PNT_2D_record Snapped(CPoint pointer) const;
   void ActivateTooltip();
+  void DrawCrossHair(CDC& dc);
+  void DrawMeasure(CDC& dc);
+  void DrawLabel(CDC& dc, CPoint at, const CString& text);
   void ShowPlace();
   LRESULT OnPinch(WPARAM wParam, LPARAM lParam);
   LRESULT OnTouchPan(WPARAM wParam, LPARAM lParam);
@@ -214,6 +228,8 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
 
   PNT_2D_record m_currentPos;
   PNT_2D_record m_basePoint;
+  PNT_2D_record m_measureStart;
+  bool m_measuring = false;
   coregui::CPanGesture m_pan;
   bool m_initialised = false;
   bool m_zoomBoxMode = false;

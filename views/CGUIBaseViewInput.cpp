@@ -1,6 +1,3 @@
-#include <array>
-#include <cstdlib>
-
 #include "views/CGUIBaseView.h"
 #include "views/FindPoint.h"
 
@@ -9,7 +6,6 @@
 namespace {
 
 constexpr COLORREF kBoxColour = 0xFEFEFE;
-constexpr COLORREF kCrossHairColour = 0x808080;
 constexpr UINT kEscape = 27;
 constexpr double kWheelStep = 1.25;
 
@@ -49,55 +45,6 @@ void CGUIBaseView::OnDestroy() {
   m_tips.reset();
   coregui::CZoomBox::Shared().Forget(*this);
   Default();
-}
-
-// --- Painting
-
-BOOL CGUIBaseView::OnEraseBkgnd(CDC* dc) {
-  dc->FillSolidRect(GetClientRectangle(), m_background);
-  return TRUE;
-}
-
-void CGUIBaseView::OnPaint() {
-  CPaintDC dc(this);
-  DrawTo(dc, GetClientRectangle());
-  if (m_initialised && m_options.crossHair) {
-    const CRect client = GetClientRectangle();
-    const CPoint at = m_mapping.UserToWindow(m_currentPos);
-    CPen pen(PS_DOT, 1, kCrossHairColour);
-    CPen* before = dc.SelectObject(&pen);
-    dc.MoveTo(client.left, at.y);
-    dc.LineTo(client.right, at.y);
-    dc.MoveTo(at.x, client.top);
-    dc.LineTo(at.x, client.bottom);
-    dc.SelectObject(before);
-  }
-  CPoint anchor;
-  CPoint corner;
-  if (coregui::CZoomBox::Shared().GetBox(*this, &anchor, &corner)) {
-    // What was painted lies over the outline; it must be there to be removed later.
-    CPen pen(PS_SOLID, 1, kBoxColour);
-    CPen* before = dc.SelectObject(&pen);
-    const int mode = dc.SetROP2(R2_XORPEN);
-    const std::array<POINT, 5> outline = {anchor, CPoint(corner.x, anchor.y), corner,
-                                          CPoint(anchor.x, corner.y), anchor};
-    dc.Polyline(outline.data(), static_cast<int>(outline.size()));
-    dc.SetROP2(mode);
-    dc.SelectObject(before);
-  }
-}
-
-void CGUIBaseView::DrawRect(CPoint a, CPoint b, COLORREF colour) {
-  CClientDC dc(this);
-  if (!dc.IsValid()) {
-    return;
-  }
-  CPen pen(PS_SOLID, 1, colour);
-  CPen* before = dc.SelectObject(&pen);
-  dc.SetROP2(m_drawMode);
-  const std::array<POINT, 5> outline = {a, CPoint(b.x, a.y), b, CPoint(a.x, b.y), a};
-  dc.Polyline(outline.data(), static_cast<int>(outline.size()));
-  dc.SelectObject(before);
 }
 
 BOOL CGUIBaseView::OnSetCursor(CWnd* /*window*/, UINT /*hitTest*/, UINT /*message*/) {
@@ -393,7 +340,7 @@ void CGUIBaseView::Track(UINT flags, CPoint point) {
   if (m_mapping.UserToWindow(m_currentPos) == point) {
     return;
   }
-  if (m_options.crossHair) {
+  if (m_options.crossHair || m_measuring) {
     Invalidate(TRUE);
   }
   m_currentPos = Snapped(point);
@@ -406,11 +353,15 @@ void CGUIBaseView::Track(UINT flags, CPoint point) {
   }
 }
 
+bool CGUIBaseView::Pick(const CPlotSeries& series, CPoint at, int pixels, std::size_t* index) const {
+  return coregui::FindPoint(series, m_mapping, at, pixels, index);
+}
+
 PNT_2D_record CGUIBaseView::Snapped(CPoint pointer) const {
   PNT_2D_record position = m_mapping.WindowToUser(pointer);
   if (m_options.snapPixels > 0 && m_snapSeries != nullptr && !m_zoomBoxMode) {
     std::size_t index = 0;
-    if (coregui::FindPoint(*m_snapSeries, m_mapping, pointer, m_options.snapPixels, &index)) {
+    if (Pick(*m_snapSeries, pointer, m_options.snapPixels, &index)) {
       position = m_snapSeries->GetPoints()[index];
     }
   }

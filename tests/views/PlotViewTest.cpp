@@ -341,4 +341,35 @@ TEST_F(PlotView, OptionsHoldThePointerGoBackAndSnap) {
   EXPECT_EQ(view->GetCurrentPos().x, 15);
 }
 
+TEST_F(PlotView, MeasuringAndTheCrossHairFollowThePosition) {
+  view->UpdateWindow();
+  const std::string empty = view->Pixels();
+  view->SetOptions({.crossHair = true});
+  view->StartMeasure({10, 4});
+  view->Move({26, 50});
+  EXPECT_EQ(view->GetMeasureText(), L"3.162  dx 3.000  dy 1.000  33.33 %");
+  view->UpdateWindow();
+  EXPECT_NE(view->Pixels(), empty);
+  view->SetOptions({});
+  view->StopMeasure();
+  EXPECT_TRUE(view->GetMeasureText().IsEmpty());
+  view->UpdateWindow();
+  EXPECT_EQ(view->Pixels(), empty);
+}
+
+TEST_F(PlotView, PrintingToScaleLeavesAPointViewAsItWas) {
+  view->SetVertMode(CGUIBaseView::VERT_POINTS);
+  view->Redraw();
+  coregui::CViewMapping page = view->GetMapping();
+  page.vertMode = coregui::VertMode::keepRatio;
+  page.now.vertRatio = 2.0;
+  CPoint printed;
+  view->AddLayer(0, [&printed](CGUIBaseView& plot) { printed = plot.UserToWindow({0, 5}); });
+  const CPoint before = view->UserToWindow({0, 5});
+  CRecordingDC dc;
+  view->PrintMapped(dc, CSize(100, 100), page);
+  EXPECT_EQ(printed, page.UserToWindow({0, 5}));
+  EXPECT_EQ(view->UserToWindow({0, 5}), before);
+}
+
 }  // namespace

@@ -1,0 +1,93 @@
+#include <gtest/gtest.h>
+
+#include "tests/views/ViewFixture.h"
+#include "views/CGUIBaseViewWnd.h"
+#include "views/CGUIBaseWnd.h"
+
+namespace {
+
+using coregui::test::Hook;
+
+class PlotWindow : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    Hook::onEvent = nullptr;
+    ASSERT_TRUE(
+        parent.Create(L"", L"plot", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 400, 300), nullptr, 0));
+    window = std::make_unique<CGUIBaseWnd>();
+    ASSERT_TRUE(window->Create(L"plot", L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 100), &parent, 1));
+    window->SetFuncHook(&Hook::Note);
+    Hook::Taken();
+  }
+  void TearDown() override { Hook::onEvent = nullptr; }
+  CWnd parent;
+  std::unique_ptr<CGUIBaseWnd> window;
+};
+
+TEST_F(PlotWindow, WheelAndKeysStepTheZoomAroundThePosition) {
+  window->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 120), 0);
+  EXPECT_EQ(window->GetZoomStep(), '5') << "nothing before InitView";
+  window->UserInit(0, 200, 0, 100);
+  window->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(100, 50));
+  EXPECT_EQ(Hook::Taken(), "2 ");
+  EXPECT_EQ(window->GetCurrentPos().x, 100);
+  window->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 120), 0);
+  window->SendMessage(WM_CHAR, 'M');
+  EXPECT_EQ(window->GetZoomFactor(), 0.5);
+  EXPECT_DOUBLE_EQ(window->GetViewLimits().Width(), 100);
+  window->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -120), 0);
+  EXPECT_EQ(window->GetZoomStep(), '4');
+  window->SendMessage(WM_CHAR, 'q');
+  window->SendMessage(WM_CHAR, 27);
+  EXPECT_EQ(Hook::Taken(), "6(q) 5(\x1b) ");
+}
+
+TEST_F(PlotWindow, SizingShowsTheLimitsAgainAndScaleRedraws) {
+  window->UserInit(0, 200, 100, 0);
+  window->ZoomWindow(FRect(50, 60, 70, 50));
+  window->MoveWindow(0, 0, 400, 100);
+  EXPECT_DOUBLE_EQ(window->GetViewLimits().Width(), 400);
+  EXPECT_DOUBLE_EQ(window->GetViewLimits().Height(), 100);
+  window->SetScale(12);
+  EXPECT_EQ(window->GetScale(), 10);
+  EXPECT_DOUBLE_EQ(window->GetViewLimits().Height(), 10);
+}
+
+TEST_F(PlotWindow, DrawsWhatItShowsAndAHookMayDestroyIt) {
+  window->UserInit(0, 200, 0, 100);
+  window->SetDraw([](CGUIBaseWnd& plot) { plot.PlotLine({0, 50}, {200, 50}); });
+  window->UpdateWindow();
+  {
+    CClientDC dc(window.get());
+    EXPECT_EQ(dc.GetPixel(100, 50), 0U);
+    EXPECT_EQ(dc.GetPixel(100, 49), 0xFFFFFFU);
+  }
+  Hook::onEvent = [this](EVENT_TYPE) { window.reset(); };
+  window->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(10, 10));
+  EXPECT_EQ(window, nullptr);
+}
+
+TEST_F(PlotWindow, TheDialogViewDrawsSmoothLines) {
+  CGUIBaseViewWnd view(1.0, &parent);
+  ASSERT_TRUE(view.Create(CRect(0, 100, 200, 200), &parent, 2));
+  view.SetVertMode(CGUIBaseView::VERT_FILL);
+  view.InitView(FRect(0, 100, 200, 0), 1.0);
+  view.AddLayer(0, [](CGUIBaseView& plot) { plot.PlotLine({0, 10}, {200, 30}); });
+  const auto greys = [&view] {
+    view.RedrawWindow();
+    CClientDC dc(&view);
+    int count = 0;
+    for (int x = 0; x < 200; ++x) {
+      for (int y = 0; y < 100; ++y) {
+        const COLORREF colour = dc.GetPixel(x, y);
+        count += colour != 0 && colour != 0xFFFFFF ? 1 : 0;
+      }
+    }
+    return count;
+  };
+  EXPECT_GT(greys(), 100);
+  view.SetSmoothLines(false);
+  EXPECT_EQ(greys(), 0);
+}
+
+}  // namespace
