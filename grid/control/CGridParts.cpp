@@ -60,13 +60,24 @@ CGridParts::~CGridParts() = default;
 
 void CGridParts::RegisterBuiltInTypes() {
   m_control.AddCellType(&m_types->normal);
+  m_control.AddCellType(&m_types->dropList);
+  m_control.AddCellType(&m_types->checkBox);
+  m_control.AddCellType(&m_types->arrow);
 }
 
 bool CGridParts::CreateWindows() {
   m_windows = std::make_unique<Windows>(m_control);
   constexpr DWORD style = WS_CHILD | WS_CLIPSIBLINGS;
-  return m_windows->body.Create(L"CoreGuiGridBody", L"", style, CRect(), &m_control, GRIDSECTION_GRID) !=
-         FALSE;
+  const auto create = [this](CWnd& window, const wchar_t* name, UINT id) {
+    return window.Create(name, L"", style, CRect(), &m_control, id) != FALSE;
+  };
+  return create(m_windows->body, L"CoreGuiGridBody", GRIDSECTION_GRID) &&
+         create(m_windows->topHeading, L"CoreGuiGridTopHeading", GRIDSECTION_TOPHEADING) &&
+         create(m_windows->sideHeading, L"CoreGuiGridSideHeading", GRIDSECTION_SIDEHEADING) &&
+         create(m_windows->corner, L"CoreGuiGridCorner", GRIDSECTION_CORNERBUTTON) &&
+         create(m_windows->tabs, L"CoreGuiGridTabs", idOfTabs) &&
+         m_windows->vScroll.Create(style | SBS_VERT, CRect(), &m_control, idOfVScroll) != FALSE &&
+         m_windows->hScroll.Create(style | SBS_HORZ, CRect(), &m_control, idOfHScroll) != FALSE;
 }
 
 CGridCellDelegate* CGridParts::ToDelegate(CGridCellType* type) {
@@ -80,16 +91,19 @@ CWnd* CGridParts::Body() const {
   return m_windows == nullptr ? nullptr : &m_windows->body;
 }
 CWnd* CGridParts::TopHeading() const {
-  return nullptr;
+  return m_windows == nullptr ? nullptr : &m_windows->topHeading;
 }
 CWnd* CGridParts::SideHeading() const {
-  return nullptr;
+  return m_windows == nullptr ? nullptr : &m_windows->sideHeading;
 }
 CWnd* CGridParts::CornerButton() const {
-  return nullptr;
+  return m_windows == nullptr ? nullptr : &m_windows->corner;
 }
-CScrollBar* CGridParts::ScrollBar(int) const {
-  return nullptr;
+CScrollBar* CGridParts::ScrollBar(int bar) const {
+  if (m_windows == nullptr) {
+    return nullptr;
+  }
+  return bar == SB_VERT ? static_cast<CScrollBar*>(&m_windows->vScroll) : &m_windows->hScroll;
 }
 
 int CGridParts::SetDoubleBufferMode(int mode) {
