@@ -4,7 +4,7 @@
 
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridInfo.h"
-#include "platform/CWnd.h"
+#include "platform/CToolTipCtrl.h"
 #include "platform/WindowRef.h"
 
 namespace coregui {
@@ -17,6 +17,8 @@ constexpr long kNoRow = std::numeric_limits<long>::min();
 
 CGridTips::CGridTips(CGridCtrl& control, CWnd& window, int section)
     : m_control(control), m_window(window), m_section(section), m_col(kNoCol), m_row(kNoRow) {}
+
+CGridTips::~CGridTips() = default;
 
 bool CGridTips::CellAt(CPoint point, int* col, long* row) const {
   RECT rect;
@@ -53,13 +55,33 @@ void CGridTips::Cancel() {
   m_row = kNoRow;
   m_shown = false;
   m_text.Empty();
+  if (m_tip != nullptr) m_tip->HideTip();
 }
 
 void CGridTips::TimeElapsed() {
   m_window.KillTimer(kTimer);
+  if (m_shown) {  // long enough
+    Cancel();
+    return;
+  }
+  const WindowRef alive(&m_window);
   int col = 0;
   long row = 0;
-  if (!m_shown && CellAt(m_point, &col, &row) && HitTest(col, row)) AskText(col, row);
+  if (!CellAt(m_point, &col, &row) || !HitTest(col, row) || !AskText(col, row) || !alive) return;
+  m_window.SetTimer(kTimer, kShownFor);
+  Show();
+}
+
+void CGridTips::Show() {
+  if (!m_window.HasWindow()) return;
+  if (m_tip == nullptr) {
+    m_tip = std::make_unique<CToolTipCtrl>();
+    m_tip->CreateTips(&m_window);
+    m_tip->SetMaxTipWidth(kWidest);
+  }
+  POINT screen = m_point;
+  m_window.ClientToScreen(&screen);
+  m_tip->ShowTip(m_text, screen);
 }
 
 bool CGridTips::AskText(int col, long row) {

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <memory>
+
 #include "core/Export.h"
 #include "platform/CString.h"
 #include "platform/Geometry.h"
 
 class CGridCtrl;
+class CToolTipCtrl;
 class CWnd;
 
 namespace coregui {
@@ -15,6 +18,7 @@ class COREGUI_API CGridTips {
  public:
   /// Both are borrowed; `section` numbers the window for OnHint.
   CGridTips(CGridCtrl& control, CWnd& window, int section);
+  ~CGridTips();
 
   static constexpr UINT kTimer = 0x7109;      ///< of the window
   static constexpr UINT kInitialDelay = 200;  ///< milliseconds that the pointer rests; also between tips
@@ -27,7 +31,7 @@ class COREGUI_API CGridTips {
   void Cancel();
   /// The window's timer went off.
   void TimeElapsed();
-  /// Whether a tip is shown, and its text.
+  /// Whether there is a tip, and its text.
   bool IsShown() const { return m_shown; }
   const CString& Text() const { return m_text; }
 
@@ -38,6 +42,7 @@ class COREGUI_API CGridTips {
 
  private:
   bool CellAt(CPoint point, int* col, long* row) const;
+  void Show();
 
   CGridCtrl& m_control;
   CWnd& m_window;
@@ -47,6 +52,7 @@ class COREGUI_API CGridTips {
   CPoint m_point;
   bool m_shown = false;
   CString m_text;
+  std::unique_ptr<CToolTipCtrl> m_tip;  ///< made when the first tip is shown
 };
 
 }  // namespace coregui
