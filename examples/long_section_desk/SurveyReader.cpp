@@ -189,12 +189,22 @@ SurveyReport ReadSurvey(const std::wstring& path, SurveySink& sink) {
   return report;
 }
 
+std::wstring SurveyReport::RowsText() const {
+  return WithThousands(rows) + (rows == 1 ? L" row" : L" rows");
+}
+
+bool SurveyReport::HasOddities() const {
+  return notNumbers.count + moreFields.count + fewerFields.count + openQuotes.count + foreignBytes +
+                 nulCharacters >
+             0 ||
+         cutShort;
+}
+
 std::wstring SurveyReport::Summary() const {
   if (!error.empty()) {
     return error;
   }
-  std::wstring text = WithThousands(rows) + (rows == 1 ? L" row in " : L" rows in ") +
-                      std::to_wstring(dialect.headings.size()) + L" columns";
+  std::wstring text = RowsText() + L" in " + std::to_wstring(dialect.headings.size()) + L" columns";
   Append(text, notNumbers, L" value is no number", L" values are no numbers");
   Append(text, fewerFields, L" line is too short", L" lines are too short");
   Append(text, moreFields, L" line is too long, its rest left out",

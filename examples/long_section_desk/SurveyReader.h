@@ -34,6 +34,10 @@ struct SurveyReport {
   std::uint64_t nulCharacters = 0;
   bool cutShort = false;  ///< reading stopped: a disk error, or the caller's wish
 
+  /// "6,201 rows".
+  std::wstring RowsText() const;
+  /// True when something in the file could not be taken as it stood.
+  bool HasOddities() const;
   /// "6,201 rows in 6 columns", and after it what was odd, in one line.
   std::wstring Summary() const;
 };
