@@ -15,6 +15,8 @@ DeskOptions ParseArguments(int argc, const char* const* argv, const std::wstring
       options.dark = true;
     } else if (argument == L"--png" && hasValue) {
       options.picture = CString::FromUtf8(argv[++i]).Str();
+    } else if (argument == L"--pdf" && hasValue) {
+      options.pdf = CString::FromUtf8(argv[++i]).Str();
     } else if (argument == L"--size" && hasValue) {
       int width = 0;
       int height = 0;
@@ -42,13 +44,21 @@ BOOL DeskApp::InitInstance() {
   m_window.ShowWindow(SW_SHOW);
   CWinApp::PumpPending();
   m_window.Open(m_options.file);
-  if (m_options.picture.empty()) {
+  if (m_options.picture.empty() && m_options.pdf.empty()) {
     return TRUE;
   }
   CWinApp::PumpPending();
-  m_failed = !WritePicture();
+  m_failed = !WriteWhatIsAskedFor();
   m_window.DestroyWindow();
   return FALSE;
+}
+
+bool DeskApp::WriteWhatIsAskedFor() {
+  if (!m_options.pdf.empty() && !m_window.PrintToPdf(m_options.pdf)) {
+    coreStatusOut((L"The page " + m_options.pdf + L" could not be written.").c_str());
+    return false;
+  }
+  return m_options.picture.empty() || WritePicture();
 }
 
 int DeskApp::ExitInstance() {

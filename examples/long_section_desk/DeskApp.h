@@ -11,12 +11,13 @@ namespace desk {
 struct DeskOptions {
   std::wstring file;     ///< the survey to open
   std::wstring picture;  ///< not empty: write a PNG of the window there and end
+  std::wstring pdf;      ///< not empty: print the long-section there and end
   CSize size{1280, 800};
   bool dark = false;
   bool ok = true;  ///< false: an argument was not understood
 };
 
-/// long_section_desk [FILE.csv] [--png PICTURE.png] [--size 1280x800] [--dark]
+/// long_section_desk [FILE.csv] [--png PICTURE.png] [--pdf PAGE.pdf] [--size 1280x800] [--dark]
 DeskOptions ParseArguments(int argc, const char* const* argv, const std::wstring& ownSurvey);
 
 /// The program: one desk.
@@ -28,6 +29,7 @@ class DeskApp : public CWinApp {
 
  private:
   bool WritePicture();
+  bool WriteWhatIsAskedFor();
 
   DeskOptions m_options;
   DeskWindow m_window;

@@ -1,12 +1,14 @@
 #include "DeskWindow.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace desk {
 
 namespace {
 
 constexpr wchar_t kDeskName[] = L"Long-section desk";
+enum : UINT { kBarId = 103, kPlotBarId = 104, kSectionId = 105, kDifferenceId = 106 };
 
 std::wstring FileName(const std::wstring& path) {
   return coreExtractFileName(path.c_str());
@@ -14,17 +16,45 @@ std::wstring FileName(const std::wstring& path) {
 
 }  // namespace
 
+const DeskWindow::Command DeskWindow::kCommands[] = {
+    {'O', true, &DeskWindow::OpenWithDialog},     {'P', true, &DeskWindow::PrintWithDialog},
+    {'Q', true, &DeskWindow::QuitCommand},        {VK_F2 + 1, false, &DeskWindow::LookBack},
+    {VK_F2 + 2, false, &DeskWindow::LookForward},
+};
+
+DeskWindow::DeskWindow()
+    : m_section(this),
+      m_difference(this),
+      m_bar(true,
+            [this](int by) {
+              m_layout.MoveBar(by);
+              ArrangePanes();
+            }),
+      m_plotBar(false, [this](int by) {
+        m_layout.MovePlotBar(by);
+        ArrangePanes();
+      }) {}
+
 BOOL DeskWindow::CreateDesk(CSize size) {
   const CRect rect(CPoint(80, 60), size);
   if (!Create(L"LongSectionDesk", kDeskName, WS_OVERLAPPEDWINDOW, rect, nullptr, 0)) {
     return FALSE;
   }
   const CRect client = GetClientRectangle();
-  if (!m_grid.CreateGrid(WS_CHILD | WS_VISIBLE, client, this, kGridId) || !m_status.CreateLine(this)) {
+  if (!m_grid.CreateGrid(WS_CHILD | WS_VISIBLE, client, this, kGridId) || !m_status.CreateLine(this) ||
+      !m_bar.CreateBar(this, kBarId) || !m_plotBar.CreateBar(this, kPlotBarId) ||
+      !m_section.Create(CRect(0, 0, 10, 10), this, kSectionId) ||
+      !m_difference.Create(CRect(0, 0, 10, 10), this, kDifferenceId)) {
     return FALSE;
   }
   m_grid.SetAccessibleName(L"Survey table");
-  HandleSize(SIZE_RESTORED, client.Width(), client.Height());
+  m_section.SetAccessibleName(L"Long-section");
+  m_difference.SetAccessibleName(L"Difference of ground and design");
+  m_grid.SetRowHook([this](long row) { FollowRow(row); });
+  m_section.SetFuncHook(&DeskWindow::OnViewEvent);
+  m_section.SetSlaveView(&m_difference);
+  m_layout.hasPlots = false;
+  ArrangePanes();
   m_status.Show(L"Open a survey with Ctrl+O.");
   return TRUE;
 }
@@ -39,9 +69,24 @@ bool DeskWindow::Open(const std::wstring& path) {
   }
   m_path = path;
   m_grid.EndTable(m_report.rows);
+  ShowSection();
   m_status.Show(m_opening + L": " + m_report.Summary(), m_report.HasOddities());
   ShowTitle();
   return true;
+}
+
+void DeskWindow::ShowSection() {
+  m_data = TakeSection(m_grid);
+  m_layout.hasPlots = !m_data.IsEmpty();
+  for (CWnd* pane : std::initializer_list<CWnd*>{&m_bar, &m_plotBar, &m_section, &m_difference}) {
+    pane->ShowWindow(m_layout.hasPlots ? SW_SHOW : SW_HIDE);
+  }
+  ArrangePanes();
+  m_section.SetTitle(FileName(m_path).c_str());
+  m_difference.Show(m_data);
+  m_section.Show(m_data);
+  m_difference.FitAgain(m_section);
+  FollowRow(m_grid.GetCurrentRow());
 }
 
 void DeskWindow::ShowTitle() {
@@ -67,33 +112,123 @@ bool DeskWindow::Progress(double part) {
   return true;
 }
 
+void DeskWindow::OnViewEvent(PNT_2D_record const& position, EVENT_TYPE event, char /*keyFlags*/, char /*key*/,
+                             CWnd* parent) {
+  auto* self = dynamic_cast<DeskWindow*>(parent);
+  if (self != nullptr && (event == EVENT_MOVE || event == EVENT_LBUTTON_DOWN)) {
+    self->FollowPointer(position);
+  }
+}
+
+/// The row nearest to the pointer becomes the table's current one, and the status line reads it out.
+void DeskWindow::FollowPointer(PNT_2D_record const& position) {
+  const long row = m_data.NearestRow(position.x);
+  if (row < 0 || m_following) {
+    return;
+  }
+  m_following = true;
+  m_grid.GotoRow(row);
+  m_section.Mark(m_data.ChainageOf(row));
+  m_difference.Mark(m_data.ChainageOf(row));
+  m_following = false;
+  const auto index = static_cast<std::size_t>(row);
+  CString text = CString(L"Station ") +
+                 coregui::FormatPlotNumber(m_data.chainages[index], 0.001, PlotNumberFormat::chainage, 3) +
+                 CString::Formatted(L"   ground %.3f", m_data.ground[index].y);
+  if (!m_data.design.empty()) {
+    const double difference = m_data.difference[index].y;
+    text += CString::Formatted(L"   design %.3f   %s %.3f", m_data.design[index].y,
+                               difference < 0.0 ? L"fill" : L"cut", std::abs(difference));
+  }
+  text += CString::Formatted(L"   pointer at level %.3f", position.y);
+  m_status.Show(text.Str());
+}
+
+void DeskWindow::FollowRow(long row) {
+  if (!m_following && m_layout.hasPlots) {
+    m_section.Mark(m_data.ChainageOf(row));
+    m_difference.Mark(m_data.ChainageOf(row));
+  }
+}
+
+bool DeskWindow::PrintToPdf(const std::wstring& path) {
+  PrintPage page;
+  page.width = 420.0;
+  page.height = 297.0;
+  CPrinterDC dc(PrintOutput::pdf, path.c_str(), page);
+  if (!m_section.HasData() || !dc.StartDoc(FileName(m_path).c_str()) || !dc.StartPage()) {
+    return false;
+  }
+  m_section.Print(&dc, CSize(dc.GetDeviceCaps(HORZRES), dc.GetDeviceCaps(VERTRES)));
+  return dc.EndPage() && dc.EndDoc();
+}
+
+void DeskWindow::OpenWithDialog() {
+  CFileDialog dialog(TRUE, nullptr, m_path.c_str(), OFN_FILEMUSTEXIST,
+                     L"Tables (*.csv *.txt)|*.csv;*.txt|All files|*||", this);
+  dialog.SetTitle(L"Open a survey");
+  if (dialog.DoModal() == IDOK) {
+    Open(dialog.GetPathName().Str());
+  }
+}
+
+void DeskWindow::PrintWithDialog() {
+  const std::wstring proposal = coreChangeFileExt(m_path.c_str(), L"pdf");
+  CFileDialog dialog(FALSE, L"pdf", proposal.c_str(), OFN_OVERWRITEPROMPT, L"PDF (*.pdf)|*.pdf||", this);
+  dialog.SetTitle(L"Print to PDF");
+  if (dialog.DoModal() == IDOK) {
+    const bool done = PrintToPdf(dialog.GetPathName().Str());
+    m_status.Show(dialog.GetPathName().Str() + (done ? L" is written." : L" could not be written."), !done);
+  }
+}
+
 const coregui::MessageTable& DeskWindow::GetMessageTable() const {
   static const coregui::MessageTable table = coregui::MessageTable(CWnd::Messages())
                                                  .On<WM_SIZE>(&DeskWindow::HandleSize)
                                                  .On<WM_SETFOCUS>(&DeskWindow::HandleSetFocus)
-                                                 .On<WM_CLOSE>(&DeskWindow::HandleClose);
+                                                 .On<WM_CLOSE>(&DeskWindow::HandleClose)
+                                                 .OnMessage(WM_THEMECHANGED, &DeskWindow::HandleColours);
   return table;
 }
 
 BOOL DeskWindow::PreTranslateMessage(MSG* message) {
-  if (message->message == WM_KEYDOWN && GetKeyState(VK_CONTROL) < 0) {
-    if (message->wParam == 'O') {
-    }
-    if (message->wParam == 'Q') {
-      PostMessage(WM_CLOSE);
-      return TRUE;
+  if (message->message == WM_KEYDOWN) {
+    const bool control = GetKeyState(VK_CONTROL) < 0;
+    for (const Command& command : kCommands) {
+      if (command.key == message->wParam && command.withControl == control) {
+        (this->*command.run)();
+        return TRUE;
+      }
     }
   }
   return CWnd::PreTranslateMessage(message);
 }
 
-void DeskWindow::HandleSize(UINT /*type*/, int width, int height) {
-  if (!m_grid.HasWindow() || !m_status.HasWindow()) {
+void DeskWindow::ArrangePanes() {
+  if (!m_status.HasWindow() || !m_difference.HasWindow()) {
     return;
   }
-  const int gridHeight = std::max(0, height - StatusLine::Height());
-  m_grid.MoveWindow(0, 0, width, gridHeight);
-  m_status.MoveWindow(0, gridHeight, width, StatusLine::Height());
+  m_layout.Arrange(GetClientRectangle().Size(), StatusLine::Height(), Splitter::Thickness());
+  m_grid.MoveWindow(m_layout.grid);
+  m_status.MoveWindow(m_layout.status);
+  if (m_layout.hasPlots) {
+    m_bar.MoveWindow(m_layout.bar);
+    m_plotBar.MoveWindow(m_layout.plotBar);
+    m_section.MoveWindow(m_layout.section);
+    m_difference.MoveWindow(m_layout.difference);
+    m_section.FitAgain();
+    m_difference.FitAgain(m_section);
+  }
+}
+
+void DeskWindow::HandleSize(UINT /*type*/, int /*width*/, int /*height*/) {
+  ArrangePanes();
+}
+
+LRESULT DeskWindow::HandleColours(WPARAM /*wParam*/, LPARAM /*lParam*/) {
+  m_section.FitAgain();
+  m_difference.FitAgain(m_section);
+  return 0;
 }
 
 void DeskWindow::HandleSetFocus(CWnd* /*other*/) {

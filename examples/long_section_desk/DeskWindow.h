@@ -2,6 +2,10 @@
 
 #include <string>
 
+#include "DeskLayout.h"
+#include "SectionData.h"
+#include "SectionView.h"
+#include "Splitter.h"
 #include "StatusLine.h"
 #include "SurveyGrid.h"
 #include "SurveyReader.h"
@@ -9,11 +13,13 @@
 
 namespace desk {
 
-/// The desk's window: the survey's table, and below it a line that says what was read.
+/// The desk's window: the survey's table at the left, its long-section at the right with the difference of
+/// the levels below it, and a line that says what was read or what the pointer shows.
 class DeskWindow : public CWnd, private SurveySink {
  public:
   static constexpr UINT kGridId = 101;
 
+  DeskWindow();
   /// Creates the window, hidden, with a client area of the size.
   BOOL CreateDesk(CSize size);
   /// Reads a survey into the table. False when nothing could be read; the status line says why and the table
@@ -21,8 +27,13 @@ class DeskWindow : public CWnd, private SurveySink {
   bool Open(const std::wstring& path);
   /// Asks for a file and opens it.
   void OpenWithDialog();
+  /// Prints the long-section on one page in landscape. False when the file cannot be written.
+  bool PrintToPdf(const std::wstring& path);
+  void PrintWithDialog();
+
   const SurveyReport& Report() const { return m_report; }
   SurveyGrid& Grid() { return m_grid; }
+  SectionView& Section() { return m_section; }
   const std::wstring& StatusText() const { return m_status.Text(); }
 
  protected:
@@ -30,20 +41,45 @@ class DeskWindow : public CWnd, private SurveySink {
   BOOL PreTranslateMessage(MSG* message) override;
 
  private:
+  struct Command {
+    UINT key;
+    bool withControl;
+    void (DeskWindow::*run)();
+  };
+  static const Command kCommands[];
+
   void Begin(const CsvDialect& dialect) override;
   void Row(std::uint64_t row, const std::vector<std::wstring_view>& fields) override;
   bool Progress(double part) override;
 
+  static void OnViewEvent(PNT_2D_record const& position, EVENT_TYPE event, char keyFlags, char key,
+                          CWnd* parent);
+  void FollowPointer(PNT_2D_record const& position);
+  void FollowRow(long row);
+  void ArrangePanes();
+  void ShowTitle();
+  void ShowSection();
+
   void HandleSize(UINT type, int width, int height);
   void HandleSetFocus(CWnd* other);
   void HandleClose();
-  void ShowTitle();
+  LRESULT HandleColours(WPARAM wParam, LPARAM lParam);
+  void QuitCommand() { PostMessage(WM_CLOSE); }
+  void LookBack() { m_section.GoBack(); }
+  void LookForward() { m_section.GoForward(); }
 
   SurveyGrid m_grid;
+  SectionView m_section;
+  DifferenceView m_difference;
+  Splitter m_bar;
+  Splitter m_plotBar;
   StatusLine m_status;
-  std::wstring m_path;     ///< of the survey shown; empty when none is
-  std::wstring m_opening;  ///< name of the file that is being read
-  SurveyReport m_report;   ///< of the file tried last
+  DeskLayout m_layout;
+  SectionData m_data;
+  std::wstring m_path;       ///< of the survey shown; empty when none is
+  std::wstring m_opening;    ///< name of the file that is being read
+  SurveyReport m_report;     ///< of the file tried last
+  bool m_following = false;  ///< table and section follow each other; not in circles
 };
 
 }  // namespace desk

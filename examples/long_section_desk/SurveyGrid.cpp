@@ -92,4 +92,10 @@ void SurveyGrid::OnGetCell(int col, long row, CGridCell* cell) {
   }
 }
 
+void SurveyGrid::OnRowChange(long /*oldRow*/, long newRow) {
+  if (m_rowHook) {
+    m_rowHook(newRow);
+  }
+}
+
 }  // namespace desk

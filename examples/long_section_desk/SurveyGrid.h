@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -20,14 +21,18 @@ class SurveyGrid : public CGridCtrl {
   void EndTable(std::uint64_t rows);
   /// What a row's cell of a number column holds; false for an empty cell or a text.
   bool NumberAt(int col, long row, double& value);
+  /// Called after the current row has changed.
+  void SetRowHook(std::function<void(long)> hook) { m_rowHook = std::move(hook); }
   const CsvDialect& Dialect() const { return m_dialect; }
 
  protected:
   void OnSetup() override;
   void OnGetCell(int col, long row, CGridCell* cell) override;
+  void OnRowChange(long oldRow, long newRow) override;
 
  private:
   CsvDialect m_dialect;
+  std::function<void(long)> m_rowHook;
   CGridCell m_cell;  ///< reused for every stored cell
 };
 

@@ -1,0 +1,133 @@
+#include "SectionData.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <string_view>
+
+#include "SurveyGrid.h"
+
+namespace desk {
+
+namespace {
+
+constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
+
+bool NameHas(const std::wstring& heading, std::initializer_list<std::wstring_view> words) {
+  const std::wstring lower = CString(heading).MakeLower().Str();
+  return std::any_of(words.begin(), words.end(),
+                     [&lower](std::wstring_view word) { return lower.find(word) != std::wstring::npos; });
+}
+
+/// The bounds of the points that are whole, a twentieth of their height added above and below.
+FRect BoundsOf(const std::vector<const std::vector<PNT_2D_record>*>& lines) {
+  FRect bounds;
+  bool any = false;
+  for (const auto* line : lines) {
+    for (const PNT_2D_record& point : *line) {
+      if (std::isfinite(point.x) && std::isfinite(point.y)) {
+        any ? bounds.Expand(point) : bounds.Set(point, point);
+        any = true;
+      }
+    }
+  }
+  const double room = bounds.Height() > 0.0 ? bounds.Height() * 0.05 : 1.0;
+  bounds.SetTop(bounds.GetTop() + room);
+  bounds.SetBottom(bounds.GetBottom() - room);
+  if (bounds.Width() == 0.0) {
+    bounds.SetLeft(bounds.GetLeft() - 1.0);
+    bounds.SetRight(bounds.GetRight() + 1.0);
+  }
+  return bounds;
+}
+
+}  // namespace
+
+SectionColumns FindSectionColumns(const std::vector<std::wstring>& headings,
+                                  const std::vector<bool>& numeric) {
+  SectionColumns columns;
+  std::vector<int> free;
+  std::vector<int> levels;
+  for (int col = 0; col < static_cast<int>(headings.size()); ++col) {
+    const auto column = static_cast<std::size_t>(col);
+    const std::wstring& heading = headings[column];
+    if (!numeric[column]) {
+      continue;
+    }
+    if (columns.chainage < 0 && NameHas(heading, {L"chainage", L"station", L"kilomet", L"distance", L"pk"})) {
+      columns.chainage = col;
+    } else if (columns.design < 0 &&
+               NameHas(heading, {L"design", L"gradient", L"finished", L"projet", L"soll"})) {
+      columns.design = col;
+    } else if (NameHas(heading, {L"level", L"elev", L"height", L"h\u00F6he", L"altitude", L"ground"})) {
+      levels.push_back(col);
+    } else {
+      free.push_back(col);
+    }
+  }
+  const auto takeFree = [&free]() {
+    const int col = free.empty() ? -1 : free.front();
+    free.erase(free.begin(), free.begin() + (free.empty() ? 0 : 1));
+    return col;
+  };
+  if (columns.chainage < 0) {
+    columns.chainage = takeFree();
+  }
+  columns.ground = levels.empty() ? takeFree() : levels.front();
+  if (columns.design < 0 && levels.size() > 1) {
+    columns.design = levels[1];
+  }
+  return columns;
+}
+
+SectionData TakeSection(SurveyGrid& grid) {
+  SectionData data;
+  data.columns = FindSectionColumns(grid.Dialect().headings, grid.Dialect().numeric);
+  const long rows = grid.GetNumberRows();
+  if (data.columns.chainage < 0 || data.columns.ground < 0 || rows == 0) {
+    return data;
+  }
+  const auto number = [&grid](int col, long row) {
+    double value = 0.0;
+    return col >= 0 && grid.NumberAt(col, row, value) ? value : kNothing;
+  };
+  const auto count = static_cast<std::size_t>(rows);
+  data.chainages.reserve(count);
+  data.ground.reserve(count);
+  for (long row = 0; row < rows; ++row) {
+    const double chainage = number(data.columns.chainage, row);
+    const double ground = number(data.columns.ground, row);
+    data.chainages.push_back(chainage);
+    data.ground.push_back({chainage, ground});
+    if (data.columns.design >= 0) {
+      const double design = number(data.columns.design, row);
+      data.design.push_back({chainage, design});
+      data.difference.push_back({chainage, ground - design});
+    }
+  }
+  data.extents = BoundsOf({&data.ground, &data.design});
+  data.differenceExtents = BoundsOf({&data.difference});
+  data.differenceExtents.SetLeft(data.extents.GetLeft());
+  data.differenceExtents.SetRight(data.extents.GetRight());
+  return data;
+}
+
+long SectionData::NearestRow(double chainage) const {
+  long nearest = -1;
+  double best = std::numeric_limits<double>::infinity();
+  for (std::size_t row = 0; row < chainages.size(); ++row) {
+    const double distance = std::abs(chainages[row] - chainage);
+    if (distance < best) {
+      best = distance;
+      nearest = static_cast<long>(row);
+    }
+  }
+  return nearest;
+}
+
+double SectionData::ChainageOf(long row) const {
+  return row >= 0 && row < static_cast<long>(chainages.size()) ? chainages[static_cast<std::size_t>(row)]
+                                                               : kNothing;
+}
+
+}  // namespace desk
