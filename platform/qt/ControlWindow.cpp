@@ -19,12 +19,6 @@ struct ViewportAccess : QAbstractScrollArea {
 
 }  // namespace
 
-QWidget* WidgetOf(const CWnd* window) {
-  return window == nullptr || window->State().native == nullptr
-             ? nullptr
-             : static_cast<QWidget*>(window->State().native->Widget());
-}
-
 ControlWindow::ControlWindow(CWnd& window, const CREATESTRUCT& create, std::unique_ptr<QWidget> widget)
     : QtWindow(window, create, std::move(widget)) {}
 

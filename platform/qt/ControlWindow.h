@@ -6,6 +6,7 @@
 #include "platform/CWnd.h"
 #include "platform/WindowState.h"
 #include "platform/qt/QtWindow.h"
+#include "platform/qt/interop.h"
 
 class QAbstractScrollArea;
 
@@ -20,9 +21,6 @@ inline QString ToQt(const wchar_t* text) {
 inline CString FromQt(const QString& text) {
   return {text.toStdWString()};
 }
-
-/// The widget that stands for a window, as owner of a dialog; null for a null window or one without.
-QWidget* WidgetOf(const CWnd* window);
 
 /// A control over a widget of the toolkit.
 class ControlWindow : public QtWindow {
