@@ -53,13 +53,13 @@ bool NeedsExtras(const CellLook& look, const std::shared_ptr<CGridCell>& initial
   return (look.flags & (CELLPROP_MASK | CELLPROP_LABEL | CELLPROP_EXTRAMEM)) != 0 || initial != nullptr;
 }
 
-StoredText Wide(const CString& text) {
+}  // namespace
+
+StoredText WideText(const CString& text) {
   static_assert(sizeof(wchar_t) == 4);
   return {reinterpret_cast<const unsigned char*>(text.GetString()),
           static_cast<std::uint32_t>(text.GetLength()), 4};
 }
-
-}  // namespace
 
 wchar_t StoredText::At(std::uint32_t index) const {
   if (width == 1) return static_cast<wchar_t>(characters[index]);
@@ -208,7 +208,7 @@ StoredText CellCodec::TextField(const CellSlot& slot) const {
     auto* const block = slot.Pointer<TextBlock>();
     return {Characters(*block), block->length, block->width};
   }
-  if (slot.Kind() == SlotKind::box) return Wide(slot.Pointer<CellBox>()->text);
+  if (slot.Kind() == SlotKind::box) return WideText(slot.Pointer<CellBox>()->text);
   return {};
 }
 
@@ -219,7 +219,7 @@ StoredText CellCodec::ShownText(const CellSlot& slot, CString& scratch) const {
   const NumberForm form{(look.flags & CELLPROP_DECIMALS) != 0, look.decimals,
                         (look.flags & CELLPROP_NOLOCALEFORMAT) == 0};
   WriteNumber(NumberField(slot), form, scratch);
-  return Wide(scratch);
+  return WideText(scratch);
 }
 
 CString CellCodec::ShownString(const CellSlot& slot) const {

@@ -41,6 +41,8 @@ struct StoredText {
   std::uint16_t width = 1;  ///< bytes of a character: 1, 2 or 4
   wchar_t At(std::uint32_t index) const;
 };
+/// A text's characters; valid until it changes.
+StoredText WideText(const CString& text);
 
 /// Turns cells into slots and back. Its slots' blocks come from its pool, their looks from its table.
 class CellCodec {

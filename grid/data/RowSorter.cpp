@@ -7,32 +7,12 @@
 
 #include "grid/data/CGridCell.h"
 #include "grid/data/InsertionOrder.h"
+#include "grid/data/KeyCompare.h"
+#include "grid/data/RankInsertion.h"
 #include "grid/data/SortKeys.h"
 
 namespace coregui {
 namespace {
-
-/// Compares rows by keys that were read once, as the standard comparison does.
-class KeyCompare {
- public:
-  KeyCompare(std::vector<std::vector<SortKey>> keys, bool descending)
-      : m_keys(std::move(keys)), m_descending(descending) {}
-  void Take(std::uint32_t row) { m_row = row; }
-  int First(std::uint32_t other) const {
-    return m_keys.empty() ? 0 : CompareKeys(m_keys[0][m_row], m_keys[0][other], m_descending);
-  }
-  int All(std::uint32_t other) const {
-    for (const auto& keys : m_keys) {
-      if (const int result = CompareKeys(keys[m_row], keys[other], m_descending); result != 0) return result;
-    }
-    return 0;
-  }
-
- private:
-  std::vector<std::vector<SortKey>> m_keys;  // by key column and row
-  bool m_descending;
-  std::uint32_t m_row = 0;
-};
 
 /// Compares rows by the owner's own comparison. A missing cell is one with no property set.
 class OwnerCompare {
@@ -91,6 +71,17 @@ std::vector<std::uint32_t> OrderByColumns(const CellCodec& codec, const std::vec
   for (std::size_t key = keys.size(); key-- > 0;)
     SortByColumn(codec, keys[key], descending, ended[key], order);
   return order;
+}
+
+/// For comparisons that contradict each other: as the required insertion goes, by ranks where they stand for
+/// the keys.
+std::vector<std::uint32_t> OrderByKeys(const CellCodec& codec, const std::vector<KeyCells>& cells,
+                                       bool descending, std::uint32_t count) {
+  std::vector<std::vector<SortKey>> keys;
+  for (const auto& column : cells) keys.push_back(MakeSortKeys(codec, column));
+  KeyCompare compare(keys, descending);
+  const SortRanks ranks(keys, descending);
+  return ranks.AreExact() ? RankInsertion(ranks, compare).Sort(count) : InsertionOrder(compare).Sort(count);
 }
 
 }  // namespace
@@ -161,10 +152,7 @@ std::vector<std::uint32_t> RowSorter::Order(const std::vector<int>& cols) {
   keys = readKeys();
   const std::size_t count = m_items.size() - m_fixed;
   if (known == SortOrder::standard) {
-    std::vector<std::vector<SortKey>> sortKeys;
-    for (const auto& cells : keys) sortKeys.push_back(MakeSortKeys(codec, cells));
-    KeyCompare compare(std::move(sortKeys), descending);
-    return InsertionOrder(compare).Sort(static_cast<std::uint32_t>(count));
+    return OrderByKeys(codec, keys, descending, static_cast<std::uint32_t>(count));
   }
   OwnerCompare compare(codec, *m_owner, m_flags, std::move(keys));
   if (known == SortOrder::unknown) return InsertionOrder(compare).Sort(static_cast<std::uint32_t>(count));

@@ -10,11 +10,6 @@
 namespace coregui {
 namespace {
 
-struct Entry {
-  std::uint64_t key;
-  std::uint32_t row;
-};
-
 bool ComparesByNumber(const CellCodec& codec, const CellSlot* cell) {
   if (cell == nullptr) return false;
   const short type = codec.DataType(*cell);
@@ -29,13 +24,6 @@ int CompareTexts(const StoredText& a, const StoredText& b) {
     if (x != y) return x < y ? -1 : 1;
   }
   return a.length < b.length ? -1 : a.length > b.length ? 1 : 0;
-}
-
-/// A number whose order among unsigned numbers is the double's; both zeros are one.
-std::uint64_t NumberKey(double number) {
-  const auto bits = std::bit_cast<std::uint64_t>(number == 0.0 ? 0.0 : number);
-  constexpr std::uint64_t SIGN = 1ULL << 63U;
-  return (bits & SIGN) != 0 ? ~bits : bits | SIGN;
 }
 
 /// The first 8 characters, for texts of one byte each.
@@ -76,38 +64,69 @@ TextForm FormOf(const CellCodec& codec, const KeyCells& cells) {
   return form;
 }
 
-/// Sorts by key, stable: by each byte that is not the same everywhere, from the last to the first.
-void RadixSort(std::vector<Entry>& entries) {
-  std::array<std::array<std::size_t, 256>, 8> counts{};
-  for (const Entry& entry : entries) {
-    for (unsigned byte = 0; byte < 8; ++byte) ++counts[byte][(entry.key >> (8 * byte)) & 0xFFU];
-  }
-  std::vector<Entry> other(entries.size());
-  for (unsigned byte = 0; byte < 8; ++byte) {
-    auto& places = counts[byte];
-    if (std::find(places.begin(), places.end(), entries.size()) != places.end()) continue;
-    std::exclusive_scan(places.begin(), places.end(), places.begin(), std::size_t{0});
-    for (const Entry& entry : entries) other[places[(entry.key >> (8 * byte)) & 0xFFU]++] = entry;
-    entries.swap(other);
-  }
-}
-
 /// Sorts the stretches of equal keys by the whole texts.
 void RefineTexts(const CellCodec& codec, const KeyCells& cells, bool descending,
-                 std::vector<Entry>& entries) {
-  const auto less = [&](const Entry& a, const Entry& b) {
+                 std::vector<KeyedRow>& entries) {
+  const auto less = [&](const KeyedRow& a, const KeyedRow& b) {
     const int order = CompareTexts(codec.TextField(*cells[a.row]), codec.TextField(*cells[b.row]));
     return descending ? order > 0 : order < 0;
   };
   for (auto begin = entries.begin(); begin != entries.end();) {
     const auto end =
-        std::find_if(begin, entries.end(), [&](const Entry& entry) { return entry.key != begin->key; });
+        std::find_if(begin, entries.end(), [&](const KeyedRow& entry) { return entry.key != begin->key; });
     if (end - begin > 1) std::stable_sort(begin, end, less);
     begin = end;
   }
 }
 
+/// The place of each row's text among those of the column, equal for equal texts. Only of rows with a text.
+void RankTexts(const CellCodec& codec, const KeyCells& cells, std::vector<SortKey>& keys) {
+  std::vector<CString> texts(cells.size());
+  std::vector<KeyedRow> rows;
+  for (std::uint32_t row = 0; row < cells.size(); ++row) {
+    if (!keys[row].hasText) continue;
+    texts[row] = codec.ShownString(*cells[row]);
+    rows.push_back({WideKey(WideText(texts[row])), row});
+  }
+  SortByKey(rows);
+  const auto keyChanges = [](const KeyedRow& a, const KeyedRow& b) { return a.key != b.key; };
+  for (auto begin = rows.begin(); begin != rows.end();) {
+    const auto end = std::adjacent_find(begin, rows.end(), keyChanges);
+    const auto next = end == rows.end() ? end : end + 1;
+    std::sort(begin, next,
+              [&texts](const KeyedRow& a, const KeyedRow& b) { return texts[a.row] < texts[b.row]; });
+    begin = next;
+  }
+  std::uint32_t rank = 0;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    if (i != 0 && texts[rows[i].row] != texts[rows[i - 1].row]) ++rank;
+    keys[rows[i].row].rank = rank;
+  }
+}
+
 }  // namespace
+
+std::uint64_t NumberKey(double number) {
+  const auto bits = std::bit_cast<std::uint64_t>(number == 0.0 ? 0.0 : number);
+  constexpr std::uint64_t SIGN = 1ULL << 63U;
+  return (bits & SIGN) != 0 ? ~bits : bits | SIGN;
+}
+
+/// By each byte that is not the same everywhere, from the last to the first.
+void SortByKey(std::vector<KeyedRow>& rows) {
+  std::array<std::array<std::size_t, 256>, 8> counts{};
+  for (const KeyedRow& row : rows) {
+    for (unsigned byte = 0; byte < 8; ++byte) ++counts[byte][(row.key >> (8 * byte)) & 0xFFU];
+  }
+  std::vector<KeyedRow> other(rows.size());
+  for (unsigned byte = 0; byte < 8; ++byte) {
+    auto& places = counts[byte];
+    if (std::find(places.begin(), places.end(), rows.size()) != places.end()) continue;
+    std::exclusive_scan(places.begin(), places.end(), places.begin(), std::size_t{0});
+    for (const KeyedRow& row : rows) other[places[(row.key >> (8 * byte)) & 0xFFU]++] = row;
+    rows.swap(other);
+  }
+}
 
 bool IsBlankKey(const CellCodec& codec, const CellSlot* cell) {
   return cell == nullptr || (!ComparesByNumber(codec, cell) && !codec.HasValue(*cell));
@@ -128,7 +147,7 @@ bool IsConsistent(const CellCodec& codec, const KeyCells& cells) {
 void SortByColumn(const CellCodec& codec, const KeyCells& cells, bool descending,
                   const std::vector<bool>& ended, std::vector<std::uint32_t>& order) {
   const TextForm form = FormOf(codec, cells);
-  std::vector<Entry> entries;
+  std::vector<KeyedRow> entries;
   std::vector<std::uint32_t> blank;
   entries.reserve(order.size());
   bool byNumber = false;
@@ -148,36 +167,31 @@ void SortByColumn(const CellCodec& codec, const KeyCells& cells, bool descending
     }
     entries.push_back({descending ? ~key : key, row});
   }
-  RadixSort(entries);
+  SortByKey(entries);
   if (!byNumber && !form.complete) RefineTexts(codec, cells, descending, entries);
   auto target = order.begin();
   if (descending) target = std::copy(blank.begin(), blank.end(), target);
   target =
-      std::transform(entries.begin(), entries.end(), target, [](const Entry& entry) { return entry.row; });
+      std::transform(entries.begin(), entries.end(), target, [](const KeyedRow& entry) { return entry.row; });
   if (!descending) std::copy(blank.begin(), blank.end(), target);
 }
 
 std::vector<SortKey> MakeSortKeys(const CellCodec& codec, const KeyCells& cells) {
   std::vector<SortKey> keys(cells.size());
-  std::vector<CString> texts(cells.size());
-  std::vector<std::uint32_t> withText;
-  for (std::uint32_t row = 0; row < cells.size(); ++row) {
+  bool anyNumber = false;
+  bool anyText = false;
+  for (std::size_t row = 0; row < cells.size(); ++row) {
     const CellSlot* const cell = cells[row];
     if (cell == nullptr) continue;
-    keys[row].number = codec.NumberValue(*cell);
     keys[row].byNumber = ComparesByNumber(codec, cell);
     keys[row].hasText = codec.HasValue(*cell);
-    if (!keys[row].hasText) continue;
-    texts[row] = codec.ShownString(*cell);
-    withText.push_back(row);
+    anyNumber = anyNumber || keys[row].byNumber;
+    anyText = anyText || (keys[row].hasText && !keys[row].byNumber);
   }
-  std::sort(withText.begin(), withText.end(),
-            [&](std::uint32_t a, std::uint32_t b) { return texts[a] < texts[b]; });
-  std::uint32_t rank = 0;
-  for (std::size_t i = 0; i < withText.size(); ++i) {
-    if (i != 0 && texts[withText[i]] != texts[withText[i - 1]]) ++rank;
-    keys[withText[i]].rank = rank;
+  for (std::size_t row = 0; anyNumber && row < cells.size(); ++row) {
+    if (cells[row] != nullptr) keys[row].number = codec.NumberValue(*cells[row]);
   }
+  if (anyText) RankTexts(codec, cells, keys);
   return keys;
 }
 

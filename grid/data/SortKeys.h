@@ -9,11 +9,21 @@ namespace coregui {
 
 /// A row's standing in one key column, for the standard comparison.
 struct SortKey {
-  double number = 0.0;     ///< what GetNumber gives
-  std::uint32_t rank = 0;  ///< the place of its text among the column's texts; equal for equal texts
+  double number = 0.0;     ///< what GetNumber gives, where a cell of the column compares by number
+  std::uint32_t rank = 0;  ///< the place of its text among the column's texts, where a cell compares by text
   bool byNumber = false;   ///< compares by number when it is the first of two
   bool hasText = false;
 };
+
+/// A row with a key to sort it by.
+struct KeyedRow {
+  std::uint64_t key;
+  std::uint32_t row;
+};
+/// Sorts by key, stable, in a time that grows with the number of rows only.
+void SortByKey(std::vector<KeyedRow>& rows);
+/// A number whose order among unsigned numbers is the double's; both zeros are one. Not for NaN.
+std::uint64_t NumberKey(double number);
 
 /// The cells of one key column, null where there is none.
 using KeyCells = std::vector<const CellSlot*>;
