@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cmath>
+
 #include "views/CPlotMapping.h"
 #include "views/DeviceNumbers.h"
 #include "views/FRect.h"
@@ -38,8 +40,15 @@ class COREGUI_API CViewMapping final : public CPlotMapping {
   };
 
   CPoint UserToWindow(PNT_2D_record const& p) const override {
-    return {SaturateToDevice(std::int64_t{TruncateToDevice(PixelsRight(p.x) + 0.5)} - now.offsetX),
-            SaturateToDevice(std::int64_t{TruncateToDevice(PixelsDown(p.y) + 0.5)} - now.offsetY)};
+    const double right = PixelsRight(p.x) + 0.5;
+    const double down = PixelsDown(p.y) + 0.5;
+    // Nearly every point: no step can leave 32 bits, and nothing needs to be clipped. False for NaN.
+    if (std::fabs(right) < kPlain && std::fabs(down) < kPlain && IsPlain(now.offsetX) &&
+        IsPlain(now.offsetY)) {
+      return {static_cast<LONG>(right) - now.offsetX, static_cast<LONG>(down) - now.offsetY};
+    }
+    return {SaturateToDevice(std::int64_t{TruncateToDevice(right)} - now.offsetX),
+            SaturateToDevice(std::int64_t{TruncateToDevice(down)} - now.offsetY)};
   }
   PNT_2D_record WindowToUser(CPoint pt) const override;
   PNT_2D_record UserToDevice(PNT_2D_record const& p) const override {
@@ -73,10 +82,14 @@ class COREGUI_API CViewMapping final : public CPlotMapping {
   Scale now;
 
  private:
+  static constexpr double kPlain = 1 << 30;
+  static constexpr bool IsPlain(LONG offset) { return offset > -(1 << 30) && offset < (1 << 30); }
+
   double PixelsRight(double x) const { return (x - extents.GetLeft()) / now.scale; }
   double PixelsDown(double y) const {
-    const double down = extents.GetTop() - y;
-    return (vertMode == VertMode::points ? down : down / now.scale) * now.vertRatio;
+    // A quotient by one is the number itself: no branch is needed, and both axes are divided at once.
+    const double unit = vertMode == VertMode::points ? 1.0 : now.scale;
+    return (extents.GetTop() - y) / unit * now.vertRatio;
   }
   void CentreHorizontally(CRect const& client);
   void CentreVertically(CRect const& client);
