@@ -152,6 +152,7 @@ void CGUIBaseView::SetCurrentPos(PNT_2D_record const& p, bool force) {
   }
   m_currentPos = p;
   m_basePoint = p;
+  m_hasPosition = true;
   if ((!m_isSlave || force) && HasWindow()) {
     POINT at = m_mapping.UserToWindow(m_currentPos);
     ClientToScreen(&at);

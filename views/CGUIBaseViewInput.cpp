@@ -332,6 +332,10 @@ LRESULT CGUIBaseView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 
 void CGUIBaseView::OnMouseLeave() {
   m_tracking = false;
+  m_hasPosition = false;
+  if (m_options.crossHair) {
+    Invalidate(TRUE);
+  }
 }
 
 void CGUIBaseView::Track(UINT flags, CPoint point) {
@@ -344,6 +348,7 @@ void CGUIBaseView::Track(UINT flags, CPoint point) {
     Invalidate(TRUE);
   }
   m_currentPos = Snapped(point);
+  m_hasPosition = true;
   m_keyFlags = KeyFlagsOf(flags);
   m_lastEvent = EVENT_MOVE;
   if (m_zoomBoxMode) {

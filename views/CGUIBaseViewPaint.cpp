@@ -21,7 +21,7 @@ BOOL CGUIBaseView::OnEraseBkgnd(CDC* dc) {
 void CGUIBaseView::OnPaint() {
   CPaintDC dc(this);
   DrawTo(dc, GetClientRectangle());
-  if (m_initialised && m_options.crossHair) {
+  if (m_initialised && m_options.crossHair && m_hasPosition) {
     DrawCrossHair(dc);
   }
   if (m_initialised && m_measuring) {

@@ -145,15 +145,15 @@ void CPlotSheet::DrawTableRow(const PlotTableRow& row, CRect const& place) {
     }
     const CSize size = MeasureDeviceText(entry.text, text);
     const LONG half = (row.upright ? size.cy : size.cx) / 2;
-    if (at - half < free) {
-      continue;
-    }
-    free = at + half + gap / 2;
-    // Standing texts are read from the right, so their cell's top left corner comes to the lower left. At the
-    // ends of the row they stand beside the frame.
-    const LONG length = row.upright ? size.cx : size.cy;
+    // At the ends of the row the texts stand beside the frame.
     const LONG start =
         std::clamp(at - half, place.left + 1, std::max(place.left + 1, place.right - 2 * half));
+    if (start < free) {
+      continue;
+    }
+    free = start + 2 * half + gap / 2;
+    // Standing texts are read from the right, so their cell's top left corner comes to the lower left.
+    const LONG length = row.upright ? size.cx : size.cy;
     DrawDeviceText({start, middle + (row.upright ? length / 2 : -length / 2)}, entry.text, text);
     if (length + 2 * gap < place.Height()) {
       DrawDeviceLine({at, place.top}, {at, place.top + gap});

@@ -159,7 +159,7 @@ bool DeskWindow::PrintToPdf(const std::wstring& path) {
   if (!m_section.HasData() || !dc.StartDoc(FileName(m_path).c_str()) || !dc.StartPage()) {
     return false;
   }
-  m_section.Print(&dc, CSize(dc.GetDeviceCaps(HORZRES), dc.GetDeviceCaps(VERTRES)));
+  m_section.PrintPage(dc);
   return dc.EndPage() && dc.EndDoc();
 }
 

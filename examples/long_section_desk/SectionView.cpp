@@ -28,6 +28,18 @@ double RoundExaggeration(const FRect& extents, CSize place) {
   return best;
 }
 
+CRect DifferenceMargins() {
+  return {kLeftMargin, 10, kRightMargin, 10};
+}
+
+/// The room between the margins (points) of a view's window, in pixels.
+CSize PlaceBetween(const CWnd& view, const CRect& margins) {
+  const CRect client = view.GetClientRectangle();
+  const int dpi = view.GetDpi();
+  return {client.Width() - (margins.left + margins.right) * dpi / 72,
+          client.Height() - (margins.top + margins.bottom) * dpi / 72};
+}
+
 PlotTextStyle RulerText(COLORREF colour) {
   PlotTextStyle style;
   style.colour = colour;
@@ -67,11 +79,24 @@ void SectionView::Show(const SectionData& data) {
     m_table.push_back(coregui::MakeLevelRow(L"Design level", data.design, 3));
     m_table.push_back(coregui::MakeDifferenceRow(L"Difference", data.ground, data.design, 3));
   }
-  SetMargins(CRect(kLeftMargin, kTopMargin, kRightMargin,
-                   static_cast<LONG>(m_table.size() * kRowHeight) + 2 * kGap));
-  const CRect area = GetDrawingArea();
-  m_exaggeration = RoundExaggeration(m_extents, area.Size());
+  const CRect margins = Margins();
+  SetMargins(margins);
+  m_exaggeration = RoundExaggeration(m_extents, PlaceBetween(*this, margins));
   FitAgain();
+}
+
+CRect SectionView::Margins() const {
+  return {kLeftMargin, kTopMargin, kRightMargin, static_cast<LONG>(m_table.size() * kRowHeight) + 2 * kGap};
+}
+
+void SectionView::PrintPage(CPrinterDC& dc) {
+  constexpr LONG edge = 24;
+  constexpr LONG titleBlock = 60;
+  const CRect margins = Margins();
+  SetMargins(CRect(margins.left + edge, margins.top + edge, margins.right + edge,
+                   margins.bottom + edge + titleBlock));
+  Print(&dc, CSize(dc.GetDeviceCaps(HORZRES), dc.GetDeviceCaps(VERTRES)));
+  SetMargins(margins);
 }
 
 void SectionView::FitAgain() {
@@ -145,7 +170,7 @@ void SectionView::DrawMark(const SectionColors& colors) {
 }
 
 DifferenceView::DifferenceView(CWnd* parent) : CGUIBaseViewWnd(1.0, parent), m_mark(kNothing) {
-  SetMargins(CRect(kLeftMargin, 10, kRightMargin, 10));
+  SetMargins(DifferenceMargins());
   SetVertMode(VERT_FILL);
 }
 
@@ -187,7 +212,7 @@ LRESULT DifferenceView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 void DifferenceView::KeepHeight() {
   if (m_hasData && GetScale() != m_ratioFor) {
     m_ratioFor = GetScale();
-    SetVertRatio(m_ratioFor * GetDrawingArea().Height() / m_extents.Height());
+    SetVertRatio(m_ratioFor * PlaceBetween(*this, DifferenceMargins()).cy / m_extents.Height());
   }
 }
 

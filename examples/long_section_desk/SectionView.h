@@ -36,10 +36,13 @@ class SectionView : public CGUIBaseViewWnd {
   double GetExaggeration() const { return m_exaggeration; }
   void SetTitle(const CString& title) { m_title = title; }
   bool HasData() const { return m_hasData; }
+  /// Prints the whole section on the page that the context has begun, with a title block.
+  void PrintPage(CPrinterDC& dc);
 
   void OnDraw(CDC* dc) override;
 
  private:
+  CRect Margins() const;
   void DrawLevels(const SectionColors& colors);
   void DrawMark(const SectionColors& colors);
 
