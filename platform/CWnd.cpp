@@ -59,6 +59,12 @@ CWnd::CWnd() : m_state(std::make_unique<WindowState>(this)) {}
 
 CWnd::~CWnd() {
   CWnd::DestroyWindow();
+  if (HasWindow()) {
+    // A handler of its own WM_DESTROY, or of a child's, deletes the object: the rest of the end is done here.
+    DestroyChildren();
+    coregui::ForgetWindow(*this);
+    ReleaseNative();
+  }
   for (Frame* frame = innermost; frame != nullptr; frame = frame->outer) {
     if (frame->window == this) frame->window = nullptr;
   }
