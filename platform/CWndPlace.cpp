@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include "platform/CWnd.h"
 #include "platform/MessageQueue.h"
@@ -46,7 +47,7 @@ CWnd* ChildAt(CWnd& window, POINT client) {
 
 void coregui::NativeWindow::NotePlace(CWnd& window, const CRect& rect) {
   const CRect old = std::exchange(window.State().look.rect, rect);
-  window.PlaceChanged(old);
+  if (!window.State().placing) window.PlaceChanged(old);
 }
 
 CRect CWnd::GetClientRectangle() const {
@@ -72,7 +73,12 @@ void CWnd::Place(const CRect& rect) {
   }
   m_state->look.rect = rect;
   if (m_state->native != nullptr) {
+    // The toolkit may give another place than the one asked for (a least size): told once, as it is.
+    const WindowRef self(this);
+    const bool outer = std::exchange(m_state->placing, true);
     m_state->native->Move(rect);
+    if (!self) return;
+    m_state->placing = outer;
   }
   PlaceChanged(old);
 }

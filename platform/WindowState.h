@@ -54,6 +54,7 @@ class WindowState {
   std::map<UINT, UINT> timers;  ///< id -> milliseconds
   bool tracksLeave = false;
   bool destroying = false;
+  bool placing = false;  ///< the native side is being moved: its own reports are part of that
 };
 
 /// For CPaintDC: takes the update region out (the window is valid after) and whether it is to be erased

@@ -123,6 +123,7 @@ TEST_P(WindowEnd, InItsOwnHandlerIsSafe) {
       }
     };
     const QPointer<QWidget> widget = WidgetOf(child.get());
+    const HWND handles[] = {parent->GetSafeHwnd(), child->GetSafeHwnd()};
     switch (when) {
       case WM_LBUTTONDOWN:
         QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, QPoint(3, 3));
@@ -143,6 +144,8 @@ TEST_P(WindowEnd, InItsOwnHandlerIsSafe) {
     EXPECT_TRUE(done) << when;
     EXPECT_EQ(child == nullptr, GetParam().deletesObject);
     EXPECT_FALSE(child != nullptr && child->HasWindow());
+    EXPECT_FALSE(IsWindow(handles[1])) << when;
+    EXPECT_EQ(IsWindow(handles[0]), parent != nullptr && parent->HasWindow()) << when;
     CWinApp::PumpPending();
     EXPECT_TRUE(widget.isNull()) << "the widget goes when the event is over";
     EXPECT_EQ(CWnd::GetFocus(), nullptr);
@@ -212,6 +215,24 @@ TEST(WindowFamily, VisibleMeansEveryParentToo) {
   parent.ShowWindow(SW_HIDE);
   EXPECT_FALSE(child.IsWindowVisible());
   EXPECT_TRUE((child.GetStyle() & WS_VISIBLE) != 0);
+}
+
+TEST(WindowPlace, WhatThePersonDoesWithTheFrameArrivesAsSizeAndMove) {
+  LogWindow window;
+  ASSERT_TRUE(window.Open(CRect(10, 10, 110, 60)));
+  CWinApp::PumpPending();
+  window.TakeLog();
+  window.logsState = true;
+  WidgetOf(&window)->setGeometry(20, 30, 200, 90);
+  EXPECT_EQ(window.TakeLog(), "3 0 20,30;5 0 200,90;");
+  window.MoveWindow(20, 30, 300, 90);
+  CWinApp::PumpPending();
+  EXPECT_EQ(window.TakeLog(), "5 0 300,90;") << "once, though the toolkit reports it back";
+  EXPECT_EQ(WidgetOf(&window)->width(), 300);
+  WidgetOf(&window)->setMinimumWidth(80);
+  window.MoveWindow(40, 30, 50, 70);
+  CWinApp::PumpPending();
+  EXPECT_EQ(window.TakeLog(), "3 0 40,30;5 0 80,70;") << "what the toolkit made of it";
 }
 
 // --- Focus and capture
