@@ -1,0 +1,220 @@
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <QVBoxLayout>
+#include <functional>
+#include <memory>
+
+#include "platform/CDialog.h"
+#include "platform/CToolTipCtrl.h"
+#include "platform/CWinApp.h"
+#include "platform/DialogLayout.h"
+#include "platform/TipClock.h"
+#include "platform/qt/interop.h"
+#include "tests/platform/LogWindow.h"
+
+using coregui::TipClock;
+using coregui::WidgetOf;
+using coregui::test::LogWindow;
+
+namespace {
+
+/// Three fields, the second without a tab stop, and a panel with a field of its own.
+class FormDialog : public CDialog {
+ public:
+  explicit FormDialog(CWnd* owner = nullptr) : CDialog(L"Form", owner) {}
+  ~FormDialog() override { DestroyWindow(); }
+  LogWindow first;
+  LogWindow second;
+  LogWindow panel;
+  LogWindow inner;
+  LogWindow last;
+  int inits = 0;
+  std::function<void()> shown;
+
+ protected:
+  BOOL OnInitDialog() override {
+    ++inits;
+    const CRect place(0, 0, 20, 20);
+    const auto add = [&](LogWindow& control, CWnd& parent, DWORD style, UINT id) {
+      EXPECT_TRUE(control.Create(L"", L"", WS_CHILD | WS_VISIBLE | style, place, &parent, id));
+      control.passes = true;
+    };
+    add(first, *this, WS_TABSTOP, 10);
+    add(second, *this, 0, 11);
+    add(panel, *this, 0, 12);
+    add(inner, panel, WS_TABSTOP, 13);
+    add(last, *this, WS_TABSTOP, IDOK);
+    PostMessage(WM_APP);
+    return TRUE;
+  }
+  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (message == WM_APP && shown) {
+      // A copy: the call may destroy this object.
+      const coregui::WindowRef self(this);
+      const std::function<void()> call = shown;
+      call();
+      if (!self) return 0;
+    }
+    return CDialog::WindowProc(message, wParam, lParam);
+  }
+};
+
+TEST(Dialog, ModalRunsUntilItEndsAndGivesTheFocusBack) {
+  LogWindow owner;
+  ASSERT_TRUE(owner.Open());
+  owner.SetFocus();
+  FormDialog dialog(&owner);
+  dialog.shown = [&] {
+    EXPECT_TRUE(dialog.IsModal());
+    EXPECT_TRUE(dialog.IsWindowVisible());
+    EXPECT_EQ(dialog.GetOwner(), &owner);
+    EXPECT_EQ(CWnd::GetFocus(), &dialog.first);
+    QTest::keyClick(WidgetOf(&dialog.first), Qt::Key_Return);
+  };
+  EXPECT_EQ(dialog.DoModal(), IDOK);
+  EXPECT_FALSE(dialog.HasWindow());
+  EXPECT_EQ(CWnd::GetFocus(), &owner);
+  dialog.shown = [&] { QTest::keyClick(WidgetOf(&dialog.first), Qt::Key_Escape); };
+  EXPECT_EQ(dialog.DoModal(), IDCANCEL) << "it may run again";
+  EXPECT_EQ(dialog.inits, 2);
+  dialog.shown = [&] { WidgetOf(&dialog)->close(); };
+  EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+}
+
+TEST(Dialog, EndsWithItsWindowItsObjectOrTheProgram) {
+  FormDialog plain;
+  plain.shown = [&] { plain.DestroyWindow(); };
+  EXPECT_EQ(plain.DoModal(), IDCANCEL);
+  auto object = std::make_unique<FormDialog>();
+  object->shown = [&] { object.reset(); };
+  EXPECT_EQ(object.get()->DoModal(), IDCANCEL);
+  CWinApp app;
+  FormDialog inner;
+  FormDialog outer;
+  outer.shown = [&] { EXPECT_EQ(inner.DoModal(), IDCANCEL); };
+  inner.shown = [] { PostQuitMessage(3); };
+  EXPECT_EQ(outer.DoModal(), IDCANCEL);
+  EXPECT_EQ(app.Main(), 3);
+}
+
+TEST(Dialog, TabGoesRoundTheStopsInTheOrderOfCreation) {
+  FormDialog dialog;
+  ASSERT_TRUE(dialog.CreateModeless());
+  const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(WidgetOf(CWnd::GetFocus()), key, modifiers);
+    return CWnd::GetFocus()->GetDlgCtrlID();
+  };
+  EXPECT_EQ(press(Qt::Key_Tab), 13);
+  EXPECT_EQ(press(Qt::Key_Tab), IDOK);
+  EXPECT_EQ(press(Qt::Key_Tab), 10);
+  EXPECT_EQ(press(Qt::Key_Backtab, Qt::ShiftModifier), IDOK);
+  dialog.panel.EnableWindow(FALSE);
+  EXPECT_EQ(press(Qt::Key_Backtab, Qt::ShiftModifier), 10);
+  EXPECT_EQ(press(Qt::Key_Down), 11) << "the arrows need no tab stop";
+  dialog.EndDialog(IDOK);
+  EXPECT_FALSE(dialog.HasWindow());
+}
+
+TEST(DialogPlaces, RowsShareTheWidthAndButtonsStandRight) {
+  coregui::DialogLayout layout(200);
+  EXPECT_EQ(layout.Row(20), CRect(11, 11, 211, 31));
+  const std::vector<CRect> columns = layout.Columns(10, {50, 0, 0});
+  EXPECT_EQ(columns[0], CRect(11, 38, 61, 48));
+  EXPECT_EQ(columns[1].left, 68);
+  EXPECT_EQ(columns[2].right, 211);
+  const std::vector<CRect> buttons = layout.Buttons(2);
+  EXPECT_EQ(buttons[1].right, 211);
+  EXPECT_EQ(layout.Size(), CSize(222, buttons[0].bottom + 11));
+}
+
+// --- Tips
+
+TEST(TipTimes, FollowThePointerThroughTheAreas) {
+  TipClock clock;
+  const CRect a(0, 0, 10, 10);
+  const CRect b(10, 0, 20, 10);
+  EXPECT_EQ(clock.PointerAt(a), TipClock::Action::none);
+  EXPECT_EQ(clock.Timer(), 500U);
+  EXPECT_EQ(clock.Elapsed(), TipClock::Action::show);
+  EXPECT_EQ(clock.Timer(), 5000U);
+  EXPECT_EQ(clock.PointerAt(b), TipClock::Action::hide);
+  EXPECT_EQ(clock.Timer(), 100U) << "sooner when one was just shown";
+  EXPECT_EQ(clock.Elapsed(), TipClock::Action::show);
+  EXPECT_EQ(clock.Elapsed(), TipClock::Action::hide) << "it goes by itself";
+  EXPECT_EQ(clock.PointerAt(b), TipClock::Action::none);
+  EXPECT_EQ(clock.Timer(), 0U) << "and does not come again for the same area";
+  clock.PointerAt(a);
+  EXPECT_EQ(clock.Cancel(), TipClock::Action::none);
+  EXPECT_EQ(clock.Timer(), 0U);
+  clock.PointerAway();
+  clock.PointerAt(a);
+  EXPECT_EQ(clock.Timer(), 500U);
+}
+
+TEST(TipWindow, AsksForItsTextOnlyWhenItShows) {
+  LogWindow window;
+  ASSERT_TRUE(window.Open(CRect(50, 50, 150, 150)));
+  CToolTipCtrl tips;
+  ASSERT_TRUE(tips.CreateTips(&window));
+  int asked = 0;
+  tips.AddTool(&window, [&asked](CPoint client, bool wantText, coregui::Tip& tip) {
+    tip.area = CRect(0, client.y / 10 * 10, 100, client.y / 10 * 10 + 10);
+    if (wantText) tip.text = CString::Formatted(L"cell %d", ++asked);
+    return true;
+  });
+  tips.RelayEvent({window.GetSafeHwnd(), WM_MOUSEMOVE, 0, MAKELPARAM(5, 5)});
+  tips.RelayEvent({window.GetSafeHwnd(), WM_MOUSEMOVE, 0, MAKELPARAM(6, 5)});
+  EXPECT_EQ(asked, 0);
+  tips.SendMessage(WM_TIMER, 1);
+  EXPECT_TRUE(tips.IsTipShown());
+  EXPECT_EQ(tips.GetWindowTextString(), L"cell 1");
+  tips.RelayEvent({window.GetSafeHwnd(), WM_KEYDOWN, VK_DOWN, 1});
+  EXPECT_FALSE(tips.IsTipShown());
+  CRect one;
+  CRect wrapped;
+  tips.ShowTip(L"several words in one line", CPoint(10, 10));
+  tips.GetWindowRect(&one);
+  tips.SetMaxTipWidth(60);
+  tips.ShowTip(L"several words in one line", CPoint(10, 10));
+  tips.GetWindowRect(&wrapped);
+  EXPECT_GT(wrapped.Height(), one.Height());
+  EXPECT_LE(wrapped.Width(), 70);
+}
+
+// --- Programs of the toolkit's own
+
+TEST(DialogAndWindowInterop, OurWindowStandsInAForeignLayoutAndGoesWithIt) {
+  auto host = std::make_unique<QWidget>();
+  host->resize(300, 200);
+  auto* rows = new QVBoxLayout(host.get());
+  LogWindow inside;
+  CWnd* parent = coregui::WindowOf(host.get());
+  EXPECT_EQ(coregui::WindowOf(host.get()), parent);
+  EXPECT_EQ(CWnd::FromHandle(coregui::HandleOf(host.get())), parent);
+  ASSERT_TRUE(inside.OpenIn(*parent, CRect(0, 0, 10, 10)));
+  rows->addWidget(WidgetOf(&inside));
+  inside.logsState = true;
+  host->show();
+  CWinApp::PumpPending();
+  EXPECT_EQ(inside.GetClientRectangle().Width(), WidgetOf(&inside)->width());
+  EXPECT_GT(inside.GetClientRectangle().Width(), 200);
+  inside.TakeLog();
+  host.reset();
+  EXPECT_EQ(inside.TakeLog(), "2 0 0,0;82 0 0,0;");
+  EXPECT_FALSE(inside.HasWindow());
+}
+
+TEST(DialogAndWindowInterop, AForeignWindowOwnsOurDialog) {
+  QWidget host;
+  host.show();
+  FormDialog dialog(coregui::WindowOf(&host));
+  dialog.shown = [&] {
+    EXPECT_EQ(WidgetOf(&dialog)->parentWidget(), &host);
+    EXPECT_TRUE(WidgetOf(&dialog)->isModal());
+    dialog.EndDialog(42);
+  };
+  EXPECT_EQ(dialog.DoModal(), 42);
+}
+
+}  // namespace
