@@ -5,7 +5,7 @@
 #include <QFileInfo>
 
 #include "platform/MessageBox.h"
-#include "platform/qt/Application.h"
+#include "platform/Toolkit.h"
 #include "platform/qt/ControlWindow.h"
 
 namespace {
@@ -48,7 +48,7 @@ CFileDialog::CFileDialog(BOOL open, const wchar_t* extension, const wchar_t* nam
       m_parent(parent) {}
 
 int CFileDialog::DoModal() {
-  coregui::EnsureApplication();
+  if (!coregui::EnsureToolkit()) return IDCANCEL;
   QFileDialog dialog(coregui::WidgetOf(m_parent), ToQt(m_title));
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setOption(QFileDialog::DontConfirmOverwrite, (m_flags & OFN_OVERWRITEPROMPT) == 0);
@@ -79,7 +79,7 @@ CString CFileDialog::GetFileExt() const {
 namespace coregui {
 
 bool ChooseFolder(CString& folder, const wchar_t* title, CWnd* parent) {
-  EnsureApplication();
+  if (!EnsureToolkit()) return false;
   QFileDialog dialog(WidgetOf(parent), ToQt(title));
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setOption(QFileDialog::ShowDirsOnly);

@@ -5,6 +5,8 @@
 #include <QMimeData>
 #include <optional>
 
+#include "platform/Toolkit.h"
+
 namespace {
 
 /// The clipboard of a process without an application.
@@ -18,7 +20,7 @@ std::optional<CString>& OwnText() {
 namespace coregui {
 
 bool SetClipboardText(const CString& text) {
-  if (qApp == nullptr) {
+  if (!HasToolkit()) {
     OwnText() = text;
     return true;
   }
@@ -28,7 +30,7 @@ bool SetClipboardText(const CString& text) {
 }
 
 bool GetClipboardText(CString& text) {
-  if (qApp == nullptr) {
+  if (!HasToolkit()) {
     if (OwnText()) text = *OwnText();
     return OwnText().has_value();
   }
@@ -40,7 +42,7 @@ bool GetClipboardText(CString& text) {
 
 void EmptyClipboard() {
   OwnText().reset();
-  if (qApp != nullptr) QApplication::clipboard()->clear();
+  if (HasToolkit()) QApplication::clipboard()->clear();
 }
 
 }  // namespace coregui

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "platform/System.h"
+#include "platform/Toolkit.h"
 #include "platform/qt/CursorTarget.h"
 
 namespace {
@@ -45,7 +46,7 @@ Qt::CursorShape ShapeOf(SystemCursor cursor) {
 }
 
 QWidget* Target() {
-  if (g_state.target != nullptr || qApp == nullptr) return g_state.target;
+  if (g_state.target != nullptr || !coregui::HasToolkit()) return g_state.target;
   return QApplication::widgetAt(QCursor::pos());
 }
 
@@ -60,7 +61,7 @@ void SetCursorTarget(QWidget* widget) {
 }  // namespace coregui
 
 HCURSOR LoadSystemCursor(SystemCursor cursor) {
-  if (qApp == nullptr) return nullptr;
+  if (!coregui::HasToolkit()) return nullptr;
   // Never destroyed: cursors that a program keeps in its own statics stay valid to the end.
   static auto& cursors = *new std::map<SystemCursor, coregui_cursor>;
   return &cursors.try_emplace(cursor, coregui_cursor{QCursor(ShapeOf(cursor))}).first->second;
@@ -75,17 +76,17 @@ HCURSOR SetCursor(HCURSOR cursor) {
 }
 
 CPoint GetCursorPos() {
-  if (qApp == nullptr) return {};
+  if (!coregui::HasToolkit()) return {};
   const QPoint position = QCursor::pos();
   return {position.x(), position.y()};
 }
 
 void SetCursorPos(int x, int y) {
-  if (qApp != nullptr) QCursor::setPos(x, y);
+  if (coregui::HasToolkit()) QCursor::setPos(x, y);
 }
 
 void ShowWaitCursor(bool on) {
-  if (qApp == nullptr || (!on && g_state.waiting == 0)) return;
+  if (!coregui::HasToolkit() || (!on && g_state.waiting == 0)) return;
   g_state.waiting += on ? 1 : -1;
   if (on) {
     QApplication::setOverrideCursor(Qt::WaitCursor);

@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <memory>
 
+#include "platform/Toolkit.h"
 #include "platform/WindowFocus.h"
-#include "platform/qt/Application.h"
 #include "platform/qt/ControlWindow.h"
 
 namespace coregui {
@@ -97,7 +97,7 @@ void AddButtons(Box& box, const std::vector<MessageBoxButton>& buttons, UINT sty
 }  // namespace
 
 int ShowMessageBox(const MessageBoxParams& params) {
-  EnsureApplication();
+  if (!EnsureToolkit()) return 0;
   const WindowRef focus(CWnd::GetFocus());
   Box box(WidgetOf(params.owner));
   box.setTextFormat(Qt::PlainText);
@@ -113,6 +113,7 @@ int ShowMessageBox(const MessageBoxParams& params) {
     check->setChecked(params.checked != nullptr && *params.checked != 0);
     box.setCheckBox(check.release());
   }
+  CWnd::ReleaseCapture();
   box.exec();
   if (params.checked != nullptr && box.checkBox() != nullptr)
     *params.checked = box.checkBox()->isChecked() ? 1 : 0;

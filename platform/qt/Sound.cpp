@@ -2,10 +2,12 @@
 
 #include <QApplication>
 
+#include "platform/Toolkit.h"
+
 namespace coregui {
 
 void PlayBeep() {
-  if (QCoreApplication::instance() != nullptr) QApplication::beep();
+  if (HasToolkit()) QApplication::beep();
 }
 
 }  // namespace coregui

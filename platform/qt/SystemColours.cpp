@@ -132,8 +132,8 @@ void SwitchTo(Theme& theme, const QPalette& palette, const std::optional<QPalett
 
 /// Joins the application as soon as there is one.
 void Attach(Theme& theme) {
-  QObject* application = QCoreApplication::instance();
-  if (application == nullptr) return;
+  auto* application = qobject_cast<QApplication*>(QCoreApplication::instance());
+  if (application == nullptr) return;  // none, or one without windows, which has no palette
   theme.attached = true;
   new PaletteWatch(application);
   if (theme.dark && !IsDark(QApplication::palette())) {

@@ -5,18 +5,19 @@
 #include <cmath>
 
 #include "platform/System.h"
+#include "platform/Toolkit.h"
 
 namespace {
 
 double g_fixedScale = 0.0;  ///< 0: the screen's
 
 QSize ScreenSize() {
-  const QScreen* screen = qApp == nullptr ? nullptr : QGuiApplication::primaryScreen();
+  const QScreen* screen = !coregui::HasToolkit() ? nullptr : QGuiApplication::primaryScreen();
   return screen == nullptr ? QSize(1024, 768) : screen->size();
 }
 
 int ScrollBarExtent() {
-  return qApp == nullptr ? 17 : QApplication::style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  return !coregui::HasToolkit() ? 17 : QApplication::style()->pixelMetric(QStyle::PM_ScrollBarExtent);
 }
 
 }  // namespace
@@ -43,7 +44,7 @@ int GetSystemMetrics(int index) {
 
 double GetDpiScale() {
   if (g_fixedScale > 0.0) return g_fixedScale;
-  const QScreen* screen = qApp == nullptr ? nullptr : QGuiApplication::primaryScreen();
+  const QScreen* screen = !coregui::HasToolkit() ? nullptr : QGuiApplication::primaryScreen();
   return screen == nullptr ? 1.0 : screen->logicalDotsPerInch() / 96.0;
 }
 
