@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/CDC.h"
+#include "platform/CWinApp.h"
 #include "platform/System.h"
 #include "platform/Toolkit.h"
 #include "platform/WindowState.h"
@@ -127,7 +128,8 @@ int CDialog::DoModal() {
   const WindowRef focusBefore(GetFocus());
   const bool made = MakeWindow(true) != FALSE;
   // A dialog may end itself in OnInitDialog; it is then never shown.
-  if (made && !loop->HasExited()) {
+  if (made && !loop->HasExited() && !CWinApp::IsQuitting()) {
+    ReleaseCapture();  // the mouse is the dialog's now
     ShowWindow(SW_SHOW);
     if (self && HasWindow()) loop->Run();
   }

@@ -80,6 +80,10 @@ bool CWinApp::PumpPending() {
   return !quit.asked;
 }
 
+bool CWinApp::IsQuitting() {
+  return application != nullptr && quit.asked;
+}
+
 void CWinApp::NoteDestroyed(const CWnd& window) {
   if (application != nullptr && application->GetMainWnd() == &window) {
     application->SetMainWnd(nullptr);

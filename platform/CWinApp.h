@@ -56,6 +56,9 @@ class COREGUI_API CWinApp : public CObject {
     return coregui::Profile::Get().WriteString(section, entry, value) ? TRUE : FALSE;
   }
 
+  /// True between PostQuitMessage and the end of the program's object: no modal dialog opens any more.
+  static bool IsQuitting();
+
   /// Internal: a native window is gone.
   static void NoteDestroyed(const CWnd& window);
 

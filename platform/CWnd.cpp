@@ -61,6 +61,7 @@ CWnd::~CWnd() {
   CWnd::DestroyWindow();
   if (HasWindow()) {
     // A handler of its own WM_DESTROY, or of a child's, deletes the object: the rest of the end is done here.
+    DestroyOwned();
     DestroyChildren();
     coregui::ForgetWindow(*this);
     ReleaseNative();
@@ -130,6 +131,7 @@ BOOL CWnd::CreateNative(const CREATESTRUCT& create, CWnd* family) {
     SetParent(nullptr);
     return FALSE;
   }
+  if (state.look.font != nullptr) state.native->SetFont(state.look.font);
   const WindowRef self(this);
   InvalidateRect(nullptr);
   if (SendMessage(WM_CREATE, 0, reinterpret_cast<LPARAM>(&create)) == -1) {
@@ -174,11 +176,23 @@ BOOL CWnd::DestroyWindow() {
   if (!self) {
     return TRUE;
   }
-  DestroyChildren();
+  DestroyOwned();
+  if (self) DestroyChildren();
   if (self) coregui::ForgetWindow(*this);
   if (self) SendMessage(WM_NCDESTROY);
   if (self) ReleaseNative();
   return TRUE;
+}
+
+void CWnd::DestroyOwned() {
+  if (GetParent() != nullptr) {
+    return;  // only a top-level window owns others
+  }
+  const CWnd* self = this;
+  for (const WindowRef& window : coregui::RegisteredWindows()) {
+    CWnd* alive = window.Get();
+    if (alive != nullptr && alive->m_state->family.owner.Get() == self) alive->DestroyWindow();
+  }
 }
 
 void CWnd::DestroyChildren() {

@@ -70,7 +70,7 @@ class COREGUI_API CWnd : public CObject {
                 CWnd* parent, UINT id);
   /// Called before the native window is made; 0 refuses. The default allows.
   virtual BOOL PreCreateWindow(CREATESTRUCT& create);
-  /// Destroys the native window after WM_DESTROY to it and to its children. May be called inside a handler of
+  /// Destroys the native window after WM_DESTROY to it, to the windows it owns and to its children. May be called inside a handler of
   /// this window: the rest of the handler runs without a window. 0 when there is none.
   virtual BOOL DestroyWindow();
   /// Takes over the place, id and parent of an existing child control and destroys that control.
@@ -209,6 +209,7 @@ class COREGUI_API CWnd : public CObject {
  private:
   BOOL CreateNative(const CREATESTRUCT& create, CWnd* family);
   BOOL FinishCreation(bool show);
+  void DestroyOwned();
   void DestroyChildren();
   void ReleaseNative();
   friend class coregui::NativeWindow;

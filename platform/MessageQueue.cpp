@@ -23,8 +23,8 @@ std::deque<PostedMessage>& Posted() {
   return queue;
 }
 
-std::vector<WindowRef>& Dirty() {
-  static std::vector<WindowRef> windows;
+std::deque<WindowRef>& Dirty() {
+  static std::deque<WindowRef> windows;
   return windows;
 }
 
@@ -104,16 +104,20 @@ void QueuePaintTree(CWnd& window) {
 }
 
 bool PaintPending() {
-  const std::vector<WindowRef> windows = std::exchange(Dirty(), {});
   bool any = false;
-  for (const WindowRef& window : windows) {
-    if (CWnd* alive = window.Get()) {
-      alive->State().update.queued = false;
+  // A paint handler may run a nested loop, which paints the windows that are still in the queue.
+  for (std::size_t count = Dirty().size(); count > 0 && !Dirty().empty(); --count) {
+    const WindowRef window = Dirty().front();
+    Dirty().pop_front();
+    if (!Dirty().empty()) {
+      WakeForPaint();
     }
-  }
-  for (const WindowRef& window : windows) {
     CWnd* alive = window.Get();
-    if (alive == nullptr || !CanPaint(*alive)) {
+    if (alive == nullptr) {
+      continue;
+    }
+    alive->State().update.queued = false;
+    if (!CanPaint(*alive)) {
       continue;
     }
     any = true;

@@ -89,13 +89,63 @@ TEST(Dialog, EndsWithItsWindowItsObjectOrTheProgram) {
   auto object = std::make_unique<FormDialog>();
   object->shown = [&] { object.reset(); };
   EXPECT_EQ(object.get()->DoModal(), IDCANCEL);
+  LogWindow owner;
+  ASSERT_TRUE(owner.Open());
+  FormDialog owned(&owner);
+  owned.shown = [&] { owner.DestroyWindow(); };
+  EXPECT_EQ(owned.DoModal(), IDCANCEL);
   CWinApp app;
   FormDialog inner;
   FormDialog outer;
-  outer.shown = [&] { EXPECT_EQ(inner.DoModal(), IDCANCEL); };
+  outer.shown = [&] {
+    EXPECT_EQ(inner.DoModal(), IDCANCEL);
+    EXPECT_EQ(inner.DoModal(), IDCANCEL) << "the program quits: none opens any more";
+  };
   inner.shown = [] { PostQuitMessage(3); };
   EXPECT_EQ(outer.DoModal(), IDCANCEL);
   EXPECT_EQ(app.Main(), 3);
+}
+
+TEST(Dialog, OpenedByAPaintTheOtherWindowsArePaintedMeanwhile) {
+  LogWindow first;
+  LogWindow other;
+  ASSERT_TRUE(first.Open());
+  ASSERT_TRUE(other.Open());
+  FormDialog dialog(&first);
+  bool open = false;
+  int paints = 0;
+  dialog.shown = [&] {
+    CWinApp::PumpPending();
+    EXPECT_EQ(paints, 1);
+    dialog.EndDialog(IDOK);
+  };
+  first.onMessage = [&](UINT message) {
+    if (message != WM_PAINT || std::exchange(open, true)) return;
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+  };
+  other.onMessage = [&paints](UINT message) { paints += message == WM_PAINT ? 1 : 0; };
+  CWinApp::PumpPending();
+  EXPECT_TRUE(open);
+  EXPECT_EQ(paints, 1);
+}
+
+TEST(Dialog, OpenedByAPressItHasTheMouseThatWasCaptured) {
+  LogWindow owner;
+  ASSERT_TRUE(owner.Open());
+  FormDialog dialog(&owner);
+  dialog.shown = [&] {
+    dialog.first.TakeLog();
+    QTest::mouseClick(WidgetOf(&dialog.first), Qt::LeftButton, Qt::NoModifier, QPoint(3, 4));
+    EXPECT_EQ(dialog.first.TakeLog(), "201 1 3,4;202 0 3,4;");
+    dialog.EndDialog(IDOK);
+  };
+  owner.onMessage = [&](UINT message) {
+    if (message != WM_LBUTTONDOWN) return;
+    owner.SetCapture();
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+  };
+  QTest::mouseClick(WidgetOf(&owner), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+  EXPECT_EQ(CWnd::GetCapture(), nullptr);
 }
 
 TEST(Dialog, TabGoesRoundTheStopsInTheOrderOfCreation) {

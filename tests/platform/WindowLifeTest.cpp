@@ -106,7 +106,8 @@ class WindowEnd : public testing::TestWithParam<EndRow> {};
 
 /// In the middle of a real press, a real key and a message, the window or its parent goes.
 TEST_P(WindowEnd, InItsOwnHandlerIsSafe) {
-  for (const UINT when : {WM_LBUTTONDOWN, WM_KEYDOWN, WM_CHAR, WM_MOUSEWHEEL, WM_SETFOCUS, WM_DESTROY}) {
+  for (const UINT when :
+       {WM_LBUTTONDOWN, WM_KEYDOWN, WM_CHAR, WM_MOUSEWHEEL, WM_SETFOCUS, WM_SIZE, WM_PAINT, WM_DESTROY}) {
     auto parent = std::make_unique<LogWindow>();
     auto child = std::make_unique<LogWindow>();
     ASSERT_TRUE(parent->Open());
@@ -133,6 +134,13 @@ TEST_P(WindowEnd, InItsOwnHandlerIsSafe) {
         break;
       case WM_DESTROY:
         parent->DestroyWindow();
+        break;
+      case WM_SIZE:
+        child->MoveWindow(0, 0, 60, 40);
+        break;
+      case WM_PAINT:
+        child->Invalidate();
+        CWinApp::PumpPending();
         break;
       case WM_MOUSEWHEEL:
         child->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 120), 0);
