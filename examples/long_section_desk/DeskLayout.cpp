@@ -10,24 +10,26 @@ constexpr double kLeast = 0.1;
 
 }  // namespace
 
-void DeskLayout::Arrange(CSize client, int statusHeight, int barThickness) {
+void DeskLayout::Arrange(CSize client, int commandsHeight, int statusHeight, int barThickness) {
   const LONG width = std::max<LONG>(client.cx, 0);
-  const LONG height = std::max<LONG>(client.cy - statusHeight, 0);
-  status = CRect(0, height, width, std::max<LONG>(client.cy, 0));
+  const LONG bottom = std::max<LONG>(client.cy - statusHeight, 0);
+  const LONG top = std::min<LONG>(commandsHeight, bottom);
+  commands = CRect(0, 0, width, top);
+  status = CRect(0, bottom, width, std::max<LONG>(client.cy, 0));
   if (!hasPlots) {
-    grid = CRect(0, 0, width, height);
+    grid = CRect(0, top, width, bottom);
     bar = section = plotBar = difference = CRect();
     return;
   }
   const LONG split = static_cast<LONG>(width * gridShare);
   const LONG right = std::min<LONG>(split + barThickness, width);
-  grid = CRect(0, 0, split, height);
-  bar = CRect(split, 0, right, height);
-  const LONG plotSplit = static_cast<LONG>(height * sectionShare);
-  const LONG lower = std::min<LONG>(plotSplit + barThickness, height);
-  section = CRect(right, 0, width, plotSplit);
+  grid = CRect(0, top, split, bottom);
+  bar = CRect(split, top, right, bottom);
+  const LONG plotSplit = top + static_cast<LONG>((bottom - top) * sectionShare);
+  const LONG lower = std::min<LONG>(plotSplit + barThickness, bottom);
+  section = CRect(right, top, width, plotSplit);
   plotBar = CRect(right, plotSplit, width, lower);
-  difference = CRect(right, lower, width, height);
+  difference = CRect(right, lower, width, bottom);
 }
 
 void DeskLayout::MoveBar(int pixels) {

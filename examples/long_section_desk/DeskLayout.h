@@ -11,6 +11,7 @@ struct DeskLayout {
   double sectionShare = 0.74;  ///< of the height of the plots
   bool hasPlots = true;        ///< without plots the grid takes all
 
+  CRect commands;
   CRect grid;
   CRect bar;
   CRect section;
@@ -19,7 +20,7 @@ struct DeskLayout {
   CRect status;
 
   /// Fills the rectangles; none is ever wider or taller than the client, and none has a negative size.
-  void Arrange(CSize client, int statusHeight, int barThickness);
+  void Arrange(CSize client, int commandsHeight, int statusHeight, int barThickness);
   /// Moves a bar by pixels, within bounds that leave every pane something.
   void MoveBar(int pixels);
   void MovePlotBar(int pixels);

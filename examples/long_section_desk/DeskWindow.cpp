@@ -17,9 +17,13 @@ std::wstring FileName(const std::wstring& path) {
 }  // namespace
 
 const DeskWindow::Command DeskWindow::kCommands[] = {
-    {'O', true, &DeskWindow::OpenWithDialog},     {'P', true, &DeskWindow::PrintWithDialog},
-    {'Q', true, &DeskWindow::QuitCommand},        {VK_F2 + 1, false, &DeskWindow::LookBack},
-    {VK_F2 + 2, false, &DeskWindow::LookForward},
+    {110, 'O', true, L"&Open...", &DeskWindow::OpenWithDialog},
+    {111, 'P', true, L"&Print to PDF...", &DeskWindow::PrintWithDialog},
+    {112, VK_F2, false, L"&Fit", &DeskWindow::Fit},
+    {113, VK_F3, false, L"&Back", &DeskWindow::LookBack},
+    {114, VK_F4, false, L"For&ward", &DeskWindow::LookForward},
+    {115, 'C', true, nullptr, &DeskWindow::CopyCells},
+    {116, 'Q', true, nullptr, &DeskWindow::QuitCommand},
 };
 
 DeskWindow::DeskWindow()
@@ -41,7 +45,14 @@ BOOL DeskWindow::CreateDesk(CSize size) {
     return FALSE;
   }
   const CRect client = GetClientRectangle();
-  if (!m_grid.CreateGrid(WS_CHILD | WS_VISIBLE, client, this, kGridId) || !m_status.CreateLine(this) ||
+  std::vector<BarCommand> buttons;
+  for (const Command& command : kCommands) {
+    if (command.text != nullptr) {
+      buttons.push_back({command.id, command.text});
+    }
+  }
+  if (!m_commands.CreateBar(this, buttons) ||
+      !m_grid.CreateGrid(WS_CHILD | WS_VISIBLE, client, this, kGridId) || !m_status.CreateLine(this) ||
       !m_bar.CreateBar(this, kBarId) || !m_plotBar.CreateBar(this, kPlotBarId) ||
       !m_section.Create(CRect(0, 0, 10, 10), this, kSectionId) ||
       !m_difference.Create(CRect(0, 0, 10, 10), this, kDifferenceId)) {
@@ -51,6 +62,7 @@ BOOL DeskWindow::CreateDesk(CSize size) {
   m_section.SetAccessibleName(L"Long-section");
   m_difference.SetAccessibleName(L"Difference of ground and design");
   m_grid.SetRowHook([this](long row) { FollowRow(row); });
+  m_grid.SetOrderHook([this] { m_data = TakeSection(m_grid); });
   m_section.SetFuncHook(&DeskWindow::OnViewEvent);
   m_section.SetSlaveView(&m_difference);
   m_layout.hasPlots = false;
@@ -86,6 +98,10 @@ void DeskWindow::ShowSection() {
   m_difference.Show(m_data);
   m_section.Show(m_data);
   m_difference.FitAgain(m_section);
+  m_commands.ShowExaggeration(m_section.GetExaggeration());
+  for (const UINT id : {111U, 112U, 113U, 114U, CommandBar::kExaggerationId}) {
+    m_commands.EnableCommand(id, m_layout.hasPlots);
+  }
   FollowRow(m_grid.GetCurrentRow());
 }
 
@@ -122,33 +138,42 @@ void DeskWindow::OnViewEvent(PNT_2D_record const& position, EVENT_TYPE event, ch
 
 /// The row nearest to the pointer becomes the table's current one, and the status line reads it out.
 void DeskWindow::FollowPointer(PNT_2D_record const& position) {
-  const long row = m_data.NearestRow(position.x);
-  if (row < 0 || m_following) {
+  const long point = m_data.NearestPoint(position.x);
+  if (point < 0 || m_following) {
     return;
   }
+  const auto index = static_cast<std::size_t>(point);
   m_following = true;
-  m_grid.GotoRow(row);
-  m_section.Mark(m_data.ChainageOf(row));
-  m_difference.Mark(m_data.ChainageOf(row));
+  m_grid.GotoRow(m_data.rows[index]);
   m_following = false;
-  const auto index = static_cast<std::size_t>(row);
+  MarkChainage(m_data.ground[index].x);
   CString text = CString(L"Station ") +
-                 coregui::FormatPlotNumber(m_data.chainages[index], 0.001, PlotNumberFormat::chainage, 3) +
-                 CString::Formatted(L"   ground %.3f", m_data.ground[index].y);
+                 coregui::FormatPlotNumber(m_data.ground[index].x, 0.001, PlotNumberFormat::chainage, 3);
+  const auto append = [&text](const wchar_t* name, double value) {
+    if (std::isfinite(value)) {
+      text += CString::Formatted(L"   %s %.3f", name, value);
+    }
+  };
+  append(L"ground", m_data.ground[index].y);
   if (!m_data.design.empty()) {
+    append(L"design", m_data.design[index].y);
     const double difference = m_data.difference[index].y;
-    text += CString::Formatted(L"   design %.3f   %s %.3f", m_data.design[index].y,
-                               difference < 0.0 ? L"fill" : L"cut", std::abs(difference));
+    append(difference < 0.0 ? L"fill" : L"cut", std::abs(difference));
   }
-  text += CString::Formatted(L"   pointer at level %.3f", position.y);
+  append(L"pointer at level", position.y);
   m_status.Show(text.Str());
 }
 
 void DeskWindow::FollowRow(long row) {
-  if (!m_following && m_layout.hasPlots) {
-    m_section.Mark(m_data.ChainageOf(row));
-    m_difference.Mark(m_data.ChainageOf(row));
+  double chainage = 0.0;
+  if (!m_following && m_layout.hasPlots && m_grid.NumberAt(m_data.columns.chainage, row, chainage)) {
+    MarkChainage(chainage);
   }
+}
+
+void DeskWindow::MarkChainage(double chainage) {
+  m_section.Mark(chainage);
+  m_difference.Mark(chainage);
 }
 
 bool DeskWindow::PrintToPdf(const std::wstring& path) {
@@ -187,6 +212,7 @@ const coregui::MessageTable& DeskWindow::GetMessageTable() const {
                                                  .On<WM_SIZE>(&DeskWindow::HandleSize)
                                                  .On<WM_SETFOCUS>(&DeskWindow::HandleSetFocus)
                                                  .On<WM_CLOSE>(&DeskWindow::HandleClose)
+                                                 .OnMessage(WM_COMMAND, &DeskWindow::HandleCommand)
                                                  .OnMessage(WM_THEMECHANGED, &DeskWindow::HandleColours);
   return table;
 }
@@ -208,7 +234,9 @@ void DeskWindow::ArrangePanes() {
   if (!m_status.HasWindow() || !m_difference.HasWindow()) {
     return;
   }
-  m_layout.Arrange(GetClientRectangle().Size(), StatusLine::Height(), Splitter::Thickness());
+  m_layout.Arrange(GetClientRectangle().Size(), CommandBar::Height(), StatusLine::Height(),
+                   Splitter::Thickness());
+  m_commands.MoveWindow(m_layout.commands);
   m_grid.MoveWindow(m_layout.grid);
   m_status.MoveWindow(m_layout.status);
   if (m_layout.hasPlots) {
@@ -218,6 +246,27 @@ void DeskWindow::ArrangePanes() {
     m_difference.MoveWindow(m_layout.difference);
     m_section.FitAgain();
     m_difference.FitAgain(m_section);
+  }
+}
+
+LRESULT DeskWindow::HandleCommand(WPARAM wParam, LPARAM /*lParam*/) {
+  const UINT id = LOWORD(wParam);
+  if (id == CommandBar::kExaggerationId && HIWORD(wParam) == CBN_SELCHANGE) {
+    TakeExaggeration();
+    return 0;
+  }
+  for (const Command& command : kCommands) {
+    if (command.id == id && HIWORD(wParam) == BN_CLICKED) {
+      (this->*command.run)();
+      return 0;
+    }
+  }
+  return 0;
+}
+
+void DeskWindow::TakeExaggeration() {
+  if (const double times = m_commands.GetExaggeration(); times > 0.0) {
+    m_section.SetExaggeration(times);
   }
 }
 

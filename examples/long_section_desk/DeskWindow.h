@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "CommandBar.h"
 #include "DeskLayout.h"
 #include "SectionData.h"
 #include "SectionView.h"
@@ -41,9 +42,12 @@ class DeskWindow : public CWnd, private SurveySink {
   BOOL PreTranslateMessage(MSG* message) override;
 
  private:
+  /// What a key or a button of the bar does.
   struct Command {
+    UINT id;
     UINT key;
     bool withControl;
+    const wchar_t* text;  ///< of the button; null: a key alone
     void (DeskWindow::*run)();
   };
   static const Command kCommands[];
@@ -56,6 +60,7 @@ class DeskWindow : public CWnd, private SurveySink {
                           CWnd* parent);
   void FollowPointer(PNT_2D_record const& position);
   void FollowRow(long row);
+  void MarkChainage(double chainage);
   void ArrangePanes();
   void ShowTitle();
   void ShowSection();
@@ -67,7 +72,12 @@ class DeskWindow : public CWnd, private SurveySink {
   void QuitCommand() { PostMessage(WM_CLOSE); }
   void LookBack() { m_section.GoBack(); }
   void LookForward() { m_section.GoForward(); }
+  void Fit() { m_section.Redraw(); }
+  void CopyCells() { m_grid.CopySelected(); }
+  void TakeExaggeration();
+  LRESULT HandleCommand(WPARAM wParam, LPARAM lParam);
 
+  CommandBar m_commands;
   SurveyGrid m_grid;
   SectionView m_section;
   DifferenceView m_difference;

@@ -91,13 +91,16 @@ SectionData TakeSection(SurveyGrid& grid) {
     double value = 0.0;
     return col >= 0 && grid.NumberAt(col, row, value) ? value : kNothing;
   };
-  const auto count = static_cast<std::size_t>(rows);
-  data.chainages.reserve(count);
-  data.ground.reserve(count);
+  std::vector<std::pair<double, long>> order;
   for (long row = 0; row < rows; ++row) {
-    const double chainage = number(data.columns.chainage, row);
+    if (const double chainage = number(data.columns.chainage, row); std::isfinite(chainage)) {
+      order.emplace_back(chainage, row);
+    }
+  }
+  std::sort(order.begin(), order.end());
+  for (const auto& [chainage, row] : order) {
     const double ground = number(data.columns.ground, row);
-    data.chainages.push_back(chainage);
+    data.rows.push_back(row);
     data.ground.push_back({chainage, ground});
     if (data.columns.design >= 0) {
       const double design = number(data.columns.design, row);
@@ -112,22 +115,19 @@ SectionData TakeSection(SurveyGrid& grid) {
   return data;
 }
 
-long SectionData::NearestRow(double chainage) const {
-  long nearest = -1;
-  double best = std::numeric_limits<double>::infinity();
-  for (std::size_t row = 0; row < chainages.size(); ++row) {
-    const double distance = std::abs(chainages[row] - chainage);
-    if (distance < best) {
-      best = distance;
-      nearest = static_cast<long>(row);
-    }
+long SectionData::NearestPoint(double chainage) const {
+  if (ground.empty() || !std::isfinite(chainage)) {
+    return -1;
   }
-  return nearest;
-}
-
-double SectionData::ChainageOf(long row) const {
-  return row >= 0 && row < static_cast<long>(chainages.size()) ? chainages[static_cast<std::size_t>(row)]
-                                                               : kNothing;
+  const auto after =
+      std::lower_bound(ground.begin(), ground.end(), chainage,
+                       [](const PNT_2D_record& point, double value) { return point.x < value; });
+  if (after == ground.begin()) {
+    return 0;
+  }
+  const auto before = after - 1;
+  const bool takeBefore = after == ground.end() || chainage - before->x <= after->x - chainage;
+  return static_cast<long>((takeBefore ? before : after) - ground.begin());
 }
 
 }  // namespace desk

@@ -19,22 +19,22 @@ struct SectionColumns {
 SectionColumns FindSectionColumns(const std::vector<std::wstring>& headings,
                                   const std::vector<bool>& numeric);
 
-/// The long-section of a survey: chainages with levels, taken from the table once.
+/// The long-section of a survey, in the order of its chainages, whatever the order of the table's rows.
 struct SectionData {
   SectionColumns columns;
-  std::vector<double> chainages;      ///< for each row; NaN where the table has no number
-  std::vector<PNT_2D_record> ground;  ///< one point a row; a gap (NaN) where a number is missing
-  std::vector<PNT_2D_record> design;
+  std::vector<long> rows;                 ///< for each point the row of the table
+  std::vector<PNT_2D_record> ground;      ///< y is NaN, a gap, where a level is missing
+  std::vector<PNT_2D_record> design;      ///< empty where the table has none
   std::vector<PNT_2D_record> difference;  ///< ground less design
   FRect extents;                          ///< around ground and design
   FRect differenceExtents;
 
   bool IsEmpty() const { return ground.empty(); }
-  /// The row whose chainage is nearest; -1 when there is none.
-  long NearestRow(double chainage) const;
-  double ChainageOf(long row) const;
+  /// The index of the point whose chainage is nearest; -1 when there is none.
+  long NearestPoint(double chainage) const;
 };
 
+/// Rows without a chainage are no part of the section.
 SectionData TakeSection(SurveyGrid& grid);
 
 }  // namespace desk

@@ -12,6 +12,8 @@ constexpr short kAlignCentreVertically = 0x20;
 constexpr long kFirstRows = 1024;
 constexpr long kRowsForFit = 500;
 constexpr int kWidestColumn = 420;
+constexpr int kDescending = 2;
+enum : int { kMenuCopy = 1, kMenuSortUp, kMenuSortDown };
 
 }  // namespace
 
@@ -23,10 +25,12 @@ void SurveyGrid::OnSetup() {
   SetMultiSelectMode(1);
   EnableExcelBorders(1);
   UseHints(1);
+  EnableMenu(1);
 }
 
 void SurveyGrid::BeginTable(const CsvDialect& dialect) {
   m_dialect = dialect;
+  m_longest.assign(dialect.headings.size(), Longest());
   EnableUpdate(0);
   SetNumberRows(0, 0);
   GetDataSource(0)->Empty();
@@ -42,6 +46,7 @@ void SurveyGrid::BeginTable(const CsvDialect& dialect) {
     }
     SetColDefault(col, &columnDefault);
     QuickSetText(col, -1, dialect.headings[column].c_str());
+    QuickSetAlignment(col, -1, columnDefault.GetAlignment());
   }
 }
 
@@ -62,6 +67,9 @@ void SurveyGrid::StoreRow(std::uint64_t row, const std::vector<std::wstring_view
       continue;
     }
     SetCell(static_cast<int>(column), gridRow, &m_cell);
+    if (fields[column].size() > m_longest[column].characters) {
+      m_longest[column] = {fields[column].size(), gridRow};
+    }
   }
 }
 
@@ -73,7 +81,8 @@ void SurveyGrid::EndTable(std::uint64_t rows) {
   SetSH_Width(ScaleByDpi(16 + 8 * widestNumber.GetLength()));
   BestFit(0, GetNumberCols() - 1, kRowsForFit);
   for (int col = 0; col < GetNumberCols(); ++col) {
-    SetColWidth(col, std::clamp(GetColWidth(col), ScaleByDpi(60), ScaleByDpi(kWidestColumn)));
+    const int wanted = std::max(GetColWidth(col), WidthOf(col, m_longest[static_cast<std::size_t>(col)].row));
+    SetColWidth(col, std::clamp(wanted, ScaleByDpi(60), ScaleByDpi(kWidestColumn)));
   }
   EnableUpdate(1);
   AdjustComponentSizes();
@@ -89,6 +98,43 @@ bool SurveyGrid::NumberAt(int col, long row, double& value) {
 void SurveyGrid::OnGetCell(int col, long row, CGridCell* cell) {
   if (col == -1 && row >= 0) {
     cell->SetText(CString::Formatted(L"%ld", row + 1));
+  }
+}
+
+int SurveyGrid::WidthOf(int col, long row) {
+  CWnd* body = GetGridWnd();
+  if (row < 0 || body == nullptr) {
+    return 0;
+  }
+  CString text;
+  QuickGetText(col, row, &text);
+  CClientDC dc(body);
+  dc.SelectObject(GetDefFont());
+  return dc.GetTextExtent(text, text.GetLength()).cx + 2 * GetMargin() + 1;
+}
+
+int SurveyGrid::OnMenuStart(int col, long /*row*/, int /*section*/) {
+  CMenu* menu = GetMenu();
+  while (menu->GetMenuItemCount() > 0) {
+    menu->DeleteMenu(0, MF_BYPOSITION);
+  }
+  menu->AppendMenu(MF_STRING, kMenuCopy, L"&Copy\tCtrl+C");
+  menu->AppendMenu(MF_SEPARATOR);
+  const UINT state = col >= 0 ? MF_ENABLED : MF_GRAYED;
+  menu->AppendMenu(MF_STRING | state, kMenuSortUp, L"Sort column &upwards");
+  menu->AppendMenu(MF_STRING | state, kMenuSortDown, L"Sort column &downwards");
+  return 1;
+}
+
+void SurveyGrid::OnMenuCommand(int col, long /*row*/, int /*section*/, int item) {
+  if (item == kMenuCopy) {
+    CopySelected();
+  } else if (col >= 0 && (item == kMenuSortUp || item == kMenuSortDown)) {
+    SortBy(col, item == kMenuSortDown ? kDescending : 0);
+    RedrawAll();
+    if (m_orderHook) {
+      m_orderHook();
+    }
   }
 }
 

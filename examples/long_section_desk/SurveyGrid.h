@@ -23,17 +23,31 @@ class SurveyGrid : public CGridCtrl {
   bool NumberAt(int col, long row, double& value);
   /// Called after the current row has changed.
   void SetRowHook(std::function<void(long)> hook) { m_rowHook = std::move(hook); }
+  /// Called after the rows were put into another order.
+  void SetOrderHook(std::function<void()> hook) { m_orderHook = std::move(hook); }
   const CsvDialect& Dialect() const { return m_dialect; }
 
  protected:
   void OnSetup() override;
   void OnGetCell(int col, long row, CGridCell* cell) override;
   void OnRowChange(long oldRow, long newRow) override;
+  int OnMenuStart(int col, long row, int section) override;
+  void OnMenuCommand(int col, long row, int section, int item) override;
 
  private:
+  /// The row whose field is the longest of its column, as far as characters tell.
+  struct Longest {
+    std::size_t characters = 0;
+    long row = -1;
+  };
+
+  int WidthOf(int col, long row);
+
   CsvDialect m_dialect;
   std::function<void(long)> m_rowHook;
-  CGridCell m_cell;  ///< reused for every stored cell
+  std::function<void()> m_orderHook;
+  std::vector<Longest> m_longest;  ///< for each column
+  CGridCell m_cell;                ///< reused for every stored cell
 };
 
 }  // namespace desk

@@ -1,0 +1,113 @@
+#include "DeskWindow.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+
+namespace {
+
+class Desk : public testing::Test {
+ protected:
+  Desk() : folder(std::filesystem::temp_directory_path() / ("deskwindow" + std::to_string(::getpid()))) {
+    std::filesystem::create_directories(folder);
+    EXPECT_TRUE(window.CreateDesk(CSize(1000, 700)));
+  }
+  ~Desk() override {
+    window.DestroyWindow();
+    std::filesystem::remove_all(folder);
+  }
+
+  std::wstring Write(const std::string& name, const std::string& bytes) {
+    std::ofstream(folder / name, std::ios::binary) << bytes;
+    return (folder / name).wstring();
+  }
+  CString Text(int col, long row) {
+    CString text;
+    window.Grid().QuickGetText(col, row, &text);
+    return text;
+  }
+
+  std::filesystem::path folder;
+  desk::DeskWindow window;
+};
+
+TEST_F(Desk, ShowsATableWithItsOwnDecimalsAndHeadings) {
+  ASSERT_TRUE(window.Open(Write("a.csv", "Chainage,Level,Remark\n0,101.50,nail\n1200.5,99.25,\n")));
+  EXPECT_EQ(window.Grid().GetNumberRows(), 2);
+  EXPECT_EQ(Text(1, -1), L"Level");
+  EXPECT_EQ(Text(0, 1), L"1,200.5");
+  EXPECT_EQ(Text(1, 1), L"99.25");
+  EXPECT_EQ(Text(-1, 1), L"2");
+  EXPECT_EQ(window.GetWindowTextString(), L"a.csv (2 rows) - Long-section desk");
+  EXPECT_EQ(window.StatusText(), L"a.csv: 2 rows in 3 columns");
+  EXPECT_TRUE(window.Section().HasData());
+}
+
+TEST_F(Desk, KeepsItsTableWhenAnotherFileCannotBeRead) {
+  ASSERT_TRUE(window.Open(Write("a.csv", "Chainage,Level\n0,101.50\n")));
+  EXPECT_FALSE(window.Open((folder / "missing.csv").wstring()));
+  EXPECT_FALSE(window.Open(Write("empty.csv", "")));
+  EXPECT_EQ(Text(1, 0), L"101.50");
+  EXPECT_NE(window.StatusText().find(L"The file is empty."), std::wstring::npos);
+  EXPECT_EQ(window.GetWindowTextString(), L"empty.csv (not read) - Long-section desk");
+}
+
+TEST_F(Desk, ATextTableHasNoSection) {
+  ASSERT_TRUE(window.Open(Write("words.csv", "a,b\nx,y\n")));
+  EXPECT_FALSE(window.Section().HasData());
+  EXPECT_FALSE(window.PrintToPdf((folder / "none.pdf").wstring()));
+}
+
+TEST_F(Desk, PrintsTheSection) {
+  ASSERT_TRUE(
+      window.Open(Write("a.csv", "Chainage,Ground level,Design level\n0,100,101\n10,102,101\n20,101,101\n")));
+  ASSERT_TRUE(window.PrintToPdf((folder / "a.pdf").wstring()));
+  EXPECT_GT(std::filesystem::file_size(folder / "a.pdf"), 1000U);
+  EXPECT_FALSE(window.PrintToPdf((folder / "no folder" / "a.pdf").wstring()));
+}
+
+TEST_F(Desk, TheSectionRunsAlongTheChainageWhateverTheOrderOfRows) {
+  ASSERT_TRUE(window.Open(Write("a.csv", "Level,Chainage\n103,30\n101,10\n,20\n104,\n")));
+  const desk::SectionData data = desk::TakeSection(window.Grid());
+  EXPECT_EQ(data.rows, std::vector<long>({1, 2, 0}));
+  EXPECT_TRUE(std::isnan(data.ground[1].y));
+  EXPECT_EQ(data.NearestPoint(-5.0), 0);
+  EXPECT_EQ(data.NearestPoint(24.0), 1);
+  EXPECT_EQ(data.NearestPoint(26.0), 2);
+  EXPECT_EQ(data.NearestPoint(99.0), 2);
+  EXPECT_EQ(data.NearestPoint(std::nan("")), -1);
+}
+
+TEST(SectionColumns, AreFoundByTheirNames) {
+  const auto find = [](std::vector<std::wstring> headings) {
+    const desk::SectionColumns columns =
+        desk::FindSectionColumns(headings, std::vector<bool>(headings.size(), true));
+    return std::vector<int>({columns.chainage, columns.ground, columns.design});
+  };
+  EXPECT_EQ(find({L"Design level", L"X", L"Ground level", L"Chainage"}), std::vector<int>({3, 2, 0}));
+  EXPECT_EQ(find({L"Station", L"H\u00F6he"}), std::vector<int>({0, 1, -1}));
+  EXPECT_EQ(find({L"Column 1", L"Column 2"}), std::vector<int>({0, 1, -1}));
+  EXPECT_EQ(find({L"Column 1"}), std::vector<int>({0, -1, -1}));
+}
+
+TEST(DeskLayout, NoPaneIsEverTurnedInsideOut) {
+  for (const CSize size : {CSize(0, 0), CSize(3, 2), CSize(40, 60), CSize(1280, 800)}) {
+    desk::DeskLayout layout;
+    layout.Arrange(size, 34, 24, 5);
+    layout.MoveBar(-5000);
+    layout.MovePlotBar(5000);
+    layout.Arrange(size, 34, 24, 5);
+    for (const CRect& pane : {layout.commands, layout.grid, layout.bar, layout.section, layout.plotBar,
+                              layout.difference, layout.status}) {
+      EXPECT_GE(pane.Width(), 0);
+      EXPECT_GE(pane.Height(), 0);
+      EXPECT_LE(pane.right, size.cx);
+      EXPECT_LE(pane.bottom, size.cy);
+    }
+  }
+}
+
+}  // namespace
