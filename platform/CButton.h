@@ -28,4 +28,6 @@ class COREGUI_API CButton : public CWnd {
 
  protected:
   std::unique_ptr<coregui::NativeWindow> MakeNative(const CREATESTRUCT& create) override;
+  /// A person (or Click) pressed it. The default notifies the parent with BN_CLICKED.
+  virtual void OnPressed();
 };

@@ -24,4 +24,6 @@ class COREGUI_API CSliderCtrl : public CWnd {
 
  protected:
   std::unique_ptr<coregui::NativeWindow> MakeNative(const CREATESTRUCT& create) override;
+  /// A person moved it; the parent hears of it afterwards. The default does nothing.
+  virtual void OnMoved(int position);
 };

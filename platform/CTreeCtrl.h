@@ -22,6 +22,15 @@ inline constexpr int TVN_ITEMCHECKED = 3;
 inline constexpr int TVN_ENDLABELEDIT = 4;
 inline constexpr int TVN_DBLCLK = 5;
 
+/// How an item looks.
+struct TreeItemLook {
+  static constexpr COLORREF kThemeColour = 0xFFFFFFFF;  ///< no colour of its own: follows the theme
+  COLORREF text = kThemeColour;
+  COLORREF ground = kThemeColour;
+  bool bold = false;
+  bool checkBox = false;  ///< has a check box, also without TVS_CHECKBOXES
+};
+
 /// A tree of texts.
 class COREGUI_API CTreeCtrl : public CWnd {
  public:
@@ -53,5 +62,8 @@ class COREGUI_API CTreeCtrl : public CWnd {
   void EnsureVisible(HTREEITEM item);
 
  protected:
+  void SetItemLook(HTREEITEM item, const TreeItemLook& look);
+  /// A grey text in the middle of a tree without items, which a screen reader speaks too.
+  void SetEmptyText(const wchar_t* text);
   std::unique_ptr<coregui::NativeWindow> MakeNative(const CREATESTRUCT& create) override;
 };

@@ -5,7 +5,8 @@
 #include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
-#include <algorithm>
+#include <functional>
+#include <utility>
 
 #include "platform/qt/Application.h"
 #include "platform/qt/ControlWindow.h"
@@ -20,8 +21,9 @@ constexpr DWORD kKindMask = 0xF;
 /// Any kind of button but the group's frame.
 class ButtonWindow : public ControlWindow {
  public:
-  ButtonWindow(CWnd& window, const CREATESTRUCT& create)
+  ButtonWindow(CWnd& window, const CREATESTRUCT& create, std::function<void()> pressed)
       : ControlWindow(window, create, MakeWidget(create.style & kKindMask)),
+        m_pressed(std::move(pressed)),
         m_kind(create.style & kKindMask) {
     Button().setText(ToQt(create.name));
     if (m_kind == BS_AUTORADIOBUTTON) JoinGroup(create);
@@ -110,12 +112,13 @@ class ButtonWindow : public ControlWindow {
   void NoteClick() {
     if (m_kind == BS_CHECKBOX) SetBack();
     m_state = Check();
-    Notify(BN_CLICKED);
+    if (Window().HasWindow()) m_pressed();
   }
 
   /// A box that the program checks shows what the program set.
   void SetBack() { static_cast<QCheckBox&>(Button()).setChecked(m_state != BST_UNCHECKED); }
 
+  std::function<void()> m_pressed;
   DWORD m_kind;  ///< BS_ value it was made with; a dialog changes the style's default bit
   std::shared_ptr<QButtonGroup> m_group;
   int m_state = BST_UNCHECKED;
@@ -143,7 +146,11 @@ BOOL CButton::Create(const wchar_t* text, DWORD style, const RECT& rect, CWnd* p
 std::unique_ptr<coregui::NativeWindow> CButton::MakeNative(const CREATESTRUCT& create) {
   coregui::EnsureApplication();
   if ((create.style & kKindMask) == BS_GROUPBOX) return std::make_unique<GroupWindow>(*this, create);
-  return std::make_unique<ButtonWindow>(*this, create);
+  return std::make_unique<ButtonWindow>(*this, create, [this] { OnPressed(); });
+}
+
+void CButton::OnPressed() {
+  NotifyParent(BN_CLICKED);
 }
 
 int CButton::GetCheck() const {

@@ -1,6 +1,8 @@
 #include "platform/CSliderCtrl.h"
 
 #include <QSlider>
+#include <functional>
+#include <utility>
 
 #include "platform/qt/Application.h"
 #include "platform/qt/ControlWindow.h"
@@ -9,10 +11,11 @@ namespace {
 
 class SliderWindow : public coregui::ControlWindow {
  public:
-  SliderWindow(CWnd& window, const CREATESTRUCT& create)
+  SliderWindow(CWnd& window, const CREATESTRUCT& create, std::function<void(int)> moved)
       : ControlWindow(
             window, create,
-            std::make_unique<QSlider>((create.style & TBS_VERT) != 0 ? Qt::Vertical : Qt::Horizontal)) {
+            std::make_unique<QSlider>((create.style & TBS_VERT) != 0 ? Qt::Vertical : Qt::Horizontal)),
+        m_moved(std::move(moved)) {
     Slider().setRange(0, 100);
     Slider().setPageStep(20);
     if ((create.style & TBS_AUTOTICKS) != 0) Slider().setTickPosition(QSlider::TicksBelow);
@@ -46,7 +49,8 @@ class SliderWindow : public coregui::ControlWindow {
   }
   void NoteMove() {
     const QPointer<QObject> self(this);
-    Tell(Code());
+    m_moved(Slider().value());
+    if (self) Tell(Code());
     if (self && !Slider().isSliderDown()) Tell(SB_ENDSCROLL);
   }
   void NoteRelease() {
@@ -60,6 +64,7 @@ class SliderWindow : public coregui::ControlWindow {
     parent->SendMessage((Window().GetStyle() & TBS_VERT) != 0 ? WM_VSCROLL : WM_HSCROLL,
                         MAKEWPARAM(code, Slider().value()), reinterpret_cast<LPARAM>(Window().GetSafeHwnd()));
   }
+  std::function<void(int)> m_moved;
   int m_action = QAbstractSlider::SliderNoAction;
 };
 
@@ -76,8 +81,10 @@ BOOL CSliderCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
 
 std::unique_ptr<coregui::NativeWindow> CSliderCtrl::MakeNative(const CREATESTRUCT& create) {
   coregui::EnsureApplication();
-  return std::make_unique<SliderWindow>(*this, create);
+  return std::make_unique<SliderWindow>(*this, create, [this](int position) { OnMoved(position); });
 }
+
+void CSliderCtrl::OnMoved(int /*position*/) {}
 
 void CSliderCtrl::SetRange(int minimum, int maximum, BOOL /*redraw*/) {
   if (auto* slider = SliderOf(*this)) {

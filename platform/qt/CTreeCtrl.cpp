@@ -1,5 +1,6 @@
 #include "platform/CTreeCtrl.h"
 
+#include <QPainter>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 
@@ -10,10 +11,34 @@ namespace {
 
 constexpr int kData = Qt::UserRole;
 
+/// The toolkit's tree, which shows a text while it is empty.
+class TreeWidget : public QTreeWidget {
+ public:
+  void SetEmptyText(const QString& text) {
+    m_emptyText = text;
+    setAccessibleDescription(text);
+    viewport()->update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QTreeWidget::paintEvent(event);
+    if (topLevelItemCount() > 0 || m_emptyText.isEmpty()) return;
+    constexpr int kMargin = 8;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect().adjusted(kMargin, kMargin, -kMargin, -kMargin),
+                     Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
+  }
+
+ private:
+  QString m_emptyText;
+};
+
 class TreeWindow : public coregui::ControlWindow {
  public:
   TreeWindow(CWnd& window, const CREATESTRUCT& create)
-      : ControlWindow(window, create, std::make_unique<QTreeWidget>()) {
+      : ControlWindow(window, create, std::make_unique<TreeWidget>()) {
     Tree().setHeaderHidden(true);
     Tree().setFrameShape((create.style & WS_BORDER) != 0 ? QFrame::StyledPanel : QFrame::NoFrame);
     WatchViewport(Tree());
@@ -23,13 +48,13 @@ class TreeWindow : public coregui::ControlWindow {
     connect(&Tree(), &QTreeWidget::itemDoubleClicked, this, [this] { Notify(TVN_DBLCLK); });
     connect(&Tree(), &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item) { NoteChange(*item); });
   }
-  QTreeWidget& Tree() const { return static_cast<QTreeWidget&>(*GetWidget()); }
+  TreeWidget& Tree() const { return static_cast<TreeWidget&>(*GetWidget()); }
   bool quiet = false;  ///< a change by code
 
  private:
   void NoteChange(const QTreeWidgetItem& item) {
     if (quiet) return;
-    const bool checks = (Window().GetStyle() & TVS_CHECKBOXES) != 0;
+    const bool checks = item.data(0, Qt::CheckStateRole).isValid();
     const bool wasChecked = item.data(0, kData + 1).toBool();
     const bool isChecked = item.checkState(0) == Qt::Checked;
     quiet = true;
@@ -209,4 +234,33 @@ BOOL CTreeCtrl::IsExpanded(HTREEITEM item) const {
 void CTreeCtrl::EnsureVisible(HTREEITEM item) {
   auto* tree = TreeOf(*this);
   if (tree != nullptr && item != nullptr) tree->scrollToItem(ToItem(item));
+}
+
+void CTreeCtrl::SetItemLook(HTREEITEM item, const TreeItemLook& look) {
+  auto* native = NativeTree(*this);
+  if (native == nullptr || item == nullptr) return;
+  const auto brush = [](COLORREF colour) {
+    return colour == TreeItemLook::kThemeColour
+               ? QVariant()
+               : QVariant(QBrush(QColor(GetRValue(colour), GetGValue(colour), GetBValue(colour))));
+  };
+  QTreeWidgetItem& row = *ToItem(item);
+  native->quiet = true;
+  row.setData(0, Qt::ForegroundRole, brush(look.text));
+  row.setData(0, Qt::BackgroundRole, brush(look.ground));
+  QFont font;
+  font.setBold(look.bold);
+  row.setData(0, Qt::FontRole, look.bold ? QVariant(font) : QVariant());
+  const bool checks = look.checkBox || (GetStyle() & TVS_CHECKBOXES) != 0;
+  if (!checks) {
+    row.setData(0, Qt::CheckStateRole, QVariant());
+    row.setData(0, kData + 1, false);
+  } else if (!row.data(0, Qt::CheckStateRole).isValid()) {
+    row.setCheckState(0, Qt::Unchecked);
+  }
+  native->quiet = false;
+}
+
+void CTreeCtrl::SetEmptyText(const wchar_t* text) {
+  if (auto* native = NativeTree(*this)) native->Tree().SetEmptyText(coregui::ToQt(text));
 }
