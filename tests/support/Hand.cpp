@@ -1,0 +1,149 @@
+#include "tests/support/Hand.h"
+
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QDropEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QWidget>
+
+#include "platform/WindowRef.h"
+#include "platform/qt/interop.h"
+
+namespace coregui::test {
+namespace {
+
+int ToQtKey(UINT key) {
+  switch (key) {
+    case VK_RETURN:
+      return Qt::Key_Return;
+    case VK_ESCAPE:
+      return Qt::Key_Escape;
+    case VK_BACK:
+      return Qt::Key_Backspace;
+    case VK_TAB:
+      return Qt::Key_Tab;
+    case VK_UP:
+      return Qt::Key_Up;
+    case VK_DOWN:
+      return Qt::Key_Down;
+    case VK_LEFT:
+      return Qt::Key_Left;
+    case VK_RIGHT:
+      return Qt::Key_Right;
+    case VK_HOME:
+      return Qt::Key_Home;
+    case VK_END:
+      return Qt::Key_End;
+    case VK_INSERT:
+      return Qt::Key_Insert;
+    case VK_SPACE:
+      return Qt::Key_Space;
+    default:
+      return static_cast<int>(key);  // letters and digits
+  }
+}
+
+QString TextOf(UINT key, bool control) {
+  if (key == VK_RETURN) return "\r";
+  if (key == VK_BACK) return "\b";
+  if (key == VK_ESCAPE) return "\x1b";
+  if (key == VK_SPACE) return " ";
+  if (key < '0' || key > 'Z') return {};
+  return {QChar(control ? static_cast<char16_t>(key & 0x1F) : static_cast<char16_t>(key))};
+}
+
+void GiveKey(CWnd& window, int key, Qt::KeyboardModifiers modifiers, const QString& text) {
+  const WindowRef life(&window);
+  for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QWidget* widget = life ? WidgetOf(&window) : nullptr;
+    if (widget == nullptr) return;
+    QKeyEvent event(type, key, modifiers, text);
+    QApplication::sendEvent(widget, &event);
+  }
+}
+
+QImage Picture(CWnd& window) {
+  return WidgetOf(&window)->grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+}  // namespace
+
+void PressKey(CWnd& window, UINT key, bool control, bool shift) {
+  Qt::KeyboardModifiers modifiers;
+  modifiers.setFlag(Qt::ControlModifier, control);
+  modifiers.setFlag(Qt::ShiftModifier, shift);
+  GiveKey(window, ToQtKey(key), modifiers, TextOf(key, control));
+}
+
+void TypeKeys(CWnd& window, const wchar_t* text) {
+  for (const QChar character : QString::fromWCharArray(text)) {
+    GiveKey(window, character.toUpper().unicode(), {}, QString(character));
+  }
+}
+
+void CommitText(CWnd& window, const wchar_t* text) {
+  QInputMethodEvent event(QString(), {});
+  event.setCommitString(QString::fromWCharArray(text));
+  QApplication::sendEvent(WidgetOf(&window), &event);
+}
+
+void DropText(CWnd& window, const wchar_t* text) {
+  QWidget* widget = WidgetOf(&window);
+  QMimeData data;
+  data.setText(QString::fromWCharArray(text));
+  const QPoint at(widget->width() - 3, widget->height() / 2);
+  QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(widget, &enter);
+  QDropEvent drop(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(widget, &drop);
+}
+
+void Click(CWnd& window) {
+  const CRect client = window.GetClientRectangle();
+  ClickAt(window, CPoint(client.Width() / 2, client.Height() / 2));
+}
+
+void ClickAt(CWnd& window, CPoint at) {
+  const WindowRef life(&window);
+  const QPointF place(at.x, at.y);
+  for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+    QWidget* widget = life ? WidgetOf(&window) : nullptr;
+    if (widget == nullptr) return;
+    auto* area = qobject_cast<QAbstractScrollArea*>(widget);
+    QWidget* receiver = area == nullptr ? widget : area->viewport();
+    const bool press = type == QEvent::MouseButtonPress;
+    QMouseEvent event(type, place, receiver->mapToGlobal(place), Qt::LeftButton,
+                      press ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(receiver, &event);
+  }
+}
+
+COLORREF ShownPixel(CWnd& window, CPoint at) {
+  const QImage picture = Picture(window);
+  const double scale = picture.devicePixelRatio();
+  const QRgb colour = picture.pixel(static_cast<int>(at.x * scale), static_cast<int>(at.y * scale));
+  return RGB(qRed(colour), qGreen(colour), qBlue(colour));
+}
+
+int InkPixels(CWnd& window) {
+  const QImage picture = Picture(window);
+  const QRgb ground = picture.pixel(picture.width() / 2, 2);
+  int count = 0;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) count += picture.pixel(x, y) != ground ? 1 : 0;
+  }
+  return count;
+}
+
+CString AccessibleDescription(CWnd& window) {
+  return {WidgetOf(&window)->accessibleDescription().toStdWString()};
+}
+
+bool HasHandCursor(CWnd& window) {
+  return WidgetOf(&window)->cursor().shape() == Qt::PointingHandCursor;
+}
+
+}  // namespace coregui::test

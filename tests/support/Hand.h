@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/CWnd.h"
+
+/// A person's hand on one window: the toolkit's own events, as a keyboard, an input method and a mouse bring
+/// them.
+namespace coregui::test {
+
+/// Presses and releases a key (VK_ value) with the characters that it types.
+void PressKey(CWnd& window, UINT key, bool control = false, bool shift = false);
+/// Types each character.
+void TypeKeys(CWnd& window, const wchar_t* text);
+/// An input method commits a text.
+void CommitText(CWnd& window, const wchar_t* text);
+/// Drops a text behind the last character.
+void DropText(CWnd& window, const wchar_t* text);
+/// Clicks in the middle, or at a place of the client area.
+void Click(CWnd& window);
+void ClickAt(CWnd& window, CPoint at);
+/// The colour of the pixel that the window shows there, children included.
+COLORREF ShownPixel(CWnd& window, CPoint at);
+/// How many pixels of the window differ from the one in its corner.
+int InkPixels(CWnd& window);
+/// What a screen reader says besides the name.
+CString AccessibleDescription(CWnd& window);
+/// Whether the pointer is a hand over the window.
+bool HasHandCursor(CWnd& window);
+
+}  // namespace coregui::test
