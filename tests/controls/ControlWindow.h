@@ -1,0 +1,34 @@
+#pragma once
+
+#include <utility>
+
+#include "platform/CWnd.h"
+
+namespace coregui::test {
+
+/// A shown window for controls, which notes what they tell it: "id:code " for WM_COMMAND and "scroll " for
+/// WM_HSCROLL, in decimal.
+class ControlWindow : public CWnd {
+ public:
+  ControlWindow() {
+    Create(L"", L"controls", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 400, 300), nullptr, 0);
+    SetActiveWindow();
+  }
+  CString TakeLog() { return std::exchange(m_log, CString()); }
+
+  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (message == WM_COMMAND) m_log.AppendFormat(L"%d:%d ", LOWORD(wParam), HIWORD(wParam));
+    if (message == WM_HSCROLL) m_log += L"scroll ";
+    return CWnd::WindowProc(message, wParam, lParam);
+  }
+
+ private:
+  CString m_log;
+};
+
+inline constexpr DWORD kChild = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
+inline CRect Place(int row) {
+  return {10, 10 + 35 * row, 210, 38 + 35 * row};
+}
+
+}  // namespace coregui::test

@@ -1,0 +1,213 @@
+#include <gtest/gtest.h>
+
+#include "controls/CHexEdit.h"
+#include "controls/CNameEdit.h"
+#include "platform/Clipboard.h"
+#include "platform/System.h"
+#include "tests/controls/ControlWindow.h"
+#include "tests/support/Hand.h"
+
+namespace {
+
+using namespace coregui::test;
+
+const CString kAlphabet = L"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+const CString kDigits = L"0123456789";
+
+TEST(NameCharacters, AreExactForEachKind) {
+  const CString symbols = kAlphabet + kDigits + L" $+-_.~!@#$%^&(){}[]";
+  for (const wchar_t* kind :
+       {L"BLOCK", L"LAYER", L"LINESTYLE", L"LINETYPE", L"TEXTSTYLE", L"DIMSTYLE", L"DIMENSIONSTYLE",
+        L"TABLESTYLE", L"MLEADERSTYLE", L"NAMEDVIEW", L"NAMEDDP", L"DBCONNECTION", L"DATABASECONNECTION",
+        L"LIGHT", L"LAYOUT", L"layer", L"Layer"}) {
+    EXPECT_EQ(CNameEdit::GetAllowedCharacters(kind), symbols) << CString(kind).ToUtf8();
+  }
+  EXPECT_EQ(CNameEdit::GetAllowedCharacters(L"attribute"), kAlphabet + kDigits + L" $+-_.=:/~!@#$%^&(){}[]");
+  for (const wchar_t* kind : {L"MultiLineStyle", L"GROUP"}) {
+    EXPECT_EQ(CNameEdit::GetAllowedCharacters(kind), kAlphabet + kDigits + L"$-_");
+  }
+  EXPECT_EQ(CNameEdit::GetAllowedCharacters(L"Road"), kAlphabet + kDigits + L" `-~=!@#$%^&()_+[]{};'");
+  for (const wchar_t* kind : {L"", L"LAYERS", L" LAYER", L"ROADS"}) {
+    EXPECT_EQ(CNameEdit::GetAllowedCharacters(kind), kAlphabet + L" $-_") << CString(kind).ToUtf8();
+  }
+}
+
+class NameEdit : public testing::Test {
+ protected:
+  NameEdit() { Start(L"GROUP"); }
+  void Start(const wchar_t* kind) {
+    edit.DestroyWindow();
+    edit.SetAllowedCharacters(CNameEdit::GetAllowedCharacters(kind));
+    edit.Create(kChild, Place(0), &host, 7);
+    edit.SetFocus();
+    m_beeps = GetBeepCount(MB_ICONEXCLAMATION_SOUND);
+  }
+  int Beeps() { return GetBeepCount(MB_ICONEXCLAMATION_SOUND) - m_beeps; }
+  /// The text with '|' at the caret.
+  CString Shown() {
+    int start = 0;
+    int end = 0;
+    edit.GetSel(start, end);
+    CString text = edit.GetWindowTextString();
+    text.Insert(end, start == end ? L"|" : L"]");
+    if (start != end) text.Insert(start, L"[");
+    return text;
+  }
+
+  ControlWindow host;
+  CNameEdit edit;
+
+ private:
+  int m_beeps = 0;
+};
+
+TEST_F(NameEdit, BeepsForEachRefusedCharacterHoweverItComes) {
+  TypeKeys(edit, L"a.1");
+  EXPECT_EQ(Shown(), L"a1|");
+  EXPECT_EQ(Beeps(), 1);
+  CommitText(edit, L"\u00fcb c");
+  EXPECT_EQ(Shown(), L"a1bc|");
+  EXPECT_EQ(Beeps(), 3);
+  DropText(edit, L"d/e");
+  EXPECT_EQ(Shown(), L"a1bcde|");
+  EXPECT_EQ(Beeps(), 4);
+  PressKey(edit, VK_BACK);
+  EXPECT_EQ(Shown(), L"a1bcd|");
+  EXPECT_EQ(Beeps(), 4);
+  Start(L"ROAD");
+  TypeKeys(edit, L".;");
+  EXPECT_EQ(Shown(), L";|");
+  EXPECT_EQ(Beeps(), 1);
+}
+
+TEST_F(NameEdit, WithoutASetEveryCharacterIsAllowed) {
+  edit.SetAllowedCharacters(L"");
+  TypeKeys(edit, L"a.");
+  CommitText(edit, L"\u00e9\u4e2d");
+  coregui::SetClipboardText(L"<*>");
+  PressKey(edit, 'V', true);
+  EXPECT_EQ(Shown(), L"a.\u00e9\u4e2d<*>|");
+  EXPECT_EQ(edit.GetValue(), L"a.\u00e9\u4e2d<*>");
+  EXPECT_EQ(Beeps(), 0);
+}
+
+TEST_F(NameEdit, PastingFiltersAllAndKeepsWhatFollowsTheCaret) {
+  struct Row {
+    const wchar_t* text;
+    int start;
+    int end;
+    const wchar_t* pasted;
+    const wchar_t* shown;
+  };
+  constexpr Row rows[] = {{L"", 0, 0, L"a1.b2", L"a1b2|"},
+                          {L"xyz", 1, 1, L".q.", L"xq|yz"},
+                          {L"abcdef", 1, 3, L"1.2", L"a12|def"},
+                          {L"abc", 0, 3, L"...", L"|"},
+                          {L"abc", 0, 0, L"n\r\nm", L"nm|abc"},
+                          {L"a.b", 1, 1, L"c", L"a|cb"},  // the caret counts what followed before filtering
+                          {L"a...", 0, 0, L"", L"|a"}};
+  for (const Row& row : rows) {
+    edit.SetValue(row.text);
+    edit.SetSel(row.start, row.end);
+    coregui::SetClipboardText(row.pasted);
+    PressKey(edit, 'V', true);
+    EXPECT_EQ(Shown(), row.shown) << CString(row.text).ToUtf8() << " + " << CString(row.pasted).ToUtf8();
+  }
+  EXPECT_EQ(Beeps(), 0);
+  edit.SetValue(L"keep");
+  coregui::SetClipboardText(L"1.");
+  edit.Paste();
+  edit.Undo();
+  edit.Undo();
+  EXPECT_EQ(edit.GetWindowTextString(), L"keep");
+  coregui::EmptyClipboard();
+  edit.SetValue(L"a.b");
+  edit.Paste();
+  EXPECT_EQ(edit.GetWindowTextString(), L"a.b");
+}
+
+TEST_F(NameEdit, ControlVWithoutItsKeyIsARefusedCharacter) {
+  coregui::SetClipboardText(L"x");
+  edit.SendMessage(WM_CHAR, 22);
+  EXPECT_EQ(Beeps(), 1);
+  SetKeyState(VK_CONTROL, true);
+  edit.SendMessage(WM_CHAR, 22);
+  EXPECT_EQ(Beeps(), 1);
+  EXPECT_EQ(Shown(), L"x|");
+}
+
+TEST_F(NameEdit, OtherShortcutsBeepIsKept) {
+  edit.SetValue(L"abc");
+  edit.SetSel(0, -1);
+  PressKey(edit, 'C', true);
+  EXPECT_EQ(Beeps(), 1);
+  CString text;
+  EXPECT_FALSE(coregui::GetClipboardText(text));
+  PressKey(edit, VK_INSERT, true);
+  EXPECT_TRUE(coregui::GetClipboardText(text));
+  EXPECT_EQ(text, L"abc");
+}
+
+TEST_F(NameEdit, ShowsWhatIsSetAndFiltersOnlyItsValue) {
+  edit.SetValue(L"a.b c/");
+  EXPECT_EQ(edit.GetValue(), L"abc");
+  CEdit other;
+  other.Create(kChild, Place(1), &host, 8);
+  other.SetFocus();
+  EXPECT_EQ(edit.GetWindowTextString(), L"a.b c/");
+  edit.SetReadOnly();
+  coregui::SetClipboardText(L"x");
+  edit.Paste();
+  EXPECT_EQ(edit.GetWindowTextString(), L"a.b c/");
+}
+
+TEST_F(NameEdit, MayBeDestroyedWhenItTells) {
+  class Fickle : public ControlWindow {
+   public:
+    CNameEdit* edit = nullptr;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+      if (message == WM_COMMAND && HIWORD(wParam) == EN_CHANGE && edit != nullptr) edit->DestroyWindow();
+      return ControlWindow::WindowProc(message, wParam, lParam);
+    }
+  };
+  Fickle fickle;
+  CNameEdit fleeting;
+  fleeting.SetAllowedCharacters(L"abc");
+  fleeting.Create(kChild, Place(0), &fickle, 7);
+  fickle.edit = &fleeting;
+  coregui::SetClipboardText(L"a.b");
+  fleeting.Paste();
+  EXPECT_FALSE(fleeting.HasWindow());
+}
+
+TEST(HexEdit, TakesHexDigitsAndShortcuts) {
+  ControlWindow host;
+  CHexEdit edit;
+  edit.Create(kChild, Place(0), &host, 7);
+  edit.SetFocus();
+  const int before = GetBeepCount(MB_ICONASTERISK_SOUND);
+  TypeKeys(edit, L"Ff 0g-G");
+  DropText(edit, L"x9");
+  CommitText(edit, L"\u0663a");
+  EXPECT_EQ(edit.GetWindowTextString(), L"Ff 09a");
+  EXPECT_EQ(GetBeepCount(MB_ICONASTERISK_SOUND) - before, 5);
+  edit.SetSel(0, -1);
+  PressKey(edit, 'C', true);
+  CString copied;
+  EXPECT_TRUE(coregui::GetClipboardText(copied));
+  EXPECT_EQ(copied, L"Ff 09a");
+  PressKey(edit, VK_BACK);
+  EXPECT_EQ(edit.GetWindowTextString(), L"");
+  EXPECT_EQ(GetBeepCount(MB_ICONASTERISK_SOUND) - before, 5);
+}
+
+TEST(HexEdit, PastedTextIsNotFilteredIsKept) {
+  ControlWindow host;
+  CHexEdit edit;
+  edit.Create(kChild, Place(0), &host, 7);
+  coregui::SetClipboardText(L"0xGG");
+  PressKey(edit, 'V', true);
+  EXPECT_EQ(edit.GetWindowTextString(), L"0xGG");
+}
+
+}  // namespace
