@@ -1,22 +1,19 @@
-// What the grid's windows cost against the toolkit's table view over a lean model: a full page, a scroll by
-// one row, one changed cell, and the start of a process up to the first frame. Prints ours, the peer's and
-// the ratio.
+// What the grid's windows cost beside the toolkit's table view over a lean model: a full page, a scroll by
+// one row, one changed cell.
 
 #include <QAbstractTableModel>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QHeaderView>
-#include <QProcess>
 #include <QScrollBar>
 #include <QTableView>
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
-#include <fstream>
 #include <functional>
 #include <string>
 #include <vector>
 
+#include "bench/BenchTable.h"
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridInfo.h"
 #include "platform/CWinApp.h"
@@ -39,8 +36,8 @@ std::string Text(int row, int col) {
 /// What an expert would write: a vector of vectors of strings.
 class LeanModel : public QAbstractTableModel {
  public:
-  explicit LeanModel(int rows, int cols, bool filled) : m_rows(rows), m_cols(cols) {
-    for (int row = 0; filled && row < kFilledRows; ++row) {
+  LeanModel(int rows, int cols) : m_rows(rows), m_cols(cols) {
+    for (int row = 0; row < kFilledRows; ++row) {
       m_texts.emplace_back();
       for (int col = 0; col < cols; ++col) m_texts.back().push_back(QString::fromStdString(Text(row, col)));
     }
@@ -66,7 +63,7 @@ struct Peer {
   LeanModel model;
   QTableView view;
 
-  Peer(int rows, int cols, bool filled) : model(rows, cols, filled) {
+  Peer(int rows, int cols) : model(rows, cols) {
     view.horizontalHeader()->hide();
     view.verticalHeader()->hide();
     view.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -86,7 +83,7 @@ struct Ours {
   CWnd frame;
   CGridCtrl grid;
 
-  Ours(int rows, int cols, bool filled) {
+  Ours(int rows, int cols) {
     frame.CreateEx(0, L"Frame", L"", WS_POPUP | WS_VISIBLE, CRect(0, 0, kWidth, kHeight), nullptr, 0);
     grid.SetTH_Height(0);
     grid.SetSH_Width(0);
@@ -96,7 +93,7 @@ struct Ours {
     grid.SetDefRowHeight(kCellHeight);
     grid.SetNumberCols(cols);
     grid.SetNumberRows(rows);
-    for (int row = 0; filled && row < kFilledRows; ++row) {
+    for (int row = 0; row < kFilledRows; ++row) {
       for (int col = 0; col < cols; ++col) grid.QuickSetText(col, row, CString::FromUtf8(Text(row, col)));
     }
     grid.CreateGrid(WS_CHILD | WS_VISIBLE, frame.GetClientRectangle(), &frame, 1);
@@ -117,14 +114,9 @@ double Median(int times, const std::function<void(int)>& call) {
   return samples[static_cast<std::size_t>(times / 2)];
 }
 
-void Print(const std::string& what, double ours, double peer, double aim, const char* unit) {
-  std::printf("%-44s %10.1f %10.1f %7.3f  (aim %.2f) %s\n", what.c_str(), ours, peer, ours / peer, aim, unit);
-  std::fflush(stdout);
-}
-
 void Compare(int rows) {
   constexpr int kTimes = 60;
-  Ours ours(rows, kCols, true);
+  Ours ours(rows, kCols);
   const double ourPage = Median(kTimes, [&](int) {
     ours.grid.GetGridWnd()->RedrawWindow();
     CWinApp::PumpPending();
@@ -139,7 +131,7 @@ void Compare(int rows) {
     CWinApp::PumpPending();
   });
   ours.frame.DestroyWindow();
-  Peer peer(rows, kCols, true);
+  Peer peer(rows, kCols);
   const double peerPage = Median(kTimes, [&](int) {
     peer.view.viewport()->repaint();
     QCoreApplication::processEvents();
@@ -153,75 +145,19 @@ void Compare(int rows) {
     QCoreApplication::processEvents();
   });
   const std::string at = " at " + std::to_string(rows) + " rows";
-  Print("full page" + at, ourPage, peerPage, 0.25, "us");
-  Print("scroll by one row" + at, ourScroll, peerScroll, 0.55, "us");
-  Print("one cell changed" + at, ourCell, peerCell, 0.5, "us");
-}
-
-// --- The start of a process
-
-constexpr int kStartRows = 16384;
-constexpr int kStartCols = 256;
-
-long PeakKilobytes() {
-  std::ifstream status("/proc/self/status");
-  for (std::string line; std::getline(status, line);) {
-    if (line.rfind("VmHWM:", 0) == 0) return std::stol(line.substr(6));
-  }
-  return 0;
-}
-
-/// Shows an empty grid and prints the peak memory once its first frame is there.
-int StartOnce(const char* who, int argc, char** argv) {
-  const QApplication application(argc, argv);
-  if (std::strcmp(who, "ours") == 0) {
-    Ours ours(kStartRows, kStartCols, false);
-    std::printf("%ld\n", PeakKilobytes());
-  } else if (std::strcmp(who, "peer") == 0) {
-    const Peer peer(kStartRows, kStartCols, false);
-    std::printf("%ld\n", PeakKilobytes());
-  } else {
-    QWidget bare;
-    bare.resize(kWidth, kHeight);
-    bare.show();
-    QCoreApplication::processEvents();
-    std::printf("%ld\n", PeakKilobytes());
-  }
-  std::fflush(stdout);
-  std::_Exit(0);  // what follows the first frame is not measured
-}
-
-struct Start {
-  double microseconds;
-  double kilobytes;
-};
-
-Start MeasureStart(const char* who) {
-  double kilobytes = 0;
-  const double time = Median(9, [&](int) {
-    QProcess child;
-    child.start(QCoreApplication::applicationFilePath(), {"--start", who});
-    child.waitForFinished();
-    kilobytes = child.readAllStandardOutput().trimmed().toDouble();
-  });
-  return {time, kilobytes};
+  const auto print = [&at](const char* what, double our, double peers, double target) {
+    PrintBenchRow({what + at, our, "us", {"table view, lean model", peers}, target});
+  };
+  print("full page", ourPage, peerPage, 0.25);
+  print("scroll by one row", ourScroll, peerScroll, 0.55);
+  print("one cell changed", ourCell, peerCell, 0.5);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc == 3 && std::strcmp(argv[1], "--start") == 0) return StartOnce(argv[2], argc, argv);
   const QApplication application(argc, argv);
-  std::printf("%-44s %10s %10s %7s\n", "", "ours", "peer", "ratio");
+  PrintBenchHead();
   for (const int rows : {100000, 1000000, 10000000}) Compare(rows);
-  const Start ours = MeasureStart("ours");
-  const Start peer = MeasureStart("peer");
-  const Start bare = MeasureStart("bare");
-  Print("start to first frame", ours.microseconds, peer.microseconds, 0.5, "us");
-  Print("start, above an empty window", ours.microseconds - bare.microseconds,
-        peer.microseconds - bare.microseconds, 0.5, "us");
-  Print("peak memory", ours.kilobytes, peer.kilobytes, 0.5, "kB");
-  Print("peak memory above an empty window", ours.kilobytes - bare.kilobytes, peer.kilobytes - bare.kilobytes,
-        0.5, "kB");
   return 0;
 }

@@ -13,8 +13,10 @@
 #include <functional>
 #include <optional>
 #include <random>
+#include <string>
 #include <vector>
 
+#include "bench/BenchTable.h"
 #include "platform/CBitmap.h"
 #include "views/CGUIBaseView.h"
 #include "views/CPlotPrimitives.h"
@@ -149,24 +151,35 @@ std::optional<double> PlottingWidget(const std::vector<PNT_2D_record>&, double) 
 }
 #endif
 
+/// The share of the best peer's cost that is wanted; 0 for none.
+double Target(std::size_t count, double zoom) {
+  if (zoom == 1000.0) return 1.0;
+  if (zoom == 1.0 && count == 1000000) return 0.25;
+  if (zoom == 1.0 && count == 10000000) return 0.05;
+  return 0.0;
+}
+
 void Frames() {
-  std::printf("%10s %8s %12s %12s %12s %8s\n", "points", "zoom", "ours", "polyline", "plot widget", "share");
+  std::vector<double> atFit;
   for (const std::size_t count : {10000U, 100000U, 1000000U, 10000000U}) {
     const std::vector<PNT_2D_record> points = Survey(count);
-    const double before = Seconds();
     const CPlotSeries series(points);
-    std::printf("%10zu built in %.1f ms (with the copy), pyramid %.1f %% of the data\n", count,
-                (Seconds() - before) * 1000.0,
-                100.0 * static_cast<double>(series.GetPyramidBytes()) /
-                    static_cast<double>(count * sizeof(points[0])));
     for (const double zoom : {1.0, 10.0, 1000.0}) {
       const double ours = Ours(series, zoom);
-      const double plain = PlainPolyline(points, zoom);
-      const std::optional<double> widget = PlottingWidget(points, zoom);
-      std::printf("%10zu %8.0f %12.3f %12.3f %12.3f %8.3f\n", count, zoom, ours, plain, widget.value_or(NAN),
-                  ours / std::min(plain, widget.value_or(plain)));
+      if (zoom == 1.0) atFit.push_back(ours);
+      BenchPeer peer{"toolkit's polyline", PlainPolyline(points, zoom)};
+      if (const auto widget = PlottingWidget(points, zoom)) peer = BestOf(peer, {"plotting widget", *widget});
+      const std::string at = zoom == 1.0 ? "fit" : std::to_string(static_cast<int>(zoom)) + "x";
+      PrintBenchRow({"plot frame, " + std::to_string(count) + " points at " + at, ours, "ms", peer,
+                     Target(count, zoom)});
     }
   }
+  // The fourth root of a thousand times the points.
+  PrintBenchRow({"plot frame at fit, 10^7 points beside 10^4",
+                 atFit.back(),
+                 "ms",
+                 {"ours, 10^4", atFit.front()},
+                 5.62});
 }
 
 void Transforms() {
@@ -198,9 +211,8 @@ void Transforms() {
   const double array = Best([&](int) {
     for (std::size_t i = 0; i < points.size(); ++i) out[i] = map(points[i]);
   });
-  std::printf(
-      "mapping 100000 points one by one: %.3f ms; bare %.3f ms (%.2f), over a whole array %.3f ms (%.2f)\n",
-      ours, bare, ours / bare, array, ours / array);
+  PrintBenchRow({"map 100,000 points one by one", ours, "ms", {"bare loop", bare}, 1.2});
+  PrintBenchRow({"the same beside a loop over a whole array", ours, "ms", {"bare loop, array", array}});
 }
 
 }  // namespace
@@ -210,6 +222,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
   QApplication application(argc, argv);
+  PrintBenchHead();
   Transforms();
   Frames();
   return 0;
