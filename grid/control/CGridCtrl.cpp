@@ -174,7 +174,9 @@ CGridMultiSelect* CGridCtrl::GetMultiSelect() const {
 
 int CGridCtrl::ClearSelections() {
   GetInfo().selection->AddTotalRangeToDrawHints(GetDrawHints());
-  return GetInfo().selection->ClearAll();
+  const int cleared = GetInfo().selection->ClearAll();
+  m_rooms->parts.ShowMoved();
+  return cleared;
 }
 
 int CGridCtrl::SelectRange(int startCol, long startRow, int endCol, long endRow) {
@@ -183,7 +185,9 @@ int CGridCtrl::SelectRange(int startCol, long startRow, int endCol, long endRow)
   }
   CGridMultiSelect& selection = *GetInfo().selection;
   selection.StartBlock(startCol, startRow);
-  return selection.EndBlock(endCol, endRow);
+  const int ended = selection.EndBlock(endCol, endRow);
+  m_rooms->parts.ShowMoved();
+  return ended;
 }
 
 int CGridCtrl::IsSelected(int col, long row, int* block) {

@@ -37,6 +37,7 @@ int CGridMultiSelect::StartBlock(int col, long row) {
   m_newBlock = true;
   ++m_count;
   Report(block);
+  Hint(block);
   return 0;
 }
 
@@ -106,6 +107,7 @@ int CGridMultiSelect::ToggleCell(int col, long row) {
   });
   if (own != m_blocks.end()) {
     own->selected = own->selected == 0 ? 1 : 0;
+    Hint(*own);
     return 0;
   }
   const int selected = IsSelected(col, row);
@@ -332,6 +334,12 @@ void CGridMultiSelect::Normalise(Block& block) const {
 void CGridMultiSelect::Report(const Block& block) {
   if (m_control != nullptr) {
     m_control->OnSelectionChanged(block.right, block.top, block.left, block.bottom, m_count);
+  }
+}
+
+void CGridMultiSelect::Hint(const Block& block) const {
+  if (CGridDrawHint* const hints = Hints(); hints != nullptr) {
+    hints->AddHint(block.left, block.top, block.right, block.bottom);
   }
 }
 

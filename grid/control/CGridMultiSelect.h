@@ -94,6 +94,7 @@ class COREGUI_API CGridMultiSelect : public CObject {
 
   void Normalise(Block& block) const;
   void Report(const Block& block);
+  void Hint(const Block& block) const;
   void HintChange(const Block& before, const Block& after);
   void HintAndClear();
   CGridDrawHint* Hints() const;
