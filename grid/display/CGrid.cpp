@@ -113,8 +113,8 @@ bool CGrid::NeedsFullRepaint() const {
   return m_control->IsFindDialogOpen() != 0 || m_control->GetInfo().view.forceFullRepaint != 0 || IsCovered();
 }
 
-/// Whether a window lies over a part of this one, or a part of it lies outside what its window or the screen
-/// shows.
+/// Whether a window lies over a part of this one. What only its own windows or the screen cut off does not
+/// count: the picture is kept in full, so that pixels can be moved in what cannot be seen too.
 bool CGrid::IsCovered() const {
   CRect own;
   GetWindowRect(&own);
@@ -125,11 +125,9 @@ bool CGrid::IsCovered() const {
     above->GetWindowRect(&other);
     if (common.IntersectRect(own, other)) return true;
   }
-  if (const CWnd* const active = CWnd::GetActiveWindow(); active != nullptr) {
-    active->GetWindowRect(&other);
-    if (OverlapsPartly(own, other)) return true;
-  }
-  other = CRect(0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN));
+  const CWnd* const active = CWnd::GetActiveWindow();
+  if (active == nullptr || active == this || active->IsChild(this)) return false;
+  active->GetWindowRect(&other);
   return OverlapsPartly(own, other);
 }
 
@@ -221,9 +219,13 @@ BOOL CGrid::HandleErase(CDC*) {
 LRESULT CGrid::HandlePrintClient(WPARAM wParam, LPARAM) {
   CDC* const dc = reinterpret_cast<CDC*>(wParam);
   if (dc == nullptr || m_painter.IsPainting()) return 0;
+  // The pass takes the hints along that the screen still waits for.
+  const bool pending = !m_painter.Hints().GetRanges().empty() || m_painter.IsViewStale();
   m_painter.HintAll();
+  const WindowRef alive(this);
   DrawCellsIntern(dc, nullptr);
-  return 0;
+  if (alive && pending) Invalidate(FALSE);
+  return 1;
 }
 
 int CGrid::SetDoubleBufferMode(int mode) {

@@ -52,8 +52,10 @@ BOOL CGridCnrBtn::HandleErase(CDC*) {
 }
 
 LRESULT CGridCnrBtn::HandlePrintClient(WPARAM wParam, LPARAM) {
-  if (CDC* const dc = reinterpret_cast<CDC*>(wParam); dc != nullptr) Draw(*dc);
-  return 0;
+  CDC* const dc = reinterpret_cast<CDC*>(wParam);
+  if (dc == nullptr) return 0;
+  Draw(*dc);
+  return 1;
 }
 
 void CGridCnrBtn::Draw(CDC& dc) {

@@ -72,9 +72,13 @@ BOOL CGridHeading::HandleErase(CDC*) {
 LRESULT CGridHeading::HandlePrintClient(WPARAM wParam, LPARAM) {
   CDC* const dc = reinterpret_cast<CDC*>(wParam);
   if (dc == nullptr || m_painter.IsPainting()) return 0;
+  // The pass takes the hints along that the screen still waits for.
+  const bool pending = !m_painter.Hints().GetRanges().empty() || m_painter.IsViewStale();
   m_painter.HintAll();
+  const WindowRef alive(this);
   m_painter.Paint(*dc, GetClientRectangle());
-  return 0;
+  if (alive && pending) Invalidate(FALSE);
+  return 1;
 }
 
 void CGridHeading::HandleSystemChange() {

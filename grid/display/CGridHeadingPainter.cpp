@@ -52,11 +52,14 @@ bool CGridHeadingPainter::Run(CDC& dc, const CRect& client) {
             [&axis](long line) { return axis.SizeOf(line); });
   m_shownFirst = axis.First();
   for (const ShownLine& line : m_lines.lines) {
+    bool drawn = false;
     for (int heading = -1; heading >= -HeadingLines(); --heading) {
       const CGridCellPainter::Cell cell = CellOf(line, heading);
-      if (m_hints.IsInvalid(cell.col, cell.row) != 0 && !DrawCell(dc, cell)) return false;
+      if (m_hints.IsInvalid(cell.col, cell.row) == 0) continue;
+      if (!DrawCell(dc, cell)) return false;
+      drawn = true;
     }
-    if (line.index == m_marked) {
+    if (drawn && line.index == m_marked) {
       dc.InvertRect(m_top ? CRect(line.start, client.top, line.End(), client.bottom)
                           : CRect(client.left, line.start, client.right, line.End()));
     }
