@@ -4,6 +4,7 @@
 
 #include "grid/celltypes/BorderPlan.h"
 #include "grid/celltypes/CellStyleBits.h"
+#include "grid/celltypes/DarkInk.h"
 #include "grid/celltypes/TextPlaces.h"
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridDrawHint.h"
@@ -199,7 +200,10 @@ CGridCellType::Colours CGridCellType::GetColours(CGridCell* cell, int selected, 
   if ((cell->GetCellTypeEx() & kExtendedDisabled) != 0) return {kGreyedText, cell->GetBackColor(), false};
   const bool currentMarked =
       current != 0 && m_control != nullptr && (m_control->GetCurrentCellMode() & kHighlightsCurrent) != 0;
-  if (selected == 0 && !currentMarked) return {cell->GetTextColor(), cell->GetBackColor(), false};
+  if (selected == 0 && !currentMarked) {
+    const COLORREF back = cell->GetBackColor();
+    return {ReadableText(cell->GetTextColor(), back), back, false};
+  }
   return {cell->GetHTextColor(), cell->GetHBackColor(), true};
 }
 

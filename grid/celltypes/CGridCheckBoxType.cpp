@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "grid/celltypes/CellStyleBits.h"
+#include "grid/celltypes/DarkInk.h"
 #include "grid/control/CGridCtrl.h"
 #include "platform/CDC.h"
 #include "platform/System.h"
@@ -12,7 +13,6 @@ using namespace coregui;
 
 namespace {
 
-constexpr COLORREF kBlack = 0x000000;
 constexpr COLORREF kWhite = 0xFFFFFF;
 constexpr COLORREF kLightGrey = 0xE1E1E1;
 constexpr UINT kSpace = L' ';
@@ -44,7 +44,9 @@ struct CGridCheckBoxType::Look {
   long state = 0;
   long style = 0;
   bool readOnly = false;
-  COLORREF ink = kBlack;
+  COLORREF ink = 0;    ///< of the lines and the mark
+  COLORREF light = 0;  ///< of the frames' outer lines
+  COLORREF grey = 0;   ///< of the mark of the third state
 };
 
 CGridCheckBoxType::CGridCheckBoxType() {
@@ -108,7 +110,10 @@ void CGridCheckBoxType::OnDraw(CDC* dc, RECT* rect, int col, long row, CGridCell
   look.state = static_cast<long>(cell->GetNumber());
   look.style = cell->GetCellTypeEx();
   look.readOnly = cell->GetReadOnly() != 0;
-  look.ink = colours.highlighted ? kWhite : kBlack;
+  look.ink = colours.highlighted ? kWhite : LineInk(colours.back);
+  const bool dark = Brightness(look.ink) > Brightness(colours.back) && !colours.highlighted;
+  look.light = dark ? GetSysColor(COLOR_3DLIGHT) : kLightGrey;
+  look.grey = GetSysColor(dark ? COLOR_GRAYTEXT : COLOR_BTNSHADOW);
   const int size = CheckBoxSize(CRect(*rect).Height());
   const bool labelled = (look.style & kCheckAligned) == 0;
   if (labelled) {
@@ -141,10 +146,10 @@ void CGridCheckBoxType::DrawFrame(CDC& dc, const CRect& box, const Look& look) c
   CRect inside = box;
   inside.DeflateRect(1, 1);
   if ((look.style & kCheckFramed3d) != 0) {
-    dc.Draw3dRect(box, GetSysColor(COLOR_BTNSHADOW), kLightGrey);
-    dc.Draw3dRect(inside, look.ink, kLightGrey);
+    dc.Draw3dRect(box, look.grey, look.light);
+    dc.Draw3dRect(inside, look.ink, look.light);
   } else if ((look.style & kCheckFramedFlat) != 0) {
-    Frame(dc, box, kLightGrey);
+    Frame(dc, box, look.light);
     Frame(dc, inside, look.ink);
   } else {
     Frame(dc, box, look.ink);
@@ -152,7 +157,7 @@ void CGridCheckBoxType::DrawFrame(CDC& dc, const CRect& box, const Look& look) c
 }
 
 void CGridCheckBoxType::DrawMark(CDC& dc, const CRect& box, const Look& look) const {
-  const PenInUse pen(dc, look.state > 1 ? GetSysColor(COLOR_BTNSHADOW) : look.ink);
+  const PenInUse pen(dc, look.state > 1 ? look.grey : look.ink);
   const CheckMark mark = (look.style & kCheckTick) != 0 ? TickMark(box) : CrossMark(box);
   for (int i = 0; i < mark.lines; ++i) {
     const CPoint& from = mark.points[static_cast<std::size_t>(2 * i)];
@@ -174,7 +179,7 @@ void CGridCheckBoxType::DrawRoundBox(CDC& dc, const CRect& box, const Look& look
     dc.SelectObject(before);
   }
   if (look.state > 0) {
-    const COLORREF colour = look.state > 1 ? GetSysColor(COLOR_BTNSHADOW) : look.ink;
+    const COLORREF colour = look.state > 1 ? look.grey : look.ink;
     CRect dot = box;
     dot.DeflateRect(2, 2);
     const PenInUse pen(dc, colour);

@@ -37,6 +37,7 @@ void CGridSheets::FollowSystemColours() {
   for (const std::unique_ptr<CGridInfo>& sheet : m_sheets) {
     m_look.Replace(*sheet->gridDefault, now);
     m_look.Replace(*sheet->headingDefault, now);
+    m_look.Replace(sheet->view.gridLinePen, now);
     for (long col = 0; col < sheet->columns.Count(); ++col) {
       m_look.Replace(*sheet->columns.At(col).defaults, now);
     }

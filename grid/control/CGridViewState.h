@@ -33,7 +33,7 @@ struct COREGUI_API CGridViewState {
   int cellOverlap = 1;         ///< text spills into empty neighbours
   int excelBorders = 1;        ///< every cell has a right and a bottom line
   int defaultFont = -1;        ///< index into the control's font list, -1: the system's font
-  CPen gridLinePen;
+  CPen gridLinePen;            ///< follows the theme until its colour is changed
 
   // Behaviour
   int hints = 0;           ///< cells have tips
