@@ -6,7 +6,8 @@ namespace desk {
 
 namespace {
 
-constexpr std::array<int, 11> kExaggerations = {1, 2, 5, 10, 20, 25, 50, 100, 200, 500, 1000};
+constexpr std::array<int, 14> kExaggerations = {1,   2,   5,   10,   20,   25,   50,
+                                                100, 200, 500, 1000, 2000, 5000, 10000};
 
 }  // namespace
 

@@ -25,6 +25,11 @@ void DeskLayout::Arrange(CSize client, int commandsHeight, int statusHeight, int
   const LONG right = std::min<LONG>(split + barThickness, width);
   grid = CRect(0, top, split, bottom);
   bar = CRect(split, top, right, bottom);
+  if (!hasDifference) {
+    section = CRect(right, top, width, bottom);
+    plotBar = difference = CRect();
+    return;
+  }
   const LONG plotSplit = top + static_cast<LONG>((bottom - top) * sectionShare);
   const LONG lower = std::min<LONG>(plotSplit + barThickness, bottom);
   section = CRect(right, top, width, plotSplit);

@@ -10,6 +10,7 @@ struct DeskLayout {
   double gridShare = 0.47;     ///< of the width
   double sectionShare = 0.74;  ///< of the height of the plots
   bool hasPlots = true;        ///< without plots the grid takes all
+  bool hasDifference = true;   ///< without it the section takes the height
 
   CRect commands;
   CRect grid;

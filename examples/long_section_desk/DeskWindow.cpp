@@ -90,11 +90,19 @@ bool DeskWindow::Open(const std::wstring& path) {
 void DeskWindow::ShowSection() {
   m_data = TakeSection(m_grid);
   m_layout.hasPlots = !m_data.IsEmpty();
-  for (CWnd* pane : std::initializer_list<CWnd*>{&m_bar, &m_plotBar, &m_section, &m_difference}) {
+  m_layout.hasDifference = !m_data.difference.empty();
+  for (CWnd* pane : std::initializer_list<CWnd*>{&m_bar, &m_section}) {
     pane->ShowWindow(m_layout.hasPlots ? SW_SHOW : SW_HIDE);
+  }
+  for (CWnd* pane : std::initializer_list<CWnd*>{&m_plotBar, &m_difference}) {
+    pane->ShowWindow(m_layout.hasPlots && m_layout.hasDifference ? SW_SHOW : SW_HIDE);
   }
   ArrangePanes();
   m_section.SetTitle(FileName(m_path).c_str());
+  if (m_layout.hasPlots) {
+    m_section.SetDecimals(m_grid.Dialect().decimals[static_cast<std::size_t>(m_data.columns.chainage)],
+                          m_grid.Dialect().decimals[static_cast<std::size_t>(m_data.columns.ground)]);
+  }
   m_difference.Show(m_data);
   m_section.Show(m_data);
   m_difference.FitAgain(m_section);

@@ -1,5 +1,6 @@
 #include "SectionView.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
@@ -14,10 +15,11 @@ constexpr int kTopMargin = 24;
 constexpr int kRightMargin = 10;
 constexpr double kRowHeight = 44.0;
 constexpr int kGap = 4;
+constexpr double kTextPitch = 11.0;  // points from one upright text to the next
 
 /// The largest round exaggeration that still fits the extents into the place.
 double RoundExaggeration(const FRect& extents, CSize place) {
-  constexpr std::array<double, 10> rounds = {1, 2, 5, 10, 20, 25, 50, 100, 200, 500};
+  constexpr std::array<double, 14> rounds = {1, 2, 5, 10, 20, 25, 50, 100, 200, 500, 1000, 2000, 5000, 10000};
   double best = rounds.front();
   for (const double times : rounds) {
     if (extents.Height() * times / extents.Width() <=
@@ -73,12 +75,6 @@ void SectionView::Show(const SectionData& data) {
   m_extents = data.extents;
   m_mark = kNothing;
   m_hasData = !data.IsEmpty();
-  m_table = {coregui::MakeStationRow(L"Station", data.ground, 3),
-             coregui::MakeLevelRow(L"Ground level", data.ground, 3)};
-  if (!data.design.empty()) {
-    m_table.push_back(coregui::MakeLevelRow(L"Design level", data.design, 3));
-    m_table.push_back(coregui::MakeDifferenceRow(L"Difference", data.ground, data.design, 3));
-  }
   const CRect margins = Margins();
   SetMargins(margins);
   m_exaggeration = RoundExaggeration(m_extents, PlaceBetween(*this, margins));
@@ -86,7 +82,8 @@ void SectionView::Show(const SectionData& data) {
 }
 
 CRect SectionView::Margins() const {
-  return {kLeftMargin, kTopMargin, kRightMargin, static_cast<LONG>(m_table.size() * kRowHeight) + 2 * kGap};
+  return {kLeftMargin, kTopMargin, kRightMargin,
+          static_cast<LONG>((m_design.GetCount() == 0 ? 2 : 4) * kRowHeight) + 2 * kGap};
 }
 
 void SectionView::PrintPage(CPrinterDC& dc) {
@@ -136,13 +133,47 @@ void SectionView::OnDraw(CDC* dc) {
   PlotRulerStyle levels;
   levels.title = L"Level [m]";
   PlotRuler(PlotSide::left, levels);
-  SetPlotPen({colors.grid});
-  PlotTable(m_table, kGap);
+  DrawTable(colors);
   if (IsPrinting()) {
     SetPlotPen({colors.text});
     PlotTitleBlock(
         {m_title, L"Long-section", CString::Formatted(L"Vertical exaggeration %.4g", m_exaggeration)});
   }
+}
+
+/// Only the stations that have room get texts, so that a survey of millions of rows costs no more than a
+/// page.
+void SectionView::DrawTable(const SectionColors& colors) {
+  const CRect area = GetDrawingArea();
+  const double left = GetPlotMapping().WindowToUser(area.TopLeft()).x;
+  const double right = GetPlotMapping().WindowToUser(area.BottomRight()).x;
+  const double step = (right - left) / std::max(1.0, area.Width() / PixelsOfPoints(kTextPitch));
+  const std::vector<PNT_2D_record>& points = m_ground.GetPoints();
+  std::vector<PNT_2D_record> ground;
+  std::vector<PNT_2D_record> design;
+  for (auto at = points.begin(); step > 0.0;) {
+    const double from = ground.empty() ? left : ground.back().x + step;
+    at = std::lower_bound(at, points.end(), from,
+                          [](const PNT_2D_record& point, double x) { return point.x < x; });
+    if (at == points.end() || at->x > right) {
+      break;
+    }
+    ground.push_back(*at);
+    if (m_design.GetCount() > 0) {
+      design.push_back(m_design.GetPoints()[static_cast<std::size_t>(at - points.begin())]);
+    }
+  }
+  std::vector<PlotTableRow> rows = {coregui::MakeStationRow(L"Station", ground, m_chainageDecimals),
+                                    coregui::MakeLevelRow(L"Ground level", ground, m_levelDecimals)};
+  if (m_design.GetCount() > 0) {
+    rows.push_back(coregui::MakeLevelRow(L"Design level", design, m_levelDecimals));
+    rows.push_back(coregui::MakeDifferenceRow(L"Difference", ground, design, m_levelDecimals));
+  }
+  for (PlotTableRow& row : rows) {
+    row.height = kRowHeight;
+  }
+  SetPlotPen({colors.grid});
+  PlotTable(rows, kGap);
 }
 
 void SectionView::DrawLevels(const SectionColors& colors) {

@@ -34,6 +34,11 @@ class SectionView : public CGUIBaseViewWnd {
   /// How much longer a metre is drawn upwards than along: a round number of times.
   void SetExaggeration(double times);
   double GetExaggeration() const { return m_exaggeration; }
+  /// Digits behind the separator in the table below the section.
+  void SetDecimals(int chainage, int level) {
+    m_chainageDecimals = chainage;
+    m_levelDecimals = level;
+  }
   void SetTitle(const CString& title) { m_title = title; }
   bool HasData() const { return m_hasData; }
   /// Prints the whole section on the page that the context has begun, with a title block.
@@ -43,15 +48,17 @@ class SectionView : public CGUIBaseViewWnd {
 
  private:
   CRect Margins() const;
+  void DrawTable(const SectionColors& colors);
   void DrawLevels(const SectionColors& colors);
   void DrawMark(const SectionColors& colors);
 
   CPlotSeries m_ground;
   CPlotSeries m_design;
-  std::vector<PlotTableRow> m_table;
   FRect m_extents;
   CString m_title;
   double m_exaggeration = 10.0;
+  int m_chainageDecimals = 3;
+  int m_levelDecimals = 3;
   double m_mark;
   bool m_hasData = false;
 };
