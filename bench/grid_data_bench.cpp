@@ -254,7 +254,8 @@ void MeasureSort(bool byNumber) {
   const Content& content = TheContent();
   CGridMem ours;
   LeanModel lean;
-  QStandardItemModel standard(CELLS, 1);
+  // Never destroyed: after a sort that takes minutes, each item looking for itself among all others.
+  QStandardItemModel& standard = *new QStandardItemModel(CELLS, 1);
   lean.Resize(CELLS, 1);
   CGridCell cell;
   for (int row = 0; row < CELLS; ++row) {
