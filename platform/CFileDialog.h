@@ -39,7 +39,8 @@ class COREGUI_API CFileDialog : public CObject {
 
 namespace coregui {
 
-/// Asks for a folder that exists, starting in `folder`. False, with `folder` unchanged, when none was chosen.
+/// Asks for a folder that exists, starting in `folder`; none can be made or renamed there. False, with
+/// `folder` unchanged, when none was chosen.
 COREGUI_API bool ChooseFolder(CString& folder, const wchar_t* title, CWnd* parent);
 
 }  // namespace coregui

@@ -83,6 +83,7 @@ bool ChooseFolder(CString& folder, const wchar_t* title, CWnd* parent) {
   QFileDialog dialog(WidgetOf(parent), ToQt(title));
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setOption(QFileDialog::ShowDirsOnly);
+  dialog.setOption(QFileDialog::ReadOnly);
   dialog.setFileMode(QFileDialog::Directory);
   if (!folder.IsEmpty() && QFileInfo(ToQt(folder)).isDir()) dialog.setDirectory(ToQt(folder));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return false;
