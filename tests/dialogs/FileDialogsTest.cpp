@@ -1,0 +1,126 @@
+#include "dialogs/FileDialogs.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "platform/CWnd.h"
+#include "platform/DialogIds.h"
+#include "platform/Profile.h"
+#include "tests/support/ShownWindow.h"
+#include "tests/support/TestEnvironment.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using coregui::test::NextWindow;
+using coregui::test::NoWindow;
+using coregui::test::ShownWindow;
+
+class FileDialogsTest : public testing::Test {
+ protected:
+  FileDialogsTest() {
+    fs::create_directories(m_folder + "/sub");
+    std::ofstream(m_folder + "/survey.csv") << "x";
+    std::ofstream(m_folder + "/other.csv") << "x";
+  }
+  ~FileDialogsTest() override { fs::remove_all(m_folder); }
+  CString At(const char* name) const { return CString::FromUtf8(m_folder + "/" + name); }
+  std::string m_folder = coregui::test::ScratchFolder() + "/files";
+};
+
+TEST_F(FileDialogsTest, AMissingFileIsFoundBesideTheOneThatNeedsIt) {
+  const NoWindow none;
+  CString path = L"C:\\data\\survey.csv";
+  EXPECT_TRUE(coreGetNewFilePath(path, L"Survey", L"csv", At("project.ini"), nullptr));
+  EXPECT_EQ(path, At("survey.csv"));
+}
+
+TEST_F(FileDialogsTest, WithoutAFolderToSearchTheUserIsAskedEvenForAFileThatExists) {
+  for (const wchar_t* searchIn : {L"", L"name only", static_cast<const wchar_t*>(nullptr)}) {
+    const NextWindow next([&](ShownWindow& box) {
+      EXPECT_EQ(box.Title(), "Confirmation");
+      EXPECT_EQ(box.Text(), "The following required file was not found:\n\n" + At("survey.csv").ToUtf8() +
+                                "\n\nWould you like to look for the file yourself ?");
+      box.Click("No");
+    });
+    CString path = At("survey.csv");
+    EXPECT_FALSE(coreGetNewFilePath(path, L"Survey", L"csv", searchIn, nullptr));
+    EXPECT_EQ(path, At("survey.csv"));
+  }
+}
+
+TEST_F(FileDialogsTest, TheUserLooksForTheFile) {
+  CWnd owner;
+  ASSERT_TRUE(
+      owner.Create(L"", L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 300, 200), nullptr, 0));
+  {
+    coregui::Profile::Get().WriteInt(L"UnitTesting", L"PopupChoiceId", IDYES);
+    const NextWindow next([&](ShownWindow& dialog) {
+      EXPECT_EQ(dialog.Title(), "Find missing file");
+      EXPECT_EQ(dialog.Owner(), &owner);
+      EXPECT_EQ(dialog.Folder(), m_folder);
+      EXPECT_EQ(dialog.Filters(), "Survey (*.csv)\nAll files (*)");
+      {
+        const NextWindow refusal([](ShownWindow& box) { box.Click("OK"); });
+        dialog.Choose(m_folder + "/no such file.csv");
+      }
+      EXPECT_TRUE(dialog.IsOpen());
+      dialog.Choose(m_folder + "/other.csv");
+    });
+    CString path = At("lost.csv");
+    EXPECT_TRUE(coreGetNewFilePath(path, L"Survey", L"*.csv", At("sub/x"), &owner));
+    EXPECT_EQ(path, At("other.csv"));
+  }
+  coregui::Profile::Get().WriteInt(L"UnitTesting", L"PopupChoiceId", IDYES);
+  const NextWindow next([&](ShownWindow& dialog) { dialog.Key(VK_ESCAPE); });
+  CString path = At("lost.csv");
+  EXPECT_FALSE(coreGetNewFilePath(path, L"Survey", L"csv", L"", &owner));
+  EXPECT_EQ(path, At("lost.csv"));
+}
+
+TEST_F(FileDialogsTest, FiltersAreTakenWholeOrMadeOfNameAndExtension) {
+  struct Row {
+    const wchar_t* text1;
+    const wchar_t* text2;
+    const char* filters;
+  };
+  constexpr Row rows[] = {{L"A|*.a;*.b|All|*.*||", L"a", "A (*.a *.b)\nAll (*)"},
+                          {L"", L"csv", "*.csv (*.csv)\nAll files (*)"},
+                          {L"Survey", nullptr, ""}};
+  for (const Row& row : rows) {
+    const NextWindow next([&](ShownWindow& dialog) {
+      EXPECT_EQ(dialog.Title(), "Open");
+      if (row.text2 != nullptr) {
+        EXPECT_EQ(dialog.Filters(), row.filters);
+      }
+      dialog.Key(VK_ESCAPE);
+    });
+    CString path;
+    EXPECT_FALSE(coreFileDialog(L"Open", path, row.text1, row.text2, true, 0));
+  }
+  const NextWindow next([&](ShownWindow& dialog) { dialog.Choose(m_folder + "/new"); });
+  CString path = At("survey.csv");
+  EXPECT_TRUE(coreFileDialog(L"Save", path, L"Survey", L".csv", false, OFN_OVERWRITEPROMPT));
+  EXPECT_EQ(path, At("new.csv"));
+}
+
+TEST_F(FileDialogsTest, AFolderIsChosenAndNoneIsMade) {
+  CString folder = L"before";
+  {
+    const NextWindow next([&](ShownWindow& dialog) {
+      EXPECT_EQ(dialog.Title(), "Where to?");
+      EXPECT_EQ(dialog.Folder(), m_folder);
+      EXPECT_FALSE(dialog.CanMakeFolder());
+      dialog.Key(VK_ESCAPE);
+    });
+    EXPECT_FALSE(coreGetFolder(folder, L"Where to?", nullptr, At("").GetString()));
+    EXPECT_EQ(folder, L"before");
+  }
+  const NextWindow next([&](ShownWindow& dialog) { dialog.Choose(m_folder + "/sub"); });
+  EXPECT_TRUE(coreGetFolder(folder, L"Where to?", nullptr, nullptr));
+  EXPECT_EQ(folder, At("sub"));
+}
+
+}  // namespace

@@ -1,0 +1,189 @@
+#include "dialogs/LockFile.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "platform/Profile.h"
+#include "platform/System.h"
+#include "tests/support/LogWatch.h"
+#include "tests/support/ShownWindow.h"
+#include "tests/support/TestEnvironment.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using coregui::test::ExpectLog;
+using coregui::test::NextWindow;
+using coregui::test::NoWindow;
+using coregui::test::ShownWindow;
+
+class LockFileTest : public testing::Test {
+ protected:
+  LockFileTest() { fs::create_directories(m_folder); }
+  ~LockFileTest() override {
+    fs::remove_all(m_folder);
+    ::setenv("USERNAME", "tester", 1);
+  }
+  void WriteLock(const std::string& bytes) const { std::ofstream(m_lock, std::ios::binary) << bytes; }
+  std::string Lock() const {
+    std::ostringstream bytes;
+    bytes << std::ifstream(m_lock, std::ios::binary).rdbuf();
+    return bytes.str();
+  }
+  bool Check(bool checkOnly = true) const { return coreCheckLockStatus(m_data, L"lck", checkOnly, nullptr); }
+  static std::string Serial() { return CString::Formatted(L"%X", GetMachineSerial()).ToUtf8(); }
+
+  std::string m_folder = coregui::test::ScratchFolder() + "/lock";
+  std::string m_lock = m_folder + "/a survey.lck";
+  CString m_data = CString::FromUtf8(m_folder + "/a survey.csv");
+};
+
+TEST_F(LockFileTest, ALockIsTakenToTheByteAndGivenBack) {
+  const NoWindow none;
+  EXPECT_TRUE(Check());
+  EXPECT_FALSE(fs::exists(m_lock));
+  EXPECT_TRUE(Check(false));
+  EXPECT_EQ(Lock(), "tester," + Serial() + "\n");
+  EXPECT_TRUE(Check());
+  EXPECT_TRUE(Check(false));
+  CString user;
+  bool own = false;
+  EXPECT_TRUE(coreGetLockHolder(m_data, L".lck", user, &own));
+  EXPECT_EQ(user, L"tester");
+  EXPECT_TRUE(own);
+  EXPECT_TRUE(coreReleaseLock(m_data, L"lck"));
+  EXPECT_FALSE(fs::exists(m_lock));
+  EXPECT_TRUE(coreReleaseLock(m_data, L"lck"));
+  EXPECT_FALSE(coreGetLockHolder(m_data, L"lck", user));
+}
+
+TEST_F(LockFileTest, TheUserNameHasAStandInAndALimit) {
+  ::unsetenv("USERNAME");
+  EXPECT_TRUE(Check(false));
+  EXPECT_EQ(Lock(), "Unknown User," + Serial() + "\n");
+  fs::remove(m_lock);
+  ::setenv("USERNAME", "", 1);
+  WriteLock("Unknown User");
+  EXPECT_TRUE(Check());
+  fs::remove(m_lock);
+  ::setenv("USERNAME", std::string(255, 'n').c_str(), 1);
+  EXPECT_TRUE(Check(false));
+  EXPECT_EQ(Lock(), std::string(255, 'n') + "," + Serial().substr(0, 4) + "\n");
+}
+
+TEST_F(LockFileTest, WhoseLockItIs) {
+  struct Row {
+    std::string bytes;
+    bool own;
+    const wchar_t* holder;
+  };
+  const std::string serial = Serial();
+  const Row rows[] = {{"tester", true, L"tester"},
+                      {"Tester", false, L"Tester"},
+                      {"tester,0", true, L"tester"},
+                      {"tester,", false, L"tester"},
+                      {"tester,00", false, L"tester"},
+                      {"tester,1", false, L"tester"},
+                      {"somebody," + serial, true, L"somebody"},
+                      {"somebody," + serial + ",more\r\nlines", true, L"somebody"},
+                      {"somebody, " + serial, false, L"somebody"},
+                      {"", false, L""},
+                      {"\n\n\n", false, L""},
+                      {"," + serial, true, L""},
+                      {"J\xC3\xBCrg\n", false, L"J\u00fcrg"},
+                      {std::string(300, 'x'), false, nullptr}};
+  for (const Row& row : rows) {
+    WriteLock(row.bytes);
+    EXPECT_EQ(Check(), row.own) << row.bytes;
+    CString user;
+    bool own = !row.own;
+    EXPECT_TRUE(coreGetLockHolder(m_data, L"lck", user, &own));
+    EXPECT_EQ(own, row.own) << row.bytes;
+    EXPECT_EQ(user, row.holder == nullptr ? CString(L'x', 256) : CString(row.holder));
+    EXPECT_EQ(coreReleaseLock(m_data, L"lck"), row.own) << row.bytes;
+    EXPECT_EQ(fs::exists(m_lock), !row.own) << row.bytes;
+  }
+}
+
+TEST_F(LockFileTest, SomeoneElsesLockIsToldUnlessOnlyChecked) {
+  for (const char* holder : {"100%s,1234ABCD", ""}) {
+    WriteLock(holder);
+    const NextWindow next([&](ShownWindow& box) {
+      EXPECT_EQ(box.Title(), "Error");
+      EXPECT_EQ(box.Icon(), "stop");
+      EXPECT_EQ(box.Text(), "Data file " + m_data.ToUtf8() + "\nis marked as read-only.\nIn use by " +
+                                (*holder == '\0' ? "" : "100%s"));
+      box.Click("OK");
+    });
+    EXPECT_FALSE(Check(false));
+    EXPECT_EQ(Lock(), holder);
+  }
+  const NoWindow none;
+  EXPECT_FALSE(Check());
+}
+
+TEST_F(LockFileTest, HostileLockFilesAreReadWithinTheLimits) {
+  WriteLock(std::string(10'000'000, 'x'));
+  ExpectLog(L"1024");
+  EXPECT_FALSE(Check());
+  WriteLock(std::string(1000, 'x') + "," + std::string(60, '7'));
+  ExpectLog(L"1024");
+  EXPECT_FALSE(Check());
+  WriteLock(std::string("tes\0ter\xFF\xFE\x01", 10));
+  EXPECT_FALSE(Check());
+  EXPECT_FALSE(coregui::test::TakeLog().empty());
+}
+
+TEST_F(LockFileTest, WhatCannotBeMadeOrReadGoesToTheStatusOutput) {
+  const NoWindow none;
+  const CString nowhere = CString::FromUtf8(m_folder + "/no folder/a.csv");
+  EXPECT_TRUE(coreCheckLockStatus(nowhere, L"lck", true, nullptr));
+  ExpectLog(L"... Unable to create lock file");
+  EXPECT_FALSE(coreCheckLockStatus(nowhere, L"lck", false, nullptr));
+  fs::create_directory(m_lock);  // a folder is no lock file, and none can be made in its place
+  ExpectLog(L"... Unable to create lock file");
+  EXPECT_FALSE(Check(false));
+}
+
+TEST_F(LockFileTest, AFullDiskLeavesNoLockOfNobody) {
+  if (!fs::exists("/dev/full")) GTEST_SKIP() << "this system has no /dev/full";
+  // Writing through the link fails as on a full disk; the exists test takes it for no file.
+  fs::create_symlink("/dev/full", m_lock);
+  ExpectLog(L"... Unable to create lock file");
+  EXPECT_FALSE(Check(false));
+}
+
+TEST_F(LockFileTest, AnUnreadableLockRefuses) {
+  if (::geteuid() == 0) GTEST_SKIP() << "for the superuser every file is readable";
+  WriteLock("tester");
+  for (const auto rights : {S_IRUSR, 0}) {  // the lock is opened for writing, too
+    ::chmod(m_lock.c_str(), static_cast<mode_t>(rights));
+    for (const bool checkOnly : {false, true}) {
+      ExpectLog(L"... Enable to read lock file");
+      EXPECT_FALSE(Check(checkOnly));
+    }
+    ExpectLog(L"... Enable to read lock file");
+    EXPECT_FALSE(coreReleaseLock(m_data, L"lck"));
+  }
+}
+
+TEST_F(LockFileTest, OnlyThe260FirstCharactersOfThePathAreUsedIsKept) {
+  const std::string head = m_folder + "/";
+  const std::string shown = head + std::string(260 - head.size() - 2, 'n') + ".c";
+  ExpectLog(L"260 characters");
+  EXPECT_TRUE(coreCheckLockStatus(CString::FromUtf8(shown + "sv"), L"lck", true, nullptr));
+  fs::path lock = shown;
+  if (lock.filename().string().size() > 250) GTEST_SKIP() << "file names are too short here for such a path";
+  ExpectLog(L"260 characters");
+  EXPECT_TRUE(coreCheckLockStatus(CString::FromUtf8(shown + "sv"), L"lck", false, nullptr));
+  EXPECT_TRUE(fs::exists(lock.replace_extension("lck")));
+}
+
+}  // namespace
