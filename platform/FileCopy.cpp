@@ -20,6 +20,9 @@ namespace coregui {
 namespace {
 
 constexpr std::size_t kChunk = 1U << 18U;
+/// After so many bytes the disk catches up, so that a large copy's progress is true and its end not a long
+/// standstill in which no progress is reported.
+constexpr std::uint64_t kFlushEvery = std::uint64_t{1} << 25U;
 
 /// An open file, closed at the end; closing can fail.
 class Descriptor {
@@ -114,7 +117,9 @@ bool CopyBytes(int from, int to, CopyProgress state, const std::function<bool(co
     if (got < 0 || !WriteAll(to, chunk.data(), static_cast<std::size_t>(std::max<ssize_t>(got, 0))))
       return false;
     if (got == 0 && state.transferred > 0) return true;
+    const std::uint64_t before = state.transferred;
     state.transferred += static_cast<std::uint64_t>(got);
+    if (before / kFlushEvery != state.transferred / kFlushEvery && fdatasync(to) != 0) return false;
     if (!report(state)) return Fail(ECANCELED);
     if (got == 0) return true;
   }
