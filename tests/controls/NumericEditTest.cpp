@@ -1,0 +1,268 @@
+#include <gtest/gtest.h>
+
+#include <cfloat>
+#include <climits>
+#include <cmath>
+#include <limits>
+
+#include "controls/CFloatEdit.h"
+#include "controls/CIntEdit.h"
+#include "controls/NumberInput.h"
+#include "platform/Locale.h"
+#include "platform/System.h"
+
+namespace {
+
+using Content = CNumericEdit::Content;
+
+TEST(NumberInput, ReadsWhatTheLocaleWrites) {
+  struct Row {
+    const wchar_t* locale;
+    const wchar_t* text;
+    double value;  ///< NaN: not a number
+  };
+  const double none = std::numeric_limits<double>::quiet_NaN();
+  const Row rows[] = {{L"en_US", L"1,234.5", 1234.5},
+                      {L"en_US", L" -0.5e-3 ", -0.0005},
+                      {L"en_US", L"1,5", none},
+                      {L"en_US", L"12,34,567", none},
+                      {L"en_US", L"max(1,2)", 2},
+                      {L"en_US", L"2*12.5", 25},
+                      {L"en_US", L"(1+2)*3^2", 27},
+                      {L"en_US", L"1.2.3", none},
+                      {L"en_US", L"", none},
+                      {L"en_US", L"  ", none},
+                      {L"en_US", L"-", none},
+                      {L"en_US", L".", none},
+                      {L"en_US", L".5", 0.5},
+                      {L"en_US", L"5.", 5},
+                      {L"en_US", L"1/0", none},
+                      {L"en_US", L"1e999", none},
+                      {L"en_US", L"inf", none},
+                      {L"en_US", L"nan", none},
+                      {L"en_US", L"0x10", none},
+                      {L"en_US", L"\u221212", -12},
+                      {L"en_US", L"3\u00d74", 12},
+                      {L"de_DE", L"12,5", 12.5},
+                      {L"de_DE", L"1.234,5", 1234.5},
+                      {L"de_DE", L"2.500", 2500},
+                      {L"de_DE", L"2.5", 2.5},
+                      {L"de_DE", L"2*12,5", 25},
+                      {L"de_DE", L"max(1,5;2)", 2},
+                      {L"de_DE", L"1,234.5", none},
+                      {L"fr_CH", L"1\u00a0234,5", 1234.5},
+                      {L"fr_CH", L"1\u202f234,5", 1234.5},
+                      {L"fr_CH", L"1'234.5", 1234.5},
+                      {L"fr_CH", L"1\u2019234\u2019567", 1234567},
+                      {L"fr_CH", L"1'23", none},
+                      {L"hi_IN", L"\u0967\u0968.\u096b", 12.5},
+                      {L"hi_IN", L"1,234", 1234},
+                      {L"ar_EG", L"\u0661\u0662\u066b\u0665", 12.5}};
+  for (const Row& row : rows) {
+    ASSERT_TRUE(coregui::SetUserLocale(row.locale));
+    double value = none;
+    EXPECT_EQ(coregui::ParseNumberInput(row.text, value), !std::isnan(row.value))
+        << CString(row.locale).ToUtf8() << " " << CString(row.text).ToUtf8() << " gives " << value;
+    if (!std::isnan(row.value)) {
+      EXPECT_DOUBLE_EQ(value, row.value) << CString(row.text).ToUtf8();
+    }
+  }
+}
+
+TEST(NumberFormat, OnlyOneDirectiveOfTheRightTypeIsUsed) {
+  using coregui::NumberFormat;
+  struct Row {
+    const wchar_t* format;
+    const wchar_t* text;  ///< of 1234.56789
+    int decimals;
+  };
+  constexpr Row rows[] = {
+      {L"%.2f", L"1234,57", 2},     {L"%f", L"1234,567890", 6}, {L"St. %+09.1f m", L"St. +001234,6 m", 1},
+      {L"%.3f%%", L"1234,568%", 3}, {L"%s", L"1234,56789", 0},  {L"%d", L"1234,56789", 0},
+      {L"%n", L"1234,56789", 0},    {L"%*f", L"1234,56789", 0}, {L"%.999f", L"1234,56789", 0},
+      {L"%f %f", L"1234,56789", 0}, {L"%", L"1234,56789", 0},   {L"%.", L"1234,56789", 0},
+      {L"none", L"1234,56789", 0},  {L"", L"1234,56789", 0},    {nullptr, L"1234,56789", 0}};
+  ASSERT_TRUE(coregui::SetUserLocale(L"de_DE"));
+  for (const Row& row : rows) {
+    const NumberFormat format(NumberFormat::Kind::real, row.format);
+    EXPECT_EQ(format.Text(1234.56789), row.text) << CString(row.format).ToUtf8();
+    EXPECT_EQ(format.Decimals(), row.decimals) << CString(row.format).ToUtf8();
+  }
+  const NumberFormat whole(NumberFormat::Kind::whole, L"%05d pcs");
+  EXPECT_EQ(whole.Text(-42), L"-0042 pcs");
+  EXPECT_EQ(whole.WithoutSurroundings(L" 17 pcs "), L"17");
+  EXPECT_EQ(NumberFormat(NumberFormat::Kind::whole, L"%.0f").Text(INT_MIN), L"-2147483648");
+  EXPECT_EQ(NumberFormat(NumberFormat::Kind::real, nullptr).Text(100000), L"100000");
+}
+
+/// A shown window with both kinds of boxes.
+class NumericEditTest : public testing::Test {
+ protected:
+  NumericEditTest() {
+    m_host.Create(L"", L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 300, 100), nullptr, 0);
+    m_host.SetActiveWindow();
+    constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER;
+    m_real.Create(kStyle, CRect(10, 10, 150, 34), &m_host, 1);
+    m_whole.Create(kStyle, CRect(10, 40, 150, 64), &m_host, 2);
+  }
+  static void Type(CWnd& window, const wchar_t* text) {
+    window.SetFocus();
+    static_cast<CEdit&>(window).SetSel(0, -1);
+    for (; *text != L'\0'; ++text) window.SendMessage(WM_CHAR, static_cast<WPARAM>(*text), 1);
+  }
+  static CString Text(const CWnd& window) { return window.GetWindowTextString(); }
+
+  CWnd m_host;
+  CFloatEdit m_real;
+  CIntEdit m_whole;
+};
+
+TEST_F(NumericEditTest, AValueThatIsSetKeepsItsDigitsAndItsRange) {
+  coregui::SetUserLocale(L"de_DE");
+  EXPECT_EQ(Text(m_whole), L"0");
+  m_real.SetParameters(-100, 100, L"%.2f");
+  m_real.SetValue(12.3456);
+  EXPECT_EQ(Text(m_real), L"12,35");
+  EXPECT_EQ(m_real.GetValue(), 12.3456);
+  m_real.SetValue(1e9);
+  EXPECT_EQ(m_real.GetValue(), 100);
+  m_real.SetValue(std::numeric_limits<double>::quiet_NaN());
+  EXPECT_EQ(m_real.GetValue(), 0);
+  m_real.SetParameters(50, 20, L"%.1f");  // exchanged; the value follows the range
+  EXPECT_EQ(Text(m_real), L"20,0");
+  m_real.SetParameters(std::nan(""), INFINITY, L"%g");
+  m_real.SetValue(-DBL_MAX);
+  EXPECT_EQ(m_real.GetValue(), -DBL_MAX);
+  m_whole.SetParameters(INT_MIN, INT_MAX);
+  m_whole.SetValue(INT_MIN);
+  EXPECT_EQ(m_whole.GetValue(), INT_MIN);
+  EXPECT_EQ(Text(m_whole), L"-2147483648");
+}
+
+TEST_F(NumericEditTest, WhatIsTypedStaysAndIsMarkedUntilTheFocusLeaves) {
+  m_real.SetParameters(0, 100, L"%.1f");
+  m_real.SetValue(5);
+  struct Row {
+    const wchar_t* typed;
+    Content content;
+    double value;
+    const wchar_t* problem;
+    const wchar_t* after;
+  };
+  constexpr Row rows[] = {{L"2*12.5", Content::number, 25, L"", L"25.0"},
+                          {L"1000", Content::outside, 100, L"More than 100: 100 is taken", L"100.0"},
+                          {L"-0.5", Content::outside, 0, L"Less than 0: 0 is taken", L"0.0"},
+                          {L"12.34", Content::number, 12.34, L"", L"12.3"},
+                          {L"2*", Content::notANumber, 12.34, L"Not a number: 12.3 stays", L"12.3"}};
+  for (const Row& row : rows) {
+    const int beeps = GetBeepCount(MB_ICONEXCLAMATION_SOUND);
+    Type(m_real, row.typed);
+    EXPECT_EQ(Text(m_real), row.typed);
+    EXPECT_EQ(m_real.GetContent(), row.content) << CString(row.typed).ToUtf8();
+    EXPECT_EQ(m_real.GetValue(), row.value);
+    EXPECT_EQ(m_real.GetProblem(), row.problem);
+    m_real.SendMessage(WM_KILLFOCUS);  // to another program: what is half typed stays
+    EXPECT_EQ(Text(m_real), row.typed);
+    m_whole.SetFocus();
+    EXPECT_EQ(Text(m_real), row.after);
+    EXPECT_EQ(m_real.GetValue(), row.value);
+    EXPECT_EQ(m_real.GetProblem(), L"");
+    EXPECT_EQ(GetBeepCount(MB_ICONEXCLAMATION_SOUND) - beeps, row.content == Content::number ? 0 : 1);
+  }
+}
+
+TEST_F(NumericEditTest, AFractionWhereAWholeNumberIsWantedIsRoundedAndTold) {
+  m_whole.SetParameters(-10, 10);
+  Type(m_whole, L"5/2");
+  EXPECT_EQ(m_whole.GetContent(), Content::notWhole);
+  EXPECT_EQ(m_whole.GetProblem(), L"Not a whole number: 3 is taken");
+  EXPECT_EQ(m_whole.GetValue(), 3);
+  Type(m_whole, L"99999999999");
+  EXPECT_EQ(m_whole.GetValue(), 10);
+  EXPECT_EQ(m_whole.GetContent(), Content::outside);
+  m_whole.Commit();
+  EXPECT_EQ(Text(m_whole), L"10");
+  EXPECT_TRUE(m_whole.Undo());
+  EXPECT_EQ(Text(m_whole), L"99999999999");
+}
+
+TEST_F(NumericEditTest, KeysAndTheWheelStepWithinTheRange) {
+  m_real.SetParameters(0, 2, L"%.2f m");
+  m_real.SetFocus();
+  EXPECT_EQ(m_real.GetStep(), 0.1);
+  for (int i = 0; i < 3; ++i) m_real.SendMessage(WM_KEYDOWN, VK_UP);
+  EXPECT_EQ(m_real.GetValue(), 0.3);
+  EXPECT_EQ(Text(m_real), L"0.30 m");
+  m_real.SendMessage(WM_KEYDOWN, VK_NEXT);
+  EXPECT_EQ(m_real.GetValue(), 0);
+  m_real.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 2 * WHEEL_DELTA));
+  EXPECT_EQ(m_real.GetValue(), 0.2);
+  m_real.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(MK_CONTROL, static_cast<WORD>(-WHEEL_DELTA)));
+  EXPECT_EQ(m_real.GetValue(), 0);
+  Type(m_real, L"1+0.5");
+  m_real.SendMessage(WM_KEYDOWN, VK_DOWN);
+  EXPECT_EQ(Text(m_real), L"1.40 m");
+  m_whole.SetFocus();
+  m_real.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA));
+  EXPECT_EQ(Text(m_real), L"1.40 m");
+  m_whole.SetParameters(INT_MIN, INT_MAX);
+  m_whole.SetValue(INT_MAX);
+  m_whole.SendMessage(WM_KEYDOWN, VK_PRIOR);
+  EXPECT_EQ(m_whole.GetValue(), INT_MAX);
+  m_whole.SetReadOnly();
+  m_whole.SendMessage(WM_KEYDOWN, VK_DOWN);
+  EXPECT_EQ(m_whole.GetValue(), INT_MAX);
+}
+
+TEST_F(NumericEditTest, TheStepFollowsTheRangeUnlessItIsSet) {
+  struct Row {
+    double least;
+    double most;
+    const wchar_t* format;
+    double step;
+  };
+  constexpr Row rows[] = {{-DBL_MAX, DBL_MAX, L"%.3f", 1}, {0, 10, L"%.3f", 1},      {0, 9, L"%.3f", 0.1},
+                          {0, 0.5, L"%.3f", 0.01},         {0, 0.05, L"%.2f", 0.01}, {3, 3, L"%.2f", 1}};
+  for (const Row& row : rows) {
+    m_real.SetParameters(row.least, row.most, row.format);
+    EXPECT_DOUBLE_EQ(m_real.GetStep(), row.step) << row.most;
+  }
+  m_real.SetStep(0.25);
+  EXPECT_EQ(m_real.GetStep(), 0.25);
+}
+
+TEST(NumericEdit, WithoutAWindowItHasAValueThatShowsOnceItIsMade) {
+  CFloatEdit edit;
+  edit.SetParameters(0, 10, L"%.1f");
+  edit.SetValue(2.5);
+  EXPECT_EQ(edit.GetValue(), 2.5);
+  CWnd host;
+  host.Create(L"", L"host", WS_OVERLAPPEDWINDOW, CRect(0, 0, 300, 100), nullptr, 0);
+  edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 24), &host, 1);
+  EXPECT_EQ(edit.GetWindowTextString(), L"2.5");
+  EXPECT_EQ(edit.GetValue(), 2.5);
+}
+
+/// Destroys its edit box as soon as that tells of a change.
+class Destroyer : public CWnd {
+ public:
+  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (edit != nullptr && message == WM_COMMAND && HIWORD(wParam) == EN_CHANGE) edit->DestroyWindow();
+    return CWnd::WindowProc(message, wParam, lParam);
+  }
+  CWnd* edit = nullptr;
+};
+
+TEST(NumericEdit, TheParentMayDestroyItWhenItTells) {
+  for (const UINT key : {VK_UP, static_cast<UINT>('7')}) {
+    Destroyer host;
+    CIntEdit edit;
+    host.Create(L"", L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 300, 100), nullptr, 0);
+    edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 24), &host, 1);
+    host.edit = &edit;
+    edit.SendMessage(key == VK_UP ? WM_KEYDOWN : WM_CHAR, key, 1);
+    EXPECT_FALSE(edit.HasWindow());
+  }
+}
+
+}  // namespace
