@@ -18,6 +18,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/CWnd.h"
 #include "platform/Keys.h"
 #include "platform/qt/interop.h"
 
@@ -74,13 +75,10 @@ void CloseWindow(QWidget& widget) {
   }
 }
 
-void DrawForPeople(const QWidget& widget) {
-  static int count = 0;
-  const QString folder = qEnvironmentVariable("COREGUI_PICTURES");
-  if (folder.isEmpty()) return;
-  const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-  ShownWindow(const_cast<QWidget&>(widget))
-      .SavePicture((folder + "/" + test->name() + QString::number(++count) + ".png").toStdString());
+/// The window that a NextWindow waits for or has met last.
+const QWidget*& Expected() {
+  static const QWidget* expected = nullptr;
+  return expected;
 }
 
 }  // namespace
@@ -153,8 +151,8 @@ void ShownWindow::Type(const std::string& text) {
 void ShownWindow::Choose(const std::string& path) {
   auto* edit = m_widget.findChild<QLineEdit*>("fileNameEdit");
   ASSERT_NE(edit, nullptr) << "no file dialog";
+  edit->setFocus();  // first: the focus may bring another name along
   edit->setText(QString::fromStdString(path));
-  edit->setFocus();
   Send(m_widget, Qt::Key_Return);
 }
 
@@ -177,8 +175,13 @@ std::string ShownWindow::Filters() const {
   return dialog == nullptr ? "no file dialog" : dialog->nameFilters().join('\n').toStdString();
 }
 
-void ShownWindow::SavePicture(const std::string& path) const {
-  EXPECT_TRUE(m_widget.grab().save(QString::fromStdString(path))) << path;
+void ShownWindow::Draw(const std::string& mark) const {
+  const QString folder = qEnvironmentVariable("COREGUI_PICTURES");
+  if (folder.isEmpty()) return;
+  if (CWnd* window = Window()) window->UpdateWindow();
+  const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+  const QString path = folder + "/" + test->name() + "-" + QString::fromStdString(mark) + ".png";
+  EXPECT_TRUE(m_widget.grab().save(path)) << path.toStdString();
 }
 
 class NextWindow::Watch : public QObject {
@@ -192,6 +195,7 @@ class NextWindow::Watch : public QObject {
     auto* widget = qobject_cast<QWidget*>(object);
     if (event->type() == QEvent::Show && widget != nullptr && IsDialogLike(*widget)) {
       qApp->removeEventFilter(this);
+      Expected() = widget;
       QMetaObject::invokeMethod(
           this, [this, shown = QPointer<QWidget>(widget)] { Act(shown); }, Qt::QueuedConnection);
     }
@@ -202,10 +206,14 @@ class NextWindow::Watch : public QObject {
   void Act(const QPointer<QWidget>& shown) {
     if (shown.isNull()) return;
     m_met = true;
-    DrawForPeople(*shown);
     const bool failedBefore = testing::Test::HasFailure();
     ShownWindow window(*shown);
-    m_act(window);
+    static int count = 0;
+    window.Draw(std::to_string(++count));
+    {
+      const NoWindow noOther;  // it would wait for a person for ever
+      m_act(window);
+    }
     // A window that a failure left open would keep the run waiting for ever.
     if (!failedBefore && testing::Test::HasFailure() && !shown.isNull() && shown->isVisible())
       CloseWindow(*shown);
@@ -227,8 +235,9 @@ class NoWindow::Watch : public QObject {
   Watch() { qApp->installEventFilter(this); }
   bool eventFilter(QObject* object, QEvent* event) override {
     auto* widget = qobject_cast<QWidget*>(object);
-    if (event->type() == QEvent::Show && widget != nullptr && IsDialogLike(*widget)) {
-      ADD_FAILURE() << "unexpected window: " << widget->windowTitle().toStdString();
+    if (event->type() == QEvent::Show && widget != nullptr && IsDialogLike(*widget) && widget != Expected()) {
+      ADD_FAILURE() << "unexpected window: " << widget->windowTitle().toStdString() << " "
+                    << ShownWindow(*widget).Text();
       QMetaObject::invokeMethod(
           widget, [widget] { CloseWindow(*widget); }, Qt::QueuedConnection);
     }

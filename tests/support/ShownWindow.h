@@ -49,8 +49,9 @@ class ShownWindow {
   bool CanMakeFolder() const;
   /// The name filters of a file dialog, one a line.
   std::string Filters() const;
-  /// Writes a picture as PNG.
-  void SavePicture(const std::string& path) const;
+  /// Draws the window into the folder of the environment variable COREGUI_PICTURES, for people to look at;
+  /// the file bears the test's name and `mark`. Nothing without the variable.
+  void Draw(const std::string& mark) const;
 
  private:
   QWidget& m_widget;
