@@ -101,7 +101,7 @@ TEST_F(FileDialogsTest, FiltersAreTakenWholeOrMadeOfNameAndExtension) {
     EXPECT_FALSE(coreFileDialog(L"Open", path, row.text1, row.text2, true, 0));
   }
   const NextWindow next([&](ShownWindow& dialog) { dialog.Choose(m_folder + "/new"); });
-  CString path = At("survey.csv");
+  CString path = At("draft.csv");
   EXPECT_TRUE(coreFileDialog(L"Save", path, L"Survey", L".csv", false, OFN_OVERWRITEPROMPT));
   EXPECT_EQ(path, At("new.csv"));
 }

@@ -1,0 +1,225 @@
+#include <gtest/gtest.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <sstream>
+
+#include "dialogs/CFileCopyProgressDlg.h"
+#include "platform/System.h"
+#include "tests/support/ShownWindow.h"
+#include "tests/support/TestEnvironment.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using coregui::test::NextWindow;
+using coregui::test::ShownWindow;
+
+class FileCopyProgressTest : public testing::Test {
+ protected:
+  FileCopyProgressTest() { fs::create_directories(m_folder); }
+  ~FileCopyProgressTest() override { fs::remove_all(m_folder); }
+  std::string At(const std::string& name) const { return m_folder + "/" + name; }
+  void Write(const char* name, const std::string& bytes) const {
+    std::ofstream(At(name), std::ios::binary) << bytes;
+  }
+  std::string Read(const std::string& path) const {
+    std::ostringstream text;
+    text << std::ifstream(path, std::ios::binary).rdbuf();
+    return text.str();
+  }
+  static CString Text(const ShownWindow& window, UINT id) {
+    return window.Window()->GetDlgItem(static_cast<int>(id))->GetWindowTextString();
+  }
+  static int Bar(const ShownWindow& window) {
+    return static_cast<CProgressCtrl*>(window.Window()->GetDlgItem(CFileCopyProgressDlg::kBarId))->GetPos();
+  }
+  /// Copies, with the timers fired by hand; `look` sees the dialog when the copy is over.
+  static bool Copy(
+      const std::string& from, const std::string& to,
+      const std::function<void(ShownWindow&)>& look = [](ShownWindow&) {}) {
+    const NextWindow next([&](ShownWindow& window) {
+      CWnd* dialog = window.Window();
+      dialog->SendMessage(WM_TIMER, CFileCopyProgressDlg::kStartTimer);
+      look(window);
+      dialog->SendMessage(WM_TIMER, CFileCopyProgressDlg::kCloseTimer);
+    });
+    return coreCopyFilesWithProgress(CString::FromUtf8(from), CString::FromUtf8(to), L"Copying A & B");
+  }
+  /// The same for a copy that fails: `error` is shown.
+  bool FailingCopy(const std::string& from, const std::string& to, int error) {
+    const NextWindow dialog([&](ShownWindow& window) {
+      CWnd* shown = window.Window();
+      shown->SendMessage(WM_TIMER, CFileCopyProgressDlg::kStartTimer);
+      m_box = std::make_unique<NextWindow>([&](ShownWindow& box) {
+        EXPECT_EQ(box.Title(), "Error");
+        const CString reason = GetErrorText(static_cast<DWORD>(error));
+        EXPECT_EQ(box.Text(),
+                  CString::Formatted(L"File Copy Error failed with error %d: %s", error, reason.GetString())
+                      .ToUtf8());
+        box.Click("OK");
+      });
+      shown->SendMessage(WM_TIMER, CFileCopyProgressDlg::kCloseTimer);
+    });
+    const bool copied = coreCopyFilesWithProgress(CString::FromUtf8(from), CString::FromUtf8(to), L"");
+    m_box.reset();
+    return copied;
+  }
+  std::size_t FileCount(const std::string& folder) const {
+    return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
+  }
+
+  std::string m_folder = coregui::test::ScratchFolder() + "/progress";
+  std::unique_ptr<NextWindow> m_box;
+};
+
+TEST_F(FileCopyProgressTest, TheBarAndTheAmountFollowTheCopy) {
+  struct Row {
+    std::size_t size;
+    const wchar_t* before;
+    const wchar_t* after;
+  };
+  constexpr Row rows[] = {{0, L"0 bytes", L"0 bytes/0 bytes"},
+                          {1023, L"1023 bytes", L"1023 bytes/1023 bytes"},
+                          {1536, L"1.50 KB", L"1.50 KB/1.50 KB"},
+                          {1048576, L"1.00 MB", L"1.00 MB/1.00 MB"}};
+  for (const Row& row : rows) {
+    const std::string bytes(row.size, 'x');
+    Write("a", bytes);
+    Write("b", "old");
+    const NextWindow next([&](ShownWindow& window) {
+      EXPECT_EQ(Text(window, CFileCopyProgressDlg::kAmountId), row.before);
+      EXPECT_EQ(Text(window, CFileCopyProgressDlg::kDescriptionId), L"A && B");
+      EXPECT_EQ(Read(At("b")), "old");  // nothing happens before the dialog has been seen
+      window.Window()->SendMessage(WM_TIMER, CFileCopyProgressDlg::kStartTimer);
+      EXPECT_EQ(Text(window, CFileCopyProgressDlg::kAmountId), row.after);
+      EXPECT_EQ(Bar(window), 201);
+      EXPECT_TRUE(window.IsOpen());
+      window.Window()->SendMessage(WM_TIMER, CFileCopyProgressDlg::kCloseTimer);
+    });
+    EXPECT_TRUE(coreCopyFilesWithProgress(CString::FromUtf8(At("a")), CString::FromUtf8(At("b")), L"A & B"));
+    EXPECT_EQ(Read(At("b")), bytes);
+  }
+}
+
+TEST_F(FileCopyProgressTest, TheEndIsOnePastTheBarsRangeIsKept) {
+  constexpr std::uint64_t kGiga = std::uint64_t{1} << 30U;
+  EXPECT_EQ(CFileCopyProgressDlg::BarPosition(1000, 0), 0);
+  EXPECT_EQ(CFileCopyProgressDlg::BarPosition(1000, 1), 1);
+  EXPECT_EQ(CFileCopyProgressDlg::BarPosition(1000, 500), 100);
+  EXPECT_EQ(CFileCopyProgressDlg::BarPosition(10 * kGiga, 10 * kGiga - 1), 200);
+  EXPECT_EQ(CFileCopyProgressDlg::BarPosition(10 * kGiga, 10 * kGiga), 201);
+  EXPECT_EQ(CFileCopyProgressDlg::BarPosition(10, 11), 201);
+  EXPECT_EQ(CFileCopyProgressDlg::BarPosition(0, 0), 201);
+}
+
+/// Acts when its posted message arrives: in the midst of the copy.
+class Meanwhile : public CWnd {
+ public:
+  explicit Meanwhile(std::function<void()> act) : m_act(std::move(act)) {
+    Create(L"", L"", WS_POPUP, CRect(0, 0, 1, 1), nullptr, 0);
+    PostMessage(WM_APP);
+  }
+  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (message == WM_APP) m_act();
+    return CWnd::WindowProc(message, wParam, lParam);
+  }
+
+ private:
+  std::function<void()> m_act;
+};
+
+TEST_F(FileCopyProgressTest, NeitherKeysNorTheFrameEndTheDialog) {
+  Write("a", std::string(3'000'000, 'x'));
+  int pressed = 0;
+  const NextWindow next([&](ShownWindow& window) {
+    CWnd* dialog = window.Window();
+    const auto press = [&] {
+      ++pressed;
+      window.Key(VK_RETURN);
+      window.Key(VK_ESCAPE);
+      dialog->SendMessage(WM_CLOSE);
+      EXPECT_TRUE(window.IsOpen());
+    };
+    press();
+    const Meanwhile inTheCopy([&] {
+      EXPECT_FALSE(fs::exists(At("b")));
+      press();
+    });
+    dialog->SendMessage(WM_TIMER, CFileCopyProgressDlg::kStartTimer);
+    press();
+    dialog->SendMessage(WM_TIMER, CFileCopyProgressDlg::kCloseTimer);
+    EXPECT_FALSE(window.IsOpen());
+  });
+  EXPECT_TRUE(coreCopyFilesWithProgress(CString::FromUtf8(At("a")), CString::FromUtf8(At("b")), L""));
+  EXPECT_EQ(pressed, 3);
+}
+
+TEST_F(FileCopyProgressTest, AFailureIsShownAndLeavesWhatWasThere) {
+  EXPECT_FALSE(FailingCopy(At("missing"), At("b"), ENOENT));
+  Write("a", "x");
+  EXPECT_FALSE(FailingCopy(At("a"), At("a"), EINVAL));
+  EXPECT_EQ(Read(At("a")), "x");
+  EXPECT_FALSE(FailingCopy(At("a"), At("no folder/b"), ENOENT));
+  fs::create_symlink(At("a"), At("link"));
+  EXPECT_FALSE(FailingCopy(At("a"), At("link"), EINVAL));
+  EXPECT_FALSE(FailingCopy(At("link"), At("a"), EINVAL));
+  EXPECT_EQ(Read(At("a")), "x");
+  EXPECT_EQ(FileCount(m_folder), 2U);
+}
+
+TEST_F(FileCopyProgressTest, ASourceThatVanishesOrChangesBeforeTheCopy) {
+  Write("a", "four");
+  const NextWindow next([&](ShownWindow& window) {
+    EXPECT_EQ(Text(window, CFileCopyProgressDlg::kAmountId), L"4 bytes");
+    Write("a", "fifteen bytes..");
+    window.Window()->SendMessage(WM_TIMER, CFileCopyProgressDlg::kStartTimer);
+    EXPECT_EQ(Text(window, CFileCopyProgressDlg::kAmountId), L"15 bytes/15 bytes");
+    window.Window()->SendMessage(WM_TIMER, CFileCopyProgressDlg::kCloseTimer);
+  });
+  EXPECT_TRUE(coreCopyFilesWithProgress(CString::FromUtf8(At("a")), CString::FromUtf8(At("b")), L""));
+  EXPECT_EQ(Read(At("b")), "fifteen bytes..");
+}
+
+TEST_F(FileCopyProgressTest, ASymbolicLinkIsFollowedAtBothEnds) {
+  Write("real", "old");
+  Write("new", "new");
+  fs::create_symlink(At("real"), At("to"));
+  fs::create_symlink(At("new"), At("from"));
+  EXPECT_TRUE(Copy(At("from"), At("to")));
+  EXPECT_TRUE(fs::is_symlink(At("to")));
+  EXPECT_EQ(Read(At("real")), "new");
+}
+
+TEST_F(FileCopyProgressTest, AFullDiskLeavesNoHalfFile) {
+  const std::string disk = At("disk");
+  fs::create_directory(disk);
+  if (::mount("none", disk.c_str(), "tmpfs", 0, "size=1m") != 0) {
+    GTEST_SKIP() << "no small file system can be mounted here: " << GetErrorText(GetLastError()).ToUtf8();
+  }
+  Write("a", std::string(2'000'000, 'x'));
+  std::ofstream(disk + "/b") << "old";
+  EXPECT_FALSE(FailingCopy(At("a"), disk + "/b", ENOSPC));
+  EXPECT_EQ(Read(disk + "/b"), "old");
+  EXPECT_EQ(FileCount(disk), 1U);
+  EXPECT_EQ(::umount(disk.c_str()), 0);
+}
+
+TEST_F(FileCopyProgressTest, ATargetThatMayNotBeWrittenIsLeft) {
+  if (::geteuid() == 0) GTEST_SKIP() << "the superuser may write everywhere";
+  Write("a", "new");
+  const std::string folder = At("read only");
+  fs::create_directory(folder);
+  std::ofstream(folder + "/b") << "old";
+  fs::permissions(folder, fs::perms::owner_read | fs::perms::owner_exec);
+  EXPECT_FALSE(FailingCopy(At("a"), folder + "/b", EACCES));
+  fs::permissions(folder, fs::perms::owner_all);
+  EXPECT_EQ(Read(folder + "/b"), "old");
+}
+
+}  // namespace

@@ -1,0 +1,129 @@
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <limits>
+
+#include "dialogs/CSingleInputDlg.h"
+#include "platform/Locale.h"
+#include "platform/System.h"
+#include "tests/support/ShownWindow.h"
+
+namespace {
+
+using coregui::test::NextWindow;
+using coregui::test::ShownWindow;
+
+CWnd& Edit(const ShownWindow& window) {
+  return *window.Window()->GetDlgItem(CSingleInputDlg::kEditId);
+}
+
+TEST(SingleInput, ATextIsAskedForAndCancellingLeavesIt) {
+  CString value = L"A & B";
+  {
+    const NextWindow next([](ShownWindow& window) {
+      EXPECT_EQ(window.Title(), "Name");
+      EXPECT_EQ(window.Window()->GetDlgItem(CSingleInputDlg::kPromptId)->GetWindowTextString(),
+                L"&New name 100%s");
+      EXPECT_EQ(window.Focus(), "New name 100%s");
+      EXPECT_EQ(Edit(window).GetWindowTextString(), L"A & B");
+      window.Type("J\xC3\xBCrg 12");  // in place of what is selected at first
+      window.Key(VK_RETURN);
+    });
+    EXPECT_TRUE(coreGetStringValue(nullptr, L"Name", L"&New name 100%s", value));
+    EXPECT_EQ(value, L"J\u00fcrg 12");
+  }
+  const NextWindow next([](ShownWindow& window) {
+    window.Type("other");
+    window.Key(VK_ESCAPE);
+  });
+  EXPECT_FALSE(coreGetStringValue(nullptr, L"Name", L"", value));
+  EXPECT_EQ(value, L"J\u00fcrg 12");
+}
+
+TEST(SingleInput, NumbersAreTypedInEveryLocaleAndAsExpressions) {
+  struct Row {
+    const wchar_t* locale;
+    const char* shown;
+    const char* typed;
+    double value;
+  };
+  constexpr Row rows[] = {{L"de_DE", "1,250", "2*12,5", 25},
+                          {L"fr_CH", "1,250", "1'000.125", 1000.125},
+                          {L"en_US", "1.250", "1,000.125", 1000.125},
+                          {L"hi_IN", "1.250", "1,500", 1500}};
+  for (const Row& row : rows) {
+    ASSERT_TRUE(coregui::SetUserLocale(row.locale));
+    const NextWindow next([&](ShownWindow& window) {
+      EXPECT_EQ(Edit(window).GetWindowTextString().ToUtf8(), row.shown);
+      window.Type(row.typed);
+      window.Click("OK");
+    });
+    double value = 1.25;
+    EXPECT_TRUE(coreGetDoubleValue(nullptr, L"Scale", L"Factor", value, 0, 2000, L"%.3f"));
+    EXPECT_DOUBLE_EQ(value, row.value);
+  }
+}
+
+TEST(SingleInput, AnUntouchedNumberKeepsTheDigitsThatAreNotShown) {
+  const NextWindow next([&](ShownWindow& window) {
+    EXPECT_EQ(Edit(window).GetWindowTextString(), L"3");
+    window.Key(VK_RETURN);
+  });
+  double value = 3.14159;
+  EXPECT_TRUE(coreGetDoubleValue(nullptr, L"a", L"b", value, -10, 10, L"%.0f"));
+  EXPECT_EQ(value, 3.14159);
+}
+
+TEST(SingleInput, AValueOutsideTheRangeIsToldAndTheNearestIsTaken) {
+  SetDarkTheme(true);
+  const NextWindow next([&](ShownWindow& window) {
+    EXPECT_EQ(Edit(window).GetWindowTextString(), L"10");  // what is handed in is kept in the range as well
+    window.Type("250");
+    EXPECT_EQ(Edit(window).GetWindowTextString(), L"250");
+    EXPECT_EQ(window.Focus(), "Copies (More than 10: 10 is taken)");
+    window.Draw("dark");
+    window.Key(VK_UP);
+    EXPECT_EQ(window.Focus(), "Copies");
+    window.Type("11");  // in place of the number that the step selected
+    EXPECT_EQ(Edit(window).GetWindowTextString(), L"11");
+    SetDarkTheme(false);
+    window.Draw("light");
+    window.Key(VK_RETURN);
+  });
+  int value = 99;
+  EXPECT_TRUE(coreGetIntValue(nullptr, L"Print", L"Copies", value, 1, 10));
+  EXPECT_EQ(value, 10);
+}
+
+TEST(SingleInput, TheLowestWholeNumberIsInTheRangeOnlyWhenAskedForIsKept) {
+  EXPECT_EQ(CSingleInputDlg(CSingleInputDlg::kWhole).minInt, -INT_MAX);
+  EXPECT_EQ(CSingleInputDlg(CSingleInputDlg::kReal).maxDouble, std::numeric_limits<double>::max());
+  int value = 5;
+  const NextWindow next([&](ShownWindow& window) {
+    window.Type("-2147483648");
+    EXPECT_EQ(window.Focus(), "b");
+    window.Key(VK_RETURN);
+  });
+  EXPECT_TRUE(coreGetIntValue(nullptr, L"a", L"b", value, INT_MIN, INT_MAX));
+  EXPECT_EQ(value, INT_MIN);
+}
+
+TEST(SingleInput, ALongPromptIsWrappedAboveTheField) {
+  CString value;
+  const NextWindow next([&](ShownWindow& window) {
+    CRect prompt;
+    CRect edit;
+    window.Window()->GetDlgItem(CSingleInputDlg::kPromptId)->GetWindowRect(&prompt);
+    Edit(window).GetWindowRect(&edit);
+    EXPECT_GT(prompt.Height(), 2 * 14);
+    EXPECT_LE(prompt.bottom, edit.top);
+    window.Key(VK_ESCAPE);
+  });
+  EXPECT_FALSE(coreGetStringValue(
+      nullptr, L"Alignment",
+      L"The name of the new alignment, as it is to appear in every long-section, cross-section "
+      L"and table of this survey, in the language of the client",
+      value));
+}
+
+}  // namespace
