@@ -29,6 +29,6 @@ COREGUI_API bool coreReleaseLock(const wchar_t* dataFile, const wchar_t* lockExt
 
 /// Sets `user` to the name in the lock file (it may be empty) and `isOwn`, where given, to whether the lock
 /// is the caller's. False, with nothing set, when there is no lock file or it cannot be read; nothing is
-/// reported.
+/// shown.
 COREGUI_API bool coreGetLockHolder(const wchar_t* dataFile, const wchar_t* lockExtension, CString& user,
                                    bool* isOwn = nullptr);

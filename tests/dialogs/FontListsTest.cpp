@@ -4,6 +4,7 @@
 
 #include <set>
 
+#include "dialogs/FontFamilyCache.h"
 #include "platform/CComboBox.h"
 #include "platform/CWnd.h"
 #include "platform/FontFamilies.h"
