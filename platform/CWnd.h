@@ -70,8 +70,9 @@ class COREGUI_API CWnd : public CObject {
                 CWnd* parent, UINT id);
   /// Called before the native window is made; 0 refuses. The default allows.
   virtual BOOL PreCreateWindow(CREATESTRUCT& create);
-  /// Destroys the native window after WM_DESTROY to it, to the windows it owns and to its children. May be called inside a handler of
-  /// this window: the rest of the handler runs without a window. 0 when there is none.
+  /// Destroys the native window after WM_DESTROY to it, to the windows it owns and to its children. May be
+  /// called inside a handler of this window: the rest of the handler runs without a window. 0 when there is
+  /// none.
   virtual BOOL DestroyWindow();
   /// Takes over the place, id and parent of an existing child control and destroys that control.
   BOOL SubclassDlgItem(UINT id, CWnd* parent);
@@ -214,7 +215,7 @@ class COREGUI_API CWnd : public CObject {
   void ReleaseNative();
   friend class coregui::NativeWindow;
   void Place(const CRect& rect);
-  void PlaceChanged(const CRect& old);
+  void PlaceChanged(const CRect& old, WPARAM oldCode);
   void StackBelow(const CWnd* after);
   std::unique_ptr<coregui::WindowState> m_state;
 };

@@ -218,7 +218,7 @@ LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
       Invalidate();
       return 0;
     case WM_MOUSEACTIVATE:
-      return MA_ACTIVATE;
+      return GetParent() != nullptr ? PassToParent(*this, message, wParam, lParam) : MA_ACTIVATE;
     default:
       return 0;
   }

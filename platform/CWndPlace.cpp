@@ -45,9 +45,10 @@ CWnd* ChildAt(CWnd& window, POINT client) {
 
 }  // namespace
 
-void coregui::NativeWindow::NotePlace(CWnd& window, const CRect& rect) {
+void coregui::NativeWindow::NotePlace(CWnd& window, const CRect& rect, WPARAM sizeCode) {
   const CRect old = std::exchange(window.State().look.rect, rect);
-  if (!window.State().placing) window.PlaceChanged(old);
+  const WPARAM oldCode = std::exchange(window.State().look.sizeCode, sizeCode);
+  if (!window.State().placing) window.PlaceChanged(old, oldCode);
 }
 
 CRect CWnd::GetClientRectangle() const {
@@ -68,6 +69,7 @@ void CWnd::MoveWindow(const RECT& rect, BOOL repaint) {
 
 void CWnd::Place(const CRect& rect) {
   const CRect old = m_state->look.rect;
+  const WPARAM oldCode = m_state->look.sizeCode;
   if (old == rect) {
     return;
   }
@@ -80,19 +82,26 @@ void CWnd::Place(const CRect& rect) {
     if (!self) return;
     m_state->placing = outer;
   }
-  PlaceChanged(old);
+  PlaceChanged(old, oldCode);
 }
 
-void CWnd::PlaceChanged(const CRect& old) {
+void CWnd::PlaceChanged(const CRect& old, WPARAM oldCode) {
   const WindowRef self(this);
   const CRect rect = m_state->look.rect;
+  const WPARAM code = m_state->look.sizeCode;
   if (!(old.TopLeft() == rect.TopLeft())) {
     SendMessage(WM_MOVE, 0, MAKELPARAM(rect.left, rect.top));
   }
   if (self && !(old.Size() == rect.Size())) {
     m_state->update.region.Intersect(GetClientRectangle());
     InvalidateRect(nullptr);
-    SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(rect.Width(), rect.Height()));
+  } else if (code == oldCode) {
+    return;
+  }
+  if (self) {
+    // A minimised window has no client area to speak of; its place waits for the restoring.
+    const CSize size = code == SIZE_MINIMIZED ? CSize() : rect.Size();
+    SendMessage(WM_SIZE, code, MAKELPARAM(size.cx, size.cy));
   }
 }
 

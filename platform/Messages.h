@@ -22,6 +22,9 @@ inline constexpr UINT WM_ERASEBKGND = 0x0014;
 inline constexpr UINT WM_SYSCOLORCHANGE = 0x0015;
 inline constexpr UINT WM_SHOWWINDOW = 0x0018;
 inline constexpr UINT WM_SETCURSOR = 0x0020;
+/// Before a press in a window whose top level is not active: wParam is that one's HWND, lParam the hit place
+/// in the low word, the press's message in the high one. The default asks the parent. A desktop that
+/// activates windows by itself may have done so before the press arrives; then nobody is asked.
 inline constexpr UINT WM_MOUSEACTIVATE = 0x0021;
 inline constexpr UINT WM_SETFONT = 0x0030;
 inline constexpr UINT WM_CONTEXTMENU = 0x007B;
@@ -34,7 +37,8 @@ inline constexpr UINT WM_SYSKEYDOWN = 0x0104;
 inline constexpr UINT WM_INITDIALOG = 0x0110;
 inline constexpr UINT WM_COMMAND = 0x0111;  ///< wParam: id in the low word, code in the high; lParam: HWND
 inline constexpr UINT WM_TIMER = 0x0113;    ///< wParam: timer id
-inline constexpr UINT WM_HSCROLL = 0x0114;  ///< wParam: SB_ code in the low word; lParam: HWND of the scroll bar
+inline constexpr UINT WM_HSCROLL =
+    0x0114;  ///< wParam: SB_ code in the low word; lParam: HWND of the scroll bar
 inline constexpr UINT WM_VSCROLL = 0x0115;
 inline constexpr UINT WM_MOUSEMOVE = 0x0200;
 inline constexpr UINT WM_LBUTTONDOWN = 0x0201;
@@ -80,7 +84,9 @@ inline constexpr int WHEEL_DELTA = 120;
 
 // Answers to WM_MOUSEACTIVATE.
 inline constexpr int MA_ACTIVATE = 1;
+inline constexpr int MA_ACTIVATEANDEAT = 2;  ///< the press itself is not delivered
 inline constexpr int MA_NOACTIVATE = 3;
+inline constexpr int MA_NOACTIVATEANDEAT = 4;
 
 // Answers to WM_GETDLGCODE: the keys that a window wants for itself.
 inline constexpr UINT DLGC_WANTARROWS = 0x0001;

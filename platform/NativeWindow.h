@@ -70,8 +70,9 @@ class NativeWindow {
 
  protected:
   NativeWindow() = default;
-  /// The toolkit moved the window (a person dragged its frame): takes the place over and tells the window.
-  static void NotePlace(CWnd& window, const CRect& rect);
+  /// The toolkit moved the window (a person dragged its frame, or made it as large as the screen): takes the
+  /// place and the code of WM_SIZE over and tells the window.
+  static void NotePlace(CWnd& window, const CRect& rect, WPARAM sizeCode);
 };
 
 /// A window that we paint ourselves: what CWnd::MakeNative gives. Null when the toolkit cannot start.

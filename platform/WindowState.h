@@ -40,6 +40,7 @@ class WindowState {
     DWORD style = 0;
     DWORD exStyle = 0;
     CRect rect;             ///< in the parent's client coordinates; top level: the client area on the screen
+    WPARAM sizeCode = 0;    ///< SIZE_RESTORED ...: what WM_SIZE says
     CFont* font = nullptr;  ///< borrowed
     HCURSOR cursor = nullptr;  ///< of the class: shown unless WM_SETCURSOR is answered
   } look;

@@ -181,10 +181,29 @@ bool EventRoad::Mouse(const QMouseEvent& event) {
     target->SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(target->GetSafeHwnd()),
                         MAKELPARAM(kHitClient, static_cast<int>(message)));
   }
+  if (event.type() == QEvent::MouseButtonPress && IsAlive() && targetRef && !Activate(*target, message)) {
+    return true;
+  }
   if (IsAlive() && targetRef) {
     Send(*target, message, FlagsOf(event.buttons(), event.modifiers()), MAKELPARAM(client.x, client.y), true);
   }
   return true;
+}
+
+bool EventRoad::Activate(CWnd& target, UINT press) {
+  CWnd* top = target.GetTopLevelParent();
+  const QWidget* widget = WidgetOf(&target);
+  if (widget == nullptr || widget->isActiveWindow() || CWnd::GetActiveWindow() == top) {
+    return true;
+  }
+  const WindowRef topRef(top);
+  const LRESULT answer = target.SendMessage(WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(top->GetSafeHwnd()),
+                                            MAKELPARAM(kHitClient, static_cast<int>(press)));
+  if (topRef && (answer == MA_ACTIVATE || answer == MA_ACTIVATEANDEAT)) {
+    MoveActivation(top, true);
+    if (topRef && top->State().native != nullptr) top->State().native->Activate();
+  }
+  return answer != MA_ACTIVATEANDEAT && answer != MA_NOACTIVATEANDEAT;
 }
 
 bool EventRoad::Wheel(QWheelEvent& event) {
@@ -382,6 +401,9 @@ bool EventRoad::Other() {
       case QEvent::Move:
       case QEvent::Resize:
         m_window->NoteWidgetSize();
+        m_window->NoteGeometry();
+        break;
+      case QEvent::WindowStateChange:
         m_window->NoteGeometry();
         break;
       case QEvent::Show:

@@ -18,6 +18,8 @@ class EventRoad {
 
  private:
   bool Mouse(const QMouseEvent& event);
+  /// Before a press in a window that is not active: asks whether to activate it. False: the press is eaten.
+  bool Activate(CWnd& target, UINT press);
   bool Wheel(QWheelEvent& event);
   bool WheelAxis(const QWheelEvent& event, bool horizontal, int delta);
   bool Pan(const QWheelEvent& event);

@@ -6,6 +6,7 @@
 
 #include "platform/CDC.h"
 #include "platform/CWnd.h"
+#include "platform/System.h"
 #include "platform/Toolkit.h"
 #include "platform/WindowState.h"
 #include "platform/qt/Pump.h"
@@ -22,6 +23,8 @@ class SurfaceWidget : public QWidget {
     setAttribute(Qt::WA_InputMethodEnabled);
     setFocusPolicy(Qt::NoFocus);
   }
+  /// One pixel round the edge, over the surface's own.
+  bool hasBorder = false;
 
  protected:
   void paintEvent(QPaintEvent* event) override {
@@ -30,11 +33,21 @@ class SurfaceWidget : public QWidget {
       m_surface->Expose(painter,
                         {part.left(), part.top(), part.left() + part.width(), part.top() + part.height()});
     }
+    if (hasBorder) {
+      const COLORREF colour = GetSysColor(COLOR_3DDKSHADOW);
+      painter.setPen(QColor(GetRValue(colour), GetGValue(colour), GetBValue(colour)));
+      painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
   }
 
  private:
   std::shared_ptr<Surface> m_surface;
 };
+
+/// A caption's frame is the desktop's.
+bool HasBorder(const CWnd& window) {
+  return (window.GetStyle() & WS_CAPTION) == WS_BORDER;
+}
 
 CSize SizeOf(const CREATESTRUCT& create) {
   return {create.width, create.height};
@@ -59,6 +72,7 @@ PaintedWindow::PaintedWindow(CWnd& window, const CREATESTRUCT& create,
       m_target(std::make_shared<RasterTarget>(surface)) {
   m_surface->onDamage = [this] { Pump::Get().QueueExposure(this); };
   FitSurface(SizeOf(create), QtWindow::Scale());
+  PaintedWindow::StyleChanged();
 }
 
 PaintedWindow::~PaintedWindow() {
@@ -80,6 +94,15 @@ void PaintedWindow::FitSurface(CSize size, double scale) {
 void PaintedWindow::Move(const CRect& rect) {
   FitSurface(rect.Size(), m_surface->Scale());
   QtWindow::Move(rect);
+}
+
+void PaintedWindow::StyleChanged() {
+  auto* widget = static_cast<SurfaceWidget*>(GetWidget());
+  if (widget == nullptr || widget->hasBorder == HasBorder(Window())) {
+    return;
+  }
+  widget->hasBorder = HasBorder(Window());
+  widget->update();
 }
 
 void PaintedWindow::NoteScale() {
@@ -113,6 +136,9 @@ void PaintedWindow::PrintTo(CDC& dc) {
   CClientDC source(&Window());
   const CSize size = m_surface->Size();
   dc.BitBlt(0, 0, size.cx, size.cy, &source, 0, 0, SRCCOPY);
+  if (HasBorder(Window())) {
+    dc.FrameRect(CRect(CPoint(), size), GetSysColor(COLOR_3DDKSHADOW));
+  }
 }
 
 bool PaintedWindow::FilterOther(QWidget& /*receiver*/, QEvent& event) {

@@ -13,6 +13,7 @@ class PaintedWindow : public QtWindow {
   ~PaintedWindow() override;
 
   void Move(const CRect& rect) override;
+  void StyleChanged() override;
   std::shared_ptr<DrawTarget> Target() override { return m_target; }
   double Scale() const override { return m_surface->Scale(); }
   void Expose(const CRect& rect) override;

@@ -27,6 +27,12 @@ QRect ToQt(const CRect& rect) {
   return {rect.left, rect.top, rect.Width(), rect.Height()};
 }
 
+WPARAM SizeCodeOf(const QWidget& widget) {
+  if (!widget.isWindow()) return SIZE_RESTORED;
+  if (widget.isMinimized()) return SIZE_MINIMIZED;
+  return widget.isMaximized() || widget.isFullScreen() ? SIZE_MAXIMIZED : SIZE_RESTORED;
+}
+
 /// A widget may be in the middle of an event: it goes when the event loop is back.
 void PutAway(QWidget* widget) {
   QWidget* focus = QApplication::focusWidget();
@@ -192,7 +198,7 @@ void QtWindow::TakeFocus() {
 
 void QtWindow::Activate() {
   if (m_widget != nullptr) {
-    m_widget->raise();
+    m_widget->window()->raise();
     m_widget->activateWindow();
   }
 }
@@ -275,6 +281,9 @@ bool QtWindow::DefaultMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
   if (m_inFlight != nullptr && IsInput(message)) {
     return true;  // the other half of an event that the widget gets as a whole
   }
+  if (message == WM_MOUSEACTIVATE) {
+    return false;
+  }
   return GiveAsEvent(*m_widget, message, wParam, lParam) || message == WM_PAINT || message == WM_ERASEBKGND ||
          message == WM_SETCURSOR;
 }
@@ -297,8 +306,10 @@ bool QtWindow::eventFilter(QObject* receiver, QEvent* event) {
 void QtWindow::NoteGeometry() {
   const QRect place = m_widget->geometry();
   const CRect rect(place.left(), place.top(), place.left() + place.width(), place.top() + place.height());
-  if (m_widget->isVisible() && !(rect == m_window.State().look.rect)) {
-    NotePlace(m_window, rect);
+  const WindowState::Look& look = m_window.State().look;
+  const WPARAM code = SizeCodeOf(*m_widget);
+  if (m_widget->isVisible() && (!(rect == look.rect) || code != look.sizeCode)) {
+    NotePlace(m_window, rect, code);
   }
 }
 

@@ -87,6 +87,7 @@ LRESULT LogWindow::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     call(message);
     if (!self) return 0;
   }
+  if (activate && message == WM_MOUSEACTIVATE) return activate(wParam, lParam);
   if (message == WM_COREGUI_WANTPAN) return wantsPan ? 1 : 0;
   return input && !passes ? 1 : CWnd::WindowProc(message, wParam, lParam);
 }

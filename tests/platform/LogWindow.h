@@ -33,6 +33,7 @@ class LogWindow : public CWnd {
   std::function<void(UINT message)> onMessage;
   std::function<bool(const MSG& message)> preTranslate;
   std::function<void(UINT id)> timer;
+  std::function<int(WPARAM wParam, LPARAM lParam)> activate;  ///< answers WM_MOUSEACTIVATE
   std::function<void(HWND to)> captureLost;
   std::string name;                ///< in the journal of focus changes
   std::string* journal = nullptr;  ///< borrowed

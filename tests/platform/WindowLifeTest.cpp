@@ -243,6 +243,29 @@ TEST(WindowPlace, WhatThePersonDoesWithTheFrameArrivesAsSizeAndMove) {
   EXPECT_EQ(window.TakeLog(), "3 0 40,30;5 0 80,70;") << "what the toolkit made of it";
 }
 
+TEST(WindowPlace, MaximisedMinimisedAndRestoredSayWhichAndHowLarge) {
+  LogWindow window;
+  ASSERT_TRUE(window.Open(CRect(10, 10, 110, 60)));
+  CWinApp::PumpPending();
+  window.TakeLog();
+  window.logsState = true;
+  window.ShowWindow(SW_SHOWMAXIMIZED);
+  CWinApp::PumpPending();
+  const CSize large = window.GetClientRectangle().Size();
+  EXPECT_GT(large.cx, 300);
+  const std::string size = CString::Formatted(L"%d,%d;", large.cx, large.cy).ToUtf8();
+  const std::string log = window.TakeLog();
+  EXPECT_NE(log.find("5 2 " + size), std::string::npos) << log;
+  window.ShowWindow(SW_MINIMIZE);
+  CWinApp::PumpPending();
+  EXPECT_EQ(window.TakeLog(), "5 1 0,0;");
+  EXPECT_EQ(window.GetClientRectangle().Size(), large) << "its place waits";
+  window.ShowWindow(SW_SHOWNORMAL);
+  CWinApp::PumpPending();
+  const std::string restored = window.TakeLog();
+  EXPECT_NE(restored.find("5 0 100,50;"), std::string::npos) << restored;
+}
+
 // --- Focus and capture
 
 class FocusPair : public testing::Test {
@@ -319,6 +342,40 @@ TEST_F(FocusPair, ADragWithoutCaptureGoesToTheWindowUnderThePointer) {
   EXPECT_EQ(a.TakeLog(), "201 1 5,6;");
   EXPECT_EQ(b.TakeLog(), "200 1 20,9;");
   QTest::mouseRelease(WidgetOf(&a), Qt::LeftButton, Qt::NoModifier, QPoint(5, 6));
+}
+
+struct ActivateRow {
+  int answer;
+  bool activates;
+  bool delivers;
+};
+
+TEST_F(FocusPair, TheFirstPressAsksWhetherToActivateTheWindow) {
+  for (const ActivateRow row :
+       {ActivateRow{MA_ACTIVATE, true, true}, ActivateRow{MA_ACTIVATEANDEAT, true, false},
+        ActivateRow{MA_NOACTIVATE, false, true}, ActivateRow{MA_NOACTIVATEANDEAT, false, false}}) {
+    LogWindow other;
+    ASSERT_TRUE(other.Open());
+    other.SetActiveWindow();
+    CWinApp::PumpPending();
+    ASSERT_EQ(CWnd::GetActiveWindow(), &other);
+    int asked = 0;
+    top.activate = [&](WPARAM wParam, LPARAM lParam) {
+      ++asked;
+      EXPECT_EQ(reinterpret_cast<HWND>(wParam), top.GetSafeHwnd());
+      EXPECT_EQ(HIWORD(lParam), WM_LBUTTONDOWN);
+      return row.answer;
+    };
+    a.TakeLog();
+    QTest::mouseClick(WidgetOf(&a), Qt::LeftButton, Qt::NoModifier, QPoint(3, 4));
+    EXPECT_EQ(asked, 1) << "the child's default asks its parent";
+    EXPECT_EQ(a.TakeLog(), row.delivers ? "201 1 3,4;202 0 3,4;" : "202 0 3,4;") << row.answer;
+    EXPECT_EQ(CWnd::GetActiveWindow(), row.activates ? &top : &other) << row.answer;
+    if (row.activates) {
+      QTest::mouseClick(WidgetOf(&a), Qt::LeftButton, Qt::NoModifier, QPoint(3, 4));
+      EXPECT_EQ(asked, 1) << "only while it is not active";
+    }
+  }
 }
 
 // --- Timers

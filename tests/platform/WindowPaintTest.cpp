@@ -15,6 +15,9 @@
 
 // Everything here holds at any scale: the run at scale 2 repeats it.
 
+using coregui::WidgetOf;
+using coregui::test::LogWindow;
+
 namespace {
 
 constexpr COLORREF kRed = RGB(255, 0, 0);
@@ -256,6 +259,29 @@ TEST_F(WindowPaint, PrintingTakesTheWindowAndItsChildren) {
   EXPECT_EQ(dc.GetPixel(5, 25), Striped::ColourOf(2));
   EXPECT_EQ(dc.GetPixel(50, 50), GetSysColor(COLOR_WINDOW));
   EXPECT_EQ(dc.GetPixel(65, 65), Striped::ColourOf(6));
+}
+
+TEST(WindowBorder, IsOnePixelRoundTheEdgeUnlessThereIsACaption) {
+  LogWindow window;
+  ASSERT_TRUE(window.Open(CRect(0, 0, 60, 40)));
+  LogWindow child;
+  ASSERT_TRUE(child.OpenIn(window, CRect(10, 10, 30, 25)));
+  CWinApp::PumpPending();
+  const QColor edge(GetRValue(GetSysColor(COLOR_3DDKSHADOW)), GetGValue(GetSysColor(COLOR_3DDKSHADOW)),
+                    GetBValue(GetSysColor(COLOR_3DDKSHADOW)));
+  const auto at = [&](int x, int y) {
+    const QImage picture = WidgetOf(&window)->grab().toImage();
+    const double scale = picture.devicePixelRatio();
+    return picture.pixelColor(static_cast<int>(x * scale), static_cast<int>(y * scale));
+  };
+  EXPECT_EQ(at(10, 10), QColor(Qt::white));
+  child.ModifyStyle(0, WS_BORDER);
+  for (const QPoint point : {QPoint(10, 10), QPoint(29, 17), QPoint(15, 24)}) {
+    EXPECT_EQ(at(point.x(), point.y()), edge) << point.x();
+  }
+  EXPECT_EQ(at(11, 11), QColor(Qt::white));
+  EXPECT_EQ(at(28, 23), QColor(Qt::white));
+  EXPECT_EQ(at(0, 0), QColor(Qt::white)) << "the desktop's frame is enough";
 }
 
 }  // namespace
