@@ -78,11 +78,8 @@ bool IsEmptyPlain(CGridCell& cell) {
 void CGridCellType::OnDraw(CDC* dc, RECT* rect, int col, long row, CGridCell* cell, int selected,
                            int current) {
   if (MayOverlap(col, row, cell)) {
-    if (!IsEmptyText(cell->GetText())) {
-      HintRightNeighbour(col, row);
-    } else if (DrawSpilledText(dc, rect, col, row, cell, selected, current)) {
-      return;
-    }
+    if (IsEmptyText(cell->GetText()) && DrawSpilledText(dc, rect, col, row, cell, selected, current)) return;
+    HintRightNeighbour(col, row);
   }
   RECT inner;
   DrawBorder(dc, rect, &inner, cell);
@@ -106,11 +103,16 @@ bool CGridCellType::DrawSpilledText(CDC* dc, RECT* rect, int col, long row, CGri
   return true;
 }
 
-void CGridCellType::HintRightNeighbour(int col, long row) const {
+/// The next cell in view has to be drawn again, as a text may pass over it now or did so before. One that has
+/// a text of its own shows just that: without it the hints would run on through a row of full cells.
+void CGridCellType::HintRightNeighbour(int col, long row) {
   CGridDrawHint* const hints = m_control->GetDrawHints();
-  if (hints == nullptr || col + 1 >= m_control->GetNumberCols() || hints->IsInvalid(col + 1, row) != 0)
-    return;
-  hints->AddHint(col + 1, row);
+  if (hints == nullptr) return;
+  int next = col + 1;
+  while (next < m_control->GetNumberCols() && m_control->GetColWidth(next) == 0) ++next;
+  if (next >= m_control->GetNumberCols() || hints->IsInvalid(next, row) != 0) return;
+  m_control->GetCellIndirect(next, row, &m_neighbour);
+  if (IsEmptyText(m_neighbour.GetText())) hints->AddHint(next, row);
 }
 
 void CGridCellType::DrawBorder(CDC* dc, RECT* rect, RECT* inner, CGridCell* cell) {

@@ -84,8 +84,9 @@ class COREGUI_API CGridCellType : public coregui::CGridCellDelegate {
  private:
   bool MayOverlap(int col, long row, CGridCell* cell) const;
   bool DrawSpilledText(CDC* dc, RECT* rect, int col, long row, CGridCell* cell, int selected, int current);
-  void HintRightNeighbour(int col, long row) const;
+  void HintRightNeighbour(int col, long row);
   void PutText(CDC* dc, const RECT& rect, int offset, const wchar_t* text, CGridCell* cell) const;
 
-  CGridCell m_spilling;  ///< scratch: the cell whose text spills into the one being drawn
+  CGridCell m_spilling;   ///< scratch: the cell whose text spills into the one being drawn
+  CGridCell m_neighbour;  ///< scratch: the cell that a text may spill into
 };

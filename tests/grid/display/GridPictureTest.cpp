@@ -8,6 +8,7 @@
 
 #include "grid/celltypes/CGridCheckBoxType.h"
 #include "grid/control/CGridCtrl.h"
+#include "grid/control/CGridDrawHint.h"
 #include "grid/control/CGridInfo.h"
 #include "platform/CBitmap.h"
 #include "platform/CDC.h"
@@ -166,6 +167,63 @@ TEST_F(GridPictureTest, ShowsEveryLook) {
   CWinApp::PumpPending();
   Save("selected");
   EXPECT_EQ(BodyPixel(Cell(7, 2).left + 1, Cell(7, 2).top + 1), RGB(255, 240, 180));
+  EXPECT_EQ(BodyPixel(Cell(5, 5).left + 1, Cell(5, 5).top + 1), GetSysColor(COLOR_HIGHLIGHT));
+}
+
+TEST_F(GridPictureTest, ASelectionShowsAtOnceAndIsTakenBackAtOnce) {
+  Open();
+  grid.SetHighlightRow(0);
+  grid.SetMultiSelectMode(1);
+  grid.GotoCell(7, 12);
+  const auto corner = [this](int col, long row) {
+    return BodyPixel(Cell(col, row).left + 2, Cell(col, row).top + 2);
+  };
+  grid.SelectRange(1, 9, 2, 10);
+  EXPECT_EQ(corner(1, 9), GetSysColor(COLOR_HIGHLIGHT));
+  EXPECT_EQ(corner(2, 10), GetSysColor(COLOR_HIGHLIGHT));
+  EXPECT_EQ(corner(3, 10), GetSysColor(COLOR_WINDOW));
+  grid.ClearSelections();
+  EXPECT_EQ(corner(1, 9), GetSysColor(COLOR_WINDOW));
+  EXPECT_EQ(corner(2, 10), GetSysColor(COLOR_WINDOW));
+}
+
+TEST_F(GridPictureTest, PrintingTakesNothingFromTheScreen) {
+  Open();
+  const std::vector<COLORREF> before = Pixels();
+  grid.QuickSetBackColor(3, 11, RGB(1, 200, 3));
+  grid.GetDrawHints()->AddHint(3, 11);
+  CBitmap picture;
+  const CClientDC like(&grid);
+  ASSERT_TRUE(picture.CreateCompatibleBitmap(&like, 700, 420));
+  CMemoryDC paper(&like, &picture);
+  grid.PrintTo(&paper);
+  const CPoint place = Cell(3, 11).TopLeft() + CSize(2, 2);
+  EXPECT_EQ(paper.GetPixel(place.x + grid.GetSH_Width(), place.y + grid.GetTH_Height()), RGB(1, 200, 3));
+  EXPECT_EQ(Pixels() == before, true) << "the screen waits";
+  CWinApp::PumpPending();
+  EXPECT_EQ(BodyPixel(place.x, place.y), RGB(1, 200, 3)) << "and is not forgotten";
+}
+
+TEST_F(GridPictureTest, ATextThatGrowsAndVanishesPaintsItsNeighboursAlone) {
+  Open();
+  grid.SetHighlightRow(0);
+  grid.GotoCell(7, 12);
+  const auto check = [this](const char* what) {
+    const std::vector<COLORREF> changed = Pixels();
+    EXPECT_EQ(changed == FreshPixels(), true) << what;
+  };
+  grid.QuickSetText(2, 9, L"A long text that reaches over its neighbours");
+  grid.RedrawCell(2, 9);
+  check("grows");
+  grid.SetColWidth(3, 0);
+  grid.RedrawAll();
+  CWinApp::PumpPending();
+  grid.QuickSetText(2, 9, L"A text that is shorter");
+  grid.RedrawCell(2, 9);
+  check("shrinks, beside a hidden column");
+  grid.QuickSetText(2, 9, L"");
+  grid.RedrawCell(2, 9);
+  check("vanishes");
 }
 
 /// The theme is chosen before the grid is made.
@@ -179,6 +237,25 @@ TEST_F(DarkGridPictureTest, FollowsTheDarkTheme) {
   grid.GotoCell(0, 9);
   Save("dark");
   EXPECT_EQ(BodyPixel(Cell(6, 9).left + 2, Cell(6, 9).top + 2), GetSysColor(COLOR_WINDOW));
+  const CRect box = Cell(0, 7);
+  EXPECT_EQ(BodyPixel(box.left + 3, box.top + 8), GetSysColor(COLOR_WINDOWTEXT)) << "the check box's frame";
+  EXPECT_LT(BodyPixel(Cell(6, 9).right - 1, Cell(6, 9).top + 2) & 0xFF, 100U) << "the grid line";
+}
+
+TEST_F(GridPictureTest, GridLinesFollowTheThemeUntilTheirColourIsChosen) {
+  Open();
+  CPen& pen = *grid.GetGridLinePen();
+  EXPECT_EQ(pen.GetColor(), 0xDCDCDCU);
+  SetDarkTheme(true);
+  CWinApp::PumpPending();
+  EXPECT_LT(pen.GetColor() & 0xFF, 100U);
+  SetDarkTheme(false);
+  CWinApp::PumpPending();
+  EXPECT_EQ(pen.GetColor(), 0xDCDCDCU);
+  pen.CreatePen(PS_SOLID, 1, RGB(255, 0, 0));
+  SetDarkTheme(true);
+  CWinApp::PumpPending();
+  EXPECT_EQ(pen.GetColor(), RGB(255, 0, 0));
 }
 
 TEST_F(GridPictureTest, AnyWayOfScrollingEndsInTheSamePictureAsPaintingAnew) {
