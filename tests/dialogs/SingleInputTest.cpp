@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "dialogs/CSingleInputDlg.h"
+#include "platform/CWinApp.h"
 #include "platform/Locale.h"
 #include "platform/System.h"
 #include "tests/support/ShownWindow.h"
@@ -87,6 +88,8 @@ TEST(SingleInput, AValueOutsideTheRangeIsToldAndTheNearestIsTaken) {
     window.Type("11");  // in place of the number that the step selected
     EXPECT_EQ(Edit(window).GetWindowTextString(), L"11");
     SetDarkTheme(false);
+    CWinApp::PumpPending();
+    EXPECT_EQ(window.Focus(), "Copies (More than 10: 10 is taken)");
     window.Draw("light");
     window.Key(VK_RETURN);
   });
