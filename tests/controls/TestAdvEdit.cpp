@@ -1,0 +1,180 @@
+#include <gtest/gtest.h>
+
+#include "controls/CAdvEdit.h"
+#include "controls/CSmartEdit.h"
+#include "controls/Chainage.h"
+#include "platform/CButton.h"
+#include "platform/CDialog.h"
+#include "platform/Locale.h"
+#include "platform/System.h"
+#include "tests/controls/ControlWindow.h"
+#include "tests/support/Hand.h"
+
+namespace {
+
+using namespace coregui::test;
+
+TEST(AdvEdit, SelectsAllAndPutsTheTextBackOnce) {
+  ControlWindow host;
+  CAdvEdit edit;
+  CEdit other;
+  edit.Create(kChild, Place(0), &host, 7);
+  other.Create(kChild, Place(1), &host, 8);
+  edit.SetWindowText(L"old");
+  other.SetFocus();
+  edit.SetFocus();
+  TypeKeys(edit, L"new");
+  EXPECT_EQ(edit.GetWindowTextString(), L"new");
+  PressKey(edit, VK_ESCAPE);
+  EXPECT_EQ(edit.GetWindowTextString(), L"old");
+  EXPECT_FALSE(edit.Revert());
+  edit.Undo();
+  EXPECT_EQ(edit.GetWindowTextString(), L"new");
+  edit.SetSelectOnFocus(false);
+  other.SetFocus();
+  edit.SetSel(1, 1);
+  edit.SetFocus();
+  TypeKeys(edit, L"-");
+  EXPECT_EQ(edit.GetWindowTextString(), L"n-ew");
+}
+
+/// A dialog with an edit and buttons, which notes how it ends.
+class EditDialog : public CDialog {
+ public:
+  CAdvEdit edit;
+  CButton ok;
+  CString log;
+  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (message == WM_COMMAND && HIWORD(wParam) == AEN_RETURN) log += L"return ";
+    return CDialog::WindowProc(message, wParam, lParam);
+  }
+
+ protected:
+  BOOL OnInitDialog() override {
+    edit.Create(kChild, coregui::test::Place(0), this, 7);
+    ok.Create(L"OK", kChild | BS_DEFPUSHBUTTON, coregui::test::Place(1), this, IDOK);
+    return TRUE;
+  }
+  void OnOK() override { log += L"ok "; }
+  void OnCancel() override { log += L"cancel "; }
+};
+
+TEST(AdvEdit, EnterNotifiesBeforeTheDefaultButtonAndEscRevertsBeforeItCancels) {
+  EditDialog dialog;
+  ASSERT_TRUE(dialog.CreateModeless());
+  dialog.edit.SetFocus();
+  PressKey(dialog.edit, VK_RETURN);
+  EXPECT_EQ(dialog.log, L"return ok ");
+  dialog.edit.SetKeepReturn(true);
+  PressKey(dialog.edit, VK_RETURN);
+  EXPECT_EQ(dialog.log, L"return ok return ");
+  TypeKeys(dialog.edit, L"x");
+  PressKey(dialog.edit, VK_ESCAPE);
+  EXPECT_EQ(dialog.log, L"return ok return ");
+  PressKey(dialog.edit, VK_ESCAPE);
+  EXPECT_EQ(dialog.log, L"return ok return cancel ");
+}
+
+TEST(Chainage, IsReadAndWrittenExactly) {
+  struct Row {
+    const wchar_t* text;
+    double metres;  ///< NaN: is none
+  };
+  constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+  constexpr Row rows[] = {{L"1+234.500", 1234.5}, {L" 0+000 ", 0},         {L"-0+012.25", -12.25},
+                          {L"+2+001.", 2001},     {L"1234.5", 1234.5},     {L"12+345,5", kNone},
+                          {L"1+23", kNone},       {L"1+2345", kNone},      {L"1+-23", kNone},
+                          {L"+", kNone},          {L"1+234.5.6", kNone},   {L"", kNone},
+                          {L"1+2+345", kNone},    {L"1234567+000", kNone}, {L"a+000", kNone}};
+  for (const Row& row : rows) {
+    double metres = 77;
+    const bool read = coregui::ParseChainage(row.text, metres);
+    EXPECT_EQ(read, row.metres == row.metres) << CString(row.text).ToUtf8();
+    EXPECT_EQ(metres, read ? row.metres : 77) << CString(row.text).ToUtf8();
+  }
+  EXPECT_EQ(coregui::FormatChainage(1999.9996, 3), L"2+000.000");
+  EXPECT_EQ(coregui::FormatChainage(-0.0004, 3), L"0+000.000");
+  EXPECT_EQ(coregui::FormatChainage(-12.25, 1), L"-0+012.3");
+  EXPECT_EQ(coregui::FormatChainage(7, 0), L"0+007");
+  EXPECT_EQ(coregui::FormatChainage(1e9, 0), L"");
+  EXPECT_EQ(coregui::FormatChainage(kNone, 0), L"");
+  for (const wchar_t* locale : {L"de_DE", L"fr_CH", L"en_US", L"hi_IN"}) {
+    coregui::SetUserLocale(locale);
+    double metres = 0;
+    EXPECT_TRUE(coregui::ParseChainage(coregui::FormatChainage(98765.432, 3), metres));
+    EXPECT_EQ(metres, 98765.432) << CString(locale).ToUtf8();
+    EXPECT_TRUE(coregui::ParseChainage(L"98+765.432", metres));
+  }
+}
+
+class SmartEdit : public testing::Test {
+ protected:
+  SmartEdit() {
+    edit.Create(kChild, Place(0), &host, 7);
+    other.Create(kChild, Place(1), &host, 8);
+  }
+  void TypeAndLeave(const wchar_t* text) {
+    edit.SetFocus();
+    edit.SetSel(0, -1);
+    PressKey(edit, VK_BACK);
+    TypeKeys(edit, text);
+    other.SetFocus();
+  }
+  ControlWindow host;
+  CSmartEdit edit;
+  CEdit other;
+};
+
+TEST_F(SmartEdit, MarksOnLeavingAndUnmarksOnceRight) {
+  edit.SetKind(CSmartEdit::Kind::integer);
+  edit.SetRange(6, 1);
+  edit.SetFocus();
+  TypeKeys(edit, L"2.5");
+  EXPECT_FALSE(edit.IsMarked()) << "while it is typed";
+  other.SetFocus();
+  EXPECT_TRUE(edit.IsMarked());
+  EXPECT_EQ(AccessibleDescription(edit), L"This is not a whole number.");
+  EXPECT_EQ(edit.GetWindowTextString(), L"2.5");
+  double value = 9;
+  EXPECT_FALSE(edit.GetNumber(value));
+  TypeAndLeave(L"7");
+  EXPECT_EQ(AccessibleDescription(edit), L"The largest value is 6.");
+  edit.SetFocus();
+  PressKey(edit, VK_BACK);
+  TypeKeys(edit, L"6");
+  EXPECT_FALSE(edit.IsMarked()) << "at once, before leaving";
+  EXPECT_EQ(AccessibleDescription(edit), L"");
+  EXPECT_TRUE(edit.GetNumber(value));
+  EXPECT_EQ(value, 6);
+}
+
+TEST_F(SmartEdit, WritesRightContentInItsForm) {
+  edit.SetKind(CSmartEdit::Kind::chainage);
+  TypeAndLeave(L"1234.5");
+  EXPECT_EQ(edit.GetWindowTextString(), L"1+234.500");
+  edit.Undo();
+  EXPECT_EQ(edit.GetWindowTextString(), L"1234.5");
+  coregui::SetUserLocale(L"de_DE");
+  edit.SetKind(CSmartEdit::Kind::real);
+  TypeAndLeave(L"2*1,25");
+  EXPECT_EQ(edit.GetWindowTextString(), L"2,5");
+  edit.SetKind(CSmartEdit::Kind::text);
+  TypeAndLeave(L"2*1,25");
+  EXPECT_EQ(edit.GetWindowTextString(), L"2*1,25");
+}
+
+TEST_F(SmartEdit, EmptyIsAFaultOnlyWhereSomethingIsRequired) {
+  edit.SetKind(CSmartEdit::Kind::real);
+  EXPECT_TRUE(edit.Validate());
+  edit.SetRequired(true);
+  EXPECT_FALSE(edit.Validate());
+  edit.SetKind(CSmartEdit::Kind::text);
+  TypeAndLeave(L"  ");
+  EXPECT_TRUE(edit.IsMarked());
+  host.TakeLog();
+  TypeAndLeave(L"x");
+  EXPECT_FALSE(edit.IsMarked());
+  EXPECT_GE(host.TakeLog().Find(L"7:1282 "), 0);
+}
+
+}  // namespace

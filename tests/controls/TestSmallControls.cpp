@@ -1,0 +1,253 @@
+#include <gtest/gtest.h>
+
+#include "controls/CCustomTreeCtrl.h"
+#include "controls/CEmptyTreeCtrl.h"
+#include "controls/CFloatSpinCtrl.h"
+#include "controls/CFontCombo.h"
+#include "controls/CIntSpinCtrl.h"
+#include "controls/CLinkButton.h"
+#include "controls/CLinkSlider.h"
+#include "controls/CWidthComboBox.h"
+#include "platform/CDC.h"
+#include "platform/CFont.h"
+#include "platform/Locale.h"
+#include "platform/System.h"
+#include "tests/controls/ControlWindow.h"
+#include "tests/support/Hand.h"
+
+namespace {
+
+using namespace coregui::test;
+
+/// Lets a test draw items on a context of its own.
+template <class Combo>
+class DrawnCombo : public Combo {
+ public:
+  CString Draw(int index) {
+    CRecordingDC dc;
+    this->DrawItem(dc, CRect(0, 0, 200, 22), index, false);
+    return dc.GetLog();
+  }
+};
+
+TEST(FontCombo, WritesEachFamilyInItsOwnFace) {
+  ControlWindow host;
+  const int families = CFontCombo::BuildFontCache();
+  ASSERT_GT(families, 0);
+  EXPECT_EQ(CFontCombo::BuildFontCache(), families);
+  DrawnCombo<CFontCombo> combo;
+  combo.Create(kChild | CBS_DROPDOWN | CBS_SORT, Place(0), &host, 7);
+  EXPECT_EQ(combo.GetCount(), families);
+  EXPECT_EQ(combo.GetSelectedFont(), L"");
+  EXPECT_FALSE(combo.SelectFont(L"No such face"));
+  ASSERT_TRUE(combo.SelectFont(L"dejavu sans mono"));
+  EXPECT_EQ(combo.GetSelectedFont(), L"DejaVu Sans Mono");
+  EXPECT_GE(combo.Draw(combo.GetCurSel()).Find(L"font \"DejaVu Sans Mono\""), 0);
+  EXPECT_EQ(combo.Draw(-1).Find(L"DrawText"), -1);
+  CString before;
+  for (int i = 0; i < combo.GetCount(); ++i) {
+    CString name;
+    combo.GetLBText(i, name);
+    EXPECT_NE(name, before) << "each family once";
+    before = name;
+  }
+}
+
+TEST(WidthComboBox, KeepsWidthsInOrderAndDrawsThem) {
+  ControlWindow host;
+  DrawnCombo<CWidthComboBox> combo;
+  combo.Create(kChild, Place(0), &host, 7);
+  combo.AddStandardWidths();
+  const int count = combo.GetCount();
+  EXPECT_LT(combo.GetWidth(), 0);
+  EXPECT_TRUE(combo.SetWidth(0.25));
+  EXPECT_EQ(combo.GetCount(), count);
+  EXPECT_TRUE(combo.SetWidth(1.0 / 3));
+  EXPECT_EQ(combo.GetCount(), count + 1);
+  EXPECT_DOUBLE_EQ(combo.GetWidth(), 0.33);
+  for (int i = 1; i < combo.GetCount(); ++i) {
+    EXPECT_LT(combo.GetItemData(i - 1), combo.GetItemData(i));
+  }
+  for (const double bad : {-0.01, 10.01, std::numeric_limits<double>::quiet_NaN()}) {
+    EXPECT_FALSE(combo.SetWidth(bad));
+  }
+  EXPECT_DOUBLE_EQ(combo.GetWidth(), 0.33);
+  SetDpiScale(1.0);
+  EXPECT_GE(combo.Draw(0).Find(L"FillSolidRect 76,10,194,11"), 0) << combo.Draw(0).ToUtf8();
+  combo.SetWidth(2.0);  // 7.56 pixels
+  EXPECT_GE(combo.Draw(combo.GetCurSel()).Find(L"FillSolidRect 76,7,194,15"), 0)
+      << combo.Draw(combo.GetCurSel()).ToUtf8();
+  combo.SetWidth(10.0);  // no thicker than the item
+  EXPECT_GE(combo.Draw(combo.GetCurSel()).Find(L"FillSolidRect 76,1,194,21"), 0);
+  coregui::SetUserLocale(L"de_DE");
+  combo.SetWidth(0.47);
+  CString text;
+  combo.GetLBText(combo.GetCurSel(), text);
+  EXPECT_EQ(text, L"0,47 mm");
+}
+
+class TriedLink : public CLinkButton {
+ public:
+  CString opened;
+  bool works = true;
+
+ protected:
+  bool OnOpenLink(const CString& link) override {
+    opened += link + L" ";
+    return works;
+  }
+};
+
+TEST(LinkButton, OpensItsLinkOrSendsItsCommand) {
+  ControlWindow host;
+  TriedLink link;
+  link.Create(L"More", kChild | BS_PUSHBUTTON, Place(0), &host, 7);
+  EXPECT_TRUE(HasHandCursor(link));
+  Click(link);
+  EXPECT_EQ(host.TakeLog(), L"7:0 ");
+  link.SetLink(L"https://x");
+  Click(link);
+  link.SetFocus();
+  PressKey(link, VK_SPACE);
+  PressKey(link, VK_RETURN);
+  EXPECT_EQ(link.opened, L"https://x https://x https://x ");
+  EXPECT_EQ(host.TakeLog(), L"");
+  EXPECT_TRUE(link.IsVisited());
+  link.SetLink(L"https://y");
+  link.works = false;
+  link.Click();
+  EXPECT_EQ(host.TakeLog(), L"7:1537 ");
+  EXPECT_FALSE(link.IsVisited());
+  CLinkButton real;
+  real.Create(L"Gone", kChild | BS_PUSHBUTTON, Place(1), &host, 8);
+  for (const wchar_t* bad : {L"/nowhere/at/all.pdf", L"no link", L"file:///nowhere"}) {
+    real.SetLink(bad);
+    real.Click();
+    EXPECT_EQ(host.TakeLog(), L"8:1537 ") << CString(bad).ToUtf8();
+  }
+}
+
+TEST(CustomTree, ItemsHaveLooksOfTheirOwn) {
+  ControlWindow host;
+  CCustomTreeCtrl tree;
+  tree.Create(kChild, CRect(10, 10, 210, 210), &host, 7);
+  const HTREEITEM road = tree.InsertItem(L"Road");
+  const HTREEITEM kerb = tree.InsertItem(L"Kerb", road);
+  const HTREEITEM plain = tree.InsertItem(L"Plain", road);
+  tree.Expand(road, TVE_EXPAND);
+  tree.SelectItem(nullptr);
+  tree.SetItemBkColor(road, RGB(1, 2, 250));
+  EXPECT_EQ(ShownPixel(tree, CPoint(150, 8)), RGB(1, 2, 250));
+  const int thin = InkPixels(tree);
+  tree.SetItemBold(plain);
+  tree.SetItemCheckBox(kerb);
+  EXPECT_GT(InkPixels(tree), thin);
+  host.TakeLog();
+  tree.CheckBelow(road, TRUE);
+  EXPECT_TRUE(tree.GetCheck(kerb));
+  EXPECT_FALSE(tree.GetCheck(plain)) << "it has no box";
+  EXPECT_EQ(host.TakeLog(), L"");
+  tree.SelectItem(kerb);
+  tree.SetFocus();
+  host.TakeLog();
+  PressKey(tree, VK_SPACE);
+  EXPECT_FALSE(tree.GetCheck(kerb));
+  EXPECT_EQ(host.TakeLog(), L"7:3 ");
+  tree.SetItemColor(kerb, RGB(9, 9, 9));
+  EXPECT_TRUE(tree.DeleteItem(road));
+  EXPECT_EQ(tree.GetItemColor(kerb), CCustomTreeCtrl::kThemeColour);
+  EXPECT_FALSE(tree.DeleteItem(nullptr));
+}
+
+TEST(EmptyTree, SaysWhyWhileItIsEmpty) {
+  ControlWindow host;
+  CEmptyTreeCtrl tree;
+  tree.SetEmptyText(L"Nothing is attached.");
+  tree.Create(kChild, CRect(10, 10, 210, 210), &host, 7);
+  EXPECT_EQ(AccessibleDescription(tree), L"Nothing is attached.");
+  const int written = InkPixels(tree);
+  EXPECT_GT(written, 0);
+  tree.SetEmptyText(L"");
+  EXPECT_EQ(InkPixels(tree), 0);
+  tree.SetEmptyText(L"Nothing is attached.");
+  const HTREEITEM item = tree.InsertItem(L"");
+  EXPECT_LT(InkPixels(tree), written);
+  tree.DeleteItem(item);
+  EXPECT_EQ(InkPixels(tree), written);
+}
+
+TEST(SpinControls, StepTheirBoxInsideItsRangeAndTellTheParent) {
+  ControlWindow host;
+  CFloatEdit real;
+  CIntEdit whole;
+  CFloatSpinCtrl realSpin;
+  CIntSpinCtrl wholeSpin;
+  real.Create(kChild, Place(0), &host, 1);
+  whole.Create(kChild, Place(1), &host, 2);
+  realSpin.Create(WS_CHILD | WS_VISIBLE | UDS_SETBUDDYINT, CRect(220, 10, 240, 38), &host, 3);
+  wholeSpin.Create(WS_CHILD | WS_VISIBLE, CRect(220, 45, 240, 73), &host, 4);
+  realSpin.SetBuddy(&real);
+  wholeSpin.SetBuddy(&whole);
+  real.SetParameters(-1.0, 1.0, L"%.2f");
+  real.SetValue(0.5);
+  realSpin.SetDelta(0.25);
+  whole.SetParameters(0, 10);
+  whole.SetValue(9);
+  PressKey(realSpin, VK_UP);
+  EXPECT_EQ(real.GetWindowTextString(), L"0.75");
+  for (int i = 0; i < 3; ++i) PressKey(realSpin, VK_UP);
+  EXPECT_EQ(real.GetValue(), 1.0);
+  for (int i = 0; i < 20; ++i) PressKey(realSpin, VK_DOWN);
+  EXPECT_EQ(real.GetValue(), -1.0);
+  ClickAt(wholeSpin, CPoint(10, 6));
+  EXPECT_EQ(whole.GetValue(), 10);
+  ClickAt(wholeSpin, CPoint(10, 22));
+  ClickAt(wholeSpin, CPoint(10, 22));
+  EXPECT_EQ(whole.GetValue(), 8);
+  whole.SetReadOnly();
+  PressKey(wholeSpin, VK_UP);
+  EXPECT_EQ(whole.GetValue(), 8);
+  whole.SetReadOnly(FALSE);
+  whole.EnableWindow(FALSE);
+  PressKey(wholeSpin, VK_UP);
+  EXPECT_EQ(whole.GetValue(), 8);
+  whole.DestroyWindow();
+  PressKey(wholeSpin, VK_UP);
+}
+
+TEST(LinkSlider, AndItsBoxFollowEachOther) {
+  ControlWindow host;
+  CFloatEdit edit;
+  CLinkSlider slider;
+  edit.Create(kChild, Place(0), &host, 1);
+  slider.Create(kChild, Place(1), &host, 2);
+  edit.SetParameters(-100.0, 100.0, L"%.1f");
+  edit.SetValue(10.0);
+  slider.SetLink(&edit, 0.0, 50.0, 100);
+  EXPECT_EQ(slider.GetPos(), 20);
+  PressKey(slider, VK_RIGHT);
+  EXPECT_EQ(edit.GetWindowTextString(), L"10.5");
+  EXPECT_GE(host.TakeLog().Find(L"scroll "), 0);
+  edit.SetFocus();
+  edit.SetSel(0, -1);
+  TypeKeys(edit, L"75");
+  EXPECT_EQ(slider.GetPos(), 100);
+  EXPECT_EQ(edit.GetWindowTextString(), L"75") << "a number beyond the end stays";
+  slider.SetLink(&edit, 50.0, 0.0, 100);  // the other way round
+  EXPECT_EQ(slider.GetPos(), 0);
+  PressKey(slider, VK_RIGHT);
+  EXPECT_EQ(edit.GetValue(), 49.5);
+  slider.SetLink(nullptr, 0, 1);
+  edit.SetValue(3);
+  PressKey(slider, VK_RIGHT);
+  EXPECT_EQ(edit.GetValue(), 3);
+  {
+    CFloatEdit brief;
+    brief.Create(kChild, Place(2), &host, 3);
+    slider.SetLink(&brief, 0, 1);
+  }
+  EXPECT_EQ(slider.GetLink(), nullptr);
+  PressKey(slider, VK_RIGHT);
+}
+
+}  // namespace
