@@ -1,0 +1,124 @@
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+#include "controls/CNameEdit.h"
+#include "module/CCoreGUIApp.h"
+#include "module/ClassFactories.h"
+#include "module/Registration.h"
+#include "platform/Keys.h"
+#include "tests/support/ShownWindow.h"
+#include "tests/support/TestEnvironment.h"
+
+namespace {
+
+using coregui::ClassFactories;
+using coregui::test::NextWindow;
+using coregui::test::ShownWindow;
+
+std::unique_ptr<CObject> MakeNameEdit() {
+  return std::make_unique<CNameEdit>();
+}
+
+TEST(ClassFactories, MakeObjectsByNameUntilTheyAreRevoked) {
+  ClassFactories factories;
+  EXPECT_TRUE(factories.Register(L"App.Name", MakeNameEdit));
+  EXPECT_FALSE(factories.Register(L"APP.NAME", MakeNameEdit)) << "the name is taken";
+  EXPECT_FALSE(factories.Register(L"", MakeNameEdit));
+  EXPECT_FALSE(factories.Register(L"App.None", nullptr));
+  const auto made = factories.Create(L"app.name");
+  EXPECT_NE(dynamic_cast<CNameEdit*>(made.get()), nullptr);
+  EXPECT_EQ(factories.GetNames(), std::vector<CString>{L"App.Name"});
+  EXPECT_TRUE(factories.Revoke(L"app.NAME"));
+  EXPECT_FALSE(factories.Revoke(L"App.Name"));
+  EXPECT_EQ(factories.Create(L"App.Name"), nullptr);
+}
+
+TEST(Registration, IsCountedAndUndone) {
+  ClassFactories& factories = ClassFactories::Get();
+  ASSERT_TRUE(factories.GetNames().empty()) << "nothing registers itself";
+  EXPECT_FALSE(coregui::UnregisterLibrary());
+  EXPECT_TRUE(coregui::RegisterLibrary());
+  EXPECT_TRUE(coregui::RegisterLibrary());
+  const auto names = factories.GetNames();
+  for (const CString& name : names) EXPECT_NE(factories.Create(name), nullptr) << name.ToUtf8();
+  EXPECT_TRUE(factories.Has(L"CoreGUI.NameEdit"));
+  EXPECT_TRUE(coregui::UnregisterLibrary());
+  EXPECT_EQ(factories.GetNames(), names);
+  EXPECT_TRUE(coregui::UnregisterLibrary());
+  EXPECT_TRUE(factories.GetNames().empty());
+}
+
+TEST(Registration, LeavesANameThatAnotherModuleTook) {
+  ClassFactories& factories = ClassFactories::Get();
+  factories.Register(L"CoreGUI.WidthComboBox", MakeNameEdit);
+  EXPECT_FALSE(coregui::RegisterLibrary());
+  EXPECT_FALSE(coregui::IsLibraryRegistered());
+  EXPECT_EQ(factories.GetNames().size(), 1U);
+  factories.Revoke(L"CoreGUI.WidthComboBox");
+}
+
+TEST(CoreGUIApp, SetsUpOnceAndUndoesItsRegistration) {
+  unsetenv("USERNAME");
+  {
+    CCoreGUIApp app;
+    EXPECT_NE(getenv("USERNAME"), nullptr);
+    EXPECT_TRUE(app.InitInstance());
+    EXPECT_TRUE(app.InitInstance());
+    EXPECT_TRUE(app.WriteProfileInt(L"S", L"E", 5));
+    const CString path = coregui::Profile::Get().GetPath();
+    EXPECT_GE(path.Find(L"/Fenwarrow/Strandmere 8.1.ini"), 0) << path.ToUtf8();
+    EXPECT_TRUE(std::filesystem::exists(path.ToUtf8()));
+    app.ExitInstance();
+    EXPECT_FALSE(coregui::IsLibraryRegistered());
+    EXPECT_TRUE(app.InitInstance());
+  }
+  EXPECT_FALSE(coregui::IsLibraryRegistered());
+  setenv("USERNAME", "tester", 1);
+}
+
+class HelpedApp : public CCoreGUIApp {
+ public:
+  CString shown;
+  bool viewer = true;
+
+ protected:
+  bool OnShowHelp(const CString& file) override {
+    shown = file;
+    return viewer;
+  }
+};
+
+TEST(CoreGUIApp, TellsWhichHelpFileIsMissing) {
+  HelpedApp app;
+  EXPECT_EQ(app.GetHelpFile().Right(15), L"/Strandmere.chm");
+  const std::string folder = coregui::test::ScratchFolder() + "/help";
+  std::filesystem::create_directory(folder);
+  app.SetHelpFolder(CString::FromUtf8(folder));
+  std::string told;
+  {
+    const NextWindow box([&told](ShownWindow& window) {
+      told = window.Title() + ": " + window.Text();
+      window.Key(VK_RETURN);
+    });
+    EXPECT_FALSE(app.OpenHelp());
+  }
+  EXPECT_EQ(told, "Error: The help file \"" + folder + "/Strandmere.chm\" was not found.");
+  EXPECT_EQ(app.shown, L"");
+  std::ofstream(folder + "/Strandmere.chm") << "x";
+  EXPECT_TRUE(app.OpenHelp());
+  EXPECT_EQ(app.shown.ToUtf8(), folder + "/Strandmere.chm");
+  app.viewer = false;
+  {
+    const NextWindow box([&told](ShownWindow& window) {
+      told = window.Text();
+      window.Key(VK_RETURN);
+    });
+    EXPECT_FALSE(app.OpenHelp());
+  }
+  EXPECT_EQ(told, "There is no program to open the help file \"" + folder + "/Strandmere.chm\" with.");
+}
+
+}  // namespace
