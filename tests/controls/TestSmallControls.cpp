@@ -136,12 +136,12 @@ TEST(CustomTree, ItemsHaveLooksOfTheirOwn) {
   const HTREEITEM plain = tree.InsertItem(L"Plain", road);
   tree.Expand(road, TVE_EXPAND);
   tree.SelectItem(nullptr);
-  tree.SetItemBkColor(road, RGB(1, 2, 250));
-  EXPECT_EQ(ShownPixel(tree, CPoint(150, 8)), RGB(1, 2, 250));
   const int thin = InkPixels(tree);
   tree.SetItemBold(plain);
   tree.SetItemCheckBox(kerb);
   EXPECT_GT(InkPixels(tree), thin);
+  tree.SetItemBkColor(road, RGB(1, 2, 250));
+  EXPECT_EQ(ShownPixel(tree, CPoint(150, 8)), RGB(1, 2, 250));
   host.TakeLog();
   tree.CheckBelow(road, TRUE);
   EXPECT_TRUE(tree.GetCheck(kerb));
