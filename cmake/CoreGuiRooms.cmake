@@ -81,4 +81,8 @@ function(coregui_test name folder)
   target_link_libraries(test_${name} PRIVATE coregui_test_support ${ARGN})
   add_test(NAME ${name} COMMAND test_${name})
   set_tests_properties(${name} PROPERTIES TIMEOUT 900)
+  if(COREGUI_SANITIZE)
+    set_tests_properties(${name} PROPERTIES
+      ENVIRONMENT "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp")
+  endif()
 endfunction()
