@@ -66,9 +66,8 @@ void GalleryWindow::HandleHelp() {
 void GalleryWindow::HandleTimer(UINT id) {
   auto picture = std::make_unique<CBitmap>();
   if (id != kPictureTimer || !coregui::DrawModalBox(*picture)) return;  // not shown yet
-  KillTimer(kPictureTimer);
-  m_taken = std::move(picture);
-  coregui::CloseModalBox();
+  if (m_taken == nullptr) m_taken = std::move(picture);
+  coregui::CloseModalBox();  // also what opens behind the first
 }
 
 std::unique_ptr<CBitmap> GalleryWindow::PictureOfWindow() {
