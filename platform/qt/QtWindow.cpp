@@ -253,7 +253,8 @@ void QtWindow::PrintTo(CDC& dc) {
   QImage picture(m_widget->size() * Scale(), QImage::Format_ARGB32);
   picture.setDevicePixelRatio(Scale());
   picture.fill(Qt::transparent);
-  m_widget->render(&picture, QPoint(), QRegion(), QWidget::RenderFlags());
+  // A widget's own parts, a list's viewport say, are its children too.
+  m_widget->render(&picture, QPoint(), QRegion(), QWidget::DrawChildren);
   std::vector<DWORD> pixels;
   pixels.reserve(static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(picture.height()));
   for (int y = 0; y < picture.height(); ++y) {
