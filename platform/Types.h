@@ -45,23 +45,43 @@ struct RECT {
   LONG bottom = 0;
 };
 
-constexpr WORD LOWORD(std::uintptr_t value) { return static_cast<WORD>(value & 0xFFFFU); }
-constexpr WORD HIWORD(std::uintptr_t value) { return static_cast<WORD>((value >> 16U) & 0xFFFFU); }
-constexpr BYTE LOBYTE(std::uintptr_t value) { return static_cast<BYTE>(value & 0xFFU); }
-constexpr BYTE HIBYTE(std::uintptr_t value) { return static_cast<BYTE>((value >> 8U) & 0xFFU); }
+constexpr WORD LOWORD(std::uintptr_t value) {
+  return static_cast<WORD>(value & 0xFFFFU);
+}
+constexpr WORD HIWORD(std::uintptr_t value) {
+  return static_cast<WORD>((value >> 16U) & 0xFFFFU);
+}
+constexpr BYTE LOBYTE(std::uintptr_t value) {
+  return static_cast<BYTE>(value & 0xFFU);
+}
+constexpr BYTE HIBYTE(std::uintptr_t value) {
+  return static_cast<BYTE>((value >> 8U) & 0xFFU);
+}
 /// Packs two 16-bit values; the first is the low word.
 constexpr LPARAM MAKELPARAM(int low, int high) {
   return static_cast<LPARAM>((static_cast<std::uint32_t>(static_cast<std::uint16_t>(high)) << 16U) |
                              static_cast<std::uint16_t>(low));
 }
-constexpr WPARAM MAKEWPARAM(int low, int high) { return static_cast<WPARAM>(MAKELPARAM(low, high)); }
+constexpr WPARAM MAKEWPARAM(int low, int high) {
+  return static_cast<WPARAM>(MAKELPARAM(low, high));
+}
 /// The signed coordinates packed in a mouse message's second parameter.
-constexpr int GET_X_LPARAM(LPARAM value) { return static_cast<std::int16_t>(LOWORD(static_cast<std::uintptr_t>(value))); }
-constexpr int GET_Y_LPARAM(LPARAM value) { return static_cast<std::int16_t>(HIWORD(static_cast<std::uintptr_t>(value))); }
+constexpr int GET_X_LPARAM(LPARAM value) {
+  return static_cast<std::int16_t>(LOWORD(static_cast<std::uintptr_t>(value)));
+}
+constexpr int GET_Y_LPARAM(LPARAM value) {
+  return static_cast<std::int16_t>(HIWORD(static_cast<std::uintptr_t>(value)));
+}
 
 constexpr COLORREF RGB(int red, int green, int blue) {
   return static_cast<COLORREF>((red & 0xFF) | ((green & 0xFF) << 8) | ((blue & 0xFF) << 16));
 }
-constexpr BYTE GetRValue(COLORREF colour) { return static_cast<BYTE>(colour & 0xFFU); }
-constexpr BYTE GetGValue(COLORREF colour) { return static_cast<BYTE>((colour >> 8U) & 0xFFU); }
-constexpr BYTE GetBValue(COLORREF colour) { return static_cast<BYTE>((colour >> 16U) & 0xFFU); }
+constexpr BYTE GetRValue(COLORREF colour) {
+  return static_cast<BYTE>(colour & 0xFFU);
+}
+constexpr BYTE GetGValue(COLORREF colour) {
+  return static_cast<BYTE>((colour >> 8U) & 0xFFU);
+}
+constexpr BYTE GetBValue(COLORREF colour) {
+  return static_cast<BYTE>((colour >> 16U) & 0xFFU);
+}

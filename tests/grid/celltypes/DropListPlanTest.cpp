@@ -7,7 +7,9 @@ namespace {
 
 constexpr CRect kCell(20, 40, 95, 60);
 
-DropListMeasures Measures(int choices) { return {choices, 16, 50, 17, CSize(400, 500)}; }
+DropListMeasures Measures(int choices) {
+  return {choices, 16, 50, 17, CSize(400, 500)};
+}
 
 TEST(DropListPlan, OpensUnderTheCellMovedRight) {
   EXPECT_EQ(DropListRect(kCell, Measures(4)), CRect(30, 60, 105, 60 + 4 * 16 + 6));
