@@ -9,7 +9,6 @@ using coregui::CallLog;
 using coregui::DrawAttributes;
 using coregui::Saturated;
 using coregui::Shape;
-using coregui::ShapeDetail;
 
 namespace {
 

@@ -34,13 +34,12 @@ CPoint ClientOrigin(const CWnd& window) {
 
 CWnd* ChildAt(CWnd& window, POINT client) {
   const Siblings& children = window.State().family.children;
-  for (auto child = children.rbegin(); child != children.rend(); ++child) {
-    const CRect& rect = (*child)->State().look.rect;
-    if (((*child)->GetStyle() & WS_VISIBLE) != 0 && rect.PtInRect(client)) {
-      return ChildAt(**child, {client.x - rect.left, client.y - rect.top});
-    }
-  }
-  return &window;
+  const auto hit = std::find_if(children.rbegin(), children.rend(), [client](CWnd* child) {
+    return (child->GetStyle() & WS_VISIBLE) != 0 && child->State().look.rect.PtInRect(client);
+  });
+  if (hit == children.rend()) return &window;
+  const CRect& rect = (*hit)->State().look.rect;
+  return ChildAt(**hit, {client.x - rect.left, client.y - rect.top});
 }
 
 }  // namespace

@@ -71,7 +71,7 @@ class AmountReader {
     }
     if (Take(m_locale.currency)) {
       m_ended = m_digits > 0;
-      return std::exchange(m_symbol, true) == false;
+      return !std::exchange(m_symbol, true);
     }
     return ReadSign();
   }

@@ -168,7 +168,7 @@ class DateScanner {
     return TakeHalf(word) || IsWeekday(word, m_words) || IsWeekday(word, m_english);
   }
 
-  bool TakeHalf(std::wstring word) {
+  bool TakeHalf(const std::wstring& word) {
     std::wstring am = m_words.am;
     std::wstring pm = m_words.pm;
     std::erase(am, L'.');

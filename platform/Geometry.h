@@ -10,8 +10,8 @@ class CSize : public SIZE {
  public:
   constexpr CSize() = default;
   constexpr CSize(LONG width, LONG height) : SIZE{width, height} {}
-  constexpr CSize(const SIZE& other)
-      : SIZE(other) {}  // NOLINT(google-explicit-constructor): a plain SIZE serves
+  constexpr CSize(const SIZE& other)  // NOLINT(google-explicit-constructor): a plain SIZE serves
+      : SIZE(other) {}
   constexpr bool operator==(const CSize& other) const { return cx == other.cx && cy == other.cy; }
 };
 
@@ -20,8 +20,8 @@ class CPoint : public POINT {
  public:
   constexpr CPoint() = default;
   constexpr CPoint(LONG left, LONG top) : POINT{left, top} {}
-  constexpr CPoint(const POINT& other)
-      : POINT(other) {}  // NOLINT(google-explicit-constructor): a plain POINT serves
+  constexpr CPoint(const POINT& other)  // NOLINT(google-explicit-constructor): a plain POINT serves
+      : POINT(other) {}
   /// Unpacks the position in a mouse message's second parameter.
   static constexpr CPoint FromLParam(LPARAM value) { return {GET_X_LPARAM(value), GET_Y_LPARAM(value)}; }
   constexpr bool operator==(const CPoint& other) const { return x == other.x && y == other.y; }
@@ -39,8 +39,8 @@ class CRect : public RECT {
  public:
   constexpr CRect() = default;
   constexpr CRect(LONG l, LONG t, LONG r, LONG b) : RECT{l, t, r, b} {}
-  constexpr CRect(const RECT& other)
-      : RECT(other) {}  // NOLINT(google-explicit-constructor): a plain RECT serves
+  constexpr CRect(const RECT& other)  // NOLINT(google-explicit-constructor): a plain RECT serves
+      : RECT(other) {}
   constexpr CRect(CPoint topLeft, CSize size)
       : RECT{topLeft.x, topLeft.y, topLeft.x + size.cx, topLeft.y + size.cy} {}
   constexpr LONG Width() const { return right - left; }

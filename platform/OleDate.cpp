@@ -93,7 +93,7 @@ CString VarDateToStr(DATE date) {
   if (!SplitToSecond(date, parts)) return {};
   const SYSTEMTIME time = Join(parts);
   const std::string& locale = coregui::CurrentLocaleData().name;
-  const CString timeText = coregui::WriteTime(locale, time.wHour, time.wMinute, time.wSecond);
+  CString timeText = coregui::WriteTime(locale, time.wHour, time.wMinute, time.wSecond);
   if (parts.day == 0) return timeText;
   const CString dateText = coregui::WriteDate(locale, time.wYear, time.wMonth, time.wDay);
   return parts.milliseconds == 0 ? dateText : dateText + L" " + timeText;

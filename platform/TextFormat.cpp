@@ -34,7 +34,7 @@ struct Arguments {
 
 /// Appends text in a field of the directive's width.
 void AppendField(std::wstring& out, const Directive& directive, std::wstring_view text) {
-  const std::size_t width = static_cast<std::size_t>(directive.width);
+  const auto width = static_cast<std::size_t>(directive.width);
   const std::size_t blanks = text.size() < width ? width - text.size() : 0;
   const bool left = directive.flags.find('-') != std::string::npos;
   if (!left) out.append(blanks, L' ');
@@ -82,6 +82,8 @@ void AppendReal(std::wstring& out, std::string text) {
   AppendAscii(out, text);
 }
 
+// Two sizes may be one type here and not elsewhere.
+// NOLINTBEGIN(bugprone-branch-clone)
 std::int64_t TakeSigned(Arguments& arguments, Size size) {
   switch (size) {
     case Size::charSize:
@@ -111,6 +113,7 @@ std::uint64_t TakeUnsigned(Arguments& arguments, Size size) {
       return va_arg(arguments.list, unsigned);
   }
 }
+// NOLINTEND(bugprone-branch-clone)
 
 void AppendText(std::wstring& out, const Directive& directive, Arguments& arguments) {
   const std::size_t limit =
@@ -130,7 +133,7 @@ void AppendText(std::wstring& out, const Directive& directive, Arguments& argume
 }
 
 void AppendCharacter(std::wstring& out, const Directive& directive, Arguments& arguments) {
-  wchar_t character = static_cast<wchar_t>(va_arg(arguments.list, int));
+  auto character = static_cast<wchar_t>(va_arg(arguments.list, int));
   if (directive.conversion == L'C' || directive.size == Size::shortSize) {
     const char byte = static_cast<char>(character);
     character = FromUtf8(std::string_view(&byte, 1))[0];

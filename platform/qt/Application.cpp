@@ -18,7 +18,7 @@ QApplication& EnsureApplication() {
   static char name[] = "coregui";
   static char* arguments[] = {name, nullptr};
   // Never destroyed: at exit the toolkit's own statics, some younger than it, are gone before it could be.
-  static QApplication* const application = new QApplication(count, arguments);
+  static auto* const application = new QApplication(count, arguments);
   return *application;
 }
 

@@ -55,11 +55,8 @@ void ControlWindow::WatchViewport(QAbstractScrollArea& area) {
 
 void ControlWindow::Deliver(QWidget& receiver, QEvent& event) {
   auto* area = qobject_cast<QAbstractScrollArea*>(receiver.parentWidget());
-  if (area == nullptr || area->viewport() != &receiver) {
-    QtWindow::Deliver(receiver, event);
-  } else if (!ViewportAccess::Give(*area, event)) {
-    QtWindow::Deliver(receiver, event);
-  }
+  const bool ofViewport = area != nullptr && area->viewport() == &receiver;
+  if (!ofViewport || !ViewportAccess::Give(*area, event)) QtWindow::Deliver(receiver, event);
 }
 
 }  // namespace coregui

@@ -9,6 +9,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "platform/CFont.h"
@@ -45,7 +46,8 @@ class FontFace {
   static std::shared_ptr<FontFace> For(const std::shared_ptr<FontData>& font, int dotsPerInch, double scale);
 
   const Glyph& GlyphOf(wchar_t character) {
-    const std::uint32_t code = static_cast<std::uint32_t>(character);
+    // By way of the unsigned type, so that a negative code is out of range as well.
+    const auto code = static_cast<std::uint32_t>(static_cast<std::make_unsigned_t<wchar_t>>(character));
     if (code > 0xFFFF) {
       return m_none;
     }

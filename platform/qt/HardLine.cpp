@@ -103,8 +103,8 @@ bool CutFarEnds(const CRect& clip, std::int64_t* x0, std::int64_t* y0, std::int6
     t1 = std::min(t1, b);
     return t0 <= t1;
   };
-  const double startX = static_cast<double>(*x0);
-  const double startY = static_cast<double>(*y0);
+  const auto startX = static_cast<double>(*x0);
+  const auto startY = static_cast<double>(*y0);
   const double deltaX = static_cast<double>(*x1) - startX;
   const double deltaY = static_cast<double>(*y1) - startY;
   if (!cut(startX, deltaX, clip.left - reach, clip.right + reach) ||
