@@ -16,33 +16,25 @@ bool IsDown(UINT key) {
 
 int CGridMultiSelect::ClearAll() {
   m_blocks.clear();
-  m_inProgress = false;
-  m_newBlock = false;
   m_enum = {};
-  m_count = 0;
   m_clickedCol = -1;
   m_clickedRow = -1;
   return 0;
 }
 
 int CGridMultiSelect::StartBlock(int col, long row) {
-  m_startCol = col;
-  m_startRow = row;
   Block block;
   block.startCol = block.endCol = col;
   block.startRow = block.endRow = row;
   Normalise(block);
   m_blocks.push_back(block);
-  m_inProgress = true;
-  m_newBlock = true;
-  ++m_count;
   Report(block);
   Hint(block);
   return 0;
 }
 
 int CGridMultiSelect::EndBlock(int col, long row) {
-  if (!m_inProgress) {
+  if (m_blocks.empty()) {
     return 1;
   }
   const Block before = m_blocks.back();
@@ -52,7 +44,6 @@ int CGridMultiSelect::EndBlock(int col, long row) {
   block.selected = 1;
   Normalise(block);
   m_blocks.back() = block;
-  m_newBlock = false;
   Report(block);
   HintChange(before, block);
   return 0;
@@ -82,6 +73,7 @@ void CGridMultiSelect::OnRClick(int col, long row, UINT) {
 }
 
 void CGridMultiSelect::OnKeyMove(int col, long row) {
+  // Kept: the click has selected its cell already, so a move onto it changes nothing.
   if (col == m_clickedCol && row == m_clickedRow) {
     return;
   }
@@ -96,6 +88,8 @@ void CGridMultiSelect::OnKeyMove(int col, long row) {
 }
 
 void CGridMultiSelect::OnMouseMove(int col, long row, UINT) {
+  // Kept: a drag that returns to the clicked cell leaves the block as it was extended last; the pointer's
+  // shaking on one cell never changes a block.
   if (col != m_clickedCol || row != m_clickedRow) {
     EndBlock(col, row);
   }
@@ -108,6 +102,7 @@ int CGridMultiSelect::ToggleCell(int col, long row) {
   if (own != m_blocks.end()) {
     own->selected = own->selected == 0 ? 1 : 0;
     Hint(*own);
+    Report(Block(*own));
     return 0;
   }
   const int selected = IsSelected(col, row);
@@ -119,16 +114,16 @@ int CGridMultiSelect::ToggleCell(int col, long row) {
 }
 
 int CGridMultiSelect::GetOrigCell(int* col, long* row) {
-  if (!m_inProgress) {
+  if (m_blocks.empty()) {
     return 1;
   }
-  *col = m_startCol;
-  *row = m_startRow;
+  *col = m_blocks.back().startCol;
+  *row = m_blocks.back().startRow;
   return 0;
 }
 
 int CGridMultiSelect::GetCurrentBlock(int* left, long* top, int* right, long* bottom) {
-  if (!m_inProgress) {
+  if (m_blocks.empty()) {
     return 1;
   }
   const Block& block = m_blocks.back();
@@ -158,7 +153,7 @@ int CGridMultiSelect::GetTotalRange(int* left, long* top, int* right, long* bott
 }
 
 int CGridMultiSelect::GetNumberBlocks() {
-  return m_count;
+  return static_cast<int>(m_blocks.size());
 }
 
 template <class Covers>
@@ -224,72 +219,51 @@ bool CGridMultiSelect::StartEnumeration() {
 }
 
 int CGridMultiSelect::EnumFirstSelected(int* col, long* row) {
-  if (!StartEnumeration()) {
-    *col = m_enum.left;
-    *row = m_enum.top;
-    m_enum.active = false;
-    return 0;
-  }
-  m_enum.col = m_enum.left;
-  m_enum.row = m_enum.top;
-  return EnumNextSelected(col, row);
+  return EnumFrom(col, row, 1);
 }
-
-bool CGridMultiSelect::Visit(int* col, long* row) {
-  if (IsSelected(m_enum.col, m_enum.row) == 0) {
-    return false;
-  }
-  *col = m_enum.col;
-  *row = m_enum.row;
-  return true;
-}
-
 int CGridMultiSelect::EnumNextSelected(int* col, long* row) {
-  while (m_enum.active && m_enum.row <= m_enum.bottom) {
-    const bool found = Visit(col, row);
-    if (m_mode == MULTISELECT_ROWS || m_enum.col >= m_enum.right) {
-      m_enum.col = m_enum.left;
-      ++m_enum.row;
-    } else {
-      ++m_enum.col;
-    }
-    if (found) {
-      return 0;
-    }
-  }
-  m_enum.active = false;
-  return 1;
+  return EnumOn(col, row, 1);
+}
+int CGridMultiSelect::EnumLastSelected(int* col, long* row) {
+  return EnumFrom(col, row, -1);
+}
+int CGridMultiSelect::EnumPreviousSelected(int* col, long* row) {
+  return EnumOn(col, row, -1);
 }
 
-int CGridMultiSelect::EnumLastSelected(int* col, long* row) {
+int CGridMultiSelect::EnumFrom(int* col, long* row, int step) {
   if (!StartEnumeration()) {
     *col = m_enum.left;
     *row = m_enum.top;
     m_enum.active = false;
     return 0;
   }
-  m_enum.col = m_mode == MULTISELECT_ROWS ? m_enum.left : m_enum.right;
-  m_enum.row = m_enum.bottom;
-  return EnumPreviousSelected(col, row);
+  m_enum.col = FirstEnumerated(step);
+  m_enum.row = step > 0 ? m_enum.top : m_enum.bottom;
+  return EnumOn(col, row, step);
 }
 
-int CGridMultiSelect::EnumPreviousSelected(int* col, long* row) {
-  while (m_enum.active && m_enum.row >= m_enum.top) {
-    const bool found = Visit(col, row);
-    if (m_mode == MULTISELECT_ROWS) {
-      --m_enum.row;
-    } else if (m_enum.col <= m_enum.left) {
-      m_enum.col = m_enum.right;
-      --m_enum.row;
-    } else {
-      --m_enum.col;
+int CGridMultiSelect::EnumOn(int* col, long* row, int step) {
+  while (m_enum.active && m_enum.row >= m_enum.top && m_enum.row <= m_enum.bottom) {
+    const int at = m_enum.col;
+    const long atRow = m_enum.row;
+    m_enum.col += step;
+    if (m_mode == MULTISELECT_ROWS || m_enum.col < m_enum.left || m_enum.col > m_enum.right) {
+      m_enum.col = FirstEnumerated(step);
+      m_enum.row += step;
     }
-    if (found) {
+    if (IsSelected(at, atRow) != 0) {
+      *col = at;
+      *row = atRow;
       return 0;
     }
   }
   m_enum.active = false;
   return 1;
+}
+
+int CGridMultiSelect::FirstEnumerated(int step) const {
+  return step > 0 || m_mode == MULTISELECT_ROWS ? m_enum.left : m_enum.right;
 }
 
 int CGridMultiSelect::EnumFirstBlock(int* left, long* top, int* right, long* bottom) {
@@ -333,7 +307,7 @@ void CGridMultiSelect::Normalise(Block& block) const {
 
 void CGridMultiSelect::Report(const Block& block) {
   if (m_control != nullptr) {
-    m_control->OnSelectionChanged(block.right, block.top, block.left, block.bottom, m_count);
+    m_control->OnSelectionChanged(block.right, block.top, block.left, block.bottom, GetNumberBlocks());
   }
 }
 
@@ -347,6 +321,9 @@ void CGridMultiSelect::HintChange(const Block& before, const Block& after) {
   CGridDrawHint* const hints = Hints();
   if (hints == nullptr) {
     return;
+  }
+  if (before.selected != after.selected) {
+    Hint(before);  // it deselected its cells until now
   }
   if (before.endRow != after.endRow) {
     hints->AddHint(std::min(before.left, after.left), std::min(before.endRow, after.endRow),

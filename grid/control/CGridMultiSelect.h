@@ -16,7 +16,8 @@ inline constexpr int MULTISELECT_FIRSTWINS = 16;
 
 /// The selected cells of one sheet, as an ordered list of rectangular blocks that each select or deselect
 /// their cells; the last block that covers a cell decides. It reports changes and never navigates. Every
-/// change calls the control's OnSelectionChanged, and cells whose look changes go to the body's draw hints.
+/// change of a block calls the control's OnSelectionChanged, and cells whose look changes go to the body's
+/// draw hints. Forgetting the blocks is not reported: the next block is.
 class COREGUI_API CGridMultiSelect : public CObject {
  public:
   /// One block: where it was begun and ends, and the same as an ordered rectangle, inclusive.
@@ -98,20 +99,18 @@ class COREGUI_API CGridMultiSelect : public CObject {
   void HintChange(const Block& before, const Block& after);
   void HintAndClear();
   CGridDrawHint* Hints() const;
-  bool StartEnumeration();
   template <class Covers>
   int Decide(Covers covers, int* block) const;
-  bool Visit(int* col, long* row);
+  bool StartEnumeration();
+  /// The first selected cell in the direction of `step` (1 or -1), and the next one.
+  int EnumFrom(int* col, long* row, int step);
+  int EnumOn(int* col, long* row, int step);
+  int FirstEnumerated(int step) const;
 
   CGridCtrl* m_control = nullptr;  ///< borrowed: the owner
-  std::vector<Block> m_blocks;     ///< the last one is current while a block is in progress
-  bool m_inProgress = false;
-  bool m_newBlock = false;
+  std::vector<Block> m_blocks;     ///< in list order; the last one is current: the block in progress
   int m_mode = 0;
-  int m_count = 0;
   Enumeration m_enum;
   int m_clickedCol = -1;
   long m_clickedRow = -1;
-  int m_startCol = -1;
-  long m_startRow = -1;
 };

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "grid/control/CGridDrawHint.h"
 #include "platform/Keys.h"
 #include "platform/Messages.h"
@@ -63,6 +65,48 @@ TEST(CGridMultiSelect, ReportsRightTopLeftBottomInThisOrder) {
   selection.StartBlock(5, 7);
   selection.EndBlock(2, 9);
   EXPECT_EQ(grid.TakeLog(), "Selection 5 7 5 7 1; Selection 5 7 2 9 1");
+  selection.ToggleCell(3, 8);
+  selection.ToggleCell(3, 8);
+  EXPECT_EQ(grid.TakeLog(), "Selection 3 8 3 8 2; Selection 3 8 3 8 2")
+      << "inverting a block is a change too";
+}
+
+TEST(CGridMultiSelect, HintsTheCellsWhoseLookChanges) {
+  CWnd frame;
+  frame.Create(L"", L"frame", WS_OVERLAPPEDWINDOW, CRect(0, 0, 300, 200), nullptr, 0);
+  LoggingGrid grid;
+  ASSERT_TRUE(grid.CreateGrid(WS_CHILD, CRect(0, 0, 300, 200), &frame, 1));
+  grid.SetNumberCols(10);
+  grid.SetNumberRows(20);
+  CGridMultiSelect& selection = *grid.GetMultiSelect();
+  CGridDrawHint& hints = *grid.GetDrawHints();
+  struct Step {
+    const char* name;
+    std::function<void()> change;
+    const char* hinted;
+  };
+  const Step steps[] = {
+      {"begun", [&] { selection.StartBlock(3, 4); }, "3,4 to 3,4 "},
+      {"extended both ways", [&] { selection.EndBlock(5, 6); }, "3,4 to 5,6 3,4 to 5,6 "},
+      {"turned over its start", [&] { selection.EndBlock(5, 2); }, "3,2 to 5,6 "},
+      {"a cell taken out", [&] { selection.ToggleCell(4, 3); }, "4,3 to 4,3 "},
+      {"and in again", [&] { selection.ToggleCell(4, 3); }, "4,3 to 4,3 "},
+      {"out once more", [&] { selection.ToggleCell(4, 3); }, "4,3 to 4,3 "},
+      {"a block that deselects comes to select", [&] { selection.EndBlock(4, 3); }, "4,3 to 4,3 "},
+      {"all dropped", [&] { selection.OnLClick(9, 9, 0); }, "3,2 to 5,4 9,9 to 9,9 "},
+  };
+  for (const Step& step : steps) {
+    hints.ClearHints();
+    step.change();
+    std::string hinted;
+    for (const CGridDrawHint::Range& r : hints.GetRanges()) {
+      hinted += std::to_string(r.startCol) + "," + std::to_string(r.startRow) + " to " +
+                std::to_string(r.endCol) + "," + std::to_string(r.endRow) + " ";
+    }
+    EXPECT_EQ(hinted, step.hinted) << step.name;
+  }
+  grid.DestroyWindow();
+  frame.DestroyWindow();
 }
 
 TEST(CGridMultiSelect, WholeRowsReachOnePastTheLastColumnIsKept) {
