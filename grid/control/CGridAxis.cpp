@@ -127,6 +127,10 @@ long CGridAxis::IndexAtPosition(std::int64_t position) const {
   return index < m_count ? index : -1;
 }
 
+long CGridAxis::LockedInView() const {
+  return m_extent <= 0 ? 0 : std::min(IndexAtOffset(m_extent - 1) + 1, m_locked);
+}
+
 long CGridAxis::LastInView() const {
   if (Room() <= 0) {
     return m_first;
@@ -146,22 +150,21 @@ long CGridAxis::FirstThatShows(long index) const {
 }
 
 long CGridAxis::PageTarget(long index, int step) const {
-  std::int64_t room = Room();
+  const std::int64_t room = Room();
   if (room < 0) {
     return index;
   }
   // Leaving an entry costs its size; the walk goes on while the next one fits into what is then left.
   const std::int64_t start = OffsetOf(index);
-  long target = index;
-  if (step > 0) {
-    target = IndexAtOffset(start + room) - 1;
-    target = std::max(target, index);
-  } else {
+  if (step < 0) {
     const std::int64_t limit = start + CostOf(index) - room;
-    target = limit <= 0 ? 0 : IndexAtOffset(limit - 1) + 1;
-    target = std::min(target, index);
+    return std::min(limit <= 0 ? 0 : IndexAtOffset(limit - 1) + 1, index);
   }
-  return target;
+  const std::int64_t behind = start + room - TotalSize();
+  if (behind >= 0) {
+    return m_count + static_cast<long>(behind / std::max(m_defaultSize, 1));
+  }
+  return std::max(IndexAtOffset(start + room) - 1, index);
 }
 
 }  // namespace coregui

@@ -65,13 +65,16 @@ class COREGUI_API CGridAxis {
   std::int64_t PositionOf(long index) const;
   /// The entry at a position of the view: a locked one where those are, else a scrollable one. -1 when none.
   long IndexAtPosition(std::int64_t position) const;
+  /// How many locked entries are at least partly in view.
+  long LockedInView() const;
   /// The last entry that is at least partly in view (from First() on); First() when the view has no room.
   long LastInView() const;
   /// The first entry that a view must start with to show `index` in full, starting at First() or later;
   /// never behind `index` itself.
   long FirstThatShows(long index) const;
   /// The target of a page move from `index`: as far as whole entries fit into the room, one entry's start to
-  /// another's. `step` is -1 or 1. The entry itself when the room is negative.
+  /// another's. `step` is -1 or 1. The entry itself when the room is negative. Forward, the page may end
+  /// behind the last entry: what is there counts as of the default size.
   long PageTarget(long index, int step) const;
 
   /// Moves the view as little as needed for `drag` to be in it.

@@ -20,6 +20,9 @@ int CGridClipboard::CreateSelectedString(CString& text, bool cut) {
   int col = -1;
   long row = -1;
   int more = selection.EnumFirstSelected(&col, &row);
+  if (selection.GetNumberBlocks() == 0 && (col < 0 || row < 0)) {
+    return 0;  // no current cell: a heading cell is not meant
+  }
   while (more == 0) {
     AppendCell(text, col, row, cut);
     const long before = row;

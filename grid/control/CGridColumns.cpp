@@ -22,9 +22,33 @@ void CGridColumns::SetColumnCount(int count, CGridCell& defaults) {
   const auto before = static_cast<int>(m_columns.size());
   SetCount(count);
   m_columns.resize(static_cast<std::size_t>(count));
+  const std::vector<int> numbers = FreeDataColumns(before);
   for (int col = before; col < count; ++col) {
-    At(col) = MakeColumn(col, defaults);
+    At(col) = MakeColumn(numbers[static_cast<std::size_t>(col - before)], defaults);
   }
+}
+
+std::vector<int> CGridColumns::FreeDataColumns(int before) const {
+  const auto count = static_cast<int>(m_columns.size());
+  std::vector<bool> shown(m_columns.size(), false);
+  for (int col = 0; col < std::min(before, count); ++col) {
+    const int number = At(col).translation;
+    if (number >= 0 && number < count) {
+      shown[static_cast<std::size_t>(number)] = true;
+    }
+  }
+  std::vector<int> numbers;
+  int lowest = 0;
+  for (int col = before; col < count; ++col) {
+    int number = col;
+    if (shown[static_cast<std::size_t>(number)]) {
+      lowest = static_cast<int>(std::find(shown.begin() + lowest, shown.end(), false) - shown.begin());
+      number = lowest;
+    }
+    shown[static_cast<std::size_t>(number)] = true;
+    numbers.push_back(number);
+  }
+  return numbers;
 }
 
 void CGridColumns::InsertColumn(int col, int dataColumn, CGridCell& defaults) {

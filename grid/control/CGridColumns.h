@@ -32,13 +32,16 @@ class COREGUI_API CGridColumns : public CGridAxis {
   int Translate(int col) const { return Has(col) ? At(col).translation : col; }
   /// The first grid column that shows a data column, -1 when none.
   int FromTranslation(int dataColumn) const;
-  /// New columns show the data column of their own number; their default cell starts as a copy of `defaults`.
+  /// A new column shows the data column of its own number or, where another column shows that one, the lowest
+  /// that none shows; its default cell starts as a copy of `defaults`.
   void SetColumnCount(int count, CGridCell& defaults);
   void InsertColumn(int col, int dataColumn, CGridCell& defaults);
   void EraseColumn(int col);
   void MoveColumn(int from, int to);
 
  private:
+  /// The data columns for the columns from `before` on.
+  std::vector<int> FreeDataColumns(int before) const;
   static Column MakeColumn(int dataColumn, CGridCell& defaults);
 
   std::vector<Column> m_columns;

@@ -88,6 +88,7 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
   int DeleteCell(int col, long row);
   int GetColDefault(int col, CGridCell* cell);
   int SetColDefault(int col, CGridCell* cell);
+  /// What the default cells of new columns start from.
   int GetGridDefault(CGridCell* cell);
   int SetGridDefault(CGridCell* cell);
   int GetHeadingDefault(CGridCell* cell);
@@ -184,7 +185,8 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
   int LockRows(long count);
   long GetLockedRows() const;
   /// Sizes columns from `startCol` to `endCol` to their content and heading, looking at `rows` rows from
-  /// the view's first on (0: those in view, -1: all).
+  /// the view's first on (0: those in view, -1: all) and at the locked ones. Of several columns the hidden
+  /// ones stay hidden. 1 without a window.
   int BestFit(int startCol, int endCol, long rows = 0);
   /// Shares the window's width among the columns in proportion to their widths.
   int FitToWindow(int startCol, int endCol);
@@ -217,6 +219,8 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
   int GetSheetNumber() const;
   int SetSheetName(int sheet, const wchar_t* name);
   CString GetSheetName(int sheet) const;
+  /// The room for the tabs, left of the horizontal scroll bar, on every sheet, those that are added later
+  /// too; 0: no tabs.
   int SetTabWidth(int width);
   int GetTabWidth() const;
 
@@ -237,9 +241,10 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
   int MoveTopRow(int code);
   int VerifyTopRow(long* row);
   int VerifyLeftCol(int* col);
-  /// A control whose rows grow as they are needed overrides it: the paint pass asks for the row behind the
-  /// last.
-  virtual int VerifyCurrentRow(long* row);
+  /// Bring a row or column into the sheet, off hidden ones; 1 when there is none. Rows are asked for by every
+  /// GotoRow and by the paint pass, which asks for the row behind the last one: a control whose rows grow as
+  /// they are needed overrides it.
+  int VerifyCurrentRow(long* row) override;
   int VerifyCurrentCol(int* col);
   /// Brings current cell, notifications, scroll bars and screen up to date with the drag cell and the view.
   void Moved();

@@ -26,16 +26,16 @@ int CGridCtrl::SetColDefault(int col, CGridCell* cell) {
   return m_rooms->cells.SetColDefault(col, cell);
 }
 int CGridCtrl::GetGridDefault(CGridCell* cell) {
-  return cell->CopyInfoFrom(GetInfo().gridDefault.get());
+  return cell == nullptr ? 1 : cell->CopyInfoFrom(GetInfo().gridDefault.get());
 }
 int CGridCtrl::SetGridDefault(CGridCell* cell) {
-  return GetInfo().gridDefault->CopyInfoFrom(cell);
+  return cell == nullptr ? 1 : GetInfo().gridDefault->CopyInfoFrom(cell);
 }
 int CGridCtrl::GetHeadingDefault(CGridCell* cell) {
-  return cell->CopyInfoFrom(GetInfo().headingDefault.get());
+  return cell == nullptr ? 1 : cell->CopyInfoFrom(GetInfo().headingDefault.get());
 }
 int CGridCtrl::SetHeadingDefault(CGridCell* cell) {
-  return GetInfo().headingDefault->CopyInfoFrom(cell);
+  return cell == nullptr ? 1 : GetInfo().headingDefault->CopyInfoFrom(cell);
 }
 
 // --- Quick operations

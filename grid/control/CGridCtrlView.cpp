@@ -8,7 +8,7 @@
 // --- Rows and columns
 
 int CGridCtrl::SetNumberRows(long rows, int redraw) {
-  const int result = m_rooms->sizing.SetNumberRows(rows);
+  const int result = m_rooms->counts.SetNumberRows(rows);
   Show(result == 0 && redraw != 0);
   return result;
 }
@@ -16,7 +16,7 @@ long CGridCtrl::GetNumberRows() const {
   return GetInfo().rows.Count();
 }
 int CGridCtrl::SetNumberCols(int cols, int redraw) {
-  const int result = m_rooms->sizing.SetNumberCols(cols);
+  const int result = m_rooms->counts.SetNumberCols(cols);
   Show(result == 0 && redraw != 0);
   return result;
 }
@@ -25,28 +25,28 @@ int CGridCtrl::GetNumberCols() const {
 }
 
 int CGridCtrl::InsertRow(long row) {
-  return Shown(m_rooms->sizing.InsertRow(row));
+  return Shown(m_rooms->counts.InsertRow(row));
 }
 int CGridCtrl::AppendRow() {
-  return Shown(m_rooms->sizing.AppendRow());
+  return Shown(m_rooms->counts.AppendRow());
 }
 int CGridCtrl::DeleteRow(long row) {
-  return Shown(m_rooms->sizing.DeleteRow(row));
+  return Shown(m_rooms->counts.DeleteRow(row));
 }
 int CGridCtrl::InsertCol(int col) {
-  return Shown(m_rooms->sizing.InsertCol(col));
+  return Shown(m_rooms->counts.InsertCol(col));
 }
 int CGridCtrl::AppendCol() {
-  return Shown(m_rooms->sizing.AppendCol());
+  return Shown(m_rooms->counts.AppendCol());
 }
 int CGridCtrl::DeleteCol(int col) {
-  return Shown(m_rooms->sizing.DeleteCol(col));
+  return Shown(m_rooms->counts.DeleteCol(col));
 }
 int CGridCtrl::MoveColPosition(int from, int to, int before) {
-  return Shown(m_rooms->sizing.MoveColPosition(from, to, before != 0));
+  return Shown(m_rooms->counts.MoveColPosition(from, to, before != 0));
 }
 int CGridCtrl::SetColWidth(int col, int width) {
-  return m_rooms->sizing.SetColWidth(col, width);
+  return Shown(m_rooms->sizing.SetColWidth(col, width));
 }
 int CGridCtrl::GetColWidth(int col) const {
   return m_rooms->sizing.GetColWidth(col);
@@ -62,31 +62,31 @@ int CGridCtrl::GetDefColWidth() const {
   return GetInfo().columns.DefaultSize();
 }
 int CGridCtrl::SetRowHeight(long row, int height) {
-  return m_rooms->sizing.SetRowHeight(row, height);
+  return Shown(m_rooms->sizing.SetRowHeight(row, height));
 }
 int CGridCtrl::GetRowHeight(long row) const {
   return m_rooms->sizing.GetRowHeight(row);
 }
 int CGridCtrl::SetDefRowHeight(int height) {
-  return m_rooms->sizing.SetDefRowHeight(height);
+  return Shown(m_rooms->sizing.SetDefRowHeight(height));
 }
 int CGridCtrl::GetDefRowHeight() const {
   return GetInfo().rows.DefaultSize();
 }
 int CGridCtrl::SetUniformRowHeight(int on) {
-  return m_rooms->sizing.SetUniformRowHeight(on != 0);
+  return Shown(m_rooms->sizing.SetUniformRowHeight(on != 0));
 }
 int CGridCtrl::GetUniformRowHeight() const {
   return GetInfo().rows.IsUniform() ? 1 : 0;
 }
 int CGridCtrl::LockColumns(int count) {
-  return Shown(m_rooms->sizing.LockColumns(count));
+  return Shown(m_rooms->counts.LockColumns(count));
 }
 int CGridCtrl::GetLockedColumns() const {
   return static_cast<int>(GetInfo().columns.Locked());
 }
 int CGridCtrl::LockRows(long count) {
-  return Shown(m_rooms->sizing.LockRows(count));
+  return Shown(m_rooms->counts.LockRows(count));
 }
 long CGridCtrl::GetLockedRows() const {
   return GetInfo().rows.Locked();
@@ -107,7 +107,7 @@ int CGridCtrl::GetTH_NumberRows() const {
   return GetInfo().headings.TopRows();
 }
 int CGridCtrl::SetTH_RowHeight(int index, int height) {
-  return index < 0 ? 1 : m_rooms->sizing.SetRowHeight(-index - 1L, height);
+  return index < 0 ? 1 : SetRowHeight(-index - 1L, height);
 }
 int CGridCtrl::GetTH_RowHeight(int index) const {
   return index < 0 ? 0 : GetRowHeight(-index - 1L);
@@ -125,7 +125,7 @@ int CGridCtrl::GetSH_NumberCols() const {
   return GetInfo().headings.SideCols();
 }
 int CGridCtrl::SetSH_ColWidth(int index, int width) {
-  return index < 0 ? 1 : m_rooms->sizing.SetColWidth(-index - 1, width);
+  return index < 0 ? 1 : SetColWidth(-index - 1, width);
 }
 int CGridCtrl::GetSH_ColWidth(int index) const {
   return index < 0 ? 0 : GetColWidth(-index - 1);
@@ -158,11 +158,13 @@ int CGridCtrl::SetNumberSheets(int count) {
   const int before = GetNumberSheets();
   const int current = GetSheetNumber();
   const int paint = GetPaintMode();
+  const int tabWidth = GetTabWidth();
   m_rooms->sheets.SetCount(count);
   // A new sheet is current while it is set up, so that its set-up reaches it.
   for (int sheet = before; sheet < count; ++sheet) {
     m_rooms->sheets.SetCurrent(sheet);
     GetInfo().view.paintEnabled = paint;
+    GetInfo().view.tabWidth = tabWidth;
     OnSheetSetup(sheet);
   }
   m_rooms->sheets.SetCurrent(std::min(current, GetNumberSheets() - 1));
@@ -195,7 +197,13 @@ CString CGridCtrl::GetSheetName(int sheet) const {
   return m_rooms->sheets.Has(sheet) ? m_rooms->sheets.NameOf(sheet) : CString();
 }
 int CGridCtrl::SetTabWidth(int width) {
-  return LaidOut(SetSize(GetInfo().view.tabWidth, width));
+  if (width < 0) {
+    return 1;
+  }
+  for (int sheet = 0; sheet < GetNumberSheets(); ++sheet) {
+    m_rooms->sheets.At(sheet).view.tabWidth = width;
+  }
+  return LaidOut(0);
 }
 int CGridCtrl::GetTabWidth() const {
   return GetInfo().view.tabWidth;

@@ -1,18 +1,16 @@
 #pragma once
 
-#include "platform/Types.h"
+#include "grid/control/CellPlace.h"
 
 namespace coregui {
 
 class CGridAxis;
-class CGridCellDelegate;
-class CGridCells;
 class CGridJoins;
+class CGridMoveReport;
+class CGridMoveSelection;
 class CGridNotify;
 class CGridScreen;
 class CGridSheets;
-class CGridSourceTable;
-class CGridTypeTable;
 class CGridVetoes;
 
 /// Moves the current cell and the view. A move first changes the drag cell; Moved() then brings the current
@@ -26,11 +24,10 @@ class CGridNavigator {
  public:
   struct Rooms {
     CGridSheets& sheets;
-    CGridSourceTable& sources;
-    CGridCells& cells;
     CGridJoins& joins;
-    CGridTypeTable& types;
     CGridVetoes& vetoes;
+    CGridMoveSelection& selection;
+    CGridMoveReport& report;
     CGridNotify& notify;
     CGridScreen& screen;
   };
@@ -45,10 +42,10 @@ class CGridNavigator {
   int MoveCurrentRow(int code);
   /// Scrolls to a first row (column), brought into the scrollable range.
   int SetTopRow(long row);
-  int SetLeftCol(int col);
+  int SetLeftCol(long col);
   /// Scrolls by an amount; 0 does nothing and asks nobody.
   int AdjustTopRow(long delta);
-  int AdjustLeftCol(int delta);
+  int AdjustLeftCol(long delta);
   /// The codes of MoveCurrentCol for the view.
   int MoveTopRow(int code);
   int MoveLeftCol(int code);
@@ -58,27 +55,30 @@ class CGridNavigator {
   int VerifyTopRow(long* row) const;
   int VerifyLeftCol(int* col) const;
   void Moved();
+  /// The number or the sizes of the rows (columns), or the view's room, have changed: brings the first one in
+  /// view, the current and the drag one into range, and the scroll bars up to date. A current one that is
+  /// gone becomes the last one without anybody being asked.
+  void RowsChanged();
+  void ColsChanged();
+  void ViewSized();
   /// Relative moves start at the current cell again.
   void ResetDragCell();
 
  private:
-  struct Cell {
-    int col;
-    long row;
-    bool operator==(const Cell&) const = default;
-  };
-  CGridAxis& Cols() const;
-  CGridAxis& Rows() const;
-  Cell Current() const;
-  Cell Drag() const;
-  bool IsInView(const Cell& cell) const;
-  int ClickDragCell();
-  void ResetSelection();
-  void Select(const Cell& cell);
-  int FinishMove(CGridAxis& axis, long target, const Cell& view);
-  void TellTypes(const Cell& before, const Cell& after, bool scrolled);
-  void TellCellChange(const Cell& before, const Cell& after);
-  void TellViewChange(const Cell& before, const Cell& after);
+  /// Instead of an axis itself, which a notification may replace by switching to another sheet.
+  enum class Along { cols, rows };
+  CGridAxis& Axis(Along along) const;
+  CGridAxis& Cols() const { return Axis(Along::cols); }
+  CGridAxis& Rows() const { return Axis(Along::rows); }
+  CellPlace Current() const;
+  CellPlace Drag() const;
+  CellPlace View() const;
+  bool MayShow(const CellPlace& view);
+  void TakeDrag(Along along, long target);
+  int FinishMove(Along along, long target);
+  int ScrollTo(Along along, long first);
+  int MoveView(Along along, int code);
+  bool BringIntoRange(Along along);
 
   Rooms m_rooms;
 };

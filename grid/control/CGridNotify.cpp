@@ -23,6 +23,9 @@ int CGridNotify::OnCanMove(int, long, int, long) {
 int CGridNotify::OnCanViewMove(int, long, int, long) {
   return 1;
 }
+int CGridNotify::VerifyCurrentRow(long*) {
+  return 0;
+}
 void CGridNotify::OnColChange(int, int) {}
 void CGridNotify::OnRowChange(long, long) {}
 void CGridNotify::OnCellChange(int, int, long, long) {}

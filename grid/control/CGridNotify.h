@@ -52,6 +52,10 @@ class COREGUI_API CGridNotify {
   virtual int OnCanMove(int oldCol, long oldRow, int newCol, long newRow);
   /// The move needs the view to scroll to show (newLeftCol, newTopRow).
   virtual int OnCanViewMove(int oldLeftCol, long oldTopRow, int newLeftCol, long newTopRow);
+  /// A move, or the paint pass that has room behind the last row, wants `row`: bring it into the sheet. 0
+  /// when it is a row to go to, else 1. A control whose rows grow as they are wanted adds them here. Default:
+  /// 0.
+  virtual int VerifyCurrentRow(long* row);
   /// The current column, row, or either has changed.
   virtual void OnColChange(int oldCol, int newCol);
   virtual void OnRowChange(long oldRow, long newRow);

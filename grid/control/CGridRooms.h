@@ -2,11 +2,14 @@
 
 #include "grid/control/CGridCells.h"
 #include "grid/control/CGridClipboard.h"
+#include "grid/control/CGridCounts.h"
 #include "grid/control/CGridFinder.h"
 #include "grid/control/CGridFonts.h"
 #include "grid/control/CGridGeometry.h"
 #include "grid/control/CGridJoins.h"
 #include "grid/control/CGridMenu.h"
+#include "grid/control/CGridMoveReport.h"
+#include "grid/control/CGridMoveSelection.h"
 #include "grid/control/CGridNavigator.h"
 #include "grid/control/CGridParts.h"
 #include "grid/control/CGridSheets.h"
@@ -33,7 +36,10 @@ struct CGridRooms {
   CGridGeometry geometry;
   CGridTypeTable types;
   CGridVetoes vetoes;
+  CGridMoveSelection moveSelection;
+  CGridMoveReport moveReport;
   CGridNavigator navigator;
+  CGridCounts counts;
   CGridSizing sizing;
   CGridSorting sorting;
   CGridFinder finder;

@@ -7,32 +7,13 @@
 #include "grid/control/CGridNavigator.h"
 #include "grid/control/CGridScreen.h"
 #include "grid/control/CGridSheets.h"
-#include "grid/control/CGridSourceTable.h"
 #include "grid/control/CGridTypeTable.h"
 #include "grid/data/CGridCell.h"
-#include "grid/data/CGridDataSource.h"
-#include "grid/data/CGridMem.h"
 #include "platform/System.h"
 
 namespace coregui {
 
 namespace {
-
-std::vector<int> Translations(const CGridColumns& columns) {
-  std::vector<int> all;
-  all.reserve(static_cast<std::size_t>(columns.Count()));
-  for (long col = 0; col < columns.Count(); ++col) {
-    all.push_back(columns.At(col).translation);
-  }
-  return all;
-}
-
-void ShiftTranslations(CGridColumns& columns, int from, int by) {
-  for (long col = 0; col < columns.Count(); ++col) {
-    int& translation = columns.At(col).translation;
-    translation += translation >= from ? by : 0;
-  }
-}
 
 int ResizeHeading(std::vector<int>& sizes, int count, int size) {
   int change = 0;
@@ -47,6 +28,22 @@ int ResizeHeading(std::vector<int>& sizes, int count, int size) {
   return change;
 }
 
+/// The locked entries in view, then the scrollable ones.
+template <class Call>
+void ForEachInView(const CGridAxis& axis, Call call) {
+  if (axis.Extent() <= 0) {
+    return;
+  }
+  const long locked = axis.LockedInView();
+  const long last = axis.LastInView();
+  for (long index = 0; index < locked; ++index) {
+    call(index);
+  }
+  for (long index = axis.First(); index <= last; ++index) {
+    call(index);
+  }
+}
+
 }  // namespace
 
 CGridAxis& CGridSizing::Cols() const {
@@ -56,175 +53,22 @@ CGridAxis& CGridSizing::Rows() const {
   return m_rooms.sheets.Current().rows;
 }
 
-void CGridSizing::ReduceLocked(CGridAxis& axis, long count) {
-  if (count >= 1 && count <= axis.Locked()) {
-    axis.SetLocked(count - 1);
-  }
-}
-
-void CGridSizing::BringIntoRange(CGridAxis& axis) {
-  axis.SetFirst(axis.ClampFirst(axis.First()));
-  const long last = axis.Count() - 1;
-  if (axis.current > last) {
-    axis.current = axis.lastCurrent = axis.drag = last;
-  }
-  axis.drag = std::min(axis.drag, last);
-}
-
-void CGridSizing::AfterCountChange(CGridAxis& axis) {
-  const long first = axis.First();
-  BringIntoRange(axis);
-  if (axis.First() != first) {
-    m_rooms.navigator.Moved();
-  }
-  m_rooms.screen.ShowScrollBars();
-}
-
-int CGridSizing::SetNumberRows(long rows) {
-  if (rows < 0 || rows > maxRows) {
-    return 1;
-  }
-  ReduceLocked(Rows(), rows);
-  m_rooms.sheets.Current().rows.SetRowCount(rows);
-  AfterCountChange(Rows());
-  if (Rows().current < 0 && rows >= 1) {
-    m_rooms.navigator.GotoRow(0);
-  }
-  return 0;
-}
-
-int CGridSizing::SetNumberCols(int cols) {
-  if (cols < 0 || cols > maxColumns) {
-    return 1;
-  }
-  CGridInfo& info = m_rooms.sheets.Current();
-  ReduceLocked(info.columns, cols);
-  info.columns.SetColumnCount(cols, *info.gridDefault);
-  AfterCountChange(info.columns);
-  if (Cols().current < 0 && cols >= 1) {
-    m_rooms.navigator.GotoCol(0);
-  }
-  return 0;
-}
-
-int CGridSizing::InsertRow(long row) {
-  const long rows = Rows().Count();
-  if (row < 0 || row > rows || rows >= maxRows) {
-    return 1;
-  }
-  if (row == rows) {
-    return AppendRow();
-  }
-  for (CGridDataSource* source : m_rooms.sources.InUse()) {
-    source->InsertRow(row);
-  }
-  CGridRows& axis = m_rooms.sheets.Current().rows;
-  axis.SetUniform(axis.IsUniform() || rows + 1 > CGridRows::maxOwnHeights);
-  axis.Insert(row);
-  AfterCountChange(axis);
-  return 0;
-}
-
-int CGridSizing::AppendRow() {
-  for (CGridDataSource* source : m_rooms.sources.InUse()) {
-    source->AppendRow();
-  }
-  return SetNumberRows(Rows().Count() + 1);
-}
-
-int CGridSizing::DeleteRow(long row) {
-  if (row < 0 || row >= Rows().Count()) {
-    return 1;
-  }
-  for (CGridDataSource* source : m_rooms.sources.InUse()) {
-    source->DeleteRow(row);
-  }
-  ReduceLocked(Rows(), Rows().Count() - 1);
-  Rows().Erase(row);
-  AfterCountChange(Rows());
-  return 0;
-}
-
-int CGridSizing::InsertCol(int col) {
-  CGridInfo& info = m_rooms.sheets.Current();
-  const auto cols = static_cast<int>(info.columns.Count());
-  if (col < 0 || col > cols || cols >= maxColumns) {
-    return 1;
-  }
-  if (col == cols) {
-    return AppendCol();
-  }
-  const CGridSourceTable::Place place = m_rooms.sources.Of(col);
-  // The memory store makes room at the grid column, not at the data column that it is asked for.
-  const bool isMemory = place.source == static_cast<CGridDataSource*>(info.memory.get());
-  const int made = isMemory ? info.columns.FromTranslation(place.col) : place.col;
-  const std::vector<int> before = Translations(info.columns);
-  place.source->InsertCol(place.col);
-  if (Translations(info.columns) == before) {
-    ShiftTranslations(info.columns, made, 1);
-  }
-  info.columns.InsertColumn(col, made, *info.gridDefault);
-  info.columns.At(col).source = place.source == info.defaultSource ? nullptr : place.source;
-  AfterCountChange(info.columns);
-  return 0;
-}
-
-int CGridSizing::AppendCol() {
-  m_rooms.sheets.Current().defaultSource->AppendCol();
-  return SetNumberCols(static_cast<int>(Cols().Count()) + 1);
-}
-
-int CGridSizing::DeleteCol(int col) {
-  CGridInfo& info = m_rooms.sheets.Current();
-  if (!info.columns.Has(col)) {
-    return 1;
-  }
-  const CGridSourceTable::Place place = m_rooms.sources.Of(col);
-  const std::vector<int> before = Translations(info.columns);
-  place.source->DeleteCol(place.col);
-  if (Translations(info.columns) == before) {
-    ShiftTranslations(info.columns, place.col, -1);
-  }
-  ReduceLocked(info.columns, info.columns.Count() - 1);
-  info.columns.EraseColumn(col);
-  AfterCountChange(info.columns);
-  return 0;
-}
-
-int CGridSizing::MoveColPosition(int from, int to, bool before) {
-  CGridColumns& columns = m_rooms.sheets.Current().columns;
-  const int gap = before ? to : to + 1;
-  if (!columns.Has(from) || gap < 0 || gap > columns.Count()) {
-    return 1;
-  }
-  columns.MoveColumn(from, gap > from ? gap - 1 : gap);
-  AfterCountChange(columns);
-  return 0;
-}
-
 int CGridSizing::ToldWidth(int col, int width) {
-  if (Rows().Extent() <= 0) {
-    return width;
-  }
-  const long last = Rows().LastInView();
-  for (long row = Rows().First(); row <= last && row < Rows().Count(); ++row) {
+  ForEachInView(Rows(), [&](long row) {
     if (CGridCellDelegate* const type = m_rooms.types.Of(col, row)) {
       type->OnChangedCellWidth(col, row, &width);
     }
-  }
+  });
   return std::max(width, 0);
 }
 
 int CGridSizing::ToldHeight(long row, int height) {
-  if (Cols().Extent() <= 0) {
-    return height;
-  }
-  const long last = Cols().LastInView();
-  for (long col = Cols().First(); col <= last && col < Cols().Count(); ++col) {
-    if (CGridCellDelegate* const type = m_rooms.types.Of(static_cast<int>(col), row)) {
-      type->OnChangedCellHeight(static_cast<int>(col), row, &height);
+  ForEachInView(Cols(), [&](long at) {
+    const auto col = static_cast<int>(at);
+    if (CGridCellDelegate* const type = m_rooms.types.Of(col, row)) {
+      type->OnChangedCellHeight(col, row, &height);
     }
-  }
+  });
   return std::max(height, 0);
 }
 
@@ -238,7 +82,7 @@ int CGridSizing::SetColWidth(int col, int width) {
     return 0;
   }
   info.columns.SetSize(col, ToldWidth(col, width));
-  AfterCountChange(Cols());
+  m_rooms.navigator.ColsChanged();
   return 0;
 }
 
@@ -261,7 +105,7 @@ int CGridSizing::SetRowHeight(long row, int height) {
     return 0;
   }
   info.rows.SetSize(row, ToldHeight(row, height));
-  AfterCountChange(Rows());
+  m_rooms.navigator.RowsChanged();
   return 0;
 }
 
@@ -279,7 +123,7 @@ int CGridSizing::SetDefRowHeight(int height) {
     return 1;
   }
   Rows().SetDefaultSize(height);
-  AfterCountChange(Rows());
+  m_rooms.navigator.RowsChanged();
   return 0;
 }
 
@@ -288,32 +132,8 @@ int CGridSizing::SetUniformRowHeight(bool on) {
     return 1;
   }
   Rows().SetUniform(on);
-  AfterCountChange(Rows());
+  m_rooms.navigator.RowsChanged();
   return 0;
-}
-
-int CGridSizing::Lock(CGridAxis& axis, long count) {
-  if (count < 0 || count > axis.Count()) {
-    return 1;
-  }
-  if (count == axis.Locked()) {
-    return 0;
-  }
-  const long first = axis.First();
-  axis.SetLocked(count);
-  axis.SetFirst(count < 1 ? count : axis.ClampFirst(first));
-  if (axis.First() != first) {
-    m_rooms.navigator.Moved();
-  }
-  m_rooms.screen.ShowScrollBars();
-  return 0;
-}
-
-int CGridSizing::LockColumns(int count) {
-  return Lock(Cols(), count);
-}
-int CGridSizing::LockRows(long count) {
-  return Lock(Rows(), count);
 }
 
 int CGridSizing::SetHeadingRows(int count) {
@@ -340,24 +160,33 @@ int CGridSizing::BestFit(int startCol, int endCol, long rows) {
   if (startCol < 0 || endCol >= Cols().Count() || startCol > endCol) {
     return 1;
   }
-  const long count = Rows().Count();
-  const long first = rows < 0 ? 0 : Rows().First();
-  const long inView = std::min(Rows().LastInView() + 1, count);
-  const long end = rows < 0 ? count : rows == 0 ? inView : std::min(first + rows, count);
   std::vector<int> widths(static_cast<std::size_t>(endCol - startCol + 1), 0);
   const bool measured = m_rooms.screen.Measure([&](CDC& dc) {
+    const auto widen = [&](long row) { WidenToRow(dc, row, startCol, widths); };
     for (long row = -m_rooms.sheets.Current().headings.TopRows(); row < 0; ++row) {
-      WidenToRow(dc, row, startCol, widths);
+      widen(row);
     }
+    if (rows == 0) {
+      ForEachInView(Rows(), widen);
+      return;
+    }
+    const long locked = Rows().LockedInView();
+    for (long row = 0; row < locked; ++row) {
+      widen(row);
+    }
+    const long first = rows < 0 ? locked : Rows().First();
+    const long end = rows < 0 ? Rows().Count() : std::min(first + rows, Rows().Count());
     for (long row = first; row < end; ++row) {
-      WidenToRow(dc, row, startCol, widths);
+      widen(row);
     }
   });
   if (!measured) {
     return 1;
   }
   for (int col = startCol; col <= endCol; ++col) {
-    SetColWidth(col, widths[static_cast<std::size_t>(col - startCol)]);
+    if (startCol == endCol || Cols().SizeOf(col) > 0) {
+      SetColWidth(col, widths[static_cast<std::size_t>(col - startCol)]);
+    }
   }
   return 0;
 }
@@ -394,20 +223,14 @@ int CGridSizing::FitToWindow(int startCol, int endCol) {
     Cols().SetSize(col, static_cast<int>(newEnd - end));
     end = newEnd;
   }
-  AfterCountChange(Cols());
+  m_rooms.navigator.ColsChanged();
   return 0;
 }
 
 void CGridSizing::SetViewSize(CSize body) {
-  const long left = Cols().First();
-  const long top = Rows().First();
   Cols().SetExtent(body.cx);
   Rows().SetExtent(body.cy);
-  BringIntoRange(Cols());
-  BringIntoRange(Rows());
-  if (Cols().First() != left || Rows().First() != top) {
-    m_rooms.navigator.Moved();
-  }
+  m_rooms.navigator.ViewSized();
 }
 
 }  // namespace coregui

@@ -58,6 +58,15 @@ TEST(CGridClipboard, CuttingLeavesReadOnlyCellsAndHidesColumnDefaultsIsKept) {
   EXPECT_EQ(shown.GetAlignment(), 1) << "the cell that cutting wrote has an alignment of its own";
 }
 
+TEST(CGridClipboard, CuttingWithoutACurrentCellLeavesTheHeadings) {
+  LoggingGrid grid(0, 0, 300, 100);
+  grid.QuickSetText(-1, -1, L"corner");
+  CString text = L"old";
+  EXPECT_EQ(grid.CreateSelectedString(text, 1), 0);
+  EXPECT_EQ(text, L"");
+  EXPECT_EQ(grid.Text(-1, -1), "corner");
+}
+
 TEST(CGridClipboard, PastingStaysInsideAndLeavesStoredReadOnlyCells) {
   LoggingGrid grid(3, 3, 300, 100);
   grid.Fill();

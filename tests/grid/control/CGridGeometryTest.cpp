@@ -96,6 +96,7 @@ TEST(CGridGeometry, HeadingCellsStandInTheirOwnWindows) {
 TEST(CGridGeometry, BillionsOfRowsStayWithinTheirPixels) {
   LoggingGrid grid(2, 0x7FFFFFFF, 100, 100);
   EXPECT_EQ(grid.GetUniformRowHeight(), 1);
+  EXPECT_EQ(grid.AppendRow(), 1);
   EXPECT_EQ(RectOf(grid, 0, 0x7FFFFFFE), "0,2147483647,50,2147483647");
   grid.SetTopRow(0x7FFFFFFE);
   EXPECT_EQ(grid.GetTopRow(), 0x7FFFFFFF - 10);

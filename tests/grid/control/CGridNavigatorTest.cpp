@@ -147,17 +147,47 @@ TEST(CGridNavigator, TheViewStaysBetweenTheLockedRowsAndTheLastPage) {
   EXPECT_EQ(grid.GetTopRow(), 8) << "a locked row is always in view";
 }
 
-TEST(CGridNavigator, ANotificationMayTakeTheRowsAway) {
+TEST(CGridNavigator, WhoIsAskedMayTakeRowsAndColumnsAway) {
   class Shrinking : public LoggingGrid {
    public:
-    Shrinking() : LoggingGrid(5, 50, 200, 100) {}
+    Shrinking() : LoggingGrid(30, 50, 200, 100) {}
     int OnCanViewMove(int, long, int, long) override {
       SetNumberRows(2);
+      SetNumberCols(3);
       return 1;
     }
+  };
+  using Move = int (*)(Shrinking&);
+  for (const Move move :
+       {Move([](Shrinking& g) { return g.GotoRow(40); }), Move([](Shrinking& g) { return g.GotoCol(20); }),
+        Move([](Shrinking& g) { return g.GotoCell(20, 40); }),
+        Move([](Shrinking& g) { return g.SetTopRow(40); }),
+        Move([](Shrinking& g) { return g.AdjustLeftCol(0x7FFFFFFF); })}) {
+    Shrinking grid;
+    EXPECT_EQ(move(grid), 0);
+    EXPECT_LT(grid.GetCurrentRow(), 2) << grid;
+    EXPECT_LT(grid.GetCurrentCol(), 3) << grid;
+    EXPECT_EQ(grid.GetTopRow(), 0) << grid;
+    EXPECT_EQ(grid.GetLeftCol(), 0) << grid;
+  }
+}
+
+TEST(CGridNavigator, AControlMayAddTheRowsThatAMoveWants) {
+  class Growing : public LoggingGrid {
+   public:
+    Growing() : LoggingGrid(3, 20, 200, 100) {}
+    int VerifyCurrentRow(long* row) override {
+      SetNumberRows(std::max(GetNumberRows(), *row + 1));
+      return CGridCtrl::VerifyCurrentRow(row);
+    }
   } grid;
-  EXPECT_EQ(grid.GotoRow(40), 0);
-  EXPECT_EQ(grid.GetCurrentRow(), 1);
+  grid.MoveCurrentRow(5);
+  EXPECT_EQ(grid.GetCurrentRow(), 19) << "the last row is no new one";
+  grid.MoveCurrentRow(1);
+  EXPECT_EQ(grid.GetCurrentRow(), 20) << grid;
+  grid.MoveCurrentRow(3);
+  EXPECT_EQ(grid.GetCurrentRow(), 30) << "a page of rows that were not there";
+  EXPECT_EQ(grid.GetNumberRows(), 31);
 }
 
 TEST(CGridNavigator, PlainMovesRestartTheSelectionAndShiftExtendsIt) {

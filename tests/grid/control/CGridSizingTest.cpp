@@ -110,6 +110,15 @@ TEST(CGridSizing, ColumnsKeepTheirCellsThroughMovesInsertionsAndDeletions) {
   EXPECT_EQ(grid.DeleteCol(5), 1);
 }
 
+TEST(CGridSizing, ColumnsThatComeBackShowTheDataThatNoOtherColumnShows) {
+  LoggingGrid grid(4, 1, 400, 100);
+  grid.Fill();
+  grid.MoveColPosition(0, 3, 0);
+  grid.SetNumberCols(2);
+  grid.SetNumberCols(4);
+  EXPECT_EQ(grid.Text(0, 0) + grid.Text(1, 0) + grid.Text(2, 0) + grid.Text(3, 0), "b0c0a0d0") << grid;
+}
+
 TEST(CGridSizing, FitToWindowSharesEveryPixel) {
   LoggingGrid grid(3, 2, 200, 100);
   grid.SetColWidth(0, 10);
