@@ -154,7 +154,7 @@ int CGridCtrl::IsFindDialogOpen() const {
 
 int CGridCtrl::SetMultiSelectMode(int mode) {
   GetInfo().view.multiSelectMode = mode;
-  return GetInfo().selection->SelectMode(mode);
+  return Shown(GetInfo().selection->SelectMode(mode));
 }
 
 int CGridCtrl::GetMultiSelectMode() const {
@@ -165,7 +165,7 @@ int CGridCtrl::SetNewMultiSelectClass(CGridMultiSelect* selection) {
   CGridInfo& info = GetInfo();
   info.selection = selection == nullptr ? info.ownSelection.get() : selection;
   info.selection->SetGridCtrl(this);
-  return info.selection->SelectMode(info.view.multiSelectMode);
+  return Shown(info.selection->SelectMode(info.view.multiSelectMode));
 }
 
 CGridMultiSelect* CGridCtrl::GetMultiSelect() const {
@@ -220,7 +220,7 @@ int CGridCtrl::RemoveCellType(int id) {
     return 1;
   }
   const std::unique_ptr<coregui::CGridCellDelegate> removed(m_rooms->types.Remove(id));
-  return 0;
+  return removed == nullptr ? 1 : 0;
 }
 
 coregui::CGridCellDelegate* CGridCtrl::GetCellDelegate(int id) {
@@ -294,7 +294,6 @@ void CGridCtrl::Show(bool changed) {
 }
 
 int CGridCtrl::SetDoubleBufferMode(int mode) {
-  GetInfo().view.doubleBuffer = mode;
   return m_rooms->parts.SetDoubleBufferMode(mode);
 }
 

@@ -71,13 +71,18 @@ bool CGridParts::CreateWindows() {
   const auto create = [this](CWnd& window, const wchar_t* name, UINT id) {
     return window.Create(name, L"", style, CRect(), &m_control, id) != FALSE;
   };
-  return create(m_windows->body, L"CoreGuiGridBody", GRIDSECTION_GRID) &&
-         create(m_windows->topHeading, L"CoreGuiGridTopHeading", GRIDSECTION_TOPHEADING) &&
-         create(m_windows->sideHeading, L"CoreGuiGridSideHeading", GRIDSECTION_SIDEHEADING) &&
-         create(m_windows->corner, L"CoreGuiGridCorner", GRIDSECTION_CORNERBUTTON) &&
-         create(m_windows->tabs, L"CoreGuiGridTabs", idOfTabs) &&
-         m_windows->vScroll.Create(style | SBS_VERT, CRect(), &m_control, idOfVScroll) != FALSE &&
-         m_windows->hScroll.Create(style | SBS_HORZ, CRect(), &m_control, idOfHScroll) != FALSE;
+  const bool created =
+      create(m_windows->body, L"CoreGuiGridBody", GRIDSECTION_GRID) &&
+      create(m_windows->topHeading, L"CoreGuiGridTopHeading", GRIDSECTION_TOPHEADING) &&
+      create(m_windows->sideHeading, L"CoreGuiGridSideHeading", GRIDSECTION_SIDEHEADING) &&
+      create(m_windows->corner, L"CoreGuiGridCorner", GRIDSECTION_CORNERBUTTON) &&
+      create(m_windows->tabs, L"CoreGuiGridTabs", idOfTabs) &&
+      m_windows->vScroll.Create(style | SBS_VERT, CRect(), &m_control, idOfVScroll) != FALSE &&
+      m_windows->hScroll.Create(style | SBS_HORZ, CRect(), &m_control, idOfHScroll) != FALSE;
+  if (created) {
+    m_windows->body.SetDoubleBufferMode(m_doubleBuffer);
+  }
+  return created;
 }
 
 CGridCellDelegate* CGridParts::ToDelegate(CGridCellType* type) {
@@ -107,6 +112,7 @@ CScrollBar* CGridParts::ScrollBar(int bar) const {
 }
 
 int CGridParts::SetDoubleBufferMode(int mode) {
+  m_doubleBuffer = mode;
   return m_windows == nullptr ? 0 : m_windows->body.SetDoubleBufferMode(mode);
 }
 
@@ -185,7 +191,7 @@ void CGridParts::ShowScrollBars() {
 
 void CGridParts::ShowSheets() {
   if (m_windows != nullptr) {
-    m_windows->tabs.Invalidate(TRUE);
+    m_windows->tabs.ShowSheets();
   }
 }
 

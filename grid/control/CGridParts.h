@@ -42,6 +42,7 @@ class COREGUI_API CGridParts final : public CGridScreen {
   CWnd* SideHeading() const;
   CWnd* CornerButton() const;
   CScrollBar* ScrollBar(int bar) const;
+  /// 1 draws the cells off the screen first, for all sheets; 0 when done, 1 when there is no memory for it.
   int SetDoubleBufferMode(int mode);
   /// The focus rectangle is left out of the next paint pass.
   void TempDisableFocusRect();
@@ -68,6 +69,7 @@ class COREGUI_API CGridParts final : public CGridScreen {
   std::unique_ptr<Windows> m_windows;  ///< null before creation; they outlive their native windows
   CGridLayout m_layout;
   bool m_layingOut = false;
+  int m_doubleBuffer = 0;  ///< as asked for; a body that is created later takes it over
 };
 
 }  // namespace coregui

@@ -56,7 +56,6 @@ struct COREGUI_API CGridViewState {
 
   // Passing state
   int paintEnabled = 0;
-  int doubleBuffer = 0;
   int forceFullRepaint = 0;     ///< for extensions: the body repaints as a whole after each move
   int keepSelectionOnGoto = 0;  ///< set while the mouse selects: GotoCol and GotoRow leave the selection
   MouseEvent mouseEvent = MouseEvent::none;

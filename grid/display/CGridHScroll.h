@@ -6,13 +6,5 @@
 /// counted from 1, or what the control's OnHScrollHint makes of it.
 class COREGUI_API CGridHScroll : public coregui::CGridScrollBar {
  public:
-  explicit CGridHScroll(CGridCtrl* control) : CGridScrollBar(control) {}
-
- protected:
-  const coregui::CGridAxis& Axis() const override;
-  bool FollowsThumb() const override;
-  void ScrollTo(long first) override;
-  void Move(int code) override;
-  bool TipText(long first, CString& text) const override;
-  CPoint TipAnchor(double position) const override;
+  explicit CGridHScroll(CGridCtrl* control) : CGridScrollBar(control, Direction::horizontal) {}
 };

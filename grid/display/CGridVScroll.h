@@ -6,13 +6,5 @@
 /// control's OnVScrollHint makes of it.
 class COREGUI_API CGridVScroll : public coregui::CGridScrollBar {
  public:
-  explicit CGridVScroll(CGridCtrl* control) : CGridScrollBar(control) {}
-
- protected:
-  const coregui::CGridAxis& Axis() const override;
-  bool FollowsThumb() const override;
-  void ScrollTo(long first) override;
-  void Move(int code) override;
-  bool TipText(long first, CString& text) const override;
-  CPoint TipAnchor(double position) const override;
+  explicit CGridVScroll(CGridCtrl* control) : CGridScrollBar(control, Direction::vertical) {}
 };

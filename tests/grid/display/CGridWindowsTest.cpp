@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "grid/control/CGridInfo.h"
+#include "grid/display/CGrid.h"
 #include "grid/display/CGridScrollBar.h"
 #include "grid/display/CGridTab.h"
 #include "platform/CDC.h"
@@ -14,6 +15,7 @@ class WindowedGrid : public CGridCtrl {
  public:
   explicit WindowedGrid(bool sizes = false) {
     EnableInitialSizing(sizes ? 1 : 0);
+    SetDoubleBufferMode(1);
     m_frame.Create(L"", L"frame", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 300, 200), nullptr, 0);
     CreateGrid(WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &m_frame, 1);
   }
@@ -62,6 +64,8 @@ CRect PlaceOf(const CWnd& grid, const CWnd* part) {
 TEST(CGridCtrl, CreatingSetsUpOnceAndLaysThePartsOut) {
   WindowedGrid grid;
   ASSERT_TRUE(grid.HasWindow());
+  EXPECT_EQ(static_cast<CGrid*>(grid.GetGridWnd())->GetDoubleBufferMode(), 1)
+      << "asked for before there was a body";
   EXPECT_EQ(grid.log, "setup finished sheet0 ");
   EXPECT_EQ(PlaceOf(grid, grid.GetGridWnd()), CRect(40, 20, 284, 184));
   EXPECT_EQ(PlaceOf(grid, grid.GetTopHdgWnd()), CRect(40, 0, 284, 20));
@@ -105,21 +109,35 @@ TEST(CGridCtrl, DraggingTheThumbNamesTheRowThatTheViewWouldStartWith) {
   EXPECT_FALSE(bar.GetTip().IsWindowVisible());
 }
 
-TEST(CGridCtrl, AClickOnATabShowsItsSheet) {
+TEST(CGridCtrl, TabsAreChosenByTheMouseAndTheKeysOnEverySheet) {
   WindowedGrid grid;
-  grid.SetNumberSheets(2);
   grid.SetTabWidth(120);
-  CWnd* tabWindow = grid.GetDlgItem(5);
-  ASSERT_NE(tabWindow, nullptr);
-  const std::vector<CRect> tabs = static_cast<CGridTab*>(tabWindow)->GetTabs();
-  ASSERT_EQ(tabs.size(), 2U);
+  grid.SetNumberSheets(9);
+  auto& tabs = *static_cast<CGridTab*>(grid.GetDlgItem(5));
+  const auto click = [&](const CRect& at) {
+    tabs.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.left + 2, at.top + 5));
+  };
   grid.log.clear();
-  tabWindow->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(tabs[1].left + 2, 5));
+  click(tabs.GetStrip().TabRect(1));
   EXPECT_EQ(grid.log, "tab1 ");
   EXPECT_EQ(grid.GetNumberRows(), 0);
-  tabWindow->SendMessage(WM_KEYDOWN, VK_LEFT);
-  EXPECT_EQ(grid.GetSheetNumber(), 0);
+  EXPECT_EQ(CWnd::GetFocus(), grid.GetGridWnd()) << "a person goes on in the cells";
+  EXPECT_TRUE(tabs.IsWindowVisible()) << "there are tabs on the other sheets too";
+  for (int i = 0; i < 8; ++i) {
+    click(tabs.GetStrip().ArrowRect(1));
+  }
+  click(tabs.GetStrip().TabRect(8));
+  EXPECT_EQ(grid.GetSheetNumber(), 8);
+  click(tabs.GetStrip().TabRect(8));
+  EXPECT_EQ(CWnd::GetFocus(), &tabs) << "the current tab takes the keys";
+  tabs.SendMessage(WM_KEYDOWN, VK_LEFT);
+  EXPECT_EQ(grid.GetSheetNumber(), 7);
+  tabs.SendMessage(WM_KEYDOWN, VK_HOME);
+  EXPECT_FALSE(tabs.GetStrip().TabRect(0).IsRectEmpty());
   EXPECT_EQ(grid.GetNumberRows(), 100);
+  grid.log.clear();
+  tabs.SendMessage(WM_KEYDOWN, VK_LEFT);
+  EXPECT_EQ(grid.log, "");
 }
 
 TEST(CGridCtrl, AClickMovesTheCurrentCellAndMayDestroyTheGrid) {
@@ -143,6 +161,15 @@ TEST(CGridCtrl, BestFitMakesRoomForHeadingsAndContents) {
   EXPECT_GT(grid.GetColWidth(0), 5);
   EXPECT_GT(grid.GetColWidth(1), 100);
   EXPECT_EQ(grid.BestFit(0, 20), 1);
+  grid.QuickSetText(2, 0, L"a locked cell that is wider than fifty pixels");
+  grid.LockRows(1);
+  grid.SetTopRow(60);
+  grid.SetColWidth(3, 0);
+  EXPECT_EQ(grid.BestFit(2, 4), 0);
+  EXPECT_GT(grid.GetColWidth(2), 100) << "locked rows are always in view";
+  EXPECT_EQ(grid.GetColWidth(3), 0) << "a hidden column stays hidden among others";
+  EXPECT_EQ(grid.BestFit(3, 3), 0);
+  EXPECT_GT(grid.GetColWidth(3), 0) << "and is shown when it alone is meant";
   WindowedGrid sized(true);
   EXPECT_GT(sized.GetColWidth(1), 100) << "the initial sizes are asked for before the grid is shown";
   CGridCtrl never;

@@ -3,11 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "grid/control/CGridAxis.h"
-#include "grid/display/TabPlan.h"
+#include "grid/display/TabStrip.h"
 
 using coregui::CGridAxis;
 using coregui::PlanScroll;
-using coregui::PlanTabs;
+using coregui::TabStrip;
 
 TEST(ScrollPlan, TheLastPositionShowsTheLastRowInFull) {
   struct Row {
@@ -39,10 +39,24 @@ TEST(ScrollPlan, TheLastPositionShowsTheLastRowInFull) {
   }
 }
 
-TEST(TabPlan, TheCurrentTabIsAlwaysInView) {
-  const std::vector<int> widths{40, 60, 50};
-  EXPECT_EQ(PlanTabs(widths, 0, {100, 16})[1], CRect(40, 0, 100, 16));
-  EXPECT_EQ(PlanTabs(widths, 2, {100, 16})[2], CRect(50, 0, 100, 16)) << "moved left until it is in full";
-  EXPECT_EQ(PlanTabs(widths, 1, {30, 16})[1], CRect(0, 0, 60, 16))
-      << "wider than the area: its start is shown";
+TEST(TabStrip, EveryTabCanBeReachedWithTheArrowsAndTheCurrentOneIsShown) {
+  TabStrip strip;
+  strip.SetTabs({40, 60, 30, 40, 60}, {132, 16});
+  EXPECT_EQ(strip.ArrowRect(1), CRect(16, 0, 32, 16));
+  EXPECT_EQ(strip.TabRect(1), CRect(72, 0, 132, 16)) << "behind the arrows";
+  EXPECT_TRUE(strip.TabRect(2).IsRectEmpty());
+  EXPECT_FALSE(strip.CanScroll(-1));
+  strip.ShowTab(2);
+  EXPECT_EQ(strip.TabRect(2), CRect(92, 0, 122, 16)) << "scrolled no more than needed";
+  strip.ShowTab(1);
+  EXPECT_EQ(strip.TabRect(1), CRect(32, 0, 92, 16)) << "in view already";
+  strip.Scroll(9);
+  EXPECT_EQ(strip.TabRect(4), CRect(72, 0, 132, 16)) << "no further than the last one needs";
+  EXPECT_FALSE(strip.CanScroll(1));
+  EXPECT_EQ(strip.TabAt({40, 3}), 3);
+  EXPECT_EQ(strip.TabAt({20, 3}), -1) << "an arrow";
+  strip.SetTabs({40, 60}, {132, 16});
+  EXPECT_EQ(strip.TabRect(1), CRect(40, 0, 100, 16)) << "all fit again";
+  EXPECT_TRUE(strip.ArrowRect(-1).IsRectEmpty());
+  EXPECT_EQ(strip.TabAt({101, 3}), -1);
 }
