@@ -2,8 +2,10 @@
 
 #include "platform/CWnd.h"
 
-/// A text that labels. Wraps between words when aligned left. '&' marks an access key and is not shown; "&&"
-/// is one '&'. With SS_NOTIFY a click notifies the parent with STN_CLICKED.
+/// A text that labels. Wraps between words when aligned left. It names the control that is created right
+/// after it in the same parent, if that is no button: its access key, marked by '&', gives that control the
+/// focus, and a screen reader speaks it. "&&" is one '&'. With SS_NOTIFY a click notifies the parent with
+/// STN_CLICKED.
 class COREGUI_API CStatic : public CWnd {
  public:
   using CWnd::Create;

@@ -1,33 +1,23 @@
 #include "platform/CStatic.h"
 
-#include <QLabel>
-
 #include "platform/qt/Application.h"
 #include "platform/qt/ControlWindow.h"
+#include "platform/qt/LabelWidget.h"
 
 namespace {
 
 using coregui::ControlWindow;
 
-/// Without the '&' that marks an access key.
-QString ShownText(const CString& text) {
-  CString shown;
-  for (int i = 0; i < text.GetLength(); ++i) {
-    if (text[i] == L'&' && i + 1 < text.GetLength()) ++i;
-    shown += text[i];
-  }
-  return coregui::ToQt(shown);
-}
-
 class StaticWindow : public ControlWindow {
  public:
   StaticWindow(CWnd& window, const CREATESTRUCT& create)
-      : ControlWindow(window, create, std::make_unique<QLabel>(ShownText(create.name))) {
+      : ControlWindow(window, create, std::make_unique<coregui::LabelWidget>()) {
     Label().setTextFormat(Qt::PlainText);
+    Label().ShowText(coregui::ToQt(create.name));
     StyleChanged();
   }
   void SetText(const CString& text) override {
-    if (GetWidget() != nullptr) Label().setText(ShownText(text));
+    if (GetWidget() != nullptr) Label().ShowText(coregui::ToQt(text));
   }
   void StyleChanged() override {
     const DWORD align = Window().GetStyle() & (SS_CENTER | SS_RIGHT);
@@ -48,7 +38,7 @@ class StaticWindow : public ControlWindow {
   UINT DialogCode(UINT /*key*/) const override { return 0; }
 
  private:
-  QLabel& Label() const { return static_cast<QLabel&>(*GetWidget()); }
+  coregui::LabelWidget& Label() const { return static_cast<coregui::LabelWidget&>(*GetWidget()); }
 };
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "platform/CFont.h"
 #include "platform/qt/FontFace.h"
+#include "platform/qt/LabelWidget.h"
 
 namespace coregui {
 namespace {
@@ -20,7 +21,9 @@ struct ViewportAccess : QAbstractScrollArea {
 }  // namespace
 
 ControlWindow::ControlWindow(CWnd& window, const CREATESTRUCT& create, std::unique_ptr<QWidget> widget)
-    : QtWindow(window, create, std::move(widget)) {}
+    : QtWindow(window, create, std::move(widget)) {
+  LabelWidget::NameNew(*GetWidget());
+}
 
 void ControlWindow::SetFont(const CFont* font) {
   if (GetWidget() == nullptr) return;

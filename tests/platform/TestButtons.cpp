@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QTest>
 
 #include "platform/CButton.h"
+#include "platform/CEdit.h"
 #include "platform/CStatic.h"
 #include "tests/platform/ControlHost.h"
 
@@ -65,6 +67,38 @@ TEST(Button, RadioButtonsExcludeEachOtherWithinTheirGroup) {
   EXPECT_EQ(buttons[1].GetCheck(), BST_CHECKED);
   buttons[1].SetCheck(BST_UNCHECKED);
   EXPECT_EQ(buttons[1].GetCheck(), BST_UNCHECKED);
+}
+
+TEST(Static, NamesTheControlBehindItAndItsAccessKeyLeadsThere) {
+  ControlHost host;
+  const CRect place(5, 5, 100, 30);
+  const DWORD style = WS_CHILD | WS_VISIBLE;
+  CStatic title;
+  CStatic label;
+  CEdit edit;
+  CStatic last;
+  CButton button;
+  title.Create(L"&Names", style, place, &host, 1);
+  label.Create(L"&Name && kind", style, place, &host, 2);
+  edit.Create(style, place, &host, 3);
+  last.Create(L"&Go", style, place, &host, 4);
+  button.Create(L"&Start", style, place, &host, 5);
+  const auto spoken = [](CWnd& window) {
+    return QAccessible::queryAccessibleInterface(WidgetOf(window))->text(QAccessible::Name);
+  };
+  EXPECT_EQ(spoken(edit), "Name & kind");
+  EXPECT_EQ(spoken(button), "Start") << "a button bears its own name";
+  QCoreApplication::processEvents();
+  button.SetFocus();
+  QTest::keyClick(WidgetOf(button), Qt::Key_N, Qt::AltModifier);
+  EXPECT_EQ(CWnd::GetFocus(), &edit);
+  label.SetWindowText(L"K&ind");
+  button.SetFocus();
+  QTest::keyClick(WidgetOf(button), Qt::Key_I, Qt::AltModifier);
+  EXPECT_EQ(CWnd::GetFocus(), &edit);
+  edit.DestroyWindow();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(static_cast<QLabel*>(WidgetOf(label))->text(), "Kind");
 }
 
 TEST(Static, HidesTheMarkOfItsAccessKeyAndTellsOfClicks) {
