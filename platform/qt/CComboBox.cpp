@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPainter>
+#include <QStylePainter>
 #include <QStyledItemDelegate>
 #include <functional>
 #include <limits>
@@ -28,6 +29,8 @@ class PictureDC : public CDC {
 class ComboWidget : public QComboBox {
  public:
   std::function<void(bool)> onList;  ///< called by a copy: the box may go meanwhile
+  /// Draws an item in the closed box; empty: the toolkit does.
+  std::function<void(QPainter& painter, const QRect& place, int index)> onDrawClosed;
 
   void showPopup() override {
     const auto tell = onList;
@@ -41,6 +44,23 @@ class ComboWidget : public QComboBox {
     const auto tell = onList;
     if (open && tell) tell(false);
   }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    if (!onDrawClosed || isEditable()) {
+      QComboBox::paintEvent(event);
+      return;
+    }
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    constexpr double kFaint = 0.45;
+    if (!isEnabled()) painter.setOpacity(kFaint);
+    const QRect field =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    onDrawClosed(painter, field, currentIndex());
+  }
 };
 
 }  // namespace
@@ -51,19 +71,20 @@ class CComboBoxDelegate : public QStyledItemDelegate {
   CComboBoxDelegate(CComboBox& box, QObject* owner) : QStyledItemDelegate(owner), m_box(box) {}
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    const double scale = painter->device()->devicePixelRatioF();
-    const auto surface =
-        std::make_shared<coregui::Surface>(CSize(option.rect.width(), option.rect.height()), scale);
+    Draw(*painter, option.rect, index.row(), (option.state & QStyle::State_Selected) != 0);
+  }
+  void Draw(QPainter& painter, const QRect& place, int index, bool selected) const {
+    const double scale = painter.device()->devicePixelRatioF();
+    const auto surface = std::make_shared<coregui::Surface>(CSize(place.width(), place.height()), scale);
     {
       PictureDC dc(surface);
-      const CRect rect(0, 0, option.rect.width(), option.rect.height());
-      m_box.DrawItem(dc, rect, index.row(), (option.state & QStyle::State_Selected) != 0);
+      m_box.DrawItem(dc, CRect(0, 0, place.width(), place.height()), index, selected);
     }
-    painter->save();
-    painter->setClipRect(option.rect);
-    painter->translate(option.rect.topLeft());
-    surface->Expose(*painter, {0, 0, option.rect.width(), option.rect.height()});
-    painter->restore();
+    painter.save();
+    painter.setClipRect(place);
+    painter.translate(place.topLeft());
+    surface->Expose(painter, {0, 0, place.width(), place.height()});
+    painter.restore();
   }
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     QSize size = QStyledItemDelegate::sizeHint(option, index);
@@ -142,7 +163,11 @@ std::unique_ptr<coregui::NativeWindow> CComboBox::MakeNative(const CREATESTRUCT&
   coregui::EnsureApplication();
   auto native = std::make_unique<ComboWindow>(*this, create);
   if ((create.style & CBS_OWNERDRAWFIXED) != 0) {
-    native->Combo().setItemDelegate(std::make_unique<CComboBoxDelegate>(*this, &native->Combo()).release());
+    auto* delegate = std::make_unique<CComboBoxDelegate>(*this, &native->Combo()).release();
+    native->Combo().setItemDelegate(delegate);
+    native->Combo().onDrawClosed = [delegate](QPainter& painter, const QRect& place, int index) {
+      delegate->Draw(painter, place, index, false);
+    };
   }
   return native;
 }

@@ -79,6 +79,8 @@ TEST(WidthComboBox, KeepsWidthsInOrderAndDrawsThem) {
       << combo.Draw(combo.GetCurSel()).ToUtf8();
   combo.SetWidth(10.0);  // no thicker than the item
   EXPECT_GE(combo.Draw(combo.GetCurSel()).Find(L"FillSolidRect 76,1,194,21"), 0);
+  combo.SetWidth(10.0);
+  EXPECT_EQ(ShownPixel(combo, CPoint(120, 14)), GetSysColor(COLOR_WINDOWTEXT)) << "in the closed box, too";
   coregui::SetUserLocale(L"de_DE");
   combo.SetWidth(0.47);
   CString text;
