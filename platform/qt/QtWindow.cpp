@@ -54,7 +54,7 @@ QtWindow::QtWindow(CWnd& window, const CREATESTRUCT& create, std::unique_ptr<QWi
   m_widget->setParent(parent, FlagsOf(create.style));
   m_widget->setMouseTracking(true);
   m_widget->setAttribute(Qt::WA_TransparentForMouseEvents, (create.exStyle & WS_EX_NOACTIVATE) != 0);
-  m_widget->setGeometry(ToQt(window.State().look.rect));
+  Place(window.State().look.rect, create.style);
   m_widget->setEnabled((create.style & WS_DISABLED) == 0);
   m_widget->setWindowTitle(QString::fromWCharArray(create.name));
   m_widget->setAccessibleName(QString::fromStdWString(window.State().look.accessibleName.Str()));
@@ -116,8 +116,15 @@ Qt::WindowFlags QtWindow::FlagsOf(DWORD style) const {
   return (style & WS_POPUP) != 0 ? Qt::Dialog : Qt::Window;
 }
 
+/// A frame without WS_THICKFRAME cannot be dragged larger or smaller; code still sizes the window.
+void QtWindow::Place(const CRect& rect, DWORD style) {
+  const bool fixed = (style & (WS_CHILD | WS_CAPTION | WS_THICKFRAME)) == WS_CAPTION;
+  if (fixed) m_widget->setFixedSize(std::max<LONG>(0, rect.Width()), std::max<LONG>(0, rect.Height()));
+  m_widget->setGeometry(ToQt(rect));
+}
+
 void QtWindow::Move(const CRect& rect) {
-  if (m_widget != nullptr) m_widget->setGeometry(ToQt(rect));
+  if (m_widget != nullptr) Place(rect, m_window.GetStyle());
 }
 
 void QtWindow::Show(int command) {

@@ -87,6 +87,7 @@ class QtWindow : public QObject, public NativeWindow {
   void NoteGeometry();
   bool IsTopLevel() const;
   Qt::WindowFlags FlagsOf(DWORD style) const;
+  void Place(const CRect& rect, DWORD style);
   void Forget();
 
   CWnd& m_window;

@@ -166,6 +166,21 @@ TEST(Dialog, TabGoesRoundTheStopsInTheOrderOfCreation) {
   EXPECT_FALSE(dialog.HasWindow());
 }
 
+TEST(Dialog, ItsFrameCannotBeDraggedButCodeSizesIt) {
+  FormDialog dialog;
+  dialog.SetClientSize(CSize(320, 200));
+  ASSERT_TRUE(dialog.CreateModeless());
+  for (const QSize wanted : {QSize(320, 200), QSize(240, 260)}) {
+    dialog.SetClientSize(CSize(wanted.width(), wanted.height()));
+    EXPECT_EQ(WidgetOf(&dialog)->minimumSize(), wanted);
+    EXPECT_EQ(WidgetOf(&dialog)->maximumSize(), wanted);
+    EXPECT_EQ(dialog.GetClientRectangle().Size(), CSize(wanted.width(), wanted.height()));
+  }
+  LogWindow framed;
+  ASSERT_TRUE(framed.Open());
+  EXPECT_GT(WidgetOf(&framed)->maximumWidth(), 10000);
+}
+
 TEST(DialogPlaces, RowsShareTheWidthAndButtonsStandRight) {
   coregui::DialogLayout layout(200);
   EXPECT_EQ(layout.Row(20), CRect(11, 11, 211, 31));
