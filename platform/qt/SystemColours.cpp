@@ -122,10 +122,24 @@ bool IsDark(const QPalette& palette) {
   return palette.color(QPalette::Base).lightness() < 128;
 }
 
+/// The style draws the edge of a check box in a darker shade of the window's colour, which cannot be seen on
+/// dark ground: those that have one take it from a light grey there. The next palette of the application
+/// takes this back.
+void ShowCheckBoxesOnDark() {
+  const QColor edge(150, 150, 150);
+  QPalette palette = QApplication::palette();
+  palette.setResolveMask(0);
+  palette.setColor(QPalette::Window, edge);
+  for (const char* widgets : {"QCheckBox", "QRadioButton", "QTreeView"}) {
+    QApplication::setPalette(palette, widgets);
+  }
+}
+
 /// Gives the application a palette; keeps the one to come back to, if any.
 void SwitchTo(Theme& theme, const QPalette& palette, const std::optional<QPalette>& original) {
   theme.choosing = true;
   QApplication::setPalette(palette);
+  if (IsDark(palette)) ShowCheckBoxesOnDark();
   theme.choosing = false;
   theme.original = original;
 }

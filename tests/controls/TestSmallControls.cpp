@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "controls/CCustomTreeCtrl.h"
 #include "controls/CEmptyTreeCtrl.h"
 #include "controls/CFloatSpinCtrl.h"
@@ -176,6 +178,19 @@ TEST(EmptyTree, SaysWhyWhileItIsEmpty) {
   EXPECT_LT(InkPixels(tree), written);
   tree.DeleteItem(item);
   EXPECT_EQ(InkPixels(tree), written);
+}
+
+TEST(CustomTree, ABoxThatIsNotCheckedStandsOutFromDarkGround) {
+  SetDarkTheme(true);
+  ControlWindow host;
+  CCustomTreeCtrl tree;
+  tree.Create(kChild, CRect(10, 10, 210, 110), &host, 7);
+  tree.SetItemCheckBox(tree.InsertItem(L""));
+  const int ground = GetRValue(GetSysColor(COLOR_WINDOW));
+  int strongest = 0;
+  for (int x = 0; x < 60; ++x)
+    strongest = std::max<int>(strongest, GetRValue(ShownPixel(tree, CPoint(x, 9))));
+  EXPECT_GT(strongest, ground + 60);
 }
 
 TEST(SpinControls, StepTheirBoxInsideItsRangeAndTellTheParent) {
