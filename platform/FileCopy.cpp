@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <filesystem>
 #include <limits>
 #include <string>
@@ -20,9 +21,6 @@ namespace coregui {
 namespace {
 
 constexpr std::size_t kChunk = 1U << 18U;
-/// After so many bytes the disk catches up, so that a large copy's progress is true and its end not a long
-/// standstill in which no progress is reported.
-constexpr std::uint64_t kFlushEvery = std::uint64_t{1} << 25U;
 
 /// An open file, closed at the end; closing can fail.
 class Descriptor {
@@ -42,11 +40,18 @@ class Descriptor {
   int m_descriptor;
 };
 
+/// The pattern of a temporary file's name, no longer than file systems take.
+std::string NameBeside(const fs::path& destination) {
+  constexpr std::size_t kMostBytes = 240;
+  return (destination.parent_path() / (destination.filename().string().substr(0, kMostBytes) + ".XXXXXX"))
+      .string();
+}
+
 /// A new file beside the destination, removed unless it takes its place.
 class TemporaryFile {
  public:
   explicit TemporaryFile(const fs::path& destination)
-      : m_name(destination.string() + ".XXXXXX"), m_file(mkstemp(m_name.data())) {
+      : m_name(NameBeside(destination)), m_file(mkstemp(m_name.data())) {
     m_exists = m_file.IsOpen();
   }
   ~TemporaryFile() {
@@ -74,6 +79,36 @@ bool Fail(int reason) {
   errno = reason;
   return false;
 }
+
+/// Lets the disk catch up from time to time, so that a large copy's progress is true and its end not a long
+/// standstill in which no progress is reported. A slow disk catches up more often: no wait is to be felt.
+class DiskPace {
+ public:
+  explicit DiskPace(int file) : m_file(file) {}
+  /// So many further bytes are written. False when the disk cannot take what was written.
+  bool Note(std::size_t count) {
+    m_pending += count;
+    if (m_pending < m_every) return true;
+    m_pending = 0;
+    using std::chrono::steady_clock;
+    const steady_clock::time_point begin = steady_clock::now();
+    if (fdatasync(m_file) != 0) return false;
+    const auto waited = steady_clock::now() - begin;
+    if (waited > kTooLong) m_every = std::max(kLeast, m_every / 2);
+    if (waited < kShort) m_every = std::min(kMost, m_every * 2);
+    return true;
+  }
+
+ private:
+  static constexpr std::chrono::milliseconds kTooLong{120};
+  static constexpr std::chrono::milliseconds kShort{30};
+  static constexpr std::size_t kLeast = std::size_t{1} << 20U;  // a disk's mere delay is not to govern
+  static constexpr std::size_t kMost = std::size_t{1} << 26U;
+
+  int m_file;
+  std::size_t m_every = kLeast;
+  std::size_t m_pending = 0;
+};
 
 bool WriteAll(int file, const char* bytes, std::size_t count) {
   while (count > 0) {
@@ -103,6 +138,8 @@ bool Check(const struct stat& source, const fs::path& destination) {
     if (S_ISDIR(there.st_mode)) return Fail(EISDIR);
     if (!S_ISREG(there.st_mode)) return Fail(EINVAL);
     if (there.st_dev == source.st_dev && there.st_ino == source.st_ino) return Fail(EINVAL);
+    // Taking a file's place needs no right to write it: what is protected would be lost.
+    if (faccessat(AT_FDCWD, destination.c_str(), W_OK, AT_EACCESS) != 0) return false;
   }
   const CString path = CString::FromUtf8(destination.string());
   return GetFreeDiskSpace(path) >= static_cast<std::uint64_t>(source.st_size) || Fail(ENOSPC);
@@ -110,16 +147,16 @@ bool Check(const struct stat& source, const fs::path& destination) {
 
 bool CopyBytes(int from, int to, CopyProgress state, const std::function<bool(const CopyProgress&)>& report) {
   std::vector<char> chunk(kChunk);
+  DiskPace pace(to);
   if (!report(state)) return Fail(ECANCELED);
   state.reason = CopyReason::chunkFinished;
   for (;;) {
     const ssize_t got = ReadChunk(from, chunk);
-    if (got < 0 || !WriteAll(to, chunk.data(), static_cast<std::size_t>(std::max<ssize_t>(got, 0))))
-      return false;
+    if (got < 0) return false;
     if (got == 0 && state.transferred > 0) return true;
-    const std::uint64_t before = state.transferred;
-    state.transferred += static_cast<std::uint64_t>(got);
-    if (before / kFlushEvery != state.transferred / kFlushEvery && fdatasync(to) != 0) return false;
+    const auto count = static_cast<std::size_t>(got);
+    if (!WriteAll(to, chunk.data(), count) || !pace.Note(count)) return false;
+    state.transferred += count;
     if (!report(state)) return Fail(ECANCELED);
     if (got == 0) return true;
   }
@@ -130,7 +167,8 @@ bool CopyBytes(int from, int to, CopyProgress state, const std::function<bool(co
 bool CopyFileWithProgress(const wchar_t* source, const wchar_t* destination,
                           const std::function<CopyAnswer(const CopyProgress&)>& progress,
                           const bool* cancel) {
-  const Descriptor from(open(CString(source).ToUtf8().c_str(), O_RDONLY | O_CLOEXEC));
+  // Not blocking: a pipe would otherwise be waited for before it is refused.
+  const Descriptor from(open(CString(source).ToUtf8().c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   struct stat info {};
   if (!from.IsOpen() || fstat(from.Get(), &info) != 0) return false;
   std::error_code none;
@@ -151,8 +189,10 @@ bool CopyFileWithProgress(const wchar_t* source, const wchar_t* destination,
     return false;
   }
   const timespec times[2] = {info.st_atim, info.st_mtim};
-  if (fchmod(to, info.st_mode & 07777U) != 0 || futimens(to, times) != 0 || fsync(to) != 0) return false;
-  return temporary.TakePlaceOf(target);
+  // Some file systems keep neither rights nor times; the copy is good all the same.
+  (void)fchmod(to, info.st_mode & 07777U);
+  (void)futimens(to, times);
+  return fsync(to) == 0 && temporary.TakePlaceOf(target);
 }
 
 std::uint64_t GetFreeDiskSpace(const wchar_t* path) {

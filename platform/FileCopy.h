@@ -22,11 +22,11 @@ struct CopyProgress {
   CopyReason reason = CopyReason::started;
 };
 
-/// Copies a file, contents, access rights and time of change; what stood at `destination` is replaced, at the
-/// very end and at once: the bytes go to a temporary file beside it, which a failure removes. A link as
-/// destination is followed. `progress` (may be empty) is called at the start and after every chunk, for an
-/// empty file after its one empty chunk; it may run the message pump. `cancel` (may be null) is looked at
-/// before each chunk.
+/// Copies a file: its contents, and its access rights and time of change as far as the file system keeps
+/// them. What stood at `destination` is replaced, at the very end and at once, unless it is write-protected:
+/// the bytes go to a temporary file beside it, which a failure removes. A link as destination is followed.
+/// `progress` (may be empty) is called at the start and after every chunk, for an empty file after its one
+/// empty chunk; it may run the message pump. `cancel` (may be null) is looked at before each chunk.
 ///
 /// False on failure with the reason in errno: what the system says; EISDIR or EINVAL for what is no plain
 /// file or the source itself; ENOSPC, before anything is written, when the disk has too little room;

@@ -126,19 +126,31 @@ TEST_F(FileCopyTest, TooLittleRoomIsKnownBeforeAnythingIsWritten) {
 }
 
 TEST_F(FileCopyTest, OnlyPlainFilesThatDifferAreCopied) {
-  EXPECT_FALSE(Copy("missing", "b"));
-  EXPECT_EQ(errno, ENOENT);
   Write("a", "x");
-  EXPECT_FALSE(Copy("a", "a"));
-  EXPECT_EQ(errno, EINVAL);
-  EXPECT_EQ(Read("a"), "x");
-  EXPECT_FALSE(Copy(".", "b"));
-  EXPECT_EQ(errno, EISDIR);
+  fs::create_hard_link(At("a"), At("other name"));
   fs::create_directory(At("d"));
-  EXPECT_FALSE(Copy("a", "d"));
-  EXPECT_EQ(errno, EISDIR);
-  EXPECT_FALSE(Copy("a", "nowhere/b"));
-  EXPECT_EQ(errno, ENOENT);
+  ASSERT_EQ(::mkfifo(At("pipe").c_str(), S_IRUSR | S_IWUSR), 0);
+  struct Row {
+    const char* from;
+    const char* to;
+    int reason;
+  };
+  constexpr Row rows[] = {{"missing", "b", ENOENT},   {"a", "a", EINVAL},   {"a", "other name", EINVAL},
+                          {".", "b", EISDIR},         {"a", "d", EISDIR},   {"pipe", "b", EINVAL},
+                          {"a", "nowhere/b", ENOENT}, {"a", "pipe", EINVAL}};
+  for (const Row& row : rows) {
+    EXPECT_FALSE(Copy(row.from, row.to)) << row.from << " to " << row.to;
+    EXPECT_EQ(errno, row.reason) << row.from << " to " << row.to;
+  }
+  EXPECT_EQ(Read("a"), "x");
+  EXPECT_EQ(FileCount(), 4U);
+}
+
+TEST_F(FileCopyTest, ANameAsLongAsTheFileSystemTakesIsCopied) {
+  const std::string longest(255, 'n');
+  Write("a", "x");
+  ASSERT_TRUE(Copy("a", longest.c_str()));
+  EXPECT_EQ(Read(longest.c_str()), "x");
 }
 
 TEST_F(FileCopyTest, ALinkAsDestinationStaysALink) {
