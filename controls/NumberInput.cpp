@@ -1,9 +1,11 @@
 #include "controls/NumberInput.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/Expression.h"
 #include "core/Utf8.h"
@@ -70,24 +72,34 @@ bool DividesGroups(wchar_t character) {
   return character == L' ' || character == L'\'' || (character != L'\0' && character == GroupSign());
 }
 
-/// Takes the group signs out of the digits before the decimal sign; false when they do not part groups of
-/// three.
+/// Whether the user's country parts the digits before the last three in twos ("12,34,567").
+bool GroupsByTwo() {
+  const CString country = GetUserLocale().name.Right(3);
+  return country == L"_IN" || country == L"_BD" || country == L"_NP" || country == L"_BT";
+}
+
+bool AreGroups(const std::vector<std::size_t>& sizes) {
+  if (sizes.size() == 1) return true;
+  const std::size_t inner = sizes.size() > 2 && sizes[1] == 2 && GroupsByTwo() ? 2 : 3;
+  return sizes.front() > 0 && sizes.front() <= inner && sizes.back() == 3 &&
+         std::all_of(sizes.begin() + 1, sizes.end() - 1, [inner](std::size_t size) { return size == inner; });
+}
+
+/// Takes the group signs out of the digits before the decimal sign; false when they do not part groups.
 bool TakeGroupsOut(std::wstring& digits) {
   std::wstring plain;
-  std::size_t run = 0;
-  bool grouped = false;
+  std::vector<std::size_t> sizes{0};
   for (const wchar_t character : digits) {
     if (IsDigit(character)) {
       plain += character;
-      ++run;
-    } else if (!DividesGroups(character) || run == 0 || run > 3 || (grouped && run != 3)) {
-      return false;
+      ++sizes.back();
+    } else if (DividesGroups(character)) {
+      sizes.push_back(0);
     } else {
-      grouped = true;
-      run = 0;
+      return false;
     }
   }
-  if (grouped && run != 3) return false;
+  if (!AreGroups(sizes)) return false;
   digits = plain;
   return true;
 }

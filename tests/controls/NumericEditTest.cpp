@@ -57,6 +57,12 @@ TEST(NumberInput, ReadsWhatTheLocaleWrites) {
                       {L"fr_CH", L"1'23", none},
                       {L"hi_IN", L"\u0967\u0968.\u096b", 12.5},
                       {L"hi_IN", L"1,234", 1234},
+                      {L"hi_IN", L"12,34,567.5", 1234567.5},
+                      {L"hi_IN", L"1,234,567", 1234567},
+                      {L"hi_IN", L"123,45,678", none},
+                      {L"hi_IN", L"1,23,4567", none},
+                      {L"hi_IN", L"1,,234", none},
+                      {L"hi_IN", L",234", none},
                       {L"ar_EG", L"\u0661\u0662\u066b\u0665", 12.5}};
   for (const Row& row : rows) {
     ASSERT_TRUE(coregui::SetUserLocale(row.locale));
