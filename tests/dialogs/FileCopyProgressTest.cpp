@@ -11,6 +11,7 @@
 
 #include "dialogs/CFileCopyProgressDlg.h"
 #include "platform/System.h"
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/ShownWindow.h"
 #include "tests/support/TestEnvironment.h"
 
@@ -18,6 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using coregui::test::NextWindow;
+using coregui::test::OrdinaryUser;
 using coregui::test::ShownWindow;
 
 class FileCopyProgressTest : public testing::Test {
@@ -51,11 +53,14 @@ class FileCopyProgressTest : public testing::Test {
     });
     return coreCopyFilesWithProgress(CString::FromUtf8(from), CString::FromUtf8(to), L"Copying A & B");
   }
-  /// The same for a copy that fails: `error` is shown.
-  bool FailingCopy(const std::string& from, const std::string& to, int error) {
+  /// The same for a copy that fails, with the rights of an ordinary user where asked for: `error` is shown.
+  bool FailingCopy(const std::string& from, const std::string& to, int error, bool ordinary = false) {
     const NextWindow dialog([&](ShownWindow& window) {
       CWnd* shown = window.Window();
-      shown->SendMessage(WM_TIMER, CFileCopyProgressDlg::kStartTimer);
+      {
+        const auto user = ordinary ? std::make_unique<OrdinaryUser>() : nullptr;
+        shown->SendMessage(WM_TIMER, CFileCopyProgressDlg::kStartTimer);
+      }
       m_box = std::make_unique<NextWindow>([&](ShownWindow& box) {
         EXPECT_EQ(box.Title(), "Error");
         const CString reason = GetErrorText(static_cast<DWORD>(error));
@@ -196,30 +201,53 @@ TEST_F(FileCopyProgressTest, ASymbolicLinkIsFollowedAtBothEnds) {
   EXPECT_EQ(Read(At("real")), "new");
 }
 
-TEST_F(FileCopyProgressTest, AFullDiskLeavesNoHalfFile) {
+TEST_F(FileCopyProgressTest, ADiskThatIsFullFillsUpOrIsReadOnlyKeepsWhatItHas) {
   const std::string disk = At("disk");
   fs::create_directory(disk);
-  if (::mount("none", disk.c_str(), "tmpfs", 0, "size=1m") != 0) {
+  if (::mount("none", disk.c_str(), "tmpfs", 0, "size=3m") != 0) {
     GTEST_SKIP() << "no small file system can be mounted here: " << GetErrorText(GetLastError()).ToUtf8();
   }
-  Write("a", std::string(2'000'000, 'x'));
   std::ofstream(disk + "/b") << "old";
+  Write("a", std::string(5'000'000, 'x'));
   EXPECT_FALSE(FailingCopy(At("a"), disk + "/b", ENOSPC));
-  EXPECT_EQ(Read(disk + "/b"), "old");
   EXPECT_EQ(FileCount(disk), 1U);
+  Write("a", std::string(2'000'000, 'x'));
+  {
+    const Meanwhile someoneElse([&] { std::ofstream(disk + "/c") << std::string(2'000'000, 'y'); });
+    EXPECT_FALSE(FailingCopy(At("a"), disk + "/b", ENOSPC));
+    EXPECT_EQ(FileCount(disk), 2U);
+  }
+  fs::remove(disk + "/c");
+  ASSERT_EQ(::mount("none", disk.c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, "size=3m"), 0);
+  EXPECT_FALSE(FailingCopy(At("a"), disk + "/b", EROFS));
+  EXPECT_EQ(Read(disk + "/b"), "old");
   EXPECT_EQ(::umount(disk.c_str()), 0);
 }
 
-TEST_F(FileCopyProgressTest, ATargetThatMayNotBeWrittenIsLeft) {
-  if (::geteuid() == 0) GTEST_SKIP() << "the superuser may write everywhere";
+TEST_F(FileCopyProgressTest, WhatMayNotBeWrittenOrReadIsLeft) {
   Write("a", "new");
-  const std::string folder = At("read only");
-  fs::create_directory(folder);
-  std::ofstream(folder + "/b") << "old";
-  fs::permissions(folder, fs::perms::owner_read | fs::perms::owner_exec);
-  EXPECT_FALSE(FailingCopy(At("a"), folder + "/b", EACCES));
-  fs::permissions(folder, fs::perms::owner_all);
-  EXPECT_EQ(Read(folder + "/b"), "old");
+  const std::string folder = At("folder");
+  const std::string target = folder + "/b";
+  struct Row {
+    int folder;
+    int target;
+    int source;
+  };
+  constexpr Row rows[] = {{0555, 0666, 0644}, {0777, 0444, 0644}, {0777, 0666, 0200}};
+  fs::permissions(m_folder, fs::perms(0755));
+  for (const Row& row : rows) {
+    fs::create_directory(folder);
+    std::ofstream(target) << "old";
+    fs::permissions(At("a"), fs::perms(row.source));
+    fs::permissions(target, fs::perms(row.target));
+    fs::permissions(folder, fs::perms(row.folder));
+    EXPECT_FALSE(FailingCopy(At("a"), target, EACCES, true));
+    fs::permissions(folder, fs::perms::owner_all);
+    EXPECT_EQ(FileCount(folder), 1U);
+    fs::permissions(target, fs::perms::owner_all);
+    EXPECT_EQ(Read(target), "old");
+    fs::remove_all(folder);
+  }
 }
 
 }  // namespace

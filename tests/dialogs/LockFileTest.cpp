@@ -15,6 +15,7 @@
 #include "platform/Profile.h"
 #include "platform/System.h"
 #include "tests/support/LogWatch.h"
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/ShownWindow.h"
 #include "tests/support/TestEnvironment.h"
 
@@ -24,6 +25,7 @@ namespace fs = std::filesystem;
 using coregui::test::ExpectLog;
 using coregui::test::NextWindow;
 using coregui::test::NoWindow;
+using coregui::test::OrdinaryUser;
 using coregui::test::ShownWindow;
 
 class LockFileTest : public testing::Test {
@@ -169,10 +171,10 @@ TEST_F(LockFileTest, AFullDiskLeavesNoLockOfNobody) {
 }
 
 TEST_F(LockFileTest, AnUnreadableLockRefuses) {
-  if (::geteuid() == 0) GTEST_SKIP() << "for the superuser every file is readable";
   WriteLock("tester");
   for (const auto rights : {S_IRUSR, 0}) {  // the lock is opened for writing, too
     ::chmod(m_lock.c_str(), static_cast<mode_t>(rights));
+    const OrdinaryUser user;
     for (const bool checkOnly : {false, true}) {
       ExpectLog(L"... Enable to read lock file");
       EXPECT_FALSE(Check(checkOnly));
@@ -180,6 +182,22 @@ TEST_F(LockFileTest, AnUnreadableLockRefuses) {
     ExpectLog(L"... Enable to read lock file");
     EXPECT_FALSE(coreReleaseLock(m_data, L"lck"));
   }
+}
+
+TEST_F(LockFileTest, InAReadOnlyFolderNoLockIsTakenOrGivenBack) {
+  WriteLock("tester");
+  fs::permissions(m_lock, fs::perms(0666));
+  fs::permissions(m_folder, fs::perms(0555));
+  {
+    const OrdinaryUser user;
+    EXPECT_TRUE(Check(false));  // one's own is read all the same
+    ExpectLog(L"cannot be removed: Permission denied");
+    EXPECT_FALSE(coreReleaseLock(m_data, L"lck"));
+    ExpectLog(L"... Unable to create lock file");
+    const CString other = CString::FromUtf8(m_folder + "/other.csv");
+    EXPECT_FALSE(coreCheckLockStatus(other, L"lck", false, nullptr));
+  }
+  fs::permissions(m_folder, fs::perms::owner_all);
 }
 
 TEST_F(LockFileTest, OnlyThe260FirstCharactersOfThePathAreUsedIsKept) {
