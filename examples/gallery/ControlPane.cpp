@@ -8,6 +8,7 @@ constexpr int kMargin = 14;  // lengths at 96 dots per inch
 constexpr int kRowHeight = 26;
 constexpr int kRowGap = 8;
 constexpr int kLabelWidth = 112;
+constexpr int kLabelDrop = 5;  // sets a label on the line of the text beside it
 constexpr int kSpinWidth = 20;
 constexpr DWORD kControl = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
 constexpr DWORD kEdit = kControl | WS_BORDER | ES_AUTOHSCROLL;
@@ -28,7 +29,8 @@ CRect ControlPane::AddRow(Column& column, const wchar_t* label) {
   const int split = column.left + ScaleByDpi(kLabelWidth);
   auto& text = *m_labels.emplace_back(std::make_unique<CStatic>());
   text.Create(label, WS_CHILD | WS_VISIBLE | SS_LEFT,
-              CRect(column.left, column.top, split, column.top + height), column.parent);
+              CRect(column.left, column.top + ScaleByDpi(kLabelDrop), split, column.top + height),
+              column.parent);
   const CRect place(split, column.top, column.left + column.width, column.top + height);
   column.top += height + ScaleByDpi(kRowGap);
   return place;
@@ -41,20 +43,20 @@ void ControlPane::Name(CWnd& control, const wchar_t* name) {
 void ControlPane::AddEdits(Column& column) {
   AddTitle(column, L"Text");
   m_name.SetAllowedCharacters(CNameEdit::GetAllowedCharacters(L"LAYER"));
-  m_name.Create(kEdit, AddRow(column, L"Layer name"), column.parent, m_nextId++);
+  m_name.Create(kEdit, AddRow(column, L"Layer &name"), column.parent, m_nextId++);
   m_name.SetValue(L"KERB-LEFT_2");
   Name(m_name, L"Layer name");
   m_road.SetAllowedCharacters(CNameEdit::GetAllowedCharacters(L"ROAD"));
-  m_road.Create(kEdit, AddRow(column, L"Road name"), column.parent, m_nextId++);
+  m_road.Create(kEdit, AddRow(column, L"R&oad name"), column.parent, m_nextId++);
   m_road.SetValue(L"Ring road; north");
   Name(m_road, L"Road name");
-  m_hex.Create(kEdit, AddRow(column, L"Hexadecimal"), column.parent, m_nextId++);
+  m_hex.Create(kEdit, AddRow(column, L"He&xadecimal"), column.parent, m_nextId++);
   m_hex.SetWindowText(L"00 FF A8");
   Name(m_hex, L"Hexadecimal digits");
-  m_advanced.Create(kEdit, AddRow(column, L"Search"), column.parent, m_nextId++);
+  m_advanced.Create(kEdit, AddRow(column, L"Se&arch"), column.parent, m_nextId++);
   m_advanced.SetPrompt(L"Find an entity by name");
   Name(m_advanced, L"Search");
-  m_chainage.Create(kEdit, AddRow(column, L"Chainage"), column.parent, m_nextId++);
+  m_chainage.Create(kEdit, AddRow(column, L"Chaina&ge"), column.parent, m_nextId++);
   m_chainage.SetKind(CSmartEdit::Kind::chainage);
   m_chainage.SetNumber(1234.5);
   Name(m_chainage, L"Chainage");
