@@ -11,32 +11,42 @@ namespace desk {
 struct BarCommand {
   UINT id;
   const wchar_t* text;  ///< with its access key
+  const wchar_t* tip;
 };
 
-/// A row of buttons, and a choice of vertical exaggerations at its end. Everything is sent to the parent as
-/// WM_COMMAND.
+/// A row of buttons with tips, and a choice of vertical exaggerations behind them. Everything is sent to the
+/// parent as WM_COMMAND.
 class CommandBar : public CWnd {
  public:
   static constexpr UINT kId = 107;
   static constexpr UINT kExaggerationId = 190;
+  static constexpr double kLeastExaggeration = 0.01;
+  static constexpr double kMostExaggeration = 1'000'000.0;
 
   static int Height() { return ScaleByDpi(34); }
   BOOL CreateBar(CWnd* parent, const std::vector<BarCommand>& commands);
-  /// The chosen exaggeration; 0 when none of the list is shown.
+  /// The chosen exaggeration; 0 for the last entry of the list, which asks for another one.
   double GetExaggeration() const;
   void ShowExaggeration(double times);
   void EnableCommand(UINT id, bool on);
+  /// The controls in the order of the Tab key.
+  std::vector<CWnd*> Stops();
 
  protected:
   const coregui::MessageTable& GetMessageTable() const override;
+  BOOL PreTranslateMessage(MSG* message) override;
 
  private:
+  int WidthOf(const wchar_t* text);
+  void FillExaggerations(double extra);
   void HandlePaint();
   LRESULT HandleCommand(WPARAM wParam, LPARAM lParam);
 
   std::vector<std::unique_ptr<CButton>> m_buttons;
   CStatic m_label;
   CComboBox m_exaggeration;
+  std::vector<double> m_times;  ///< of the list's entries
+  CToolTipCtrl m_tips;
 };
 
 }  // namespace desk

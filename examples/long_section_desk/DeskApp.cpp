@@ -1,64 +1,118 @@
 #include "DeskApp.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cwchar>
 
 namespace desk {
+
+namespace {
+
+/// "1280x800".
+bool ParseSize(const char* text, std::optional<CSize>& size) {
+  int width = 0;
+  int height = 0;
+  constexpr int kMost = 16384;
+  if (std::sscanf(text, "%dx%d", &width, &height) != 2 || width < 1 || height < 1 || width > kMost ||
+      height > kMost) {
+    return false;
+  }
+  size = CSize(width, height);
+  return true;
+}
+
+/// "500:50".
+bool ParseScale(const char* text, PrintChoice& print) {
+  const auto isScale = [](double scale) { return scale >= kLeastScale && scale <= kLargestScale; };
+  print.toScale = true;
+  return std::sscanf(text, "%lf:%lf", &print.horizontal, &print.vertical) == 2 && isScale(print.horizontal) &&
+         isScale(print.vertical);
+}
+
+bool ParsePaper(const std::wstring& name, PrintChoice& print) {
+  const auto paper = std::find_if(kPapers.begin(), kPapers.end(), [&name](const Paper& each) {
+    return CString(each.name).CompareNoCase(name.c_str()) == 0;
+  });
+  print.paper = static_cast<int>(paper - kPapers.begin());
+  return paper != kPapers.end();
+}
+
+}  // namespace
 
 DeskOptions ParseArguments(int argc, const char* const* argv, const std::wstring& ownSurvey) {
   DeskOptions options;
   options.file = ownSurvey;
   for (int i = 1; i < argc; ++i) {
     const std::wstring argument = CString::FromUtf8(argv[i]).Str();
-    const bool hasValue = i + 1 < argc;
     if (argument == L"--dark") {
       options.dark = true;
-    } else if (argument == L"--png" && hasValue) {
-      options.picture = CString::FromUtf8(argv[++i]).Str();
-    } else if (argument == L"--pdf" && hasValue) {
-      options.pdf = CString::FromUtf8(argv[++i]).Str();
-    } else if (argument == L"--size" && hasValue) {
-      int width = 0;
-      int height = 0;
-      options.ok = std::sscanf(argv[++i], "%dx%d", &width, &height) == 2 && width > 0 && height > 0 &&
-                   width <= 16384 && height <= 16384 && options.ok;
-      options.size = options.ok ? CSize(width, height) : options.size;
-    } else if (argument.starts_with(L"--")) {
-      options.ok = false;
-    } else {
+      continue;
+    }
+    if (!argument.starts_with(L"--")) {
       options.file = argument;
+      continue;
+    }
+    if (++i == argc) {
+      options.ok = false;
+      break;
+    }
+    const std::wstring value = CString::FromUtf8(argv[i]).Str();
+    if (argument == L"--png") {
+      options.picture = value;
+    } else if (argument == L"--pdf") {
+      options.pdf = value;
+    } else if (argument == L"--size") {
+      options.ok = ParseSize(argv[i], options.size) && options.ok;
+    } else if (argument == L"--scale") {
+      options.ok = ParseScale(argv[i], options.print) && options.ok;
+    } else if (argument == L"--paper") {
+      options.ok = ParsePaper(value, options.print) && options.ok;
+    } else {
+      options.ok = false;
     }
   }
   return options;
 }
 
 BOOL DeskApp::InitInstance() {
+  SetRegistryKey(L"CoreGUI");
+  SetProfileName(L"Long-section desk");
   if (m_options.dark) {
     SetDarkTheme(true);
   }
-  if (!m_window.CreateDesk(m_options.size)) {
+  if (!m_window.CreateDesk(m_options.size.value_or(kDeskSize))) {
     m_failed = true;
     return FALSE;
   }
   SetMainWnd(&m_window);
-  m_window.ShowWindow(SW_SHOW);
+  if (m_options.IsUnattended()) {
+    m_window.SetUnattended();
+  }
+  if (m_options.IsUnattended() || m_options.size) {
+    m_window.ShowWindow(SW_SHOW);
+  } else {
+    m_window.ShowAsBefore();
+  }
   CWinApp::PumpPending();
-  m_window.Open(m_options.file);
-  if (m_options.picture.empty() && m_options.pdf.empty()) {
+  m_window.SetFocus();  // the toolkit starts with the first button
+  const bool opened = m_window.Open(m_options.file);
+  if (!m_options.IsUnattended()) {
     return TRUE;
   }
   CWinApp::PumpPending();
-  m_failed = !WriteWhatIsAskedFor();
+  // A picture of a desk without its survey is still written: it says why.
+  m_failed = !WriteWhatIsAskedFor() || !opened;
   m_window.DestroyWindow();
   return FALSE;
 }
 
 bool DeskApp::WriteWhatIsAskedFor() {
-  if (!m_options.pdf.empty() && !m_window.PrintToPdf(m_options.pdf)) {
-    coreStatusOut((L"The page " + m_options.pdf + L" could not be written.").c_str());
-    return false;
+  bool done = true;
+  if (!m_options.pdf.empty() && !m_window.PrintToPdf(m_options.pdf, m_options.print)) {
+    coreStatusOut((m_options.pdf + L" could not be written.").c_str());
+    done = false;
   }
-  return m_options.picture.empty() || WritePicture();
+  return (m_options.picture.empty() || WritePicture()) && done;
 }
 
 int DeskApp::ExitInstance() {

@@ -4,12 +4,6 @@
 
 namespace desk {
 
-namespace {
-
-constexpr double kLeast = 0.1;
-
-}  // namespace
-
 void DeskLayout::Arrange(CSize client, int commandsHeight, int statusHeight, int barThickness) {
   const LONG width = std::max<LONG>(client.cx, 0);
   const LONG bottom = std::max<LONG>(client.cy - statusHeight, 0);
@@ -39,12 +33,13 @@ void DeskLayout::Arrange(CSize client, int commandsHeight, int statusHeight, int
 
 void DeskLayout::MoveBar(int pixels) {
   const LONG width = std::max<LONG>(status.Width(), 1);
-  gridShare = std::clamp(gridShare + static_cast<double>(pixels) / width, kLeast, 1.0 - kLeast);
+  gridShare = std::clamp(gridShare + static_cast<double>(pixels) / width, kLeastShare, 1.0 - kLeastShare);
 }
 
 void DeskLayout::MovePlotBar(int pixels) {
   const LONG height = std::max<LONG>(bar.Height(), 1);
-  sectionShare = std::clamp(sectionShare + static_cast<double>(pixels) / height, kLeast, 1.0 - kLeast);
+  sectionShare =
+      std::clamp(sectionShare + static_cast<double>(pixels) / height, kLeastShare, 1.0 - kLeastShare);
 }
 
 }  // namespace desk

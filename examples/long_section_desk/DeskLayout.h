@@ -7,6 +7,8 @@ namespace desk {
 /// The places of the desk's panes for a client size. What the user dragged is kept as shares of the room, so
 /// that sizing the window keeps the proportions.
 struct DeskLayout {
+  static constexpr double kLeastShare = 0.1;
+
   double gridShare = 0.47;     ///< of the width
   double sectionShare = 0.74;  ///< of the height of the plots
   bool hasPlots = true;        ///< without plots the grid takes all

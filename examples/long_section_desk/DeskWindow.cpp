@@ -1,54 +1,86 @@
 #include "DeskWindow.h"
 
-#include <algorithm>
-#include <cmath>
+#include "DeskMemory.h"
+
+// The window itself: its panes, keys and commands. What it does with files stands in DeskWindowFiles.cpp, how
+// table and section follow each other in DeskWindowPlots.cpp.
 
 namespace desk {
 
 namespace {
 
-constexpr wchar_t kDeskName[] = L"Long-section desk";
 enum : UINT { kBarId = 103, kPlotBarId = 104, kSectionId = 105, kDifferenceId = 106 };
 
-std::wstring FileName(const std::wstring& path) {
-  return coreExtractFileName(path.c_str());
+constexpr UINT kF6 = VK_F5 + 1;
+
+/// Around the panes, where the one with the focus gets a frame.
+int FrameWidth() {
+  return ScaleByDpi(2);
+}
+
+CRect Inside(CRect pane) {
+  if (pane.Width() > 2 * FrameWidth() && pane.Height() > 2 * FrameWidth()) {
+    pane.DeflateRect(FrameWidth(), FrameWidth());
+  }
+  return pane;
+}
+
+UINT FindMessage() {
+  return RegisterWindowMessage(FINDMSGSTRING);
 }
 
 }  // namespace
 
 const DeskWindow::Command DeskWindow::kCommands[] = {
-    {110, 'O', true, L"&Open...", &DeskWindow::OpenWithDialog},
-    {111, 'P', true, L"&Print to PDF...", &DeskWindow::PrintWithDialog},
-    {112, VK_F2, false, L"&Fit", &DeskWindow::Fit},
-    {113, VK_F3, false, L"&Back", &DeskWindow::LookBack},
-    {114, VK_F4, false, L"For&ward", &DeskWindow::LookForward},
-    {115, 'C', true, nullptr, &DeskWindow::CopyCells},
-    {116, 'Q', true, nullptr, &DeskWindow::QuitCommand},
+    {110, 'O', kControl, Needs::nothing, L"&Open...", L"Open a survey (Ctrl+O)", &DeskWindow::OpenWithDialog},
+    {111, 0, kPlain, Needs::nothing, L"&Recent", L"Open one of the last surveys", &DeskWindow::OpenRecent},
+    {112, VK_F5, kPlain, Needs::survey, nullptr, nullptr, &DeskWindow::ReadAgain},
+    {113, 'S', kControl | kShift, Needs::survey, L"Save a &copy...",
+     L"Copy the survey's file as a backup (Ctrl+Shift+S)", &DeskWindow::SaveCopyWithDialog},
+    {114, 'P', kControl, Needs::section, L"&Print...",
+     L"Print the section to PDF, to scale or on one page (Ctrl+P)", &DeskWindow::PrintWithDialog},
+    {115, 'F', kControl, Needs::survey, L"Fi&nd...", L"Find a text in the table (Ctrl+F, again F3)",
+     &DeskWindow::FindWithDialog},
+    {116, VK_F3, kPlain, Needs::survey, nullptr, nullptr, &DeskWindow::FindOn},
+    {117, VK_F3, kShift, Needs::survey, nullptr, nullptr, &DeskWindow::FindBack},
+    {118, 'G', kControl, Needs::section, L"&Go to...", L"Go to a chainage (Ctrl+G)",
+     &DeskWindow::AskChainage},
+    {119, VK_F4, kPlain, Needs::section, L"&Fit", L"Show the whole section (F4)", &DeskWindow::Fit},
+    {120, VK_LEFT, kAlt, Needs::section, L"&Back", L"The view before (Alt+Left)", &DeskWindow::LookBack},
+    {121, VK_RIGHT, kAlt, Needs::section, L"For&ward", L"The view after (Alt+Right)",
+     &DeskWindow::LookForward},
+    {122, 'E', kControl, Needs::section, nullptr, nullptr, &DeskWindow::AskExaggeration},
+    {123, VK_F1, kPlain, Needs::nothing, L"&Help", L"Keys and mouse (F1)", &DeskWindow::ShowHelp},
+    {124, 'C', kControl, Needs::survey, nullptr, nullptr, &DeskWindow::CopyCells},
+    {125, kF6, kPlain, Needs::nothing, nullptr, nullptr, &DeskWindow::NextPane},
+    {126, 'Q', kControl, Needs::nothing, nullptr, nullptr, &DeskWindow::QuitCommand},
 };
 
 DeskWindow::DeskWindow()
     : m_section(this),
-      m_difference(this),
+      m_difference(this, m_section),
       m_bar(true,
             [this](int by) {
               m_layout.MoveBar(by);
               ArrangePanes();
             }),
-      m_plotBar(false, [this](int by) {
-        m_layout.MovePlotBar(by);
-        ArrangePanes();
-      }) {}
+      m_plotBar(false,
+                [this](int by) {
+                  m_layout.MovePlotBar(by);
+                  ArrangePanes();
+                }),
+      m_finder(m_grid) {}
 
 BOOL DeskWindow::CreateDesk(CSize size) {
   const CRect rect(CPoint(80, 60), size);
-  if (!Create(L"LongSectionDesk", kDeskName, WS_OVERLAPPEDWINDOW, rect, nullptr, 0)) {
+  if (!Create(L"LongSectionDesk", L"", WS_OVERLAPPEDWINDOW, rect, nullptr, 0)) {
     return FALSE;
   }
   const CRect client = GetClientRectangle();
   std::vector<BarCommand> buttons;
   for (const Command& command : kCommands) {
     if (command.text != nullptr) {
-      buttons.push_back({command.id, command.text});
+      buttons.push_back({command.id, command.text, command.tip});
     }
   }
   if (!m_commands.CreateBar(this, buttons) ||
@@ -63,198 +95,82 @@ BOOL DeskWindow::CreateDesk(CSize size) {
   m_difference.SetAccessibleName(L"Difference of ground and design");
   m_grid.SetRowHook([this](long row) { FollowRow(row); });
   m_grid.SetOrderHook([this] { m_data = TakeSection(m_grid); });
-  m_section.SetFuncHook(&DeskWindow::OnViewEvent);
+  m_section.SetStepHook([this](StationStep step) { Step(step); });
+  m_grid.SetFocusHook([this] { Invalidate(FALSE); });
+  m_section.SetFocusHook([this] { Invalidate(FALSE); });
+  m_section.SetFuncHook(&DeskWindow::OnSectionEvent);
+  m_difference.SetFuncHook(&DeskWindow::OnDifferenceEvent);
   m_section.SetSlaveView(&m_difference);
-  m_layout.hasPlots = false;
-  ArrangePanes();
-  m_status.Show(L"Open a survey with Ctrl+O.");
+  m_status.Show(L"Open a survey with Ctrl+O. F1 shows all keys.");
+  ShowSection();
+  ShowTitle();
   return TRUE;
 }
 
-bool DeskWindow::Open(const std::wstring& path) {
-  m_opening = FileName(path);
-  m_report = ReadSurvey(path, *this);
-  if (!m_report.error.empty()) {
-    m_status.Show(path + L": " + m_report.error, true);
-    ShowTitle();
-    return false;
-  }
-  m_path = path;
-  m_grid.EndTable(m_report.rows);
-  ShowSection();
-  m_status.Show(m_opening + L": " + m_report.Summary(), m_report.HasOddities());
-  ShowTitle();
-  return true;
-}
-
-void DeskWindow::ShowSection() {
-  m_data = TakeSection(m_grid);
-  m_layout.hasPlots = !m_data.IsEmpty();
-  m_layout.hasDifference = !m_data.difference.empty();
-  for (CWnd* pane : std::initializer_list<CWnd*>{&m_bar, &m_section}) {
-    pane->ShowWindow(m_layout.hasPlots ? SW_SHOW : SW_HIDE);
-  }
-  for (CWnd* pane : std::initializer_list<CWnd*>{&m_plotBar, &m_difference}) {
-    pane->ShowWindow(m_layout.hasPlots && m_layout.hasDifference ? SW_SHOW : SW_HIDE);
+void DeskWindow::ShowAsBefore() {
+  RecallShares(m_layout);
+  const std::optional<DeskPlace> place = RecallPlace();
+  if (place) {
+    MoveWindow(place->rect);
+    m_placeBefore = place->rect;
   }
   ArrangePanes();
-  m_section.SetTitle(FileName(m_path).c_str());
-  if (m_layout.hasPlots) {
-    m_section.SetDecimals(m_grid.Dialect().decimals[static_cast<std::size_t>(m_data.columns.chainage)],
-                          m_grid.Dialect().decimals[static_cast<std::size_t>(m_data.columns.ground)]);
-  }
-  m_difference.Show(m_data);
-  m_section.Show(m_data);
-  m_difference.FitAgain(m_section);
-  m_commands.ShowExaggeration(m_section.GetExaggeration());
-  for (const UINT id : {111U, 112U, 113U, 114U, CommandBar::kExaggerationId}) {
-    m_commands.EnableCommand(id, m_layout.hasPlots);
-  }
-  FollowRow(m_grid.GetCurrentRow());
-}
-
-void DeskWindow::ShowTitle() {
-  std::wstring title = kDeskName;
-  if (!m_report.error.empty()) {
-    title = m_opening + L" (not read) - " + title;
-  } else if (!m_path.empty()) {
-    title = FileName(m_path) + L" (" + m_report.RowsText() + L") - " + title;
-  }
-  SetWindowText(title.c_str());
-}
-
-void DeskWindow::Begin(const CsvDialect& dialect) {
-  m_grid.BeginTable(dialect);
-}
-
-void DeskWindow::Row(std::uint64_t row, const std::vector<std::wstring_view>& fields) {
-  m_grid.StoreRow(row, fields);
-}
-
-bool DeskWindow::Progress(double part) {
-  m_status.Show(L"Reading " + m_opening + L" " + std::to_wstring(static_cast<int>(part * 100.0)) + L" %");
-  return true;
-}
-
-void DeskWindow::OnViewEvent(PNT_2D_record const& position, EVENT_TYPE event, char /*keyFlags*/, char /*key*/,
-                             CWnd* parent) {
-  auto* self = dynamic_cast<DeskWindow*>(parent);
-  if (self != nullptr && (event == EVENT_MOVE || event == EVENT_LBUTTON_DOWN)) {
-    self->FollowPointer(position);
-  }
-}
-
-/// The row nearest to the pointer becomes the table's current one, and the status line reads it out.
-void DeskWindow::FollowPointer(PNT_2D_record const& position) {
-  const long point = m_data.NearestPoint(position.x);
-  if (point < 0 || m_following) {
-    return;
-  }
-  const auto index = static_cast<std::size_t>(point);
-  m_following = true;
-  m_grid.GotoRow(m_data.rows[index]);
-  m_following = false;
-  MarkChainage(m_data.ground[index].x);
-  CString text = CString(L"Station ") +
-                 coregui::FormatPlotNumber(m_data.ground[index].x, 0.001, PlotNumberFormat::chainage, 3);
-  const auto append = [&text](const wchar_t* name, double value) {
-    if (std::isfinite(value)) {
-      text += CString::Formatted(L"   %s %.3f", name, value);
-    }
-  };
-  append(L"ground", m_data.ground[index].y);
-  if (!m_data.design.empty()) {
-    append(L"design", m_data.design[index].y);
-    const double difference = m_data.difference[index].y;
-    append(difference < 0.0 ? L"fill" : L"cut", std::abs(difference));
-  }
-  append(L"pointer at level", position.y);
-  m_status.Show(text.Str());
-}
-
-void DeskWindow::FollowRow(long row) {
-  double chainage = 0.0;
-  if (!m_following && m_layout.hasPlots && m_grid.NumberAt(m_data.columns.chainage, row, chainage)) {
-    MarkChainage(chainage);
-  }
-}
-
-void DeskWindow::MarkChainage(double chainage) {
-  m_section.Mark(chainage);
-  m_difference.Mark(chainage);
-}
-
-bool DeskWindow::PrintToPdf(const std::wstring& path) {
-  PrintPage page;
-  page.width = 420.0;
-  page.height = 297.0;
-  CPrinterDC dc(PrintOutput::pdf, path.c_str(), page);
-  if (!m_section.HasData() || !dc.StartDoc(FileName(m_path).c_str()) || !dc.StartPage()) {
-    return false;
-  }
-  m_section.PrintPage(dc);
-  return dc.EndPage() && dc.EndDoc();
-}
-
-void DeskWindow::OpenWithDialog() {
-  CFileDialog dialog(TRUE, nullptr, m_path.c_str(), OFN_FILEMUSTEXIST,
-                     L"Tables (*.csv *.txt)|*.csv;*.txt|All files|*||", this);
-  dialog.SetTitle(L"Open a survey");
-  if (dialog.DoModal() == IDOK) {
-    Open(dialog.GetPathName().Str());
-  }
-}
-
-void DeskWindow::PrintWithDialog() {
-  const std::wstring proposal = coreChangeFileExt(m_path.c_str(), L"pdf");
-  CFileDialog dialog(FALSE, L"pdf", proposal.c_str(), OFN_OVERWRITEPROMPT, L"PDF (*.pdf)|*.pdf||", this);
-  dialog.SetTitle(L"Print to PDF");
-  if (dialog.DoModal() == IDOK) {
-    const bool done = PrintToPdf(dialog.GetPathName().Str());
-    m_status.Show(dialog.GetPathName().Str() + (done ? L" is written." : L" could not be written."), !done);
-  }
+  ShowWindow(place && place->maximised ? SW_SHOWMAXIMIZED : SW_SHOW);
 }
 
 const coregui::MessageTable& DeskWindow::GetMessageTable() const {
   static const coregui::MessageTable table = coregui::MessageTable(CWnd::Messages())
+                                                 .On<WM_PAINT>(&DeskWindow::HandlePaint)
                                                  .On<WM_SIZE>(&DeskWindow::HandleSize)
                                                  .On<WM_SETFOCUS>(&DeskWindow::HandleSetFocus)
                                                  .On<WM_CLOSE>(&DeskWindow::HandleClose)
                                                  .OnMessage(WM_COMMAND, &DeskWindow::HandleCommand)
+                                                 .OnMessage(FindMessage(), &DeskWindow::HandleFind)
                                                  .OnMessage(WM_THEMECHANGED, &DeskWindow::HandleColours);
   return table;
 }
 
+// --- Commands
+
+void DeskWindow::EnableCommands() {
+  for (const Command& command : kCommands) {
+    m_commands.EnableCommand(command.id, IsAvailable(command));
+  }
+  m_commands.EnableCommand(CommandBar::kExaggerationId, m_layout.hasPlots);
+}
+
+bool DeskWindow::IsAvailable(const Command& command) const {
+  return !m_reading && (command.needs == Needs::nothing || !m_path.empty()) &&
+         (command.needs != Needs::section || m_layout.hasPlots);
+}
+
+void DeskWindow::Run(const Command& command) {
+  if (IsAvailable(command)) {
+    (this->*command.run)();
+  }
+}
+
 BOOL DeskWindow::PreTranslateMessage(MSG* message) {
-  if (message->message == WM_KEYDOWN) {
-    const bool control = GetKeyState(VK_CONTROL) < 0;
-    for (const Command& command : kCommands) {
-      if (command.key == message->wParam && command.withControl == control) {
-        (this->*command.run)();
-        return TRUE;
-      }
+  if (message->message != WM_KEYDOWN && message->message != WM_SYSKEYDOWN) {
+    return CWnd::PreTranslateMessage(message);
+  }
+  if (m_reading) {
+    m_stop = m_stop || message->wParam == VK_ESCAPE;
+    return TRUE;
+  }
+  const auto isDown = [](UINT key, unsigned flag) { return GetKeyState(key) < 0 ? flag : 0U; };
+  const unsigned modifiers = isDown(VK_CONTROL, kControl) | isDown(VK_SHIFT, kShift) | isDown(VK_MENU, kAlt);
+  if (message->wParam == VK_TAB && (modifiers & ~kShift) == 0 && m_grid.GetEditInProgress() == 0) {
+    MoveFocus(modifiers == 0);
+    return TRUE;
+  }
+  for (const Command& command : kCommands) {
+    if (command.key != 0 && command.key == message->wParam && command.modifiers == modifiers) {
+      Run(command);
+      return TRUE;
     }
   }
   return CWnd::PreTranslateMessage(message);
-}
-
-void DeskWindow::ArrangePanes() {
-  if (!m_status.HasWindow() || !m_difference.HasWindow()) {
-    return;
-  }
-  m_layout.Arrange(GetClientRectangle().Size(), CommandBar::Height(), StatusLine::Height(),
-                   Splitter::Thickness());
-  m_commands.MoveWindow(m_layout.commands);
-  m_grid.MoveWindow(m_layout.grid);
-  m_status.MoveWindow(m_layout.status);
-  if (m_layout.hasPlots) {
-    m_bar.MoveWindow(m_layout.bar);
-    m_plotBar.MoveWindow(m_layout.plotBar);
-    m_section.MoveWindow(m_layout.section);
-    m_difference.MoveWindow(m_layout.difference);
-    m_section.FitAgain();
-    m_difference.FitAgain(m_section);
-  }
 }
 
 LRESULT DeskWindow::HandleCommand(WPARAM wParam, LPARAM /*lParam*/) {
@@ -265,36 +181,120 @@ LRESULT DeskWindow::HandleCommand(WPARAM wParam, LPARAM /*lParam*/) {
   }
   for (const Command& command : kCommands) {
     if (command.id == id && HIWORD(wParam) == BN_CLICKED) {
-      (this->*command.run)();
+      Run(command);
       return 0;
     }
   }
   return 0;
 }
 
-void DeskWindow::TakeExaggeration() {
-  if (const double times = m_commands.GetExaggeration(); times > 0.0) {
-    m_section.SetExaggeration(times);
+LRESULT DeskWindow::HandleFind(WPARAM /*wParam*/, LPARAM lParam) {
+  if (m_finder.TakeFromDialog(lParam)) {
+    FindAgain(false);
+  }
+  return 0;
+}
+
+// --- Panes
+
+void DeskWindow::ArrangePanes() {
+  if (!m_status.HasWindow() || !m_difference.HasWindow()) {
+    return;
+  }
+  m_layout.Arrange(GetClientRectangle().Size(), CommandBar::Height(), StatusLine::Height(),
+                   Splitter::Thickness());
+  m_commands.MoveWindow(m_layout.commands);
+  m_grid.MoveWindow(Inside(m_layout.grid));
+  m_status.MoveWindow(m_layout.status);
+  if (m_layout.hasPlots) {
+    m_bar.MoveWindow(m_layout.bar);
+    m_plotBar.MoveWindow(m_layout.plotBar);
+    m_section.MoveWindow(Inside(m_layout.section));
+    m_difference.MoveWindow(Inside(m_layout.difference));
+    m_section.FitAgain();
+    m_difference.FitAgain();
+  }
+  Invalidate(FALSE);
+}
+
+/// The panes cover all but the frames around them.
+void DeskWindow::HandlePaint() {
+  CPaintDC dc(this);
+  dc.FillSolidRect(GetClientRectangle(), GetSysColor(COLOR_BTNFACE));
+  const CWnd* focus = GetFocus();
+  const CRect* pane = nullptr;
+  if (focus != nullptr && m_grid.IsChild(focus)) {
+    pane = &m_layout.grid;
+  } else if (focus == &m_section) {
+    pane = &m_layout.section;
+  }
+  if (pane != nullptr) {
+    dc.FillSolidRect(*pane, GetSysColor(COLOR_HIGHLIGHT));
   }
 }
 
-void DeskWindow::HandleSize(UINT /*type*/, int /*width*/, int /*height*/) {
+/// Goes round the table, the section and the controls of the bar.
+void DeskWindow::MoveFocus(bool forward) {
+  std::vector<CWnd*> stops = {m_grid.GetGridWnd()};
+  if (m_layout.hasPlots) {
+    stops.push_back(&m_section);
+  }
+  for (CWnd* control : m_commands.Stops()) {
+    stops.push_back(control);
+  }
+  const CWnd* focus = GetFocus();
+  std::size_t at = 0;  // other parts of the table count as the table
+  for (std::size_t i = 0; i < stops.size(); ++i) {
+    at = stops[i] == focus ? i : at;
+  }
+  stops[(at + (forward ? 1 : stops.size() - 1)) % stops.size()]->SetFocus();
+}
+
+/// From the table to the section, from there to the bar, and back to the table.
+void DeskWindow::NextPane() {
+  const CWnd* focus = GetFocus();
+  const std::vector<CWnd*> controls = m_commands.Stops();
+  if (focus != nullptr && m_grid.IsChild(focus) && m_layout.hasPlots) {
+    m_section.SetFocus();
+  } else if (focus != nullptr && !m_commands.IsChild(focus) && !controls.empty()) {
+    controls.front()->SetFocus();
+  } else {
+    SetFocus();
+  }
+}
+
+void DeskWindow::HandleSize(UINT type, int /*width*/, int /*height*/) {
+  m_maximised = type == SIZE_MAXIMIZED;
   ArrangePanes();
 }
 
 LRESULT DeskWindow::HandleColours(WPARAM /*wParam*/, LPARAM /*lParam*/) {
   m_section.FitAgain();
-  m_difference.FitAgain(m_section);
+  m_difference.FitAgain();
+  Invalidate(FALSE);
   return 0;
 }
 
 void DeskWindow::HandleSetFocus(CWnd* /*other*/) {
-  if (CWnd* body = m_grid.GetGridWnd()) {
+  CWnd* body = m_grid.GetGridWnd();
+  if (body != nullptr && body->IsWindowEnabled() != FALSE && !m_reading) {
     body->SetFocus();
   }
 }
 
 void DeskWindow::HandleClose() {
+  if (m_reading) {
+    m_stop = m_closeAfter = true;
+    return;
+  }
+  if (!m_unattended) {
+    CRect rect;
+    GetWindowRect(&rect);
+    KeepPlace({m_maximised && !m_placeBefore.IsRectEmpty() ? m_placeBefore : rect, m_maximised});
+    KeepShares(m_layout);
+  }
+  m_finder.CloseDialog();
+  m_lock.Release();
   DestroyWindow();
 }
 

@@ -98,7 +98,9 @@ SectionData TakeSection(SurveyGrid& grid) {
     }
   }
   std::sort(order.begin(), order.end());
+  data.points.assign(static_cast<std::size_t>(rows), -1);
   for (const auto& [chainage, row] : order) {
+    data.points[static_cast<std::size_t>(row)] = static_cast<long>(data.rows.size());
     const double ground = number(data.columns.ground, row);
     data.rows.push_back(row);
     data.ground.push_back({chainage, ground});
@@ -128,6 +130,10 @@ long SectionData::NearestPoint(double chainage) const {
   const auto before = after - 1;
   const bool takeBefore = after == ground.end() || chainage - before->x <= after->x - chainage;
   return static_cast<long>((takeBefore ? before : after) - ground.begin());
+}
+
+long SectionData::PointOfRow(long row) const {
+  return row >= 0 && row < static_cast<long>(points.size()) ? points[static_cast<std::size_t>(row)] : -1;
 }
 
 }  // namespace desk

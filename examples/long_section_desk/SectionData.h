@@ -28,10 +28,13 @@ struct SectionData {
   std::vector<PNT_2D_record> difference;  ///< ground less design
   FRect extents;                          ///< around ground and design
   FRect differenceExtents;
+  std::vector<long> points;  ///< for each row of the table its point, or -1
 
   bool IsEmpty() const { return ground.empty(); }
   /// The index of the point whose chainage is nearest; -1 when there is none.
   long NearestPoint(double chainage) const;
+  /// The index of a table's row; -1 for one that has no chainage.
+  long PointOfRow(long row) const;
 };
 
 /// Rows without a chainage are no part of the section.

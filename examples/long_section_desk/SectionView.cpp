@@ -5,17 +5,27 @@
 #include <cmath>
 #include <limits>
 
+#include "SheetPlan.h"
+
 namespace desk {
 
 namespace {
 
 constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
-constexpr int kLeftMargin = 66;  // points
-constexpr int kTopMargin = 24;
-constexpr int kRightMargin = 10;
+constexpr int kTopMargin = 24;  // points
 constexpr double kRowHeight = 44.0;
 constexpr int kGap = 4;
 constexpr double kTextPitch = 11.0;  // points from one upright text to the next
+constexpr int kPaperEdge = 24;       // points around what is printed
+constexpr LONG kTitleBlock = 58;     // points below the table for the title block
+constexpr LONG kTableEnd = 6;        // points between the table and the frame of a sheet
+constexpr double kMillimetresPerInch = 25.4;
+constexpr double kGroundPen = 1.0;  // points
+constexpr double kDesignPen = 1.25;
+constexpr UINT kPlusKey = 0xBB;  // on the main board
+constexpr UINT kMinusKey = 0xBD;
+constexpr double kKeyZoom = 1.5;
+constexpr int kKeyMove = 10;  // a key moves the view by a tenth of it
 
 /// The largest round exaggeration that still fits the extents into the place.
 double RoundExaggeration(const FRect& extents, CSize place) {
@@ -30,35 +40,16 @@ double RoundExaggeration(const FRect& extents, CSize place) {
   return best;
 }
 
-CRect DifferenceMargins() {
-  return {kLeftMargin, 10, kRightMargin, 10};
+CSize EdgeDots(CSize dotsPerInch) {
+  return {kPaperEdge * dotsPerInch.cx / 72, kPaperEdge * dotsPerInch.cy / 72};
 }
 
-/// The room between the margins (points) of a view's window, in pixels.
-CSize PlaceBetween(const CWnd& view, const CRect& margins) {
-  const CRect client = view.GetClientRectangle();
-  const int dpi = view.GetDpi();
-  return {client.Width() - (margins.left + margins.right) * dpi / 72,
-          client.Height() - (margins.top + margins.bottom) * dpi / 72};
-}
-
-PlotTextStyle RulerText(COLORREF colour) {
-  PlotTextStyle style;
-  style.colour = colour;
-  style.height = 7.0;
-  return style;
+CSize InsideEdges(CSize page, CSize dotsPerInch) {
+  const CSize edges = EdgeDots(dotsPerInch);
+  return {page.cx - 2 * edges.cx, page.cy - 2 * edges.cy};
 }
 
 }  // namespace
-
-SectionColors SectionColors::Of(bool printing) {
-  if (!printing && IsDarkTheme()) {
-    return {RGB(30, 32, 36),  RGB(214, 216, 220), RGB(58, 62, 68),   RGB(196, 152, 92),
-            RGB(240, 96, 96), RGB(214, 130, 74),  RGB(92, 168, 112), RGB(96, 168, 255)};
-  }
-  return {RGB(255, 255, 255), RGB(32, 32, 32),   RGB(226, 228, 230), RGB(134, 92, 40),
-          RGB(206, 24, 24),   RGB(222, 140, 76), RGB(112, 178, 124), RGB(0, 96, 208)};
-}
 
 SectionView::SectionView(CWnd* parent) : CGUIBaseViewWnd(10.0, parent), m_mark(kNothing) {
   Options options;
@@ -66,6 +57,7 @@ SectionView::SectionView(CWnd* parent) : CGUIBaseViewWnd(10.0, parent), m_mark(k
   options.history = true;
   options.touchpad = true;
   options.crossHair = true;
+  options.readOut = PlotNumberFormat::chainage;
   SetOptions(options);
 }
 
@@ -86,14 +78,60 @@ CRect SectionView::Margins() const {
           static_cast<LONG>((m_design.GetCount() == 0 ? 2 : 4) * kRowHeight) + 2 * kGap};
 }
 
-void SectionView::PrintPage(CPrinterDC& dc) {
-  constexpr LONG edge = 24;
-  constexpr LONG titleBlock = 60;
-  const CRect margins = Margins();
-  SetMargins(CRect(margins.left + edge, margins.top + edge, margins.right + edge,
-                   margins.bottom + edge + titleBlock));
-  Print(&dc, CSize(dc.GetDeviceCaps(HORZRES), dc.GetDeviceCaps(VERTRES)));
-  SetMargins(margins);
+/// Of the part of a sheet inside its edges.
+CRect SectionView::PrintMargins() const {
+  CRect margins = Margins();
+  margins.right += kTableEnd;
+  margins.bottom += kTitleBlock;
+  return margins;
+}
+
+std::vector<coregui::CViewMapping> SectionView::Plan(const PrintChoice& choice, CSize page,
+                                                     CSize dotsPerInch) const {
+  coregui::CViewMapping view = GetMapping();
+  view.margins = PrintMargins();
+  const CSize inside = InsideEdges(page, dotsPerInch);
+  if (choice.toScale) {
+    return PlanSheets(view, choice.Scale(), inside, dotsPerInch, {&m_ground, &m_design});
+  }
+  view.now.dpiX = dotsPerInch.cx;
+  view.now.dpiY = dotsPerInch.cy;
+  view.now.vertRatio = m_exaggeration;
+  view.FitToRect(CRect(CPoint(0, 0), inside));
+  return {view};
+}
+
+int SectionView::CountSheets(const PrintChoice& choice) const {
+  const PrintPage page = choice.Page();
+  const auto dots = [&page](double millimetres) {
+    return static_cast<LONG>(std::lround(millimetres / kMillimetresPerInch * page.dotsPerInch));
+  };
+  const CSize size(dots(page.width), dots(page.height));
+  return static_cast<int>(Plan(choice, size, CSize(page.dotsPerInch, page.dotsPerInch)).size());
+}
+
+bool SectionView::PrintSheets(CPrinterDC& dc, const PrintChoice& choice) {
+  const CSize page(dc.GetDeviceCaps(HORZRES), dc.GetDeviceCaps(VERTRES));
+  const CSize dotsPerInch(dc.GetDeviceCaps(LOGPIXELSX), dc.GetDeviceCaps(LOGPIXELSY));
+  const CSize edges = EdgeDots(dotsPerInch);
+  const std::vector<coregui::CViewMapping> sheets = Plan(choice, page, dotsPerInch);
+  m_sheet = {0, static_cast<int>(sheets.size()), {}};
+  if (choice.toScale) {
+    m_sheet.scale = CString::Formatted(L"Scale 1:%g / 1:%g", choice.horizontal, choice.vertical);
+  }
+  SetMargins(PrintMargins());
+  bool good = !sheets.empty();
+  for (const coregui::CViewMapping& sheet : sheets) {
+    ++m_sheet.number;
+    good = good && dc.StartPage();
+    if (good) {
+      dc.SetViewportOrg(edges.cx, edges.cy);
+      PrintMapped(dc, InsideEdges(page, dotsPerInch), sheet);
+      good = dc.EndPage();
+    }
+  }
+  SetMargins(Margins());
+  return good;
 }
 
 void SectionView::FitAgain() {
@@ -134,10 +172,159 @@ void SectionView::OnDraw(CDC* dc) {
   levels.title = L"Level [m]";
   PlotRuler(PlotSide::left, levels);
   DrawTable(colors);
+  DrawLegend(colors);
   if (IsPrinting()) {
-    SetPlotPen({colors.text});
-    PlotTitleBlock(
-        {m_title, L"Long-section", CString::Formatted(L"Vertical exaggeration %.4g", m_exaggeration)});
+    DrawTitleBlock(colors);
+  }
+}
+
+/// The title block, and the frame around the sheet.
+void SectionView::DrawTitleBlock(const SectionColors& colors) {
+  const CRect area = GetDrawingArea();
+  const auto chainage = [&](CPoint at) {
+    const double x =
+        std::clamp(GetPlotMapping().WindowToUser(at).x, m_extents.GetLeft(), m_extents.GetRight());
+    return coregui::FormatPlotNumber(x, 1.0, PlotNumberFormat::chainage, 0);
+  };
+  std::vector<CString> lines = {m_title};
+  lines.push_back(L"Long-section " + chainage(area.TopLeft()) + L" to " + chainage(area.BottomRight()));
+  lines.push_back(m_sheet.scale.IsEmpty() ? CString::Formatted(L"Vertical exaggeration %.4g", m_exaggeration)
+                                          : m_sheet.scale);
+  lines.push_back(CString::Formatted(L"Sheet %d of %d", m_sheet.number, m_sheet.count));
+  SetPlotPen({colors.text});
+  PlotTitleBlock(lines);
+  const CRect sheet = GetPlotArea();
+  DrawDeviceLine({sheet.left, sheet.top}, {sheet.right, sheet.top});
+  DrawDeviceLine({sheet.right, sheet.top}, {sheet.right, sheet.bottom});
+  DrawDeviceLine({sheet.right, sheet.bottom}, {sheet.left, sheet.bottom});
+  DrawDeviceLine({sheet.left, sheet.bottom}, {sheet.left, sheet.top});
+}
+
+/// Which line is which, in the upper left corner of the drawing.
+void SectionView::DrawLegend(const SectionColors& colors) {
+  struct Entry {
+    const wchar_t* name;
+    COLORREF colour;
+    double width;
+  };
+  std::vector<Entry> entries = {{L"Ground", colors.ground, kGroundPen}};
+  if (m_design.GetCount() > 0) {
+    entries.push_back({L"Design", colors.design, kDesignPen});
+  }
+  const auto pixels = [this](double points) { return static_cast<LONG>(PixelsOfPoints(points)); };
+  const CRect area = GetDrawingArea();
+  PlotTextStyle text = RulerText(colors.text);
+  text.align = TA_LEFT | TA_TOP;
+  SetPlotText(text);
+  LONG top = area.top + pixels(5);
+  for (const Entry& entry : entries) {
+    const LONG left = area.left + pixels(6);
+    const LONG middle = top + pixels(4);
+    SetPlotPen({entry.colour, entry.width, PlotUnit::points});
+    PlotLine(GetPlotMapping().WindowToUser({left, middle}),
+             GetPlotMapping().WindowToUser({left + pixels(18), middle}));
+    PlotText(GetPlotMapping().WindowToUser({left + pixels(22), top}), entry.name);
+    top += pixels(10);
+  }
+}
+
+BOOL SectionView::OnMouseWheel(UINT flags, short delta, CPoint screen) {
+  if ((flags & MK_SHIFT) != 0) {
+    MoveView(delta > 0 ? 1 : -1, 0);
+    return TRUE;
+  }
+  return CGUIBaseViewWnd::OnMouseWheel(flags, delta, screen);
+}
+
+LRESULT SectionView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_KEYDOWN && HandleKey(static_cast<UINT>(wParam))) {
+    return 0;
+  }
+  const LRESULT result = CGUIBaseViewWnd::WindowProc(message, wParam, lParam);
+  if ((message == WM_SETFOCUS || message == WM_KILLFOCUS) && m_focusHook) {
+    m_focusHook();
+  }
+  return result;
+}
+
+bool SectionView::HandleKey(UINT key) {
+  struct Row {
+    UINT key;
+    StationStep step;
+    int dx;  ///< how the view moves with Ctrl, in tenths
+    int dy;
+  };
+  static constexpr Row kRows[] = {
+      {VK_LEFT, StationStep::back, 1, 0},  {VK_RIGHT, StationStep::forward, -1, 0},
+      {VK_UP, StationStep::back, 0, 1},    {VK_DOWN, StationStep::forward, 0, -1},
+      {VK_HOME, StationStep::first, 0, 0}, {VK_END, StationStep::last, 0, 0}};
+  for (const Row& row : kRows) {
+    if (row.key != key) {
+      continue;
+    }
+    if (GetKeyState(VK_CONTROL) < 0) {
+      MoveView(row.dx, row.dy);
+    } else if (m_stepHook) {
+      m_stepHook(row.step);
+    }
+    return true;
+  }
+  if (key == VK_ADD || key == kPlusKey || key == VK_SUBTRACT || key == kMinusKey) {
+    Zoom(key == VK_ADD || key == kPlusKey ? kKeyZoom : 1.0 / kKeyZoom);
+    return true;
+  }
+  return false;
+}
+
+/// Moves the drawing by tenths of its window, as two fingers on a touchpad would.
+void SectionView::MoveView(int dx, int dy) {
+  const CSize size = GetClientRectangle().Size();
+  SendMessage(WM_COREGUI_PAN, 0, MAKELPARAM(dx * size.cx / kKeyMove, dy * size.cy / kKeyMove));
+}
+
+void SectionView::Zoom(double factor) {
+  const CRect area = Drawing();
+  const LONG mark = std::isfinite(m_mark) ? UserToWindow({m_mark, 0.0}).x : -1;
+  ZoomAt(OnLine(mark >= area.left && mark <= area.right ? mark : MiddleOf(area).x), factor);
+}
+
+CRect SectionView::Drawing() const {
+  CRect area = GetClientRectangle();
+  const CRect margins = GetMapping().GetMarginPixels();
+  area.left += margins.left;
+  area.top += margins.top;
+  area.right -= margins.right;
+  area.bottom -= margins.bottom;
+  return area;
+}
+
+double SectionView::GroundAt(double chainage) const {
+  const std::vector<PNT_2D_record>& points = m_ground.GetPoints();
+  const auto at = std::lower_bound(points.begin(), points.end(), chainage,
+                                   [](const PNT_2D_record& point, double x) { return point.x < x; });
+  return at == points.end() ? kNothing : at->y;
+}
+
+CPoint SectionView::OnLine(LONG x) const {
+  const CRect area = Drawing();
+  const double level = GroundAt(WindowToUser(CPoint(x, 0)).x);
+  const LONG y = std::isfinite(level) ? UserToWindow({0.0, level}).y : -1;
+  return {x, y >= area.top && y <= area.bottom ? y : MiddleOf(area).y};
+}
+
+void SectionView::ShowMark() {
+  if (!std::isfinite(m_mark) || !m_hasData) {
+    return;
+  }
+  const CRect area = Drawing();
+  const double ground = GroundAt(m_mark);
+  const PNT_2D_record middle = WindowToUser(MiddleOf(area));
+  const PNT_2D_record wanted = {m_mark, std::isfinite(ground) ? ground : middle.y};
+  const CPoint at = UserToWindow(wanted);
+  if (at.x < area.left || at.x > area.right || at.y < area.top || at.y > area.bottom) {
+    // A zoom puts its centre into the middle of the window, which the table below the drawing takes in.
+    const PNT_2D_record window = WindowToUser(MiddleOf(GetClientRectangle()));
+    DoZoom({wanted.x + window.x - middle.x, wanted.y + window.y - middle.y}, GetScale(), false);
   }
 }
 
@@ -184,9 +371,9 @@ void SectionView::DrawLevels(const SectionColors& colors) {
   const PNT_2D_record to = GetPlotMapping().WindowToUser(area.BottomRight());
   PlotGrid(coregui::ChooseTicks(from.x, to.x, area.Width(), PixelsOfPoints(36), 0).step,
            coregui::ChooseTicks(from.y, to.y, area.Height(), PixelsOfPoints(18), 0).step);
-  SetPlotPen({colors.ground, 1.0, PlotUnit::points});
+  SetPlotPen({colors.ground, kGroundPen, PlotUnit::points});
   PlotPolyline(m_ground);
-  SetPlotPen({colors.design, 1.25, PlotUnit::points});
+  SetPlotPen({colors.design, kDesignPen, PlotUnit::points});
   PlotPolyline(m_design);
   ClipToDrawing(false);
 }
@@ -198,77 +385,6 @@ void SectionView::DrawMark(const SectionColors& colors) {
     PlotLine({m_mark, m_extents.GetTop() + 1e4}, {m_mark, m_extents.GetBottom() - 1e4});
     ClipToDrawing(false);
   }
-}
-
-DifferenceView::DifferenceView(CWnd* parent) : CGUIBaseViewWnd(1.0, parent), m_mark(kNothing) {
-  SetMargins(DifferenceMargins());
-  SetVertMode(VERT_FILL);
-}
-
-void DifferenceView::Show(const SectionData& data) {
-  m_difference = CPlotSeries(data.difference);
-  m_extents = data.differenceExtents;
-  m_extents.Expand({m_extents.GetLeft(), 0.0});
-  m_mark = kNothing;
-  m_hasData = !data.difference.empty();
-}
-
-void DifferenceView::FitAgain(const CGUIBaseView& master) {
-  SetBackgroundColour(SectionColors::Of(false).paper);
-  if (m_hasData && HasWindow() && !GetClientRectangle().IsRectEmpty()) {
-    InitView(m_extents, 1.0);
-    FitToRect(GetClientRectangle());
-    SyncToView(&master);
-    m_ratioFor = 0.0;
-    Invalidate(TRUE);
-  }
-}
-
-void DifferenceView::Mark(double chainage) {
-  if (m_mark != chainage) {
-    m_mark = chainage;
-    Invalidate(TRUE);
-  }
-}
-
-LRESULT DifferenceView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_PAINT) {
-    KeepHeight();
-  }
-  return CGUIBaseViewWnd::WindowProc(message, wParam, lParam);
-}
-
-/// A slave takes its master's scale for both axes; the ratio that keeps the whole difference in sight follows
-/// it.
-void DifferenceView::KeepHeight() {
-  if (m_hasData && GetScale() != m_ratioFor) {
-    m_ratioFor = GetScale();
-    SetVertRatio(m_ratioFor * PlaceBetween(*this, DifferenceMargins()).cy / m_extents.Height());
-  }
-}
-
-void DifferenceView::OnDraw(CDC* dc) {
-  CGUIBaseViewWnd::OnDraw(dc);
-  if (!m_hasData) {
-    return;
-  }
-  const SectionColors colors = SectionColors::Of(IsPrinting());
-  ClipToDrawing(true);
-  SetPlotPen({colors.text});
-  PlotLine({m_extents.GetLeft(), 0.0}, {m_extents.GetRight(), 0.0});
-  SetPlotPen({colors.cut, 1.0, PlotUnit::points});
-  PlotPolyline(m_difference);
-  if (std::isfinite(m_mark)) {
-    SetPlotPen({colors.mark, 1.5});
-    PlotLine({m_mark, m_extents.GetTop() + 1e4}, {m_mark, m_extents.GetBottom() - 1e4});
-  }
-  ClipToDrawing(false);
-  SetPlotPen({colors.text});
-  SetPlotText(RulerText(colors.text));
-  PlotRulerStyle style;
-  style.title = L"Ground - design [m]";
-  PlotRuler(PlotSide::left, style);
-  PlotFrame();
 }
 
 }  // namespace desk

@@ -1,27 +1,22 @@
 #pragma once
 
-#include <memory>
+#include <functional>
 
+#include "PrintChoice.h"
 #include "SectionData.h"
+#include "SectionLook.h"
 #include "coregui/coregui.h"
 
 namespace desk {
 
-/// The look that both plots of the desk share; it follows the theme, and paper is always light.
-struct SectionColors {
-  COLORREF paper;
-  COLORREF text;
-  COLORREF grid;
-  COLORREF ground;
-  COLORREF design;
-  COLORREF cut;
-  COLORREF fill;
-  COLORREF mark;
-
-  static SectionColors Of(bool printing);
-};
+/// What a key asks for in the section: another station.
+enum class StationStep { back, forward, first, last };
 
 /// The long-section: ground and design levels over the chainage, rulers, and a table of stations below.
+///
+/// Keys: Left, Right, Home and End go from station to station (who shows the survey does that, see
+/// SetStepHook), with Ctrl the arrows move the view; + and - zoom about the marked station. The wheel zooms
+/// under the pointer, with Shift it moves the view along.
 class SectionView : public CGUIBaseViewWnd {
  public:
   explicit SectionView(CWnd* parent);
@@ -41,13 +36,44 @@ class SectionView : public CGUIBaseViewWnd {
   }
   void SetTitle(const CString& title) { m_title = title; }
   bool HasData() const { return m_hasData; }
-  /// Prints the whole section on the page that the context has begun, with a title block.
-  void PrintPage(CPrinterDC& dc);
+  /// Called for the keys that go to another station.
+  void SetStepHook(std::function<void(StationStep)> hook) { m_stepHook = std::move(hook); }
+  /// Called when the view gets or loses the focus.
+  void SetFocusHook(std::function<void()> hook) { m_focusHook = std::move(hook); }
+  /// Moves the view, when the marked station is out of sight, so that it is seen.
+  void ShowMark();
+  /// The place of the ground line at a client x, where it is in sight; else the middle of the drawing.
+  CPoint OnLine(LONG x) const;
+  /// The sheets that a way of printing takes; 0 when it cannot be printed so.
+  int CountSheets(const PrintChoice& choice) const;
+  /// Prints the section, with title blocks, into a document that the caller has started. False when it takes
+  /// no sheets or the device failed.
+  bool PrintSheets(CPrinterDC& dc, const PrintChoice& choice);
 
   void OnDraw(CDC* dc) override;
+  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ protected:
+  BOOL OnMouseWheel(UINT flags, short delta, CPoint screen) override;
 
  private:
+  /// What is printed at the moment.
+  struct Sheet {
+    int number = 1;
+    int count = 1;
+    CString scale;  ///< empty: as large as the page allows
+  };
+
   CRect Margins() const;
+  CRect PrintMargins() const;
+  std::vector<coregui::CViewMapping> Plan(const PrintChoice& choice, CSize page, CSize dotsPerInch) const;
+  CRect Drawing() const;
+  double GroundAt(double chainage) const;
+  bool HandleKey(UINT key);
+  void MoveView(int dx, int dy);
+  void Zoom(double factor);
+  void DrawLegend(const SectionColors& colors);
+  void DrawTitleBlock(const SectionColors& colors);
   void DrawTable(const SectionColors& colors);
   void DrawLevels(const SectionColors& colors);
   void DrawMark(const SectionColors& colors);
@@ -56,32 +82,13 @@ class SectionView : public CGUIBaseViewWnd {
   CPlotSeries m_design;
   FRect m_extents;
   CString m_title;
+  Sheet m_sheet;
+  std::function<void(StationStep)> m_stepHook;
+  std::function<void()> m_focusHook;
   double m_exaggeration = 10.0;
   int m_chainageDecimals = 3;
   int m_levelDecimals = 3;
   double m_mark;
-  bool m_hasData = false;
-};
-
-/// Below the section, as its slave: the difference between ground and design, cut above the line, fill below.
-class DifferenceView : public CGUIBaseViewWnd {
- public:
-  explicit DifferenceView(CWnd* parent);
-  void Show(const SectionData& data);
-  /// Fits the vertical mapping again; the horizontal one is `master`'s.
-  void FitAgain(const CGUIBaseView& master);
-  void Mark(double chainage);
-
-  void OnDraw(CDC* dc) override;
-  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
-
- private:
-  void KeepHeight();
-
-  CPlotSeries m_difference;
-  FRect m_extents;
-  double m_mark;
-  double m_ratioFor = 0.0;  ///< the scale that the vertical ratio was set for
   bool m_hasData = false;
 };
 

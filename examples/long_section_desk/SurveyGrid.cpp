@@ -15,6 +15,11 @@ constexpr int kWidestColumn = 420;
 constexpr int kDescending = 2;
 enum : int { kMenuCopy = 1, kMenuSortUp, kMenuSortDown };
 
+/// The row of the station that the section marks.
+COLORREF CurrentRowColor() {
+  return IsDarkTheme() ? RGB(38, 54, 74) : RGB(222, 236, 250);
+}
+
 }  // namespace
 
 void SurveyGrid::OnSetup() {
@@ -24,6 +29,8 @@ void SurveyGrid::OnSetup() {
   SetUserSizingMode(2);
   SetMultiSelectMode(1);
   EnableExcelBorders(1);
+  SetHighlightRow(0);
+  SetCurrentCellMode(3);  // focus rectangle, and highlighted without the focus too
   UseHints(1);
   EnableMenu(1);
 }
@@ -98,6 +105,8 @@ bool SurveyGrid::NumberAt(int col, long row, double& value) {
 void SurveyGrid::OnGetCell(int col, long row, CGridCell* cell) {
   if (col == -1 && row >= 0) {
     cell->SetText(CString::Formatted(L"%ld", row + 1));
+  } else if (col >= 0 && row >= 0 && row == GetCurrentRow()) {
+    cell->SetBackColor(CurrentRowColor());
   }
 }
 
@@ -111,6 +120,18 @@ int SurveyGrid::WidthOf(int col, long row) {
   CClientDC dc(body);
   dc.SelectObject(GetDefFont());
   return dc.GetTextExtent(text, text.GetLength()).cx + 2 * GetMargin() + 1;
+}
+
+void SurveyGrid::OnSetFocus(int /*section*/) {
+  if (m_focusHook) {
+    m_focusHook();
+  }
+}
+
+void SurveyGrid::OnKillFocus(int /*section*/, CWnd* /*newFocus*/) {
+  if (m_focusHook) {
+    m_focusHook();
+  }
 }
 
 int SurveyGrid::OnMenuStart(int col, long /*row*/, int /*section*/) {
@@ -138,7 +159,9 @@ void SurveyGrid::OnMenuCommand(int col, long /*row*/, int /*section*/, int item)
   }
 }
 
-void SurveyGrid::OnRowChange(long /*oldRow*/, long newRow) {
+void SurveyGrid::OnRowChange(long oldRow, long newRow) {
+  RedrawRow(oldRow);
+  RedrawRow(newRow);
   if (m_rowHook) {
     m_rowHook(newRow);
   }

@@ -25,12 +25,16 @@ class SurveyGrid : public CGridCtrl {
   void SetRowHook(std::function<void(long)> hook) { m_rowHook = std::move(hook); }
   /// Called after the rows were put into another order.
   void SetOrderHook(std::function<void()> hook) { m_orderHook = std::move(hook); }
+  /// Called when a part of the table gets or loses the focus.
+  void SetFocusHook(std::function<void()> hook) { m_focusHook = std::move(hook); }
   const CsvDialect& Dialect() const { return m_dialect; }
 
  protected:
   void OnSetup() override;
   void OnGetCell(int col, long row, CGridCell* cell) override;
   void OnRowChange(long oldRow, long newRow) override;
+  void OnSetFocus(int section) override;
+  void OnKillFocus(int section, CWnd* newFocus) override;
   int OnMenuStart(int col, long row, int section) override;
   void OnMenuCommand(int col, long row, int section, int item) override;
 
@@ -46,6 +50,7 @@ class SurveyGrid : public CGridCtrl {
   CsvDialect m_dialect;
   std::function<void(long)> m_rowHook;
   std::function<void()> m_orderHook;
+  std::function<void()> m_focusHook;
   std::vector<Longest> m_longest;  ///< for each column
   CGridCell m_cell;                ///< reused for every stored cell
 };

@@ -25,23 +25,6 @@ std::wstring WithThousands(std::uint64_t number) {
   return text;
 }
 
-/// What is wrong with the path before anything is read; empty when nothing is.
-std::wstring PathFault(const std::filesystem::path& path, std::uintmax_t& size) {
-  std::error_code error;
-  const auto status = std::filesystem::status(path, error);
-  if (!std::filesystem::exists(status)) {
-    return L"The file does not exist.";
-  }
-  if (std::filesystem::is_directory(status)) {
-    return L"This is a folder, not a file.";
-  }
-  if (!std::filesystem::is_regular_file(status)) {
-    return L"This is not an ordinary file.";
-  }
-  size = std::filesystem::file_size(path, error);
-  return size == 0 ? L"The file is empty." : L"";
-}
-
 /// A sample of a text table has hardly any control characters.
 bool LooksBinary(const std::deque<std::wstring>& sample, const coregui::TextReadTally& tally) {
   std::uint64_t characters = tally.nulCharacters;
@@ -157,10 +140,24 @@ void Append(std::wstring& text, const Oddity& oddity, const wchar_t* one, const 
 
 }  // namespace
 
+std::wstring SurveyFault(const std::wstring& path) {
+  std::error_code error;
+  const auto status = std::filesystem::status(path, error);
+  if (!std::filesystem::exists(status)) {
+    return L"The file does not exist.";
+  }
+  if (std::filesystem::is_directory(status)) {
+    return L"This is a folder, not a file.";
+  }
+  if (!std::filesystem::is_regular_file(status)) {
+    return L"This is not an ordinary file.";
+  }
+  return std::filesystem::file_size(path, error) == 0 ? L"The file is empty." : L"";
+}
+
 SurveyReport ReadSurvey(const std::wstring& path, SurveySink& sink) {
   SurveyReport report;
-  std::uintmax_t size = 0;
-  report.error = PathFault(path, size);
+  report.error = SurveyFault(path);
   if (!report.error.empty()) {
     return report;
   }
@@ -181,7 +178,9 @@ SurveyReport ReadSurvey(const std::wstring& path, SurveySink& sink) {
   if (report.dialect.hasHeadings) {
     records.NextLine(headings);
   }
-  ReadRows(records, reader, static_cast<double>(size), report, sink);
+  std::error_code unknown;
+  const auto size = std::filesystem::file_size(path, unknown);
+  ReadRows(records, reader, unknown ? 1.0 : static_cast<double>(size), report, sink);
   reader.Close();
   report.cutShort = report.cutShort || reader.Tally().readError;
   report.foreignBytes = reader.Tally().foreignBytes;

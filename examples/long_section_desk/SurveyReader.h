@@ -54,6 +54,9 @@ class SurveySink {
   virtual bool Progress(double part) = 0;
 };
 
+/// Why a path cannot be read as a table, before anything of it is; empty when nothing speaks against it.
+std::wstring SurveyFault(const std::wstring& path);
+
 /// Reads a table of separated text into a sink. Never throws for what the file holds: see the report.
 SurveyReport ReadSurvey(const std::wstring& path, SurveySink& sink);
 

@@ -7,7 +7,14 @@
 #include <filesystem>
 #include <fstream>
 
+#include "tests/support/Hand.h"
+#include "tests/support/ShownWindow.h"
+
 namespace {
+
+using coregui::test::NextWindow;
+using coregui::test::PressKey;
+using coregui::test::ShownWindow;
 
 class Desk : public testing::Test {
  protected:
@@ -48,7 +55,11 @@ TEST_F(Desk, ShowsATableWithItsOwnDecimalsAndHeadings) {
 
 TEST_F(Desk, KeepsItsTableWhenAnotherFileCannotBeRead) {
   ASSERT_TRUE(window.Open(Write("a.csv", "Chainage,Level\n0,101.50\n")));
-  EXPECT_FALSE(window.Open((folder / "missing.csv").wstring()));
+  const NextWindow box([](ShownWindow& told) {
+    EXPECT_EQ(told.Title(), "Error");
+    EXPECT_NE(told.Text().find("empty.csv: The file is empty."), std::string::npos);
+    told.Click("OK");
+  });
   EXPECT_FALSE(window.Open(Write("empty.csv", "")));
   EXPECT_EQ(Text(1, 0), L"101.50");
   EXPECT_NE(window.StatusText().find(L"The file is empty."), std::wstring::npos);
@@ -61,12 +72,79 @@ TEST_F(Desk, ATextTableHasNoSection) {
   EXPECT_FALSE(window.PrintToPdf((folder / "none.pdf").wstring()));
 }
 
-TEST_F(Desk, PrintsTheSection) {
+TEST_F(Desk, TheWheelOverTheDifferenceZoomsBothAboutTheChainage) {
+  std::string road = "Chainage,Ground level,Design level\n";
+  for (int i = 0; i <= 100; ++i) {
+    road += std::to_string(10 * i) + "," + std::to_string(100 + i % 9) + ",101\n";
+  }
+  ASSERT_TRUE(window.Open(Write("a.csv", road)));
+  desk::DifferenceView& slave = window.Difference();
+  const CPoint at(slave.GetClientRectangle().Width() / 3, 10);
+  POINT screen = at;
+  slave.ClientToScreen(&screen);
+  const double scale = slave.GetScale();
+  const double chainage = slave.WindowToUser(at).x;
+  slave.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA), MAKELPARAM(screen.x, screen.y));
+  EXPECT_LT(slave.GetScale(), scale);
+  EXPECT_EQ(slave.GetScale(), window.Section().GetScale());
+  EXPECT_NEAR(slave.WindowToUser(at).x, chainage, 2.0 * scale);
+  EXPECT_NEAR(window.Section().WindowToUser(at).x, chainage, 2.0 * scale);
+}
+
+TEST_F(Desk, TheTableAndTheSectionFollowEachOther) {
+  ASSERT_TRUE(window.Open(Write("a.csv", "Level,Chainage\n103,30\n101,10\n102,20\n104,\n")));
+  window.Grid().GotoRow(2);
+  window.Grid().GotoRow(0);
+  EXPECT_EQ(window.StatusText(), L"Station 0+030.000   ground 103.000");
+  CWnd& section = window.Section();
+  PressKey(section, VK_LEFT);
+  EXPECT_EQ(window.Grid().GetCurrentRow(), 2);
+  PressKey(section, VK_HOME);
+  PressKey(section, VK_LEFT);
+  EXPECT_EQ(window.Grid().GetCurrentRow(), 1);
+  EXPECT_EQ(window.StatusText(), L"Station 0+010.000   ground 101.000");
+  PressKey(section, VK_END);
+  PressKey(section, VK_RIGHT);
+  EXPECT_EQ(window.Grid().GetCurrentRow(), 0);
+  window.GoToChainage(16.0);
+  EXPECT_EQ(window.Grid().GetCurrentRow(), 2);
+}
+
+TEST_F(Desk, FindsInEveryColumnAndSaysWhenThereIsNothing) {
   ASSERT_TRUE(
-      window.Open(Write("a.csv", "Chainage,Ground level,Design level\n0,100,101\n10,102,101\n20,101,101\n")));
-  ASSERT_TRUE(window.PrintToPdf((folder / "a.pdf").wstring()));
-  EXPECT_GT(std::filesystem::file_size(folder / "a.pdf"), 1000U);
-  EXPECT_FALSE(window.PrintToPdf((folder / "no folder" / "a.pdf").wstring()));
+      window.Open(Write("a.csv", "Chainage,Level,Remark\n0,101.50,nail\n1200.5,99.25,Kerb\n2,101.5,kerb\n")));
+  const auto at = [this] { return std::pair(window.Grid().GetCurrentCol(), window.Grid().GetCurrentRow()); };
+  window.Grid().GotoCell(0, 0);
+  window.Find(L"kerb");
+  EXPECT_EQ(at(), std::pair(2, 1L));
+  window.Find(L"kerb");
+  EXPECT_EQ(at(), std::pair(2, 2L));
+  window.Find(L"kerb");
+  EXPECT_EQ(at(), std::pair(2, 1L));
+  EXPECT_EQ(window.StatusText(), L"The search went on at the other end of the table.");
+  for (const wchar_t* number : {L"1,200.5", L"1200.50", L"200"}) {
+    window.Grid().GotoCell(1, 0);
+    window.Find(number);
+    EXPECT_EQ(at(), std::pair(0, 1L)) << CString(number).ToUtf8();
+  }
+  const NextWindow box([](ShownWindow& told) {
+    EXPECT_EQ(told.Title(), "Information");
+    EXPECT_EQ(told.Text(), "\"%s\" is not in the table.");
+    told.Click("OK");
+  });
+  window.Find(L"%s");
+}
+
+TEST_F(Desk, AnyExaggerationCanBeTyped) {
+  ASSERT_TRUE(window.Open(Write("a.csv", "Chainage,Level\n0,101.50\n100,102\n")));
+  window.ShowWindow(SW_SHOW);
+  const NextWindow box([](ShownWindow& dialog) {
+    EXPECT_EQ(dialog.Title(), "Long-section");
+    dialog.Type("12.5");
+    dialog.Key(VK_RETURN);
+  });
+  PressKey(window.Section(), 'E', true);
+  EXPECT_EQ(window.Section().GetExaggeration(), 12.5);
 }
 
 TEST_F(Desk, TheSectionRunsAlongTheChainageWhateverTheOrderOfRows) {

@@ -1,0 +1,296 @@
+#include <cmath>
+#include <filesystem>
+
+#include "DeskHelp.h"
+#include "DeskMemory.h"
+#include "DeskWindow.h"
+#include "PrintDialog.h"
+
+// What the desk does with files, and what it asks and tells.
+
+namespace desk {
+
+namespace {
+
+constexpr wchar_t kDeskName[] = L"Long-section desk";
+constexpr wchar_t kTables[] = L"Tables (*.csv *.txt)|*.csv;*.txt|All files|*||";
+constexpr UINT kFirstRecent = 1;
+
+std::wstring FileName(const std::wstring& path) {
+  return coreExtractFileName(path.c_str());
+}
+
+/// The same file from wherever it is opened again.
+std::wstring WholePath(const std::wstring& path) {
+  std::error_code error;
+  const std::filesystem::path whole = std::filesystem::absolute(path, error);
+  return error || path.empty() ? path : whole.lexically_normal().wstring();
+}
+
+/// The wait cursor for as long as this lives.
+class WaitCursor {
+ public:
+  WaitCursor() { ShowWaitCursor(true); }
+  ~WaitCursor() { ShowWaitCursor(false); }
+  WaitCursor(const WaitCursor&) = delete;
+  WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
+}  // namespace
+
+void DeskWindow::Tell(const std::wstring& text) {
+  m_status.Show(text, true);
+  if (m_unattended) {
+    coreStatusOut(text.c_str());
+  } else {
+    ErrorMessage(text.c_str(), this);
+  }
+}
+
+bool DeskWindow::Open(const std::wstring& path) {
+  if (m_reading) {
+    return false;
+  }
+  const std::wstring whole = WholePath(path);
+  m_opening = FileName(whole);
+  m_report = SurveyReport();
+  m_report.error = SurveyFault(whole);
+  // The lock that we hold stays when the file is read again; all others are asked for anew.
+  const bool keepLock = m_lock.IsFor(whole) && m_lock.GetState() == SurveyLock::State::held;
+  SurveyLock lock;
+  if (m_report.error.empty()) {
+    if (!keepLock) {
+      m_unattended ? lock.Look(whole) : lock.Take(whole, this);
+    }
+    m_report = Read(whole);
+  }
+  if (!m_report.error.empty()) {
+    ShowTitle();
+    Tell(whole + L": " + m_report.error);
+    return false;
+  }
+  m_path = whole;
+  if (!keepLock) {
+    m_lock = std::move(lock);
+  }
+  m_grid.EndTable(m_report.rows);
+  ShowSection();
+  m_status.Show(m_opening + L": " + m_report.Summary(), m_report.HasOddities());
+  m_status.ShowState(m_lock.Text());
+  ShowTitle();
+  if (!m_unattended) {
+    KeepSurvey(whole);
+  }
+  if (m_closeAfter) {
+    PostMessage(WM_CLOSE);
+  }
+  return true;
+}
+
+/// The windows are kept alive meanwhile: Esc and the close button stop the reading.
+SurveyReport DeskWindow::Read(const std::wstring& path) {
+  const WaitCursor wait;
+  m_reading = true;
+  m_stop = m_closeAfter = false;
+  CWnd* focus = GetFocus();
+  SetFocus();  // for Esc: disabled panes get no keys
+  EnablePanes(false);
+  SurveyReport report = ReadSurvey(path, *this);
+  m_reading = false;
+  EnablePanes(true);
+  (focus != nullptr && IsChild(focus) ? focus : this)->SetFocus();
+  return report;
+}
+
+void DeskWindow::EnablePanes(bool on) {
+  for (CWnd* pane :
+       std::initializer_list<CWnd*>{&m_commands, &m_grid, &m_section, &m_difference, &m_bar, &m_plotBar}) {
+    pane->EnableWindow(on);
+  }
+}
+
+void DeskWindow::Begin(const CsvDialect& dialect) {
+  m_grid.BeginTable(dialect);
+}
+
+void DeskWindow::Row(std::uint64_t row, const std::vector<std::wstring_view>& fields) {
+  m_grid.StoreRow(row, fields);
+}
+
+bool DeskWindow::Progress(double part) {
+  m_status.Show(L"Reading " + m_opening + L", " + std::to_wstring(static_cast<int>(part * 100.0)) +
+                L" % (Esc stops)");
+  return (m_unattended || CWinApp::PumpPending()) && !m_stop;
+}
+
+void DeskWindow::ShowTitle() {
+  std::wstring title = kDeskName;
+  if (!m_report.error.empty()) {
+    title = m_opening + L" (not read) - " + title;
+  } else if (!m_path.empty()) {
+    const bool readOnly =
+        m_lock.GetState() == SurveyLock::State::others || m_lock.GetState() == SurveyLock::State::unavailable;
+    title =
+        FileName(m_path) + L" (" + m_report.RowsText() + (readOnly ? L", read-only" : L"") + L") - " + title;
+  }
+  SetWindowText(title.c_str());
+}
+
+void DeskWindow::OpenWithDialog() {
+  CString path(m_path);
+  if (coreFileDialog(L"Open a survey", path, kTables, L"csv", true, OFN_FILEMUSTEXIST, this)) {
+    Open(path.Str());
+  }
+}
+
+void DeskWindow::OpenRecent() {
+  const std::vector<std::wstring> surveys = RecallSurveys();
+  CMenu menu;
+  menu.CreatePopupMenu();
+  UINT id = kFirstRecent;
+  for (const std::wstring& survey : surveys) {
+    CString shown(survey);
+    shown.Replace(L"&", L"&&");
+    menu.AppendMenu(MF_STRING, id, CString::Formatted(L"&%u  ", id) + shown);
+    ++id;
+  }
+  if (surveys.empty()) {
+    menu.AppendMenu(MF_STRING | MF_GRAYED, id, L"No survey was opened yet");
+  }
+  CPoint at(0, CommandBar::Height());
+  if (const CWnd* button = m_commands.GetDlgItem(111)) {
+    CRect rect;
+    button->GetWindowRect(&rect);
+    at = CPoint(rect.left, rect.bottom);
+  } else {
+    ClientToScreen(&at);
+  }
+  const int chosen = menu.TrackPopupMenu(TPM_RETURNCMD, at.x, at.y, this);
+  if (chosen >= static_cast<int>(kFirstRecent)) {
+    Open(surveys[static_cast<std::size_t>(chosen) - kFirstRecent]);
+  }
+}
+
+void DeskWindow::ReadAgain() {
+  Open(std::wstring(m_path));
+}
+
+bool DeskWindow::SaveCopy(const std::wstring& path) {
+  SurveyLock other;
+  other.Look(path);
+  if (other.GetState() == SurveyLock::State::others && !m_lock.IsFor(path)) {
+    Tell(path + L" is not written: " + other.Text() + L".");
+    return false;
+  }
+  const std::wstring what = L"Copying " + FileName(m_path) + L" to " + FileName(path);
+  if (!coreCopyFilesWithProgress(m_path.c_str(), path.c_str(), what.c_str())) {
+    m_status.Show(path + L" could not be written.", true);
+    return false;
+  }
+  m_status.Show(path + L" is written.");
+  return true;
+}
+
+void DeskWindow::SaveCopyWithDialog() {
+  const std::filesystem::path survey(m_path);
+  CString path(
+      (survey.parent_path() / (survey.stem().wstring() + L" copy" + survey.extension().wstring())).wstring());
+  const std::wstring extension = survey.extension().wstring();
+  if (coreFileDialog(L"Save a copy", path, kTables, extension.empty() ? L"" : extension.c_str() + 1, false,
+                     OFN_OVERWRITEPROMPT, this)) {
+    SaveCopy(path.Str());
+  }
+}
+
+bool DeskWindow::PrintToPdf(const std::wstring& path, const PrintChoice& choice) {
+  const WaitCursor wait;
+  CPrinterDC dc(PrintOutput::pdf, path.c_str(), choice.Page());
+  if (!m_section.HasData() || !dc.StartDoc(FileName(m_path).c_str())) {
+    return false;
+  }
+  if (!m_section.PrintSheets(dc, choice)) {
+    dc.AbortDoc();
+    return false;
+  }
+  return dc.EndDoc();
+}
+
+void DeskWindow::PrintWithDialog() {
+  PrintDialog dialog(
+      RecallPrintChoice(), [this](const PrintChoice& choice) { return m_section.CountSheets(choice); }, this);
+  if (dialog.DoModal() != IDOK) {
+    return;
+  }
+  KeepPrintChoice(dialog.Choice());
+  CString path(coreChangeFileExt(m_path.c_str(), L"pdf"));
+  if (!coreFileDialog(L"Print to PDF", path, L"PDF", L"pdf", false, OFN_OVERWRITEPROMPT, this)) {
+    return;
+  }
+  if (PrintToPdf(path.Str(), dialog.Choice())) {
+    m_status.Show(path.Str() + L" is written.");
+  } else {
+    Tell(path.Str() + L" could not be written.");
+  }
+}
+
+void DeskWindow::Find(const CString& text) {
+  m_finder.SetText(text);
+  FindAgain(false);
+}
+
+void DeskWindow::FindAgain(bool back) {
+  switch (m_finder.FindAgain(back)) {
+    case TableFinder::Result::nothingToFind:
+      FindWithDialog();
+      break;
+    case TableFinder::Result::notFound: {
+      const std::wstring text = L"\"" + m_finder.Text().Str() + L"\" is not in the table.";
+      m_status.Show(text, true);
+      if (!m_unattended) {
+        InfoMessage(text.c_str(), m_finder.Dialog() != nullptr && m_finder.Dialog()->HasWindow()
+                                      ? m_finder.Dialog()
+                                      : this);
+      }
+      break;
+    }
+    case TableFinder::Result::foundFromOtherEnd:
+      m_status.Show(L"The search went on at the other end of the table.");
+      break;
+    case TableFinder::Result::found:
+      break;
+  }
+}
+
+void DeskWindow::AskChainage() {
+  const std::vector<PNT_2D_record>& points = m_data.ground;
+  const long now = m_data.PointOfRow(m_grid.GetCurrentRow());
+  double chainage = points[static_cast<std::size_t>(std::max(now, 0L))].x;
+  if (coreGetDoubleValue(this, L"Go to", L"Chainage in metres", chainage, points.front().x, points.back().x,
+                         L"%.3f")) {
+    GoToChainage(chainage);
+  }
+}
+
+void DeskWindow::AskExaggeration() {
+  double times = m_section.GetExaggeration();
+  if (coreGetDoubleValue(this, L"Long-section", L"Vertical exaggeration", times,
+                         CommandBar::kLeastExaggeration, CommandBar::kMostExaggeration, L"%g")) {
+    m_section.SetExaggeration(times);
+  }
+  m_commands.ShowExaggeration(m_section.GetExaggeration());
+}
+
+void DeskWindow::TakeExaggeration() {
+  if (const double times = m_commands.GetExaggeration(); times > 0.0) {
+    m_section.SetExaggeration(times);
+    m_commands.ShowExaggeration(times);
+  } else {
+    AskExaggeration();
+  }
+}
+
+void DeskWindow::ShowHelp() {
+  CustomMessage(HelpText(), kDeskName, MB_OK | MB_ICONINFORMATION, this);
+}
+
+}  // namespace desk

@@ -1,0 +1,81 @@
+#include "TableFinder.h"
+
+#include <utility>
+
+namespace desk {
+
+namespace {
+
+/// How the table's store writes the number that a text means; empty when it means none.
+CString AsStored(const CString& text) {
+  const coregui::UserLocale& locale = coregui::GetUserLocale();
+  CString digits = text;
+  digits.Replace(locale.thousands, L"");
+  const wchar_t decimal = locale.decimal.IsEmpty() ? L'.' : locale.decimal[0];
+  double value = 0.0;
+  if (!ParseNumber(digits.GetString(), decimal, value)) {
+    return {};
+  }
+  CGridCell cell;
+  cell.SetPropertyFlags(0);
+  cell.SetNumber(value);
+  return cell.GetText();
+}
+
+}  // namespace
+
+void TableFinder::OpenDialog(CWnd* owner) {
+  if (m_dialog != nullptr && m_dialog->HasWindow()) {
+    m_dialog->SetActiveWindow();
+    return;
+  }
+  const DWORD flags =
+      (m_up ? 0U : FR_DOWN) | (m_matchCase ? FR_MATCHCASE : 0U) | (m_wholeCell ? FR_WHOLEWORD : 0U);
+  m_dialog = std::make_unique<CFindReplaceDialog>();
+  m_dialog->Create(TRUE, m_text, L"", flags, owner);
+}
+
+bool TableFinder::TakeFromDialog(LPARAM lParam) {
+  const CFindReplaceDialog* dialog = CFindReplaceDialog::GetNotifier(lParam);
+  m_text = dialog->GetFindString();
+  m_matchCase = dialog->MatchCase() != FALSE;
+  m_wholeCell = dialog->MatchWholeWord() != FALSE;
+  m_up = dialog->SearchDown() == FALSE;
+  return dialog->FindNext() != FALSE;
+}
+
+std::optional<TableFinder::Place> TableFinder::Search(const CString& text, const Place& from, bool up) {
+  const int flags =
+      FIND_ALLCOLS | (m_wholeCell ? 0 : FIND_PARTIAL) | (m_matchCase ? 0 : FIND_NOCASE) | (up ? FIND_UP : 0);
+  Place found = from;
+  CString wanted = text;  // a search that ignores the case changes it
+  if (m_grid.FindNext(&wanted, &found.col, &found.row, flags) != 0) {
+    return std::nullopt;
+  }
+  return found;
+}
+
+TableFinder::Result TableFinder::FindAgain(bool back) {
+  if (m_text.IsEmpty()) {
+    return Result::nothingToFind;
+  }
+  const bool up = m_up != back;
+  const Place from{m_grid.GetCurrentRow(), m_grid.GetCurrentCol()};
+  const auto isAhead = [&](const Place& place) { return up ? place < from : place > from; };
+  std::optional<Place> found = Search(m_text, from, up);
+  if (const CString stored = AsStored(m_text); !stored.IsEmpty() && stored != m_text) {
+    const std::optional<Place> number = Search(stored, from, up);
+    // What comes first: ahead before what is found from the other end, then in the search's direction.
+    const bool better =
+        number && found &&
+        (isAhead(*number) != isAhead(*found) ? isAhead(*number) : (up ? *number > *found : *number < *found));
+    found = !found || better ? number : found;
+  }
+  if (!found) {
+    return Result::notFound;
+  }
+  m_grid.GotoCell(found->col, found->row);
+  return isAhead(*found) ? Result::found : Result::foundFromOtherEnd;
+}
+
+}  // namespace desk

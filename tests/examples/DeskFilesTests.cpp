@@ -1,0 +1,237 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "DeskApp.h"
+#include "DeskMemory.h"
+#include "DeskWindow.h"
+#include "tests/support/Hand.h"
+#include "tests/support/LogWatch.h"
+#include "tests/support/ShownWindow.h"
+#include "tests/support/TestEnvironment.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using coregui::test::ExpectLog;
+using coregui::test::NextWindow;
+using coregui::test::NoWindow;
+using coregui::test::ShownWindow;
+
+constexpr char kSurvey[] = "Chainage,Ground level,Design level\n0,100,101\n10,102,101\n20,101,101\n";
+
+class DeskFiles : public testing::Test {
+ protected:
+  DeskFiles() {
+    fs::create_directories(folder);
+    EXPECT_TRUE(window.CreateDesk(CSize(1000, 700)));
+  }
+  ~DeskFiles() override {
+    window.SendMessage(WM_CLOSE);
+    EXPECT_FALSE(window.HasWindow());
+    fs::remove_all(folder);
+  }
+
+  std::wstring Write(const std::string& name, const std::string& bytes = kSurvey) const {
+    std::ofstream(folder / name, std::ios::binary) << bytes;
+    return (folder / name).wstring();
+  }
+  std::string Read(const std::string& name) const {
+    std::ostringstream bytes;
+    bytes << std::ifstream(folder / name, std::ios::binary).rdbuf();
+    return bytes.str();
+  }
+  bool Has(const std::string& name) const { return fs::exists(folder / name); }
+
+  fs::path folder = fs::path(coregui::test::ScratchFolder()) / "deskfiles";
+  desk::DeskWindow window;
+};
+
+TEST_F(DeskFiles, TheLockGoesWithTheSurveyThatIsOpen) {
+  const std::wstring a = Write("a.csv");
+  const std::wstring b = Write("b.csv");
+  const std::string own = "tester," + CString::Formatted(L"%X", GetMachineSerial()).ToUtf8() + "\n";
+  ASSERT_TRUE(window.Open(a));
+  EXPECT_EQ(Read("a.lck"), own);
+  ASSERT_TRUE(window.Open(a));
+  EXPECT_EQ(Read("a.lck"), own);
+  ASSERT_TRUE(window.Open(b));
+  EXPECT_FALSE(Has("a.lck"));
+  EXPECT_EQ(window.StateText(), L"locked for you");
+  for (const char* bad : {"missing.csv", "empty.csv"}) {
+    Write("empty.csv", "");
+    const NextWindow box([](ShownWindow& told) { told.Click("OK"); });
+    EXPECT_FALSE(window.Open((folder / bad).wstring()));
+  }
+  EXPECT_FALSE(Has("missing.lck") || Has("empty.lck"));
+  EXPECT_TRUE(Has("b.lck"));
+  window.SendMessage(WM_CLOSE);
+  EXPECT_FALSE(Has("b.lck"));
+}
+
+TEST_F(DeskFiles, WhatSomebodyElseHoldsIsOpenedForLookingOnly) {
+  const std::wstring path = Write("a.csv");
+  Write("a.lck", "mary,1\n");
+  {
+    const NextWindow box([&](ShownWindow& told) {
+      EXPECT_EQ(told.Text(),
+                "Data file " + CString(path).ToUtf8() + "\nis marked as read-only.\nIn use by mary");
+      told.Click("OK");
+    });
+    ASSERT_TRUE(window.Open(path));
+  }
+  EXPECT_EQ(window.StateText(), L"read-only: in use by mary");
+  EXPECT_EQ(window.GetWindowTextString(), L"a.csv (3 rows, read-only) - Long-section desk");
+  // It is ours once she has let it go and it is read again.
+  fs::remove(folder / "a.lck");
+  ASSERT_TRUE(window.Open(path));
+  EXPECT_EQ(window.StateText(), L"locked for you");
+  EXPECT_TRUE(window.Open(Write("b.csv")));
+  EXPECT_FALSE(Has("a.lck"));
+}
+
+TEST_F(DeskFiles, ALockThatCannotBeMadeOrTakenIsNoObstacle) {
+  const std::wstring path = Write("a.csv");
+  fs::create_symlink(folder / "nowhere" / "x", folder / "a.lck");  // cannot be created, even by root
+  ExpectLog(L"... Unable to create lock file");
+  ASSERT_TRUE(window.Open(path));
+  EXPECT_EQ(window.StateText(), L"read-only: no lock can be made here");
+  // A lock file read as a table is not its own lock, which closing it would delete.
+  const std::string own = "tester," + CString::Formatted(L"%X", GetMachineSerial()).ToUtf8() + "\n";
+  ASSERT_TRUE(window.Open(Write("c.lck", own)));
+  ASSERT_TRUE(window.Open(Write("b.csv")));
+  EXPECT_EQ(Read("c.lck"), own);
+}
+
+TEST_F(DeskFiles, AnUnattendedDeskShowsNoBoxAndLeavesNothingBehind) {
+  const NoWindow none;
+  window.SetUnattended();
+  Write("a.lck", "mary,1\n");
+  EXPECT_TRUE(window.Open(Write("a.csv")));
+  EXPECT_EQ(window.StateText(), L"read-only: in use by mary");
+  EXPECT_TRUE(window.Open(Write("b.csv")));
+  EXPECT_FALSE(Has("b.lck"));
+  ExpectLog(L"The file does not exist.");
+  EXPECT_FALSE(window.Open((folder / "missing.csv").wstring()));
+  window.Find(L"not there");
+  window.SendMessage(WM_CLOSE);
+  EXPECT_TRUE(desk::RecallSurveys().empty());
+  EXPECT_FALSE(desk::RecallPlace().has_value());
+}
+
+TEST_F(DeskFiles, ACopyIsMadeUnlessSomebodyHoldsItsPlace) {
+  ASSERT_TRUE(window.Open(Write("a.csv")));
+  {
+    const NextWindow progress([](ShownWindow& shown) {
+      EXPECT_THAT(
+          shown.Window()->GetDlgItem(CFileCopyProgressDlg::kDescriptionId)->GetWindowTextString().ToUtf8(),
+          testing::HasSubstr("a.csv"));
+      shown.Window()->SendMessage(WM_TIMER, CFileCopyProgressDlg::kStartTimer);
+      shown.Window()->SendMessage(WM_TIMER, CFileCopyProgressDlg::kCloseTimer);
+    });
+    EXPECT_TRUE(window.SaveCopy((folder / "copy.csv").wstring()));
+  }
+  EXPECT_EQ(Read("copy.csv"), kSurvey);
+  Write("copy.csv", "hers");
+  Write("copy.lck", "mary,1\n");
+  const NextWindow box([](ShownWindow& told) {
+    EXPECT_THAT(told.Text(), testing::HasSubstr("in use by mary"));
+    told.Click("OK");
+  });
+  EXPECT_FALSE(window.SaveCopy((folder / "copy.csv").wstring()));
+  EXPECT_EQ(Read("copy.csv"), "hers");
+}
+
+TEST_F(DeskFiles, PrintsOnePageOrToScaleOnSeveral) {
+  std::string road = "Chainage,Ground level,Design level\n";
+  for (int i = 0; i <= 400; ++i) {
+    road += std::to_string(i) + "," + std::to_string(100 + i % 7) + ",101\n";
+  }
+  ASSERT_TRUE(window.Open(Write("a.csv", road)));
+  const auto pages = [this](const char* name) {
+    const std::string bytes = Read(name);
+    int count = 0;
+    for (auto at = bytes.find("/Type /Page\n"); at != std::string::npos;
+         at = bytes.find("/Type /Page\n", at + 1)) {
+      ++count;
+    }
+    return count;
+  };
+  ASSERT_TRUE(window.PrintToPdf((folder / "one.pdf").wstring()));
+  EXPECT_EQ(pages("one.pdf"), 1);
+  desk::PrintChoice choice;
+  choice.toScale = true;
+  // A3 shows some 370 mm of the road, which is 185 m at 1:500, and repeats 10 mm of it.
+  EXPECT_EQ(window.Section().CountSheets(choice), 3);
+  const CRect margins = window.Section().GetMapping().margins;
+  ASSERT_TRUE(window.PrintToPdf((folder / "scale.pdf").wstring(), choice));
+  EXPECT_EQ(pages("scale.pdf"), 3);
+  EXPECT_EQ(window.Section().GetMapping().margins, margins);
+  choice.horizontal = 1.0;
+  choice.vertical = 0.5;
+  choice.paper = 0;
+  EXPECT_EQ(window.Section().CountSheets(choice), 0);  // above ten thousand
+  EXPECT_FALSE(window.PrintToPdf((folder / "none.pdf").wstring(), choice));
+  EXPECT_FALSE(Has("none.pdf"));
+  EXPECT_FALSE(window.PrintToPdf((folder / "no folder" / "a.pdf").wstring()));
+}
+
+TEST_F(DeskFiles, RemembersSurveysSharesAndPlace) {
+  for (int i = 0; i < 11; ++i) {
+    ASSERT_TRUE(window.Open(Write("s" + std::to_string(i) + ".csv")));
+  }
+  ASSERT_TRUE(window.Open((folder / "s5.csv").wstring()));
+  const std::vector<std::wstring> surveys = desk::RecallSurveys();
+  ASSERT_EQ(surveys.size(), 9U);
+  EXPECT_EQ(surveys[0], (folder / "s5.csv").wstring());
+  EXPECT_EQ(surveys[1], (folder / "s10.csv").wstring());
+  EXPECT_EQ(surveys[8], (folder / "s2.csv").wstring());
+
+  desk::DeskLayout layout;
+  layout.gridShare = 0.3333;
+  desk::KeepShares(layout);
+  layout = desk::DeskLayout();
+  desk::RecallShares(layout);
+  EXPECT_DOUBLE_EQ(layout.gridShare, 0.3333);
+  coregui::Profile::Get().WriteString(L"Window", L"GridShare", L"99999999");
+  desk::RecallShares(layout);
+  EXPECT_DOUBLE_EQ(layout.gridShare, 0.9);
+  desk::KeepPlace({CRect(CPoint(90000, -90000), CSize(90000, 400)), true});
+  const auto place = desk::RecallPlace();
+  ASSERT_TRUE(place.has_value());
+  const CRect screen(0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN));
+  EXPECT_EQ(place->rect, CRect(0, 0, screen.right, 400));
+  EXPECT_TRUE(place->maximised);
+}
+
+TEST(DeskArguments, AreUnderstoodOrRefused) {
+  const auto parse = [](std::vector<const char*> arguments) {
+    arguments.insert(arguments.begin(), "desk");
+    return desk::ParseArguments(static_cast<int>(arguments.size()), arguments.data(), L"own.csv");
+  };
+  const desk::DeskOptions plain = parse({});
+  EXPECT_TRUE(plain.ok);
+  EXPECT_FALSE(plain.IsUnattended());
+  EXPECT_EQ(plain.file, L"own.csv");
+  const desk::DeskOptions print = parse({"a.csv", "--pdf", "a.pdf", "--scale", "250:12.5", "--paper", "a1"});
+  EXPECT_TRUE(print.ok && print.IsUnattended() && print.print.toScale);
+  EXPECT_EQ(print.file, L"a.csv");
+  EXPECT_EQ(print.print.horizontal, 250.0);
+  EXPECT_EQ(print.print.vertical, 12.5);
+  EXPECT_EQ(print.print.Page().width, 841.0);
+  for (const std::vector<const char*>& bad : {std::vector<const char*>{"--what", "1"},
+                                              {"--png"},
+                                              {"--size", "0x100"},
+                                              {"--size", "a lot"},
+                                              {"--scale", "500"},
+                                              {"--scale", "0:50"},
+                                              {"--scale", "nan:50"},
+                                              {"--paper", "B5"}}) {
+    EXPECT_FALSE(parse(bad).ok) << bad[0] << " " << bad.back();
+  }
+}
+
+}  // namespace
