@@ -71,12 +71,14 @@ PaintedWindow::PaintedWindow(CWnd& window, const CREATESTRUCT& create,
       m_surface(surface),
       m_target(std::make_shared<RasterTarget>(surface)) {
   m_surface->onDamage = [this] { Pump::Get().QueueExposure(this); };
+  m_surface->onMove = [this](const CRect& to, int dx, int dy) { return MoveShown(to, dx, dy); };
   FitSurface(SizeOf(create), QtWindow::Scale());
   PaintedWindow::StyleChanged();
 }
 
 PaintedWindow::~PaintedWindow() {
   m_surface->onDamage = nullptr;
+  m_surface->onMove = nullptr;
 }
 
 void PaintedWindow::FitSurface(CSize size, double scale) {
@@ -122,10 +124,44 @@ void PaintedWindow::NoteWidgetSize() {
 }
 
 void PaintedWindow::Expose(const CRect& /*rect*/) {
-  const CRect damage = m_surface->TakeDamage();
-  if (!damage.IsRectEmpty()) {
-    QtWindow::Expose(damage);
+  ShowDamage(false);
+}
+
+void PaintedWindow::ShowDamage(bool now) {
+  constexpr std::size_t most = 8;  // pieces that are cheaper shown one by one
+  std::vector<CRect> pieces = m_surface->TakeDamage();
+  if (pieces.size() > most) {
+    CRect all;
+    for (const CRect& piece : pieces) all.UnionRect(all, piece);
+    pieces = {all};
   }
+  for (std::size_t i = 0; i < pieces.size(); ++i) {
+    QtWindow::Expose(pieces[i], now && i + 1 == pieces.size());
+  }
+}
+
+bool PaintedWindow::MoveShown(const CRect& to, int dx, int dy) {
+  QWidget* widget = GetWidget();
+  const int scale = static_cast<int>(m_surface->Scale());
+  const auto isWhole = [scale](LONG dots) { return dots % scale == 0; };
+  if (widget == nullptr || !widget->isVisible() || scale != m_surface->Scale() ||
+      !(isWhole(to.left) && isWhole(to.top) && isWhole(to.right) && isWhole(to.bottom) && isWhole(dx) &&
+        isWhole(dy))) {
+    return false;
+  }
+  CRect from = to;
+  from.OffsetRect(-dx, -dy);
+  CRect both;
+  both.UnionRect(from, to);
+  const QRect area(both.left / scale, both.top / scale, both.Width() / scale, both.Height() / scale);
+  // The toolkit would take the pixels of its children along.
+  for (const QObject* child : widget->children()) {
+    const auto* above = qobject_cast<const QWidget*>(child);
+    if (above != nullptr && above->isVisible() && above->geometry().intersects(area)) return false;
+  }
+  ShowDamage(false);  // what is not shown yet moves too
+  widget->scroll(dx / scale, dy / scale, area);
+  return true;
 }
 
 bool PaintedWindow::MovePixels(const CRect& rect, const CRect& clip, int dx, int dy) {

@@ -17,6 +17,7 @@ class PaintedWindow : public QtWindow {
   std::shared_ptr<DrawTarget> Target() override { return m_target; }
   double Scale() const override { return m_surface->Scale(); }
   void Expose(const CRect& rect) override;
+  void ShowDamage(bool now) override;
   bool MovePixels(const CRect& rect, const CRect& clip, int dx, int dy) override;
   void PrintTo(CDC& dc) override;
 
@@ -29,6 +30,8 @@ class PaintedWindow : public QtWindow {
  private:
   PaintedWindow(CWnd& window, const CREATESTRUCT& create, const std::shared_ptr<Surface>& surface);
   void FitSurface(CSize size, double scale);
+  /// Has the toolkit move what it shows as the surface did. False where it cannot.
+  bool MoveShown(const CRect& to, int dx, int dy);
 
   std::shared_ptr<Surface> m_surface;
   std::shared_ptr<RasterTarget> m_target;

@@ -107,8 +107,10 @@ void Pump::QueueExposure(QtWindow* window) {
 }
 
 void Pump::Show() {
-  for (const QPointer<QtWindow>& window : std::exchange(m_exposures, {})) {
-    if (window != nullptr) window->Expose(CRect());
+  // The last one takes the others along: one pass of the toolkit, and none that it has to be woken for.
+  const std::vector<QPointer<QtWindow>> windows = std::exchange(m_exposures, {});
+  for (const QPointer<QtWindow>& window : windows) {
+    if (window != nullptr) window->ShowDamage(&window == &windows.back());
   }
 }
 

@@ -244,7 +244,18 @@ void QtWindow::timerEvent(QTimerEvent* event) {
 }
 
 void QtWindow::Expose(const CRect& rect) {
-  if (m_widget != nullptr) m_widget->update(ToQt(rect));
+  Expose(rect, false);
+}
+
+void QtWindow::Expose(const CRect& rect, bool now) {
+  if (m_widget == nullptr) {
+    return;
+  }
+  if (now) {
+    m_widget->repaint(ToQt(rect));
+  } else {
+    m_widget->update(ToQt(rect));
+  }
 }
 
 bool QtWindow::MovePixels(const CRect& /*rect*/, const CRect& clip, int /*dx*/, int /*dy*/) {

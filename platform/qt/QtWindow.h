@@ -62,6 +62,9 @@ class QtWindow : public QObject, public NativeWindow {
   void StopTimer(UINT id) override;
   std::shared_ptr<DrawTarget> Target() override { return nullptr; }
   void Expose(const CRect& rect) override;
+  /// Shows what changed on the surface since the last call: now, with all else that waits to be shown, or
+  /// with the next thing that is.
+  virtual void ShowDamage(bool /*now*/) {}
   bool MovePixels(const CRect& rect, const CRect& clip, int dx, int dy) override;
   void PrintTo(CDC& dc) override;
   bool DefaultMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
@@ -80,6 +83,8 @@ class QtWindow : public QObject, public NativeWindow {
   /// The widget's scale may have changed.
   virtual void NoteScale() {}
   virtual void NoteWidgetSize() {}
+  /// Has the toolkit paint this part of the widget, at once or at its next chance.
+  void Expose(const CRect& rect, bool now);
 
  private:
   friend class EventRoad;

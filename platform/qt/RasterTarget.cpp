@@ -63,6 +63,10 @@ bool RasterTarget::DrawsHard(const DrawAttributes& with) const {
 }
 
 void RasterTarget::FillDots(const CRect& dots, std::uint32_t colour, int rop) {
+  if (rop == R2_COPYPEN && m_surface->Recolour(dots, colour)) {
+    m_surface->Damage(dots);
+    return;
+  }
   const int width = dots.Width();
   std::uint32_t* row = m_surface->Row(dots.top) + dots.left;
   for (int y = dots.top; y < dots.bottom; ++y, row += m_surface->Stride()) {
@@ -345,6 +349,10 @@ bool RasterTarget::Copy(const DrawAttributes& with, const CRect& to, DrawTarget&
   readable.OffsetRect(-shiftX, -shiftY);
   CRect target;
   if (!target.IntersectRect(whole, readable)) {
+    return true;
+  }
+  if (&other == m_surface.get() && with.clip.region == nullptr && !exclusiveOr) {
+    if (target.IntersectRect(target, with.clip.box)) m_surface->MoveDots(target, -shiftX, -shiftY);
     return true;
   }
   // Within one surface the rows are taken in the order in which none is overwritten before it was read.

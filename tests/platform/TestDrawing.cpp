@@ -4,6 +4,8 @@
 
 #include <cmath>
 #include <limits>
+#include <random>
+#include <vector>
 
 #include "platform/CDC.h"
 #include "platform/qt/BitmapData.h"
@@ -314,19 +316,75 @@ TEST(SurfaceMemory, Resize_KeepsTheCommonPartAndOldContextsInBounds) {
   EXPECT_EQ(grown.GetPixel(59, 39), white);
 }
 
-TEST(SurfaceDamage, Damage_AsksForOneExposureUntilTaken) {
-  const auto surface = std::make_shared<coregui::Surface>(CSize(50, 50), 1.25);
+TEST(SurfaceMemory, OneColour_LastsUntilSomethingElseIsDrawn) {
+  const auto surface = std::make_shared<coregui::Surface>(CSize(300, 300), 1.0);
+  SurfaceDC dc(surface);
+  dc.FillSolidRect(CRect(0, 0, 300, 300), RGB(1, 2, 3));
+  surface->Resize(CSize(400, 200), 1.0);
+  SurfaceDC wider(surface);
+  EXPECT_EQ(wider.GetPixel(399, 199), RGB(1, 2, 3));
+  dc.FillSolidRect(CRect(0, 0, 300, 200), red);
+  EXPECT_EQ(wider.GetPixel(299, 199), red);
+  EXPECT_EQ(wider.GetPixel(300, 199), RGB(1, 2, 3)) << "not all of it was filled";
+  surface->Resize(CSize(400, 210), 1.0);
+  EXPECT_EQ(SurfaceDC(surface).GetPixel(5, 205), white);
+}
+
+/// Held against moving dots one by one. The picture is large enough to slide along its memory.
+TEST(SurfaceMemory, Moves_AreThoseOfPlainMemory) {
+  constexpr int width = 300;
+  constexpr int height = 200;
+  const auto surface = std::make_shared<coregui::Surface>(CSize(width, height), 1.0);
+  SurfaceDC dc(surface);
+  std::vector<std::uint32_t> plain(width * height, 0xFFFFFFFF);
+  std::mt19937 random(20);
+  const auto any = [&random](int from, int to) {
+    return std::uniform_int_distribution<int>(from, to)(random);
+  };
+  for (int step = 0; step < 400; ++step) {
+    const int dx = any(0, 3) == 0 ? any(-20, 20) : 0;
+    const int dy = any(-60, 60);
+    CRect area(any(0, 3) == 0 ? any(0, 100) : 0, any(0, 40), width, height - any(0, 40));
+    const CRect dot(any(0, width - 40), any(0, height - 1), width, height);
+    const COLORREF colour = RGB(any(0, 255), any(0, 255), 0);
+    dc.FillSolidRect(dot, colour);
+    for (int y = dot.top; y < height; ++y) {
+      for (int x = dot.left; x < width; ++x) {
+        plain[static_cast<std::size_t>(y * width + x)] = coregui::Opaque(colour);
+      }
+    }
+    ASSERT_TRUE(surface->MovePixels(area, dx, dy, area));
+    const std::vector<std::uint32_t> before = plain;
+    for (int y = area.top; y < area.bottom; ++y) {
+      for (int x = area.left; x < area.right; ++x) {
+        if (area.PtInRect(CPoint(x - dx, y - dy))) {
+          plain[static_cast<std::size_t>(y * width + x)] =
+              before[static_cast<std::size_t>((y - dy) * width + x - dx)];
+        }
+      }
+    }
+    for (int y = 0; y < height; ++y) {
+      ASSERT_TRUE(std::equal(surface->Row(y), surface->Row(y) + width, plain.begin() + y * width))
+          << "step " << step << ", row " << y << ", by " << dx << ',' << dy;
+    }
+  }
+}
+
+TEST(SurfaceDamage, Damage_AsksForOneExposureUntilTakenAndKeepsFarPiecesApart) {
+  const auto surface = std::make_shared<coregui::Surface>(CSize(500, 500), 2.0);
   int asked = 0;
   surface->onDamage = [&asked] { ++asked; };
   SurfaceDC dc(surface);
   dc.FillSolidRect(CRect(3, 3, 5, 5), red);
-  dc.MoveTo(10, 10);
-  dc.LineTo(20, 10);
+  dc.MoveTo(10, 7);
+  dc.LineTo(20, 7);
+  EXPECT_EQ(surface->TakeDamage(), std::vector<CRect>{CRect(3, 3, 20, 8)});
   EXPECT_EQ(asked, 1);
-  const CRect damage = surface->TakeDamage();
-  EXPECT_TRUE(damage.left <= 3 && damage.top <= 3 && damage.right >= 20 && damage.bottom >= 11);
-  EXPECT_EQ(surface->TakeDamage(), CRect());
-  dc.TextOut(5, 5, L"a", 1);
+  EXPECT_TRUE(surface->TakeDamage().empty());
+  dc.FillSolidRect(CRect(0, 0, 500, 20), red);
+  dc.FillSolidRect(CRect(400, 300, 410, 490), red);
+  EXPECT_EQ(surface->TakeDamage(), (std::vector<CRect>{CRect(0, 0, 500, 24), CRect(400, 296, 410, 490)}))
+      << "whole bands, within what was drawn on";
   EXPECT_EQ(asked, 2);
 }
 

@@ -159,7 +159,7 @@ TEST(ComboBox, ItemsAreDrawnByTheOwner) {
   const QRect second = view->visualRect(view->model()->index(1, 0));
   EXPECT_EQ(second.height(), 31);
   const QImage picture = view->viewport()->grab().toImage();
-  EXPECT_EQ(picture.pixelColor(second.center()), QColor(10, 0, 200));
+  EXPECT_EQ(picture.pixelColor(second.center() * picture.devicePixelRatio()), QColor(10, 0, 200));
   combo.ShowDropDown(FALSE);
 }
 

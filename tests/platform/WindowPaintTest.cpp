@@ -1,19 +1,23 @@
 #include <gtest/gtest.h>
 
+#include <QBackingStore>
 #include <QColor>
 #include <QImage>
 #include <QWidget>
+#include <cmath>
 #include <cstdlib>
+#include <random>
 #include <string>
 
 #include "platform/CDC.h"
 #include "platform/CWinApp.h"
 #include "platform/System.h"
 #include "platform/WindowState.h"
+#include "platform/qt/RasterTarget.h"
 #include "platform/qt/interop.h"
 #include "tests/platform/LogWindow.h"
 
-// Everything here holds at any scale: the run at scale 2 repeats it.
+// Everything here holds at any scale: the runs at other scales repeat it.
 
 using coregui::WidgetOf;
 using coregui::test::LogWindow;
@@ -153,6 +157,88 @@ TEST_F(WindowPaint, AResizeKeepsThePixelsUntilTheNewPaint) {
   EXPECT_EQ(window.At(135, 115), Striped::ColourOf(111));
 }
 
+/// What the toolkit shows of a window on the screen, against the pixels of the windows themselves.
+class WindowShown : public testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(window.Create(L"", L"", WS_POPUP | WS_VISIBLE, CRect(10, 10, 410, 310), nullptr, 0));
+    // Places between the dots of a screen with a fractional scale, and a window over the scrolled one.
+    const CRect places[] = {CRect(3, 5, 204, 291), CRect(205, 5, 396, 120), CRect(150, 200, 250, 270)};
+    for (std::size_t i = 0; i < std::size(places); ++i) {
+      ASSERT_TRUE(children[i].Create(L"", L"", WS_CHILD | WS_VISIBLE, places[i], &window, 0));
+      children[i].first = static_cast<int>(i) * 50;
+    }
+    CWinApp::PumpPending();
+  }
+  /// The number of dots that differ, but for those of the first two that lie below the third. Between two
+  /// dots of the screen the last dot of a window may be cut off.
+  int WrongDots() {
+    CWinApp::PumpPending();
+    const auto* screen = dynamic_cast<QImage*>(WidgetOf(&window)->backingStore()->paintDevice());
+    if (screen == nullptr) return -1;
+    const QImage shown = screen->copy();
+    int wrong = 0;
+    CRect above = children[2].State().look.rect;
+    above.InflateRect(1, 1);
+    for (const Striped& child : children) {
+      const CRect place = child.State().look.rect;
+      const auto* target = dynamic_cast<const coregui::RasterTarget*>(child.State().native->Target().get());
+      const QImage own = target->Pixels()->Snapshot();
+      const double scale = target->Scale();
+      const int left = static_cast<int>(std::floor(place.left * scale + 0.5));
+      const int top = static_cast<int>(std::floor(place.top * scale + 0.5));
+      for (int y = top; y < top + static_cast<int>(place.Height() * scale); ++y) {
+        for (int x = left; x < left + static_cast<int>(place.Width() * scale); ++x) {
+          const CPoint at(static_cast<LONG>(x / scale), static_cast<LONG>(y / scale));
+          if (&child != &children[2] && above.PtInRect(at)) continue;
+          wrong += shown.pixel(x, y) == own.pixel(x - left, y - top) ? 0 : 1;
+        }
+      }
+    }
+    return wrong;
+  }
+  Striped window;
+  Striped children[3];
+};
+
+TEST_F(WindowShown, EveryDotOfASurfaceIsThatOfTheScreenAfterAnyDrawing) {
+  EXPECT_EQ(WrongDots(), 0);
+  std::mt19937 random(7);
+  const auto any = [&random](int from, int to) {
+    return std::uniform_int_distribution<int>(from, to)(random);
+  };
+  for (int step = 0; step < 60; ++step) {
+    Striped& child = children[any(0, 2)];
+    const CRect client = child.GetClientRectangle();
+    const int x = any(0, client.Width() - 1);
+    const int y = any(0, client.Height() - 1);
+    switch (any(0, 3)) {
+      case 0: {
+        CClientDC dc(&child);
+        dc.FillSolidRect(CRect(x, y, x + any(1, 90), y + any(1, 5)), RGB(step, 0, any(0, 255)));
+        dc.FillSolidRect(CRect(y, x, y + 1, x + 1), kRed);
+        break;
+      }
+      case 1: {
+        CClientDC dc(&child);
+        dc.BitBlt(0, 0, client.Width(), client.Height() - 20, &dc, 0, 20, SRCCOPY);
+        break;
+      }
+      case 2: {
+        const CRect part(any(0, 1) * x / 2, y / 2, client.right, client.bottom);
+        child.ScrollWindow(any(0, 2) == 0 ? any(-9, 9) : 0, any(-40, 40), &part, &part);
+        break;
+      }
+      default:
+        child.first = any(0, 200);
+        child.RedrawWindow();
+        break;
+    }
+    if (any(0, 2) == 0) continue;  // the next drawing comes before this one is shown
+    ASSERT_EQ(WrongDots(), 0) << "step " << step;
+  }
+}
+
 struct ScrollRow {
   const char* name;
   int dx;
@@ -179,15 +265,20 @@ TEST_P(WindowScroll, MovesPixelsUncoversABandAndCarriesThePendingRegion) {
   if (!row.pending.IsRectEmpty()) window.InvalidateRect(&row.pending, FALSE);
   window.ScrollWindow(row.dx, row.dy, row.rect.IsRectEmpty() ? nullptr : &row.rect,
                       row.clip.IsRectEmpty() ? nullptr : &row.clip);
-  EXPECT_EQ(Update(), row.update);
   const CRect client(0, 0, 100, 100);
   const CRect area = row.rect.IsRectEmpty() ? client : row.rect;
   const CRect clip = row.clip.IsRectEmpty() ? area : row.clip;
+  // Pixels are not moved by a part of a dot; what they would have reached is painted.
+  const double scale = window.GetScaleFactor();
+  const bool moves = std::fmod(row.dx * scale, 1.0) == 0.0 && std::fmod(row.dy * scale, 1.0) == 0.0;
+  CRect update = row.update;
+  if (!moves) update.UnionRect(update, clip);
+  EXPECT_EQ(Update(), update);
   int wrong = 0;
   for (int y = 0; y < 100; ++y) {
     for (int x = 0; x < 100; ++x) {
       const CPoint from(x - row.dx, y - row.dy);
-      const bool moved = clip.PtInRect(CPoint(x, y)) && area.PtInRect(from) && client.PtInRect(from);
+      const bool moved = moves && clip.PtInRect(CPoint(x, y)) && area.PtInRect(from) && client.PtInRect(from);
       wrong += window.At(x, y) == (moved ? before[from.y][from.x] : before[y][x]) ? 0 : 1;
     }
   }
@@ -217,12 +308,16 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& row) { return row.param.name; });
 
 TEST_F(WindowPaint, AScrollAndItsPaintGiveTheScrolledPicture) {
-  window.ScrollWindow(0, -30);
-  window.first = 3;
-  CWinApp::PumpPending();
-  EXPECT_EQ(window.painted, CRect(0, 70, 100, 100));
-  for (int row = 0; row < 10; ++row)
-    EXPECT_EQ(window.At(50, row * 10 + 5), Striped::ColourOf(3 + row)) << row;
+  for (const int first : {4, 5}) {  // whole dots at the usual scales, and not
+    const int distance = first == 4 ? 40 : 10;
+    const bool whole = std::fmod(distance * window.GetScaleFactor(), 1.0) == 0.0;
+    window.ScrollWindow(0, -distance);
+    window.first = first;
+    CWinApp::PumpPending();
+    EXPECT_EQ(window.painted, CRect(0, whole ? 100 - distance : 0, 100, 100));
+    for (int row = 0; row < 10; ++row)
+      EXPECT_EQ(window.At(50, row * 10 + 5), Striped::ColourOf(first + row)) << row;
+  }
 }
 
 TEST_F(WindowPaint, TheDefaultErasesWithTheWindowColour) {
@@ -272,7 +367,8 @@ TEST(WindowBorder, IsOnePixelRoundTheEdgeUnlessThereIsACaption) {
   const auto at = [&](int x, int y) {
     const QImage picture = WidgetOf(&window)->grab().toImage();
     const double scale = picture.devicePixelRatio();
-    return picture.pixelColor(static_cast<int>(x * scale), static_cast<int>(y * scale));
+    return picture.pixelColor(static_cast<int>(std::lround(x * scale)),
+                              static_cast<int>(std::lround(y * scale)));
   };
   EXPECT_EQ(at(10, 10), QColor(Qt::white));
   child.ModifyStyle(0, WS_BORDER);
