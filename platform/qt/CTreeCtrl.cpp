@@ -30,6 +30,15 @@ class TreeWidget : public QTreeWidget {
     painter.drawText(viewport()->rect().adjusted(kMargin, kMargin, -kMargin, -kMargin),
                      Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
   }
+  /// The style draws the edge of a check box in a darker shade of the window's colour, which cannot be seen
+  /// on dark ground.
+  void initViewItemOption(QStyleOptionViewItem* option) const override {
+    QTreeWidget::initViewItemOption(option);
+    constexpr int kDark = 128;
+    if (palette().color(QPalette::Base).lightness() < kDark) {
+      option->palette.setColor(QPalette::Window, palette().color(QPalette::PlaceholderText));
+    }
+  }
 
  private:
   QString m_emptyText;

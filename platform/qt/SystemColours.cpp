@@ -130,7 +130,7 @@ void ShowCheckBoxesOnDark() {
   QPalette palette = QApplication::palette();
   palette.setResolveMask(0);
   palette.setColor(QPalette::Window, edge);
-  for (const char* widgets : {"QCheckBox", "QRadioButton", "QTreeView"}) {
+  for (const char* widgets : {"QCheckBox", "QRadioButton"}) {
     QApplication::setPalette(palette, widgets);
   }
 }
