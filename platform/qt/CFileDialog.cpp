@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
+#include <QTreeView>
 
 #include "platform/MessageBox.h"
 #include "platform/Toolkit.h"
@@ -23,6 +25,18 @@ QStringList NameFilters(const CString& filter) {
     filters.append(parts[i].section('(', 0, 0).trimmed() + " (" + patterns + ")");
   }
   return filters;
+}
+
+/// The toolkit's list cuts off the times of change: they take what they need, the names what is left.
+void MakeRoom(QFileDialog& dialog) {
+  constexpr int kNames = 0;
+  constexpr int kTimes = 3;
+  constexpr QSize kSize(780, 480);
+  dialog.resize(kSize);
+  if (const auto* list = dialog.findChild<QTreeView*>("treeView")) {
+    list->header()->setSectionResizeMode(kNames, QHeaderView::Stretch);
+    list->header()->setSectionResizeMode(kTimes, QHeaderView::ResizeToContents);
+  }
 }
 
 void SetStart(QFileDialog& dialog, const CString& path) {
@@ -58,6 +72,7 @@ int CFileDialog::DoModal() {
   const QStringList filters = NameFilters(m_filter);
   if (!filters.isEmpty()) dialog.setNameFilters(filters);
   if (!m_open) dialog.setDefaultSuffix(ToQt(m_extension));
+  MakeRoom(dialog);
   SetStart(dialog, m_path);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return IDCANCEL;
   m_path = FromQt(dialog.selectedFiles().constFirst());
@@ -85,6 +100,7 @@ bool ChooseFolder(CString& folder, const wchar_t* title, CWnd* parent) {
   dialog.setOption(QFileDialog::ShowDirsOnly);
   dialog.setOption(QFileDialog::ReadOnly);
   dialog.setFileMode(QFileDialog::Directory);
+  MakeRoom(dialog);
   if (!folder.IsEmpty() && QFileInfo(ToQt(folder)).isDir()) dialog.setDirectory(ToQt(folder));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return false;
   folder = FromQt(dialog.selectedFiles().constFirst());
