@@ -104,6 +104,58 @@ bool CPlotSeries::GetBounds(FRect* bounds) const {
   return true;
 }
 
+CPlotSeries::Bounds CPlotSeries::GetRangeY(std::size_t first, std::size_t last) const {
+  Bounds range = kNothing;
+  const auto includePoints = [&](std::size_t from, std::size_t to) {
+    for (; from < to; ++from) {
+      Include(range, m_points[from].y, m_points[from].y);
+    }
+  };
+  // From both ends inwards: points up to a leaf, nodes up to a node of the level above, and so on.
+  std::size_t from = (first + kLeafSize - 1) / kLeafSize;
+  std::size_t to = last / kLeafSize;
+  if (from >= to) {
+    includePoints(first, last);
+    return range;
+  }
+  includePoints(first, from * kLeafSize);
+  includePoints(to * kLeafSize, last);
+  for (std::size_t level = 0; from < to; ++level) {
+    const auto includeNodes = [&, y = m_levels[level].y.data()](std::size_t begin, std::size_t end) {
+      for (; begin < end; ++begin) {
+        Include(range, y[begin].lowest, y[begin].highest);
+      }
+    };
+    const std::size_t innerFrom = (from + kFanOut - 1) / kFanOut;
+    const std::size_t innerTo = to / kFanOut;
+    if (innerFrom >= innerTo) {
+      includeNodes(from, to);
+      break;
+    }
+    includeNodes(from, innerFrom * kFanOut);
+    includeNodes(innerTo * kFanOut, to);
+    from = innerFrom;
+    to = innerTo;
+  }
+  return range;
+}
+
+void CPlotSeries::PrefetchAround(std::size_t point) const {
+#ifdef __GNUC__
+  constexpr std::size_t kPointsOfLine = 64 / sizeof(PNT_2D_record);
+  if (point >= m_points.size()) {
+    return;
+  }
+  const std::size_t leaf = point / kLeafSize * kLeafSize;
+  for (std::size_t i = leaf; i < std::min(leaf + kLeafSize, m_points.size()); i += kPointsOfLine) {
+    __builtin_prefetch(&m_points[i]);
+  }
+  for (std::size_t level = 0; level + 1 < m_levels.size(); ++level) {
+    __builtin_prefetch(&m_levels[level].y[point / GetNodeSize(level)]);
+  }
+#endif
+}
+
 bool CPlotSeries::CanSkip(std::size_t level, std::size_t node, bool gap) const {
   const Level& at = m_levels[level];
   return gap ? at.gaps[node] == 0 : at.y[node].lowest > at.y[node].highest;

@@ -44,6 +44,11 @@ class COREGUI_API CPlotSeries {
   /// Only where x is not monotone.
   const Bounds& GetBoundsX(std::size_t level, std::size_t node) const { return m_levels[level].x[node]; }
 
+  /// The lowest and highest y of the points from `first` to before `last`; they must be drawable.
+  Bounds GetRangeY(std::size_t first, std::size_t last) const;
+  /// Asks the processor for what GetRangeY will read around a point, so that it need not wait for memory.
+  void PrefetchAround(std::size_t point) const;
+
   static bool IsDrawable(PNT_2D_record const& p);
 
  private:

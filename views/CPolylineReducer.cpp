@@ -9,15 +9,14 @@ void CPolylineReducer::Start(CPoint p) {
   }
   m_open = true;
   m_first = p;
-  m_lowest = m_highest = m_last = p.y;
 }
 
 void CPolylineReducer::Flush() {
   m_sink.Add(m_first);
-  // The far extreme first, so that the way to the last point is short.
-  const bool endsHigh = m_highest - std::int64_t{m_last} < m_last - std::int64_t{m_lowest};
-  m_sink.Add({m_first.x, endsHigh ? m_lowest : m_highest});
-  m_sink.Add({m_first.x, endsHigh ? m_highest : m_lowest});
+  // The extreme that is nearer to the first point than to the last one: the shortest way.
+  const bool rises = m_first.y <= m_last;
+  m_sink.Add({m_first.x, rises ? m_lowest : m_highest});
+  m_sink.Add({m_first.x, rises ? m_highest : m_lowest});
   m_sink.Add({m_first.x, m_last});
 }
 

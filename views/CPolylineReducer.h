@@ -16,14 +16,18 @@ class COREGUI_API CPolylineReducer {
  public:
   explicit CPolylineReducer(CPolylineSink& sink) : m_sink(sink) {}
 
-  void Add(CPoint p) {
-    if (m_open && p.x == m_first.x) {
-      m_lowest = std::min(m_lowest, p.y);
-      m_highest = std::max(m_highest, p.y);
-      m_last = p.y;
+  void Add(CPoint p) { AddRun(p, p.y, p.y, p.y); }
+  /// Consecutive points in one column at once: the first, the rows that they reach, the last one's row.
+  void AddRun(CPoint first, LONG lowest, LONG highest, LONG last) {
+    if (m_open && first.x == m_first.x) {
+      m_lowest = std::min(m_lowest, lowest);
+      m_highest = std::max(m_highest, highest);
     } else {
-      Start(p);
+      Start(first);
+      m_lowest = lowest;
+      m_highest = highest;
     }
+    m_last = last;
   }
   /// Ends the polyline with its last point, which must be on another pixel than the one added before.
   void Finish(CPoint last);

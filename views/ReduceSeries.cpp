@@ -4,13 +4,14 @@
 
 #include "views/CPolylineReducer.h"
 #include "views/CViewMapping.h"
+#include "views/ColumnWalker.h"
 
 namespace coregui {
 
 namespace {
 
-/// Walks the pyramid for one polyline at a time: a node that lies in one pixel column or row, or wholly
-/// beyond one side, gives a few points; any other is opened.
+/// Gives the points of one polyline at a time. Where x turns back it walks the pyramid: a node that lies in
+/// one pixel column or row, or wholly beyond one side, gives a few points; any other is opened.
 template <class Mapping>
 class SeriesWalker {
  public:
@@ -19,7 +20,8 @@ class SeriesWalker {
         m_points(series.GetPoints().data()),
         m_mapping(mapping),
         m_visible(sink.GetVisible()),
-        m_reducer(sink) {}
+        m_reducer(sink),
+        m_columns(series, mapping, sink.GetVisible(), m_reducer) {}
 
   /// Draws the points from `begin` to before `end`, among which is no gap.
   void Draw(std::size_t begin, std::size_t end) {
@@ -28,10 +30,13 @@ class SeriesWalker {
     if (lastMoving == begin) {
       return;  // all on one pixel: nothing to draw
     }
-    m_begin = begin;
-    m_end = lastMoving;
-    const std::size_t top = m_series.GetLevels() - 1;
-    Visit(top, 0);
+    if (m_series.IsMonotone()) {
+      m_columns.Walk(begin, lastMoving);
+    } else {
+      m_begin = begin;
+      m_end = lastMoving;
+      Visit(m_series.GetLevels() - 1, 0);
+    }
     m_reducer.Finish(last);
   }
 
@@ -132,6 +137,7 @@ class SeriesWalker {
   const Mapping& m_mapping;
   const CRect m_visible;
   CPolylineReducer m_reducer;
+  ColumnWalker<Mapping> m_columns;  ///< where x never turns back
   std::size_t m_begin = 0;
   std::size_t m_end = 0;
 };

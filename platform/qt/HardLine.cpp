@@ -84,6 +84,31 @@ void PutAcross(Surface& surface, const CRect& clip, bool steep, std::int64_t maj
   }
 }
 
+// The dots of a solid line in copy mode, the usual one: `step` to before `last` of the walk, whose minor
+// coordinate starts at `minor` with `error` of a whole.
+void PutSolid(Surface& surface, const CRect& clip, const Walk& walk, bool steep, const LinePen& pen,
+              std::int64_t step, std::int64_t last, std::int64_t minor, std::int64_t error) {
+  const std::int64_t whole = 2 * walk.majorLength;
+  const std::int64_t part = 2 * walk.minorLength;
+  const std::int64_t low = steep ? clip.left : clip.top;
+  const std::int64_t high = steep ? clip.right : clip.bottom;
+  const std::ptrdiff_t across = steep ? 1 : surface.Stride();
+  const std::ptrdiff_t along = (steep ? surface.Stride() : 1) * walk.majorStep;
+  std::uint32_t* at = surface.Row(0) + (walk.major0 + walk.majorStep * step) * (steep ? surface.Stride() : 1);
+  for (; step < last; ++step, at += along) {
+    const std::int64_t from = std::max(minor, low);
+    const std::int64_t to = std::min(minor + pen.thickness, high);
+    for (std::int64_t dot = from; dot < to; ++dot) {
+      at[dot * across] = pen.colour;
+    }
+    error += part;
+    if (error >= whole) {
+      error -= whole;
+      minor += walk.minorStep;
+    }
+  }
+}
+
 // Brings far ends near the clip: beyond the exact range a line's slope may change by less than one dot in
 // 2^20.
 bool CutFarEnds(const CRect& clip, std::int64_t* x0, std::int64_t* y0, std::int64_t* x1, std::int64_t* y1) {
@@ -162,9 +187,16 @@ void DrawHardLine(Surface& surface, const CRect& clip, const LinePen& pen, std::
   const std::int64_t whole = 2 * walk.majorLength;
   const std::int64_t part = 2 * walk.minorLength;
   std::int64_t error = step * part + walk.majorLength;
-  std::int64_t minor = walk.minor0 + walk.minorStep * (error / whole);
-  error %= whole;
+  std::int64_t minor = walk.minor0;
+  if (step > 0) {  // a division takes as long as many dots
+    minor += walk.minorStep * (error / whole);
+    error %= whole;
+  }
   const bool dashed = pen.style != PS_SOLID;
+  if (!dashed && pen.rop == R2_COPYPEN) {
+    PutSolid(surface, clip, walk, steep, pen, step, last, minor - pen.before, error);
+    return;
+  }
   for (; step < last; ++step) {
     const bool shown = !dashed || IsDash(pen, step);
     if (shown || pen.fillsGaps) {

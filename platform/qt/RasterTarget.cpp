@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <limits>
 
 #include "platform/qt/BitmapData.h"
 #include "platform/qt/FontFace.h"
@@ -62,19 +63,28 @@ bool RasterTarget::DrawsHard(const DrawAttributes& with) const {
   return !with.smooth && (with.pen->GetWidth() <= 1 || with.rop != R2_COPYPEN);
 }
 
-void RasterTarget::FillDots(const CRect& dots, std::uint32_t colour, int rop) {
-  if (rop == R2_COPYPEN && m_surface->Recolour(dots, colour)) {
-    m_surface->Damage(dots);
+void RasterTarget::PutRect(const CRect& dots, std::uint32_t colour, int rop) {
+  const int width = dots.Width();
+  const std::ptrdiff_t stride = m_surface->Stride();
+  std::uint32_t* row = m_surface->Row(dots.top) + dots.left;
+  if (width == 1 && rop == R2_COPYPEN) {  // a plot is drawn with hundreds of thousands of these
+    for (int y = dots.top; y < dots.bottom; ++y, row += stride) {
+      *row = colour;
+    }
     return;
   }
-  const int width = dots.Width();
-  std::uint32_t* row = m_surface->Row(dots.top) + dots.left;
-  for (int y = dots.top; y < dots.bottom; ++y, row += m_surface->Stride()) {
+  for (int y = dots.top; y < dots.bottom; ++y, row += stride) {
     if (rop == R2_COPYPEN) {
       std::fill_n(row, width, colour);
     } else {
       PutDots(row, width, colour, rop);
     }
+  }
+}
+
+void RasterTarget::FillDots(const CRect& dots, std::uint32_t colour, int rop) {
+  if (rop != R2_COPYPEN || !m_surface->Recolour(dots, colour)) {
+    PutRect(dots, colour, rop);
   }
   m_surface->Damage(dots);
 }
@@ -144,27 +154,33 @@ LinePen RasterTarget::HardPen(const DrawAttributes& with) const {
   return pen;
 }
 
-void RasterTarget::StraightLine(const DrawAttributes& with, POINT from, POINT to, const LinePen& pen) {
+CRect RasterTarget::PutStraight(const DrawAttributes& with, bool level, std::int64_t at, std::int64_t start,
+                                std::int64_t end, const LinePen& pen) {
+  const int first = Dot(start);
+  const int last = Dot(end);
+  const int across = Dot(at) - pen.before;
+  const CRect dots = level ? CRect(first, across, last, across + pen.thickness)
+                           : CRect(across, first, across + pen.thickness, last);
+  with.clip.ForEach(dots, [this, &pen](const CRect& part) { PutRect(part, pen.colour, pen.rop); });
+  return dots;
+}
+
+CRect RasterTarget::StraightLine(const DrawAttributes& with, POINT from, POINT to, const LinePen& pen) {
   const std::int64_t fromX = std::int64_t{from.x} + with.origin.x;
   const std::int64_t fromY = std::int64_t{from.y} + with.origin.y;
   const std::int64_t toX = std::int64_t{to.x} + with.origin.x;
   const std::int64_t toY = std::int64_t{to.y} + with.origin.y;
   const bool level = fromY == toY;
   if ((level || fromX == toX) && pen.style == PS_SOLID) {
-    // The logical pixels from the first up to, without, the last; as wide across as the pen.
     const std::int64_t start = level ? fromX : fromY;
     const std::int64_t end = level ? toX : toY;
-    const int first = Dot(start <= end ? start : end + 1);
-    const int last = Dot(start <= end ? end : start + 1);
-    const int across = Dot(level ? fromY : fromX) - pen.before;
-    const CRect dots = level ? CRect(first, across, last, across + pen.thickness)
-                             : CRect(across, first, across + pen.thickness, last);
-    with.clip.ForEach(dots, [this, &pen](const CRect& part) { FillDots(part, pen.colour, pen.rop); });
-    return;
+    return PutStraight(with, level, level ? fromY : fromX, start <= end ? start : end + 1,
+                       start <= end ? end : start + 1, pen);
   }
   with.clip.ForEach(with.clip.box, [&](const CRect& part) {
     DrawHardLine(*m_surface, part, pen, WideDot(fromX), WideDot(fromY), WideDot(toX), WideDot(toY));
   });
+  return with.clip.box;
 }
 
 void RasterTarget::Polyline(const DrawAttributes& with, const POINT* points, int count) {
@@ -177,12 +193,47 @@ void RasterTarget::Polyline(const DrawAttributes& with, const POINT* points, int
     return;
   }
   const LinePen pen = HardPen(with);
-  for (int i = 1; i < count; ++i) {
-    StraightLine(with, points[i - 1], points[i], pen);
+  if (count == 2) {
+    CRect drawn;
+    drawn.IntersectRect(StraightLine(with, points[0], points[1], pen), with.clip.box);
+    m_surface->Damage(drawn);
+    return;
   }
-  if (count > 2 || !straight) {
-    m_surface->Damage(with.clip.box);
+  m_surface->Damage(with.clip.box);
+  const bool merges = pen.rop == R2_COPYPEN && pen.style == PS_SOLID;
+  for (int i = 1; i < count;) {
+    const int next = merges ? PutUpAndDown(with, points, i, count, pen) : i;
+    if (next == i) {
+      StraightLine(with, points[i - 1], points[i], pen);
+      ++i;
+    } else {
+      i = next;
+    }
   }
+}
+
+int RasterTarget::PutUpAndDown(const DrawAttributes& with, const POINT* points, int i, int count,
+                               const LinePen& pen) {
+  const LONG x = points[i - 1].x;
+  LONG low = std::numeric_limits<LONG>::max();
+  LONG high = std::numeric_limits<LONG>::min();
+  int next = i;
+  for (; next < count && points[next].x == x; ++next) {
+    const LONG from = points[next - 1].y;
+    const LONG to = points[next].y;
+    if (from != to) {
+      low = std::min(low, from < to ? from : to + 1);
+      high = std::max(high, from < to ? to - 1 : from);
+    }
+  }
+  if (next - i < 2) {
+    return i;
+  }
+  if (low <= high) {
+    PutStraight(with, false, std::int64_t{x} + with.origin.x, std::int64_t{low} + with.origin.y,
+                std::int64_t{high} + with.origin.y + 1, pen);
+  }
+  return next;
 }
 
 void RasterTarget::PolylineF(const DrawAttributes& with, const double* xy, int count) {

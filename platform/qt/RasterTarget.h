@@ -39,9 +39,19 @@ class RasterTarget : public PainterTarget {
 
  private:
   bool DrawsHard(const DrawAttributes& with) const;
+  void PutRect(const CRect& dots, std::uint32_t colour, int rop);
+  /// The same, noted as damage.
   void FillDots(const CRect& dots, std::uint32_t colour, int rop);
   LinePen HardPen(const DrawAttributes& with) const;
-  void StraightLine(const DrawAttributes& with, POINT from, POINT to, const LinePen& pen);
+  /// The logical pixels of a row (`level`) or column `at` from `start` to before `end`, as wide as the pen;
+  /// returns their dots. Like the two below it leaves the damage to be noted by the caller.
+  CRect PutStraight(const DrawAttributes& with, bool level, std::int64_t at, std::int64_t start,
+                    std::int64_t end, const LinePen& pen);
+  /// Where a solid line goes up and down in one column from point i - 1 on, puts each of its pixels once and
+  /// returns the first point that lies elsewhere; `i` when fewer than two parts stay in the column.
+  int PutUpAndDown(const DrawAttributes& with, const POINT* points, int i, int count, const LinePen& pen);
+  /// One segment; returns the dots among which it lies.
+  CRect StraightLine(const DrawAttributes& with, POINT from, POINT to, const LinePen& pen);
   bool PutGlyphs(const DrawAttributes& with, FontFace& face, CPoint start, const wchar_t* text, int length);
 
   std::shared_ptr<Surface> m_surface;

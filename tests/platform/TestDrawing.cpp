@@ -97,6 +97,29 @@ TEST_P(Drawing, StraightLine_LeavesOutItsLastPixelInEitherDirection) {
   EXPECT_EQ(dc.GetPixel(30, 5), white);
 }
 
+TEST_P(Drawing, Polyline_HasTheDotsOfItsSegments_UpAndDownInAColumnToo) {
+  const std::vector<std::vector<POINT>> lines = {
+      {{5, 20}, {5, 5}, {5, 30}, {5, 12}, {6, 14}},  // both extremes on the way
+      {{9, 5}, {9, 20}, {9, 30}},                    // the end is the extreme: left out
+      {{12, 5}, {12, 20}, {12, 5}},                  // it ends where it began
+      {{15, 5}, {15, 5}, {15, 5}, {20, 9}, {20, 9}, {20, 4}, {20, 8}, {22, 8}},
+      {{30, -50}, {30, 90}, {30, -50}, {31, 10}, {31, 11}, {31, 9}, {31, 10}},
+      {{40, 8}, {45, 30}, {45, 8}, {45, 31}, {40, 8}}};
+  CPen pen(PS_SOLID, 1, red);
+  dc.SelectObject(&pen);
+  for (const std::vector<POINT>& line : lines) {
+    dc.FillSolidRect(CRect(0, 0, 60, 40), white);
+    for (std::size_t i = 1; i < line.size(); ++i) {
+      dc.MoveTo(line[i - 1].x, line[i - 1].y);
+      dc.LineTo(line[i].x, line[i].y);
+    }
+    const QImage segments = surface->Snapshot();
+    dc.FillSolidRect(CRect(0, 0, 60, 40), white);
+    dc.Polyline(line.data(), static_cast<int>(line.size()));
+    EXPECT_EQ(surface->Snapshot(), segments) << "the line from column " << line[0].x;
+  }
+}
+
 TEST_P(Drawing, ExclusiveOrTwice_Restores) {
   dc.FillSolidRect(CRect(10, 5, 40, 30), RGB(12, 200, 99));
   const QImage before = surface->Snapshot();

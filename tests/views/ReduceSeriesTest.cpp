@@ -125,6 +125,15 @@ std::map<std::string, Points> AwkwardData() {
   data["noise"] = Generated(20000, [](std::size_t i, auto& random) {
     return PNT_2D_record{i * 0.05, Noise(random, -20, 120)};
   });
+  data["uneven"] = Generated(20000, [](std::size_t i, auto& random) {
+    const double place = static_cast<double>(i) / 20000;  // from thousands in a column to one in many
+    return PNT_2D_record{1000 * std::pow(place, 6), Noise(random, 10, 90)};
+  });
+  data["steps in x"] = Generated(20000, [](std::size_t i, auto& random) {
+    const std::size_t block = i / 997;  // columns of very different lengths side by side
+    return PNT_2D_record{block * 48.0 + (i % 997 < 900 ? 0.0 : static_cast<double>(i % 997 - 900) * 0.4),
+                         Noise(random, 40, 60) + static_cast<double>(block)};
+  });
   data["spikes"] = Generated(20000, [](std::size_t i, auto&) {
     return PNT_2D_record{i * 0.05, i % 4099 == 17 ? 99.0 : i % 2503 == 5 ? 20000.0 : 30.0};
   });
