@@ -61,7 +61,7 @@ CGridCell::~CGridCell() = default;
 
 int CGridCell::SetDefaultInfo() {
   m_look.flags = static_cast<DWORD>(DEFAULT_FLAGS);
-  m_text.Empty();
+  m_text.clear();
   m_label.Empty();
   m_mask.Empty();
   m_look.format = nullptr;
@@ -93,15 +93,9 @@ int CGridCell::ClearAll() {
 }
 
 int CGridCell::SetText(const wchar_t* text) {
-  const wchar_t* const own = m_text.GetString();
-  if (text >= own && text <= own + m_text.GetLength()) {
-    m_text = CString(text);
-  } else {
-    m_text.Empty();
-    m_text += text;
-  }
+  m_text.assign(text == nullptr ? L"" : text);  // which may be a part of this very text
   m_look.dataType = CELLDATA_TEXT;
-  if (m_text.IsEmpty()) {
+  if (m_text.empty()) {
     Unmark(CELLPROP_TEXT);
   } else {
     Mark(VALUE);
@@ -111,7 +105,7 @@ int CGridCell::SetText(const wchar_t* text) {
 
 int CGridCell::AppendText(const wchar_t* text) {
   if (!Has(CELLPROP_TEXT)) return 1;
-  m_text += text;
+  if (text != nullptr) m_text += text;
   Mark(VALUE);
   m_look.dataType = CELLDATA_TEXT;
   return 0;
@@ -123,22 +117,22 @@ const wchar_t* CGridCell::GetText() const {
     const coregui::NumberForm form{Has(CELLPROP_DECIMALS), m_look.decimals, !Has(CELLPROP_NOLOCALEFORMAT)};
     coregui::WriteNumber(m_number, form, m_text);
   }
-  return m_text;
+  return m_text.c_str();
 }
 
 int CGridCell::GetText(CString* text) const {
   const wchar_t* const own = GetText();
   if (own == nullptr) return 1;
-  *text = m_text;
+  *text = CString(m_text);
   return 0;
 }
 
 int CGridCell::GetTextLength() const {
-  return Has(CELLPROP_TEXT) ? m_text.GetLength() : 0;
+  return Has(CELLPROP_TEXT) ? static_cast<int>(m_text.size()) : 0;
 }
 
 int CGridCell::SetNumber(double number) {
-  m_text.Empty();
+  m_text.clear();
   Mark(VALUE);
   m_look.dataType = CELLDATA_NUMBER;
   m_number = number;
@@ -194,7 +188,7 @@ int CGridCell::SetBool(int value) {
 int CGridCell::GetBool() const {
   if (Has(CELLPROP_TEXT) && GetNumber() > 0) return 1;
   // Kept: without the property the stored text still counts; only T and t begin a truth, so "Yes" is false.
-  if (m_text.IsEmpty()) return 0;
+  if (m_text.empty()) return 0;
   return m_text[0] == L'T' || m_text[0] == L't' ? 1 : 0;
 }
 
@@ -208,7 +202,7 @@ int CGridCell::SetTime(short second, short minute, short hour, short day, short 
   time.wYear = year;
   DATE date = 0.0;
   const bool real = SystemTimeToVariantTime(time, &date);
-  m_text = real ? VarDateToStr(date) : CString();
+  m_text = real ? VarDateToStr(date).Str() : std::wstring();
   Mark(VALUE);
   m_look.dataType = CELLDATA_TIME;
   m_number = real ? date : 0.0;
@@ -218,7 +212,7 @@ int CGridCell::SetTime(short second, short minute, short hour, short day, short 
 int CGridCell::GetTime(int* second, int* minute, int* hour, int* day, int* month, int* year) const {
   // Kept: the label's bit, not the type, decides whether the number holds the date.
   double date = m_number;
-  const bool valid = Has(CELLPROP_LABEL) || ReadDate(m_text, date);
+  const bool valid = Has(CELLPROP_LABEL) || ReadDate(m_text.c_str(), date);
   BreakDownDate(valid, date, second, minute, hour, day, month, year);
   return 0;
 }
@@ -235,7 +229,7 @@ void CGridCell::ConvertValue(short type) {
   if (type == CELLDATA_NUMBER) {
     GetText();
     m_number = coregui::ReadNumber(m_text);
-    m_text.Empty();
+    m_text.clear();
   } else if (type == CELLDATA_TIME) {
     ReadDate(GetText(), m_number);
   } else if (type == CELLDATA_CURRENCY && GetDataType() == CELLDATA_NUMBER) {
@@ -255,14 +249,14 @@ short CGridCell::GetDataType() const {
 int CGridCell::ClearDisplayText() {
   const short type = GetDataType();
   m_number = 0.0;
-  m_text.Empty();
+  m_text.clear();
   m_look.dataType = CELLDATA_TEXT;
   Unmark(CELLPROP_TEXT);
   return SetDataType(type);
 }
 
 int CGridCell::StringToNumber(const CString* text, double* number) {
-  *number = coregui::ReadNumber(*text);
+  *number = coregui::ReadNumber(text->Str());
   return 0;
 }
 

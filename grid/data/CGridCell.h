@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "core/Export.h"
 #include "platform/CObject.h"
@@ -259,7 +260,7 @@ class COREGUI_API CGridCell : public CObject {
 
   coregui::CellLook m_look;
   double m_number = 0.0;
-  mutable CString m_text;  // for a number the text last made from it
+  mutable std::wstring m_text;  // for a number the text last made from it
   CString m_label;
   CString m_mask;
   int m_param = -1;

@@ -4,22 +4,36 @@
 
 static_assert(std::has_unique_object_representations_v<coregui::CellLook>);
 
+namespace {
+
+// Every fresh cell has these, and only these of the properties here.
+constexpr DWORD USUAL = CELLPROP_DATATYPE | CELLPROP_TEXTCOLOR | CELLPROP_BACKCOLOR | CELLPROP_HTEXTCOLOR |
+                        CELLPROP_HBACKCOLOR | CELLPROP_ALIGNMENT;
+constexpr DWORD SPECIAL = CELLPROP_FORMAT | CELLPROP_STYLE | CELLPROP_CELLTYPE | CELLPROP_CELLTYPEEX |
+                          CELLPROP_BORDER | CELLPROP_BORDERCOLOR | CELLPROP_FONT | CELLPROP_BITMAP |
+                          CELLPROP_READONLY | CELLPROP_DECIMALS;
+
+}  // namespace
+
+// Each cell that is shown goes through here, most of them with the usual properties alone.
 void coregui::CellLook::CopySetFieldsFrom(const CellLook& source) {
   const auto has = [&source](long bit) { return (source.flags & static_cast<DWORD>(bit)) != 0; };
+  const bool all = (source.flags & USUAL) == USUAL;
+  if (all || has(CELLPROP_DATATYPE)) dataType = source.dataType;
+  if (all || has(CELLPROP_TEXTCOLOR)) textColor = source.textColor;
+  if (all || has(CELLPROP_BACKCOLOR)) backColor = source.backColor;
+  if (all || has(CELLPROP_HTEXTCOLOR)) highlightTextColor = source.highlightTextColor;
+  if (all || has(CELLPROP_HBACKCOLOR)) highlightBackColor = source.highlightBackColor;
+  if (all || has(CELLPROP_ALIGNMENT)) alignment = source.alignment;
+  if ((source.flags & SPECIAL) == 0) return;
   if (has(CELLPROP_FORMAT)) format = source.format;
   if (has(CELLPROP_STYLE)) style = source.style;
-  if (has(CELLPROP_DATATYPE)) dataType = source.dataType;
   if (has(CELLPROP_CELLTYPE)) cellType = source.cellType;
   if (has(CELLPROP_CELLTYPEEX)) cellTypeEx = source.cellTypeEx;
-  if (has(CELLPROP_TEXTCOLOR)) textColor = source.textColor;
-  if (has(CELLPROP_BACKCOLOR)) backColor = source.backColor;
-  if (has(CELLPROP_HTEXTCOLOR)) highlightTextColor = source.highlightTextColor;
-  if (has(CELLPROP_HBACKCOLOR)) highlightBackColor = source.highlightBackColor;
   if (has(CELLPROP_BORDER)) border = source.border;
   if (has(CELLPROP_BORDERCOLOR)) borderPen = source.borderPen;
   if (has(CELLPROP_FONT)) font = source.font;
   if (has(CELLPROP_BITMAP)) bitmap = source.bitmap;
-  if (has(CELLPROP_ALIGNMENT)) alignment = source.alignment;
   if (has(CELLPROP_READONLY)) readOnly = source.readOnly;
   if (has(CELLPROP_DECIMALS)) decimals = source.decimals;
 }

@@ -89,11 +89,11 @@ int CGridMem::GetPrevNonBlankCol(int* col, long row) {
   int last = 0;
   if (!m_store->HasRow(row) || !m_store->LastPosition(row, last)) return 1;
   if (*col <= m_store->Columns().First()) return 1;
-  CString scratch;
+  std::wstring scratch;
   const int start = *col > last ? last : *col - 1;
   for (int at = start; at >= m_store->Columns().First(); --at) {
-    const coregui::CellSlot* const slot = m_store->Find(at, row);
-    if (slot == nullptr || m_store->Codec().ShownText(*slot, scratch).length == 0) continue;
+    const coregui::CellSlot slot = m_store->Find(at, row);
+    if (m_store->Codec().ShownText(slot, scratch).length == 0) continue;
     *col = at;
     return 0;
   }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstring>
 #include <new>
 
 #include "grid/data/NumberText.h"
@@ -55,10 +56,9 @@ bool NeedsExtras(const CellLook& look, const std::shared_ptr<CGridCell>& initial
 
 }  // namespace
 
-StoredText WideText(const CString& text) {
+StoredText WideText(const std::wstring& text) {
   static_assert(sizeof(wchar_t) == 4);
-  return {reinterpret_cast<const unsigned char*>(text.GetString()),
-          static_cast<std::uint32_t>(text.GetLength()), 4};
+  return {reinterpret_cast<const unsigned char*>(text.data()), static_cast<std::uint32_t>(text.size()), 4};
 }
 
 wchar_t StoredText::At(std::uint32_t index) const {
@@ -73,53 +73,38 @@ wchar_t StoredText::At(std::uint32_t index) const {
   return unit;
 }
 
-void CellCodec::Store(CGridCell& cell, CellSlot& slot, bool isNew) {
+CellSlot CellCodec::Make(CGridCell& cell) {
   const std::uint32_t look = m_looks.Acquire(cell.m_look);
-  const CellSlot before = slot;
-  if ((cell.m_look.flags & OWN_PROPERTIES) != 0 || cell.m_initial != nullptr) {
-    StoreBox(cell, slot, look);
-  } else {
-    StoreValue(cell, slot, look);
-  }
+  const bool own = (cell.m_look.flags & OWN_PROPERTIES) != 0 || cell.m_initial != nullptr;
   if (!cell.Has(CELLPROP_EXTRAMEM)) cell.m_extra.pointer = nullptr;
-  if (isNew) return;
-  CellSlot old = before;
-  Release(old);
+  return own ? MakeBox(cell, look) : MakeValue(cell, look);
 }
 
-void CellCodec::StoreValue(const CGridCell& cell, CellSlot& slot, std::uint32_t look) {
-  if (!cell.Has(CELLPROP_TEXT)) {
-    slot.SetTag(SlotKind::noValue, look);
-    slot.SetNumber(0.0);
-  } else if (const std::wstring& text = cell.m_text.Str(); text.empty()) {
-    slot.SetTag(SlotKind::number, look);
-    slot.SetNumber(cell.m_number);
-  } else if (text.size() > LONGEST_BLOCK) {
-    StoreBox(cell, slot, look);
-  } else {
-    StoreText(text, cell.m_number, slot, look);
-  }
+CellSlot CellCodec::MakeValue(const CGridCell& cell, std::uint32_t look) {
+  if (!cell.Has(CELLPROP_TEXT)) return {SlotKind::noValue, look};
+  const std::wstring& text = cell.m_text;
+  if (text.empty()) return {SlotKind::number, look, std::bit_cast<std::uint64_t>(cell.m_number)};
+  if (text.size() > LONGEST_BLOCK) return MakeBox(cell, look);
+  return MakeText(text, cell.m_number, look);
 }
 
-void CellCodec::StoreText(const std::wstring& text, double number, CellSlot& slot, std::uint32_t look) {
+CellSlot CellCodec::MakeText(const std::wstring& text, double number, std::uint32_t look) {
   const std::uint16_t width = WidthFor(text);
   const bool hasNumber = !IsPositiveZero(number);
   if (width == 1 && !hasNumber && text.size() <= INLINE_CAPACITY) {
-    slot.SetNumber(0.0);
-    Pack<std::uint8_t>(text, slot.Bytes());
-    slot.SetTag(static_cast<SlotKind>(text.size()), look);
-    return;
+    unsigned char characters[INLINE_CAPACITY] = {};
+    Pack<std::uint8_t>(text, characters);
+    return {SlotKind::inlineText, look, std::bit_cast<std::uint64_t>(characters)};
   }
   const TextBlock header{static_cast<std::uint32_t>(text.size()), width,
                          static_cast<std::uint16_t>(hasNumber)};
   auto* const block = ::new (m_pool.Allocate(BlockSize(header))) TextBlock(header);
   if (hasNumber) std::memcpy(block + 1, &number, sizeof number);
   Pack(text, width, Characters(*block));
-  slot.SetPointer(block);
-  slot.SetTag(SlotKind::heapText, look);
+  return {SlotKind::heapText, look, reinterpret_cast<std::uintptr_t>(block)};
 }
 
-void CellCodec::StoreBox(const CGridCell& cell, CellSlot& slot, std::uint32_t look) {
+CellSlot CellCodec::MakeBox(const CGridCell& cell, std::uint32_t look) {
   auto* const box = ::new (m_pool.Allocate(sizeof(CellBox))) CellBox;
   if (cell.Has(CELLPROP_TEXT)) {
     box->text = cell.m_text;
@@ -134,43 +119,59 @@ void CellCodec::StoreBox(const CGridCell& cell, CellSlot& slot, std::uint32_t lo
     if (cell.Has(CELLPROP_EXTRAMEM)) box->extras->memory = cell.m_extra;
     box->extras->initial = cell.m_initial;
   }
-  slot.SetPointer(box);
-  slot.SetTag(SlotKind::box, look);
+  return {SlotKind::box, look, reinterpret_cast<std::uintptr_t>(box)};
 }
 
 void CellCodec::MergeInto(const CellSlot& slot, CGridCell& cell) const {
   const CellLook& look = Look(slot);
   cell.m_look.flags |= look.flags;
   cell.m_look.CopySetFieldsFrom(look);
-  const auto has = [&look](long bit) { return (look.flags & static_cast<DWORD>(bit)) != 0; };
-  if (has(CELLPROP_TEXT)) {
+  MergeValue(slot, cell);
+  if (slot.Kind() == SlotKind::box) {
+    MergeBox(*slot.Pointer<CellBox>(), look.flags, cell);
+  } else {
+    cell.m_extra.pointer = nullptr;
+    if (cell.m_initial != nullptr) cell.m_initial.reset();
+  }
+}
+
+void CellCodec::MergeValue(const CellSlot& slot, CGridCell& cell) const {
+  if (slot.Kind() == SlotKind::number) {
+    cell.m_text.clear();
+    cell.m_number = slot.Number();
+  } else if (slot.Kind() == SlotKind::inlineText) {
+    // A fixed number of steps: all at once.
+    wchar_t wide[INLINE_CAPACITY];
+    std::copy_n(slot.Characters(), INLINE_CAPACITY, wide);
+    cell.m_text.assign(wide, slot.Length());
+    cell.m_number = 0.0;
+  } else if (HasValue(slot)) {
     ReadText(TextField(slot), cell.m_text);
     cell.m_number = NumberField(slot);
   }
-  const CellBox* const box = slot.Kind() == SlotKind::box ? slot.Pointer<CellBox>() : nullptr;
-  const CellBox::Extras* const extras = box != nullptr ? box->extras.get() : nullptr;
-  if (box != nullptr && has(CELLPROP_PARAM)) cell.m_param = box->param;
-  if (box != nullptr && has(CELLPROP_JOIN)) cell.m_join = box->join;
-  if (extras != nullptr && has(CELLPROP_LABEL)) cell.m_label = extras->label;
-  if (extras != nullptr && has(CELLPROP_MASK)) cell.m_mask = extras->mask;
-  if (extras != nullptr && has(CELLPROP_EXTRAMEM)) {
+}
+
+void CellCodec::MergeBox(const CellBox& box, DWORD flags, CGridCell& cell) {
+  const auto has = [flags](long bit) { return (flags & static_cast<DWORD>(bit)) != 0; };
+  if (has(CELLPROP_PARAM)) cell.m_param = box.param;
+  if (has(CELLPROP_JOIN)) cell.m_join = box.join;
+  const CellBox::Extras* const extras = box.extras.get();
+  if (has(CELLPROP_LABEL)) cell.m_label = extras->label;
+  if (has(CELLPROP_MASK)) cell.m_mask = extras->mask;
+  if (has(CELLPROP_EXTRAMEM)) {
     cell.m_extra = extras->memory;
   } else {
     cell.m_extra.pointer = nullptr;
   }
-  if (extras != nullptr) {
-    cell.m_initial = extras->initial;
-  } else if (cell.m_initial != nullptr) {
-    cell.m_initial.reset();
-  }
+  cell.m_initial = extras != nullptr ? extras->initial : nullptr;
 }
 
-void CellCodec::Release(CellSlot& slot) {
+void CellCodec::Release(const CellSlot& slot) {
   ReleasePayload(slot);
   m_looks.Release(slot.Look());
 }
 
-void CellCodec::ReleasePayload(CellSlot& slot) {
+void CellCodec::ReleasePayload(const CellSlot& slot) {
   if (slot.Kind() == SlotKind::heapText) {
     auto* const block = slot.Pointer<TextBlock>();
     m_pool.Release(block, BlockSize(*block));
@@ -203,7 +204,7 @@ double CellCodec::NumberField(const CellSlot& slot) const {
 }
 
 StoredText CellCodec::TextField(const CellSlot& slot) const {
-  if (slot.IsInlineText()) return {slot.Bytes(), slot.InlineLength(), 1};
+  if (slot.Kind() == SlotKind::inlineText) return {slot.Characters(), slot.Length(), 1};
   if (slot.Kind() == SlotKind::heapText) {
     auto* const block = slot.Pointer<TextBlock>();
     return {Characters(*block), block->length, block->width};
@@ -212,19 +213,19 @@ StoredText CellCodec::TextField(const CellSlot& slot) const {
   return {};
 }
 
-StoredText CellCodec::ShownText(const CellSlot& slot, CString& scratch) const {
-  const CellLook& look = Look(slot);
-  if ((look.flags & CELLPROP_TEXT) == 0) return {};
+StoredText CellCodec::ShownText(const CellSlot& slot, std::wstring& scratch) const {
+  if (!HasValue(slot)) return {};
   if (DataType(slot) != CELLDATA_NUMBER) return TextField(slot);
+  const CellLook& look = Look(slot);
   const NumberForm form{(look.flags & CELLPROP_DECIMALS) != 0, look.decimals,
                         (look.flags & CELLPROP_NOLOCALEFORMAT) == 0};
   WriteNumber(NumberField(slot), form, scratch);
   return WideText(scratch);
 }
 
-CString CellCodec::ShownString(const CellSlot& slot) const {
-  CString scratch;
-  CString shown;
+std::wstring CellCodec::ShownString(const CellSlot& slot) const {
+  std::wstring scratch;
+  std::wstring shown;
   ReadText(ShownText(slot, scratch), shown);
   return shown;
 }
@@ -233,32 +234,22 @@ double CellCodec::NumberValue(const CellSlot& slot) const {
   if (!HasValue(slot)) return 0.0;
   const short type = DataType(slot);
   if (type == CELLDATA_NUMBER || type == CELLDATA_TIME || type == CELLDATA_CURRENCY) return NumberField(slot);
-  CString text;
+  std::wstring text;
   ReadText(TextField(slot), text);
   return ReadNumber(text);
 }
 
-void CellCodec::ReadText(const StoredText& text, CString& target) {
-  target.Empty();
-  if (text.length == 0) return;
-  wchar_t small[INLINE_CAPACITY + 1];
-  if (text.width == 1 && text.length <= INLINE_CAPACITY) {
-    for (std::size_t i = 0; i < text.length; ++i) small[i] = static_cast<wchar_t>(text.characters[i]);
-    small[text.length] = L'\0';
-    target += small;
-    return;
-  }
-  std::wstring wide(text.length, L'\0');
-  for (std::uint32_t i = 0; i < text.length; ++i) wide[i] = text.At(i);
-  target = CString(std::move(wide));
+void CellCodec::ReadText(const StoredText& text, std::wstring& target) {
+  target.resize(text.length);
+  for (std::uint32_t i = 0; i < text.length; ++i) target[i] = text.At(i);
 }
 
 bool CellCodec::Check(const CellSlot& slot) const {
-  if (slot.Kind() > SlotKind::box || slot.Look() >= m_looks.Size() || m_looks.Count(slot.Look()) == 0)
+  if (!slot.Exists() || slot.Kind() > SlotKind::box || slot.Look() >= m_looks.Size() ||
+      m_looks.Count(slot.Look()) == 0)
     return false;
-  const bool hasValue = HasValue(slot);
-  if (slot.Kind() == SlotKind::box) return true;
-  return hasValue == (slot.Kind() != SlotKind::noValue);
+  const bool hasValue = (Look(slot).flags & CELLPROP_TEXT) != 0;
+  return slot.Kind() == SlotKind::box || hasValue == (slot.Kind() != SlotKind::noValue);
 }
 
 }  // namespace coregui

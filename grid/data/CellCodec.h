@@ -28,7 +28,7 @@ struct CellBox {
     std::shared_ptr<CGridCell> initial;
   };
   double number = 0.0;
-  CString text;
+  std::wstring text;
   int param = -1;
   CellJoin join;
   std::unique_ptr<Extras> extras;  // null when a cell has none of them
@@ -42,30 +42,35 @@ struct StoredText {
   wchar_t At(std::uint32_t index) const;
 };
 /// A text's characters; valid until it changes.
-StoredText WideText(const CString& text);
+StoredText WideText(const std::wstring& text);
 
 /// Turns cells into slots and back. Its slots' blocks come from its pool, their looks from its table.
 class CellCodec {
  public:
-  /// Makes the slot hold what a stored cell keeps of `cell`: mask and set properties. As in every merge, a
-  /// cell without extra memory loses its pointer. `slot` holds a cell before, or `isNew`.
-  void Store(CGridCell& cell, CellSlot& slot, bool isNew);
+  /// A slot with what a stored cell keeps of `cell`: mask and set properties. As in every merge, a cell
+  /// without extra memory loses its pointer.
+  CellSlot Make(CGridCell& cell);
   /// Merges the stored cell over `cell`.
   void MergeInto(const CellSlot& slot, CGridCell& cell) const;
-  void Release(CellSlot& slot);
+  void Release(const CellSlot& slot);
   void Clear();
 
   const CellLook& Look(const CellSlot& slot) const { return m_looks.Get(slot.Look()); }
-  bool HasValue(const CellSlot& slot) const { return (Look(slot).flags & CELLPROP_TEXT) != 0; }
+  bool HasValue(const CellSlot& slot) const {
+    if (slot.Kind() == SlotKind::box) return (Look(slot).flags & CELLPROP_TEXT) != 0;
+    return slot.Kind() > SlotKind::noValue;
+  }
   short DataType(const CellSlot& slot) const;
   /// The number field.
   double NumberField(const CellSlot& slot) const;
-  /// The text as stored; for a number that is not what it shows.
+  /// The text as stored; for a number that is not what it shows. Short ones live in the slot itself.
   StoredText TextField(const CellSlot& slot) const;
+  StoredText TextField(CellSlot&&) const = delete;
   /// What GetText of the stored cell gives; `scratch` keeps characters that had to be made. Empty without a
   /// value.
-  StoredText ShownText(const CellSlot& slot, CString& scratch) const;
-  CString ShownString(const CellSlot& slot) const;
+  StoredText ShownText(const CellSlot& slot, std::wstring& scratch) const;
+  StoredText ShownText(CellSlot&&, std::wstring&) const = delete;
+  std::wstring ShownString(const CellSlot& slot) const;
   /// What GetNumber of the stored cell gives.
   double NumberValue(const CellSlot& slot) const;
 
@@ -75,11 +80,13 @@ class CellCodec {
   bool Check(const CellSlot& slot) const;
 
  private:
-  void StoreValue(const CGridCell& cell, CellSlot& slot, std::uint32_t look);
-  void StoreBox(const CGridCell& cell, CellSlot& slot, std::uint32_t look);
-  void StoreText(const std::wstring& text, double number, CellSlot& slot, std::uint32_t look);
-  void ReleasePayload(CellSlot& slot);
-  static void ReadText(const StoredText& text, CString& target);
+  CellSlot MakeValue(const CGridCell& cell, std::uint32_t look);
+  CellSlot MakeBox(const CGridCell& cell, std::uint32_t look);
+  CellSlot MakeText(const std::wstring& text, double number, std::uint32_t look);
+  void MergeValue(const CellSlot& slot, CGridCell& cell) const;
+  static void MergeBox(const CellBox& box, DWORD flags, CGridCell& cell);
+  void ReleasePayload(const CellSlot& slot);
+  static void ReadText(const StoredText& text, std::wstring& target);
 
   CellPool m_pool;
   LookTable m_looks;

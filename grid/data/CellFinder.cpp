@@ -76,8 +76,8 @@ void CellFinder::ListColumns(int from, int to) {
 
 bool CellFinder::ScanRow(RowLeaf& leaf, int inLeaf, int& col) const {
   for (const Column& column : m_columns) {
-    const CellSlot* const slot = leaf.FindCell(column.storage, inLeaf);
-    if (slot == nullptr || !Matches(*slot)) continue;
+    const CellSlot slot = leaf.FindCell(column.storage, inLeaf);
+    if (!slot.Exists() || !Matches(slot)) continue;
     col = column.col;
     return true;
   }

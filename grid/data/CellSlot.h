@@ -1,41 +1,48 @@
 #pragma once
 
+#include <bit>
 #include <cstdint>
-#include <cstring>
 
 namespace coregui {
 
-/// What a slot's payload holds. The values 1 to 8 are the length of a text of characters up to U+00FF in the
-/// payload itself.
+/// What a slot's payload holds.
 enum class SlotKind : std::uint32_t {
-  noValue = 0,
-  inlineTextMax = 8,
-  number = 9,     ///< the number; the text is empty
-  heapText = 10,  ///< a pointer to a TextBlock
-  box = 11,       ///< a pointer to a CellBox: properties of this cell alone
+  none,        ///< there is no cell
+  noValue,     ///< nothing
+  inlineText,  ///< a text of at most 8 characters up to U+00FF, followed by zeros
+  number,      ///< the number; the text is empty
+  heapText,    ///< a pointer to a TextBlock
+  box,         ///< a pointer to a CellBox: properties of this cell alone
 };
 
-/// One stored cell: its value, and which look it has. A plain record that the store moves as bytes; the store
-/// releases what it points to.
+/// One stored cell: its value, and its tag, which says what the value is and which look the cell has. Moved
+/// about as bytes; the store releases what it points to.
 class CellSlot {
  public:
-  SlotKind Kind() const { return static_cast<SlotKind>(m_tag & KIND_MASK); }
-  bool IsInlineText() const { return Kind() != SlotKind::noValue && Kind() <= SlotKind::inlineTextMax; }
-  std::uint32_t Look() const { return m_tag >> KIND_BITS; }
-  void SetTag(SlotKind kind, std::uint32_t look) {
-    m_tag = static_cast<std::uint32_t>(kind) | (look << KIND_BITS);
-  }
+  /// No cell.
+  CellSlot() = default;
+  CellSlot(std::uint64_t payload, std::uint32_t tag) : m_payload(payload), m_tag(tag) {}
+  CellSlot(SlotKind kind, std::uint32_t look, std::uint64_t payload = 0)
+      : m_payload(payload), m_tag(static_cast<std::uint32_t>(kind) | (look << KIND_BITS)) {}
 
-  const unsigned char* Bytes() const { return m_payload; }
-  unsigned char* Bytes() { return m_payload; }
-  std::uint32_t InlineLength() const { return m_tag & KIND_MASK; }
-  double Number() const { return Load<double>(); }
-  void SetNumber(double number) { Store(number); }
+  bool Exists() const { return m_tag != 0; }
+  SlotKind Kind() const { return static_cast<SlotKind>(m_tag & KIND_MASK); }
+  std::uint32_t Look() const { return m_tag >> KIND_BITS; }
+  std::uint64_t Payload() const { return m_payload; }
+  std::uint32_t Tag() const { return m_tag; }
+
+  /// An inline text's characters. They live in the slot.
+  const unsigned char* Characters() const { return reinterpret_cast<const unsigned char*>(&m_payload); }
+  std::uint32_t Length() const {
+    const int zeros = std::endian::native == std::endian::little ? std::countl_zero(m_payload)
+                                                                 : std::countr_zero(m_payload);
+    return 8U - static_cast<std::uint32_t>(zeros) / 8U;
+  }
+  double Number() const { return std::bit_cast<double>(m_payload); }
   template <typename Target>
   Target* Pointer() const {
-    return Load<Target*>();
+    return reinterpret_cast<Target*>(static_cast<std::uintptr_t>(m_payload));
   }
-  void SetPointer(void* pointer) { Store(pointer); }
 
   static constexpr std::uint32_t MAX_LOOKS = 1U << 28U;
 
@@ -43,20 +50,8 @@ class CellSlot {
   static constexpr std::uint32_t KIND_BITS = 4;
   static constexpr std::uint32_t KIND_MASK = (1U << KIND_BITS) - 1;
 
-  template <typename Value>
-  Value Load() const {
-    Value value;
-    std::memcpy(&value, m_payload, sizeof value);
-    return value;
-  }
-  template <typename Value>
-  void Store(Value value) {
-    std::memcpy(m_payload, &value, sizeof value);
-  }
-
-  unsigned char m_payload[8];
-  std::uint32_t m_tag;
+  std::uint64_t m_payload = 0;
+  std::uint32_t m_tag = 0;
 };
-static_assert(sizeof(CellSlot) == 12);
 
 }  // namespace coregui

@@ -3,14 +3,6 @@
 #include <algorithm>
 
 namespace coregui {
-namespace {
-
-bool HasAny(const RowLeaf::Positions& positions, std::size_t row) {
-  return positions.last[row] >= positions.first[row];
-}
-
-}  // namespace
-
 CellStore::Place CellStore::Locate(std::int64_t row) {
   std::int64_t inLeaf = row - m_nearStart;
   if (m_nearLeaf == nullptr || inLeaf < 0 || inLeaf >= m_nearLeaf->count) {
@@ -46,23 +38,29 @@ CellStore::Place CellStore::MakeRow(std::int64_t row) {
   return place;
 }
 
+bool CellStore::LeafHasPosition(const RowLeaf& leaf, int row, int col) const {
+  if (!leaf.HasPositions() || !leaf.positions->HasAny(row)) return false;
+  const auto index = static_cast<std::size_t>(row);
+  return leaf.positions->first[index] <= col && col <= m_columns.ColumnOf(leaf.positions->last[index]);
+}
+
 bool CellStore::HasPosition(int col, std::int64_t row) {
   if (!HasRow(row)) return false;
   const Place place = Locate(row);
-  return place.leaf->HasPosition(col, place.row);
+  return LeafHasPosition(*place.leaf, place.row, col);
 }
 
-const CellSlot* CellStore::Find(int col, std::int64_t row) {
+CellSlot CellStore::Find(int col, std::int64_t row) {
   const int storage = m_columns.Find(col);
-  if (storage == ColumnMap::NONE || !HasRow(row)) return nullptr;
+  if (storage == ColumnMap::NONE || !HasRow(row)) return {};
   const Place place = Locate(row);
   return place.leaf->FindCell(storage, place.row);
 }
 
 bool CellStore::Get(int col, std::int64_t row, CGridCell& cell) {
-  const CellSlot* const slot = Find(col, row);
-  if (slot == nullptr) return false;
-  m_codec.MergeInto(*slot, cell);
+  const CellSlot slot = Find(col, row);
+  if (!slot.Exists()) return false;
+  m_codec.MergeInto(slot, cell);
   return true;
 }
 
@@ -70,23 +68,23 @@ void CellStore::Set(int col, std::int64_t row, CGridCell& cell) {
   const Place place = MakeRow(row);
   const auto index = static_cast<std::size_t>(place.row);
   RowLeaf::Positions& positions = *place.leaf->positions;
-  // The first write makes column 0 too.
-  if (!HasAny(positions, index)) positions.first[index] = positions.last[index] = 0;
-  positions.first[index] = std::min(positions.first[index], col);
-  positions.last[index] = std::max(positions.last[index], col);
-  ColumnChunk& chunk = place.leaf->FindOrAdd(m_columns.FindOrAdd(col));
-  if (CellSlot* const slot = chunk.Find(place.row); slot != nullptr) {
-    m_codec.Store(cell, *slot, false);
-    return;
+  if (!positions.HasAny(place.row)) {
+    // The first write makes column 0 too.
+    positions.first[index] = 0;
+    positions.last[index] = m_columns.FindOrAdd(0);
   }
-  m_codec.Store(cell, chunk.Add(place.row), true);
+  const int storage = m_columns.FindOrAdd(col);
+  positions.first[index] = std::min(positions.first[index], col);
+  if (col > m_columns.ColumnOf(positions.last[index])) positions.last[index] = storage;
+  ColumnChunk& chunk = place.leaf->FindOrAdd(storage);
+  const CellSlot before = chunk.Find(place.row);
+  chunk.Put(place.row, m_codec.Make(cell));
+  if (before.Exists()) m_codec.Release(before);
 }
 
 void CellStore::ReleaseCell(RowLeaf& leaf, int storage, int row) {
   ColumnChunk* const chunk = leaf.Find(storage);
-  if (chunk == nullptr || !chunk->Has(row)) return;
-  CellSlot slot = chunk->Take(row);
-  m_codec.Release(slot);
+  if (chunk != nullptr && chunk->Has(row)) m_codec.Release(chunk->Take(row));
 }
 
 bool CellStore::Delete(int col, std::int64_t row) {
@@ -119,66 +117,69 @@ void CellStore::DeleteRow(std::int64_t row) {
 
 void CellStore::MoveCell(RowLeaf& leaf, int row, int from, int to) {
   const int source = m_columns.Find(from);
-  if (source == ColumnMap::NONE || leaf.FindCell(source, row) == nullptr) return;
+  if (source == ColumnMap::NONE || !leaf.FindCell(source, row).Exists()) return;
   const CellSlot slot = leaf.Find(source)->Take(row);
-  leaf.FindOrAdd(m_columns.FindOrAdd(to)).Add(row) = slot;
+  leaf.FindOrAdd(m_columns.FindOrAdd(to)).Put(row, slot);
+}
+
+/// The rows with positions of which none is as far left as the negative column `col`.
+template <typename Action>
+void CellStore::ForEachRowRightOf(int col, Action action) {
+  for (RowLeaf* leaf = m_rows.First(); leaf != nullptr; leaf = leaf->next) {
+    for (int row = 0; leaf->HasPositions() && row < static_cast<int>(leaf->count); ++row) {
+      const auto index = static_cast<std::size_t>(row);
+      const int first = leaf->positions->first[index];
+      if (first > col && leaf->positions->HasAny(row))
+        action(*leaf, row, first, leaf->positions->last[index]);
+    }
+  }
 }
 
 void CellStore::InsertCol(int col) {
   m_columns.Insert(col);
-  for (RowLeaf* leaf = m_rows.First(); leaf != nullptr; leaf = leaf->next) {
-    if (!leaf->HasPositions()) continue;
-    RowLeaf::Positions& positions = *leaf->positions;
-    if (col >= 0) {
-      // Every row with positions has one at or before column 0; rows without end at -1. No branch: a vector
-      // loop.
-      for (int& last : positions.last) last += last >= col ? 1 : 0;
-      continue;
-    }
-    for (std::size_t row = 0; row < static_cast<std::size_t>(leaf->count); ++row) {
-      const int first = positions.first[row];
-      const int last = positions.last[row];
-      positions.last[row] = last + (first <= col && col <= last ? 1 : 0);
-      if (first <= col || last < first) continue;
-      // A row that does not reach so far left stays as it is: its cells go back to where they were.
-      for (int at = first; at <= last; ++at) MoveCell(*leaf, static_cast<int>(row), at + 1, at);
-    }
-  }
+  // Every row with positions has one at column 0. So the rows that end before `col` stay as they are, and the
+  // others have moved.
+  if (col >= 0) return;
+  // A row that does not reach so far left stays as it is: its cells go back to where they were.
+  ForEachRowRightOf(col, [this](RowLeaf& leaf, int row, int first, int& last) {
+    const int end = m_columns.ColumnOf(last) - 1;
+    for (int at = first; at <= end; ++at) MoveCell(leaf, row, at + 1, at);
+    last = m_columns.FindOrAdd(end);
+  });
 }
 
-void CellStore::ReleaseColumn(int storage) {
+void CellStore::ReleaseChunk(ColumnChunk& chunk) {
+  for (int i = 0; i < chunk.Count(); ++i) m_codec.Release(chunk.At(i));
+  chunk.Clear();
+}
+
+/// Releases the cells of a storage column that gave up column `col`. Rows that ended there go on to do so.
+void CellStore::ReleaseColumn(int storage, int col) {
+  int heir = ColumnMap::NONE;
   for (RowLeaf* leaf = m_rows.First(); leaf != nullptr; leaf = leaf->next) {
-    ColumnChunk* const chunk = leaf->Find(storage);
-    if (chunk == nullptr) continue;
-    for (CellSlot& slot : *chunk) m_codec.Release(slot);
-    chunk->Clear();
+    if (ColumnChunk* const chunk = leaf->Find(storage); chunk != nullptr) ReleaseChunk(*chunk);
+    for (int row = 0; leaf->HasPositions() && row < static_cast<int>(leaf->count); ++row) {
+      int& last = leaf->positions->last[static_cast<std::size_t>(row)];
+      if (last != storage) continue;
+      if (heir == ColumnMap::NONE) heir = m_columns.FindOrAdd(col);
+      last = heir;
+    }
   }
 }
 
 void CellStore::DeleteCol(int col) {
-  if (const int storage = m_columns.Erase(col); storage != ColumnMap::NONE) ReleaseColumn(storage);
-  for (RowLeaf* leaf = m_rows.First(); leaf != nullptr; leaf = leaf->next) {
-    if (!leaf->HasPositions()) continue;
-    RowLeaf::Positions& positions = *leaf->positions;
-    if (col >= 0) {
-      for (int& last : positions.last) last -= last > col ? 1 : 0;
-      continue;
-    }
-    for (std::size_t row = 0; row < static_cast<std::size_t>(leaf->count); ++row) {
-      const int first = positions.first[row];
-      const int last = positions.last[row];
-      positions.last[row] = last - (first <= col && col < last ? 1 : 0);
-      if (first <= col || last < first) continue;
-      for (int at = last; at >= first; --at) MoveCell(*leaf, static_cast<int>(row), at - 1, at);
-    }
-  }
+  if (const int storage = m_columns.Erase(col); storage != ColumnMap::NONE) ReleaseColumn(storage, col);
+  if (col >= 0) return;
+  ForEachRowRightOf(col, [this](RowLeaf& leaf, int row, int first, int& last) {
+    const int end = m_columns.ColumnOf(last) + 1;
+    for (int at = end; at >= first; --at) MoveCell(leaf, row, at - 1, at);
+    last = m_columns.FindOrAdd(end);
+  });
 }
 
 void CellStore::Clear() {
   for (RowLeaf* leaf = m_rows.First(); leaf != nullptr; leaf = leaf->next) {
-    for (ColumnChunk& chunk : leaf->columns) {
-      for (CellSlot& slot : chunk) m_codec.Release(slot);
-    }
+    for (ColumnChunk& chunk : leaf->columns) ReleaseChunk(chunk);
   }
   m_rows.Clear();
   m_columns.Clear();
@@ -189,10 +190,9 @@ void CellStore::Clear() {
 
 bool CellStore::LastPosition(std::int64_t row, int& col) {
   const Place place = Locate(row);
-  if (!place.leaf->HasPositions()) return false;
-  const auto index = static_cast<std::size_t>(place.row);
-  col = place.leaf->positions->last[index];
-  return HasAny(*place.leaf->positions, index);
+  if (!place.leaf->HasPositions() || !place.leaf->positions->HasAny(place.row)) return false;
+  col = m_columns.ColumnOf(place.leaf->positions->last[static_cast<std::size_t>(place.row)]);
+  return true;
 }
 
 void CellStore::Rebuild(RowTree&& rows) {
@@ -200,24 +200,33 @@ void CellStore::Rebuild(RowTree&& rows) {
   ForgetPlace();
 }
 
-bool CellStore::Check() const {
-  if (!m_rows.Check() || !m_columns.Check() || !m_codec.Looks().Check()) return false;
-  std::vector<std::uint64_t> uses(m_codec.Looks().Size(), 0);
-  for (RowLeaf* leaf = m_rows.First(); leaf != nullptr; leaf = leaf->next) {
-    if (leaf->columns.size() > static_cast<std::size_t>(m_columns.StorageCount())) return false;
-    for (int col = m_columns.First(); col < m_columns.End(); ++col) {
-      const ColumnChunk* const chunk =
-          m_columns.Find(col) == ColumnMap::NONE ? nullptr : leaf->Find(m_columns.Find(col));
-      for (int row = 0; chunk != nullptr && row < RowLeaf::ROWS; ++row) {
-        const CellSlot* const slot = chunk->Find(row);
-        if (slot == nullptr) continue;
-        if (!leaf->HasPosition(col, row) || !m_codec.Check(*slot)) return false;
-        ++uses[slot->Look()];
-      }
+/// Counts the cells of each look.
+bool CellStore::CheckLeaf(const RowLeaf& leaf, std::vector<std::uint64_t>& looks) const {
+  for (int row = 0; leaf.HasPositions() && row < static_cast<int>(leaf.count); ++row) {
+    const int last = leaf.positions->last[static_cast<std::size_t>(row)];
+    if (last != ColumnMap::NONE && m_columns.Find(m_columns.ColumnOf(last)) != last) return false;
+  }
+  for (std::size_t storage = 0; storage < leaf.columns.size(); ++storage) {
+    for (int row = 0; row < RowLeaf::ROWS; ++row) {
+      const CellSlot slot = leaf.columns[storage].Find(row);
+      if (!slot.Exists()) continue;
+      const int col = m_columns.ColumnOf(static_cast<int>(storage));
+      if (!LeafHasPosition(leaf, row, col) || !m_codec.Check(slot)) return false;
+      ++looks[slot.Look()];
     }
   }
-  for (std::size_t id = 0; id < uses.size(); ++id) {
-    if (uses[id] != m_codec.Looks().Count(static_cast<std::uint32_t>(id))) return false;
+  return true;
+}
+
+bool CellStore::Check() const {
+  if (!m_rows.Check() || !m_columns.Check() || !m_codec.Looks().Check()) return false;
+  std::vector<std::uint64_t> looks(m_codec.Looks().Size(), 0);
+  for (const RowLeaf* leaf = m_rows.First(); leaf != nullptr; leaf = leaf->next) {
+    if (leaf->columns.size() > static_cast<std::size_t>(m_columns.StorageCount())) return false;
+    if (!CheckLeaf(*leaf, looks)) return false;
+  }
+  for (std::size_t id = 0; id < looks.size(); ++id) {
+    if (looks[id] != m_codec.Looks().Count(static_cast<std::uint32_t>(id))) return false;
   }
   return true;
 }

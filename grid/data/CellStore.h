@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "grid/data/CellCodec.h"
 #include "grid/data/ColumnMap.h"
@@ -26,8 +27,8 @@ class CellStore {
   bool HasRow(std::int64_t row) const { return row >= FirstRow() && row < EndRow(); }
   bool HasPosition(int col, std::int64_t row);
 
-  /// The stored cell, or null. Valid until the store changes.
-  const CellSlot* Find(int col, std::int64_t row);
+  /// The stored cell, if there is one. Valid until the cell changes.
+  CellSlot Find(int col, std::int64_t row);
   /// Merges the stored cell over `cell`; false when there is none.
   bool Get(int col, std::int64_t row, CGridCell& cell);
   void Set(int col, std::int64_t row, CGridCell& cell);
@@ -60,10 +61,15 @@ class CellStore {
   Place MakeRow(std::int64_t row);
   void IncludeRow(std::int64_t row);
   void ForgetPlace() { m_nearLeaf = nullptr; }
+  bool LeafHasPosition(const RowLeaf& leaf, int row, int col) const;
   void ReleaseCell(RowLeaf& leaf, int storage, int row);
   void ReleaseRow(RowLeaf& leaf, int row);
-  void ReleaseColumn(int storage);
+  void ReleaseChunk(ColumnChunk& chunk);
+  void ReleaseColumn(int storage, int col);
+  template <typename Action>
+  void ForEachRowRightOf(int col, Action action);
   void MoveCell(RowLeaf& leaf, int row, int from, int to);
+  bool CheckLeaf(const RowLeaf& leaf, std::vector<std::uint64_t>& looks) const;
 
   RowTree m_rows;
   std::int64_t m_firstRow = 0;

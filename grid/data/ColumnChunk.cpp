@@ -1,39 +1,65 @@
 #include "grid/data/ColumnChunk.h"
 
 #include <algorithm>
-#include <bit>
 
 namespace coregui {
+namespace {
 
-int ColumnChunk::BitCount(std::uint64_t bits) {
-  return std::popcount(bits);
+template <typename Value>
+void Regrow(std::unique_ptr<Value[]>& values, int count, int capacity) {
+  auto grown = std::make_unique_for_overwrite<Value[]>(static_cast<std::size_t>(capacity));
+  std::copy_n(values.get(), count, grown.get());
+  values = std::move(grown);
 }
+
+}  // namespace
 
 void ColumnChunk::Reserve(int count) {
   if (count <= m_capacity) return;
-  int capacity = m_capacity == 0 ? std::max(count, 2) : m_capacity;
-  while (capacity < count) capacity += std::max(capacity / 2, 2);
-  // A chunk that fills up in order ends with no room to spare.
-  if (capacity > 40) capacity = ROWS;
-  auto cells = std::make_unique_for_overwrite<CellSlot[]>(static_cast<std::size_t>(capacity));
-  std::copy(begin(), end(), cells.get());
-  m_cells = std::move(cells);
+  // Few steps, for tables that are filled row by row; the last leaves no room to spare.
+  const int capacity = count <= 2 ? 2 : count <= 8 ? 8 : count <= 24 ? 24 : ROWS;
+  Regrow(m_payloads, Count(), capacity);
+  if (m_tags != nullptr) Regrow(m_tags, Count(), capacity);
   m_capacity = capacity;
 }
 
-CellSlot& ColumnChunk::Add(int row) {
-  const int count = Count();
-  Reserve(count + 1);
+/// `count`: the cells, with the one that gets the tag.
+void ColumnChunk::PutTag(int rank, int count, std::uint32_t tag) {
+  if (m_tags == nullptr) {
+    if (count == 1) m_tag = tag;
+    if (tag == m_tag) return;
+    m_tags = std::make_unique_for_overwrite<std::uint32_t[]>(Index(m_capacity));
+    std::fill_n(m_tags.get(), count, m_tag);
+  }
+  m_tags[Index(rank)] = tag;
+}
+
+void ColumnChunk::Put(int row, const CellSlot& cell) {
   const int rank = Rank(row);
-  std::copy_backward(m_cells.get() + rank, m_cells.get() + count, m_cells.get() + count + 1);
-  m_present |= 1ULL << row;
-  return m_cells[rank];
+  int count = Count();
+  if (!Has(row)) {
+    Reserve(count + 1);
+    const auto open = [rank, count](auto* values) {
+      std::copy_backward(values + rank, values + count, values + count + 1);
+    };
+    open(m_payloads.get());
+    if (m_tags != nullptr) open(m_tags.get());
+    m_present |= 1ULL << row;
+    ++count;
+  }
+  m_payloads[Index(rank)] = cell.Payload();
+  PutTag(rank, count, cell.Tag());
 }
 
 CellSlot ColumnChunk::Take(int row) {
   const int rank = Rank(row);
-  const CellSlot taken = m_cells[rank];
-  std::copy(m_cells.get() + rank + 1, end(), m_cells.get() + rank);
+  const int count = Count();
+  const CellSlot taken = At(rank);
+  const auto close = [rank, count](auto* values) {
+    std::copy(values + rank + 1, values + count, values + rank);
+  };
+  close(m_payloads.get());
+  if (m_tags != nullptr) close(m_tags.get());
   m_present &= ~(1ULL << row);
   if (m_present == 0) Clear();
   return taken;
@@ -50,20 +76,18 @@ void ColumnChunk::EraseRow(int row) {
 }
 
 void ColumnChunk::MoveTail(int from, ColumnChunk& target, int at) {
-  const std::uint64_t moving = m_present & ~Below(from);
-  if (moving == 0) return;
-  const int kept = Rank(from);
-  const int present = target.Count();
-  target.Reserve(present + BitCount(moving));
-  std::copy(m_cells.get() + kept, end(), target.m_cells.get() + present);
-  target.m_present |= (moving >> from) << at;
+  for (std::uint64_t moving = m_present & ~Below(from); moving != 0; moving &= moving - 1) {
+    const int row = std::countr_zero(moving);
+    target.Put(row - from + at, Find(row));
+  }
   m_present &= Below(from);
   if (m_present == 0) Clear();
 }
 
 bool ColumnChunk::Check(int rows) const {
   const bool inside = rows >= ROWS || (m_present >> rows) == 0;
-  return inside && Count() <= m_capacity && (m_present != 0 || m_cells == nullptr);
+  return inside && Count() <= m_capacity && (m_present != 0) == (m_payloads != nullptr) &&
+         (m_present != 0 || m_tags == nullptr);
 }
 
 }  // namespace coregui

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bit>
 #include <cstdint>
 #include <memory>
 
@@ -9,15 +10,18 @@ namespace coregui {
 
 /// One storage column's cells in up to 64 rows: a bit for each row that has a cell, and the cells without
 /// gaps. Inserting a row without a cell moves bits only.
+///
+/// The cells of a column are mostly of one kind and look. Their tag then stands here once, beside the bits:
+/// it takes no room in the cells, and what to do with a cell is known before its value has come from memory.
 class ColumnChunk {
  public:
   static constexpr int ROWS = 64;
 
   bool Has(int row) const { return ((m_present >> row) & 1U) != 0; }
-  /// The row's cell, or null.
-  CellSlot* Find(int row) const { return Has(row) ? &m_cells[Rank(row)] : nullptr; }
-  /// Makes room for a cell in a row that has none. Its content is undefined.
-  CellSlot& Add(int row);
+  /// The row's cell, if it has one.
+  CellSlot Find(int row) const { return Has(row) ? At(Rank(row)) : CellSlot(); }
+  /// Makes `cell` the row's, without releasing the one before.
+  void Put(int row, const CellSlot& cell);
   /// Takes the row's cell out, without releasing it.
   CellSlot Take(int row);
   void InsertRow(int row);
@@ -25,26 +29,28 @@ class ColumnChunk {
   void EraseRow(int row);
   /// Moves the cells of rows from `from` on to the end of `target`, which gets them from row `at` on.
   void MoveTail(int from, ColumnChunk& target, int at);
-  std::uint64_t Present() const { return m_present; }
-  /// All cells, by row.
-  CellSlot* begin() const { return m_cells.get(); }
-  CellSlot* end() const { return m_cells.get() + Count(); }
-  int Count() const { return BitCount(m_present); }
+  int Count() const { return std::popcount(m_present); }
+  /// The cells in the order of their rows, 0 to Count() - 1.
+  CellSlot At(int rank) const { return {m_payloads[Index(rank)], TagOf(rank)}; }
   void Clear() { *this = {}; }
   bool Check(int rows) const;
 
  private:
+  static std::size_t Index(int rank) { return static_cast<std::size_t>(rank); }
   static std::uint64_t Below(int row) { return (1ULL << row) - 1; }
-  static int BitCount(std::uint64_t bits);
   int Rank(int row) const {
     // The rows before have no gap in most chunks.
     const std::uint64_t before = m_present & Below(row);
-    return before == Below(row) ? row : BitCount(before);
+    return before == Below(row) ? row : std::popcount(before);
   }
+  std::uint32_t TagOf(int rank) const { return m_tags == nullptr ? m_tag : m_tags[Index(rank)]; }
+  void PutTag(int rank, int count, std::uint32_t tag);
   void Reserve(int count);
 
   std::uint64_t m_present = 0;
-  std::unique_ptr<CellSlot[]> m_cells;
+  std::unique_ptr<std::uint64_t[]> m_payloads;
+  std::unique_ptr<std::uint32_t[]> m_tags;  // null while all cells have the same
+  std::uint32_t m_tag = 0;                  // that one
   int m_capacity = 0;
 };
 

@@ -15,20 +15,23 @@ void ColumnMap::Include(int col) {
 }
 
 int ColumnMap::FindOrAdd(int col) {
+  if (const int storage = Find(col); storage != NONE) return storage;
   Include(col);
   int& storage = m_storage[static_cast<std::size_t>(col - m_first)];
-  if (storage != NONE) return storage;
   if (m_free.empty()) {
-    storage = m_count++;
+    storage = StorageCount();
+    m_columns.push_back(col);
   } else {
     storage = m_free.back();
     m_free.pop_back();
+    m_columns[static_cast<std::size_t>(storage)] = col;
   }
   return storage;
 }
 
 void ColumnMap::Insert(int col) {
   if (col >= End()) return;
+  for (int& column : m_columns) column += column >= col ? 1 : 0;
   if (col < m_first) {
     ++m_first;
     return;
@@ -38,6 +41,7 @@ void ColumnMap::Insert(int col) {
 
 int ColumnMap::Erase(int col) {
   if (col >= End()) return NONE;
+  for (int& column : m_columns) column -= column > col ? 1 : 0;
   if (col < m_first) {
     --m_first;
     return NONE;
@@ -54,12 +58,14 @@ void ColumnMap::Clear() {
 }
 
 bool ColumnMap::Check() const {
-  std::vector<int> uses(static_cast<std::size_t>(m_count), 0);
-  const auto count = [&uses](int storage) {
-    if (storage >= 0 && storage < static_cast<int>(uses.size())) ++uses[static_cast<std::size_t>(storage)];
-  };
-  std::for_each(m_storage.begin(), m_storage.end(), count);
-  std::for_each(m_free.begin(), m_free.end(), count);
+  std::vector<int> uses(m_columns.size(), 0);
+  for (const int storage : m_free) ++uses.at(static_cast<std::size_t>(storage));
+  for (long col = m_first; col < End(); ++col) {
+    const int storage = Find(static_cast<int>(col));
+    if (storage == NONE) continue;
+    ++uses.at(static_cast<std::size_t>(storage));
+    if (ColumnOf(storage) != col) return false;
+  }
   return std::all_of(uses.begin(), uses.end(), [](int times) { return times == 1; });
 }
 

@@ -18,6 +18,8 @@ class ColumnMap {
                : NONE;
   }
   int FindOrAdd(int col);
+  /// The column that a storage column in use holds.
+  int ColumnOf(int storage) const { return m_columns[static_cast<std::size_t>(storage)]; }
   /// Columns from `col` on move up by one; `col` has no storage then.
   void Insert(int col);
   /// Columns after `col` move down by one. Returns the storage that `col` had, free for another column, or
@@ -28,17 +30,17 @@ class ColumnMap {
   int First() const { return m_first; }
   long End() const { return m_first + static_cast<long>(m_storage.size()); }
   /// Storage columns are 0 to StorageCount() - 1.
-  int StorageCount() const { return m_count; }
-  /// Whether each storage column is used once or free.
+  int StorageCount() const { return static_cast<int>(m_columns.size()); }
+  /// Whether each storage column is free, or used once and knows its column.
   bool Check() const;
 
  private:
   void Include(int col);
 
   int m_first = 0;
-  std::vector<int> m_storage;
+  std::vector<int> m_storage;  // by column from the first on
+  std::vector<int> m_columns;  // by storage; of no meaning for a free one
   std::vector<int> m_free;
-  int m_count = 0;
 };
 
 }  // namespace coregui

@@ -2,363 +2,204 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <charconv>
-#include <clocale>
 #include <cmath>
-#include <cwchar>
-#include <string>
+#include <cstdint>
 #include <string_view>
 
+#include "grid/data/DecimalDigits.h"
 #include "platform/Locale.h"
 
 namespace coregui {
 namespace {
 
-__extension__ using Wide = unsigned __int128;
-
-constexpr int MAX_EXACT_DECIMALS = 20;
-constexpr std::uint64_t TEN_DIGITS = 10'000'000'000ULL;
 constexpr int MAX_DECIMALS = 1100;  // no double has more digits
 constexpr std::size_t MAX_WHOLE_DIGITS = 310;
-constexpr std::size_t LONGEST_MARK = 4;  // characters of a mark that the quick road takes
-constexpr std::size_t MOST_DIGITS = 60;
 
-/// A plain number: optional '-', digits, and '.' with more digits.
-class PlainText {
+/// One of the user's marks in a number, where it is as short as nearly all are.
+class Mark {
  public:
-  std::string_view View() const { return {m_begin, m_size}; }
-  void Assign(const char* begin, std::size_t size) {
-    m_begin = begin;
-    m_size = size;
+  static constexpr std::size_t LONGEST = 4;
+  Mark() = default;
+  explicit Mark(const std::wstring& text) : m_length(std::min(text.size(), LONGEST)) {
+    std::copy_n(text.begin(), m_length, m_characters.begin());
   }
-  char* Buffer() { return m_buffer.data(); }
-  char* BufferEnd() { return m_buffer.data() + m_buffer.size(); }
-  void Print(double number, int decimals) {
-    m_long.resize(MAX_WHOLE_DIGITS + static_cast<std::size_t>(decimals) + 3);
-    const auto end = std::to_chars(m_long.data(), m_long.data() + m_long.size(), number,
-                                   std::chars_format::fixed, decimals)
-                         .ptr;
-    Assign(m_long.data(), static_cast<std::size_t>(end - m_long.data()));
+  /// Puts the mark before `at` and returns where it begins.
+  wchar_t* WriteBefore(wchar_t* at) const {
+    for (std::size_t i = m_length; i-- > 0;) *--at = m_characters[i];
+    return at;
   }
+  wchar_t* WriteAt(wchar_t* at) const { return std::copy_n(m_characters.begin(), m_length, at); }
 
  private:
-  const char* m_begin = nullptr;
-  std::size_t m_size = 0;
-  std::array<char, 64> m_buffer{};
-  std::string m_long;
+  std::array<wchar_t, LONGEST> m_characters{};
+  std::size_t m_length = 0;
 };
 
-Wide PowerOfTen(int exponent) {
-  static const auto powers = [] {
-    std::array<Wide, MAX_EXACT_DECIMALS + 1> values{};
-    values[0] = 1;
-    for (std::size_t i = 1; i < values.size(); ++i) values[i] = values[i - 1] * 10;
-    return values;
-  }();
-  return powers[static_cast<std::size_t>(exponent)];
-}
-
-/// A number's value cut into the digits before the point and, times a power of ten, those after it.
-struct Digits {
-  std::uint64_t whole = 0;
-  Wide fraction = 0;
-};
-
-/// Exact for a magnitude below 2^63 and at most 20 decimals: the value is m / 2^k with m < 2^53, and the
-/// fraction times 10^20 stays below 2^53 * 2^67. Rounds to nearest, a tie to the even digit, as the C library
-/// does.
-bool SplitExactly(double number, int decimals, Digits& digits) {
-  const auto bits = std::bit_cast<std::uint64_t>(number);
-  const int exponentBits = static_cast<int>((bits >> 52U) & 0x7FFU);
-  if (exponentBits >= 1023 + 63 || decimals > MAX_EXACT_DECIMALS) return false;
-  const std::uint64_t low = bits & ((1ULL << 52U) - 1);
-  const std::uint64_t mantissa = exponentBits == 0 ? low : (low | (1ULL << 52U));
-  const int exponent = std::max(exponentBits, 1) - 1075;
-  if (exponent >= 0) {
-    digits.whole = mantissa << static_cast<unsigned>(exponent);
-    return true;
-  }
-  const auto shift = static_cast<unsigned>(-exponent);
-  digits.whole = shift < 64 ? mantissa >> shift : 0;
-  const std::uint64_t rest = shift < 64 ? mantissa & ((1ULL << shift) - 1) : mantissa;
-  if (rest == 0 || shift >= 128) return true;  // below 2^-75: nothing in 20 places
-  const Wide one = PowerOfTen(decimals);
-  const Wide scaled = static_cast<Wide>(rest) * one;
-  digits.fraction = scaled >> shift;
-  const Wide left = scaled - (digits.fraction << shift);
-  const Wide half = static_cast<Wide>(1) << (shift - 1);
-  const bool odd = ((decimals > 0 ? static_cast<std::uint64_t>(digits.fraction) : digits.whole) & 1U) != 0;
-  if (left > half || (left == half && odd)) ++digits.fraction;
-  if (digits.fraction == one) {
-    digits.fraction = 0;
-    ++digits.whole;
-  }
-  return true;
-}
-
-char* WriteBackwards(char* end, std::uint64_t value) {
-  do {
-    *--end = static_cast<char>('0' + value % 10);
-    value /= 10;
-  } while (value != 0);
-  return end;
-}
-
-char* WriteBackwards(char* end, std::uint64_t value, int digits) {
-  // Ten digits take two numbers of 32 bits, whose divisions are quick.
-  auto low = static_cast<std::uint32_t>(value % 100'000);
-  auto high = static_cast<std::uint32_t>(value / 100'000);
-  for (int i = 0; i < digits && i < 5; ++i, low /= 10) *--end = static_cast<char>('0' + low % 10);
-  for (int i = 5; i < digits; ++i, high /= 10) *--end = static_cast<char>('0' + high % 10);
-  return end;
-}
-
-/// As "%1.<decimals>f" prints it.
-void WritePlain(double number, int decimals, PlainText& text) {
-  Digits digits;
-  if (!SplitExactly(number, decimals, digits)) {
-    text.Print(number, decimals);
-    return;
-  }
-  char* begin = text.BufferEnd();
-  const char* const end = begin;
-  if (decimals > 10) {
-    const auto upper = static_cast<std::uint64_t>(digits.fraction / TEN_DIGITS);
-    const auto lower = static_cast<std::uint64_t>(digits.fraction - static_cast<Wide>(upper) * TEN_DIGITS);
-    begin = WriteBackwards(begin, lower, 10);
-    begin = WriteBackwards(begin, upper, decimals - 10);
-  } else {
-    begin = WriteBackwards(begin, static_cast<std::uint64_t>(digits.fraction), decimals);
-  }
-  if (decimals > 0) *--begin = '.';
-  begin = WriteBackwards(begin, digits.whole);
-  if (std::signbit(number)) *--begin = '-';
-  text.Assign(begin, static_cast<std::size_t>(end - begin));
-}
-
-std::string_view StripZeros(std::string_view text) {
-  while (!text.empty() && text.back() == '0') text.remove_suffix(1);
-  while (!text.empty() && text.front() == '0') text.remove_prefix(1);
-  return text;
-}
-
-/// The shortest road for the number that people mostly write: a whole one.
-bool WriteWhole(double number, PlainText& text) {
-  if (!(std::fabs(number) < 9.0e15) || number == 0.0) return false;
-  const auto whole = static_cast<std::int64_t>(number);
-  if (static_cast<double>(whole) != number) return false;
-  char* const end = text.BufferEnd();
-  char* begin = WriteBackwards(end, static_cast<std::uint64_t>(whole < 0 ? -whole : whole));
-  if (whole < 0) *--begin = '-';
-  text.Assign(begin, static_cast<std::size_t>(end - begin));
-  return true;
-}
-
-/// The user's locale as the writer needs it, read again when it changed.
-struct Punctuation {
-  std::uint32_t version = 0;
-  bool known = false;
-  std::wstring decimal;
-  std::wstring thousands;
-  std::wstring minus;
+/// How a number's digits are set apart.
+struct Marks {
+  Mark decimal;
+  Mark thousands;
+  Mark minus;
   bool leadingZero = true;
-  bool areShort = true;      ///< none of the marks is longer than LONGEST_MARK
-  bool leadingMinus = true;  ///< negative numbers are the minus sign and the digits, as most write them
-
-  static const Punctuation& Current() {
-    static Punctuation current;
-    const std::uint32_t version = GetUserLocaleVersion();
-    if (!current.known || current.version != version) current.Read(version);
-    return current;
-  }
-
- private:
-  void Read(std::uint32_t newVersion) {
-    const UserLocale& locale = GetUserLocale();
-    version = newVersion;
-    known = true;
-    decimal = locale.decimal.Str();
-    thousands = locale.thousands.Str();
-    minus = locale.negative.Str();
-    leadingZero = locale.leadingZero;
-    leadingMinus = locale.negativeOrder == 1;
-    areShort =
-        decimal.size() <= LONGEST_MARK && thousands.size() <= LONGEST_MARK && minus.size() <= LONGEST_MARK;
-  }
+  bool areUsual = true;  ///< none is longer than a Mark, and the minus sign stands before the digits
 };
 
-void AppendAscii(std::wstring& target, std::string_view text) {
-  target.append(text.begin(), text.end());
+/// The user's marks, read again when the locale changed.
+const Marks& UserMarks() {
+  static Marks marks;
+  static std::uint32_t version = 0;
+  static bool known = false;
+  if (known && version == GetUserLocaleVersion()) return marks;
+  const UserLocale& locale = GetUserLocale();
+  const auto isShort = [](const CString& text) { return text.Str().size() <= Mark::LONGEST; };
+  marks.decimal = Mark(locale.decimal.Str());
+  marks.thousands = Mark(locale.thousands.Str());
+  marks.minus = Mark(locale.negative.Str());
+  marks.leadingZero = locale.leadingZero;
+  marks.areUsual = isShort(locale.decimal) && isShort(locale.thousands) && isShort(locale.negative) &&
+                   locale.negativeOrder == 1;
+  version = GetUserLocaleVersion();
+  known = true;
+  return marks;
 }
 
-/// A grouped number on its way into a text: 60 digits and their separators fit.
-class GroupedText {
+Marks PlainMarks(bool leadingZero) {
+  static const Mark point(L".");
+  static const Mark minus(L"-");
+  return {point, {}, minus, leadingZero, true};
+}
+
+/// 00 to 99 as characters.
+constexpr auto PAIRS = [] {
+  std::array<wchar_t, 200> pairs{};
+  for (std::size_t i = 0; i < 100; ++i) {
+    pairs[2 * i] = static_cast<wchar_t>(L'0' + i / 10);
+    pairs[2 * i + 1] = static_cast<wchar_t>(L'0' + i % 10);
+  }
+  return pairs;
+}();
+
+void WritePair(wchar_t* at, std::uint32_t pair) {
+  std::copy_n(PAIRS.begin() + static_cast<std::ptrdiff_t>(2 * pair), 2, at);
+}
+
+void WriteTen(wchar_t* at, std::uint64_t value) {
+  constexpr std::uint32_t EIGHT_DIGITS = 100'000'000;
+  const auto top = static_cast<std::uint32_t>(value / EIGHT_DIGITS);
+  const auto rest = static_cast<std::uint32_t>(value - static_cast<std::uint64_t>(top) * EIGHT_DIGITS);
+  const std::uint32_t high = rest / 10'000;
+  const std::uint32_t low = rest % 10'000;
+  WritePair(at, top);
+  WritePair(at + 2, high / 100);
+  WritePair(at + 4, high % 100);
+  WritePair(at + 6, low / 100);
+  WritePair(at + 8, low % 100);
+}
+
+/// A number on its way into a text: the whole part grows to the front, the decimals to the back.
+class NumberLine {
  public:
-  void Add(wchar_t character) { *m_end++ = character; }
-  void Add(const std::wstring& mark) {
-    for (const wchar_t character : mark) *m_end++ = character;
+  explicit NumberLine(const Marks& marks) : m_marks(marks) {}
+  /// `decimals` places, or with a negative number those up to the last that is not 0.
+  void WriteDecimals(const DecimalDigits& digits, int decimals) {
+    if (decimals == 0 || (decimals < 0 && digits.IsWhole())) return;
+    wchar_t* const places = m_marks.decimal.WriteAt(m_end);
+    WriteTen(places, digits.upper);
+    if (decimals < 0 && digits.lower == 0) {
+      m_end = WithoutZeros(places + DecimalDigits::PLACES / 2);
+      return;
+    }
+    WriteTen(places + DecimalDigits::PLACES / 2, digits.lower);
+    m_end = decimals < 0 ? WithoutZeros(places + DecimalDigits::PLACES) : places + decimals;
   }
-  void Finish(CString& target) {
-    *m_end = L'\0';
-    target.Empty();
-    target += m_text.data();
+  void WriteWhole(std::uint64_t whole) {
+    if (whole == 0 && (m_marks.leadingZero || m_end == m_begin)) *--m_begin = L'0';
+    while (whole >= 1000) {
+      const std::uint64_t left = whole / 1000;
+      const auto group = static_cast<std::uint32_t>(whole - left * 1000);
+      m_begin -= 3;
+      m_begin[0] = static_cast<wchar_t>(L'0' + group / 100);
+      WritePair(m_begin + 1, group % 100);
+      m_begin = m_marks.thousands.WriteBefore(m_begin);
+      whole = left;
+    }
+    for (auto first = static_cast<std::uint32_t>(whole); first != 0; first /= 10)
+      *--m_begin = static_cast<wchar_t>(L'0' + first % 10);
   }
+  void WriteMinus() { m_begin = m_marks.minus.WriteBefore(m_begin); }
+  void CopyTo(std::wstring& text) const { text.assign(m_begin, static_cast<std::size_t>(m_end - m_begin)); }
 
  private:
-  std::array<wchar_t, 2 * MOST_DIGITS + 20 * LONGEST_MARK> m_text;
-  wchar_t* m_end = m_text.data();
+  static constexpr std::size_t WHOLE_ROOM = 19 + 7 * Mark::LONGEST;  // 19 digits, 6 separators, the sign
+
+  static wchar_t* WithoutZeros(wchar_t* end) {
+    while (end[-1] == L'0') --end;
+    return end;
+  }
+
+  const Marks& m_marks;
+  std::array<wchar_t, WHOLE_ROOM + Mark::LONGEST + DecimalDigits::PLACES> m_room;
+  wchar_t* m_begin = m_room.data() + WHOLE_ROOM;
+  wchar_t* m_end = m_begin;
 };
 
-/// Whether the text is digits with one '.' at most; finds the point, or the end, and whether a digit is not
-/// 0.
-bool IsPlain(std::string_view text, std::size_t& point, bool& notZero) {
-  point = text.size();
-  notZero = false;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const char character = text[i];
-    if (character == '.' && point == text.size()) {
-      point = i;
-    } else if (character >= '0' && character <= '9') {
-      notZero = notZero || character != '0';
-    } else {
-      return false;
-    }
-  }
+/// The road of nearly all numbers. False where the platform has to decide: what is no number or has more
+/// digits, marks out of the usual, a zero with a sign.
+bool WriteUsual(double number, const NumberForm& form, const Marks& marks, std::wstring& text) {
+  if (!marks.areUsual || (form.fixedDecimals && form.decimals > DecimalDigits::PLACES)) return false;
+  const int decimals = form.fixedDecimals ? std::max(form.decimals, 0) : DecimalDigits::PLACES;
+  DecimalDigits digits;
+  if (!SplitNumber(number, decimals, digits)) return false;
+  const bool negative = std::signbit(number);
+  if (negative && form.userLocale && digits.whole == 0 && digits.IsWhole()) return false;
+  NumberLine line(marks);
+  line.WriteDecimals(digits, form.fixedDecimals ? decimals : -1);
+  line.WriteWhole(digits.whole);
+  if (negative) line.WriteMinus();
+  line.CopyTo(text);
   return true;
 }
 
-/// Groups and punctuates a plain number that already has its digits. False where the platform has to decide:
-/// what is no number, a zero with a sign, other negative orders, texts near the limit.
-bool WriteGrouped(std::string_view plain, CString& target) {
-  const Punctuation& marks = Punctuation::Current();
-  const bool negative = plain.front() == '-';
-  if (negative) plain.remove_prefix(1);
-  std::size_t point = 0;
-  bool notZero = false;
-  if (!marks.areShort || plain.size() > MOST_DIGITS || !IsPlain(plain, point, notZero)) return false;
-  if (negative && (!notZero || !marks.leadingMinus)) return false;
-  std::string_view whole = plain.substr(0, point);
-  while (!whole.empty() && whole.front() == '0') whole.remove_prefix(1);
-  GroupedText text;
-  if (negative) text.Add(marks.minus);
-  if (whole.empty() && (marks.leadingZero || point == plain.size())) text.Add(L'0');
-  std::size_t untilMark = whole.size() % 3 == 0 ? 3 : whole.size() % 3;
-  for (const char digit : whole) {
-    if (untilMark == 0) {
-      text.Add(marks.thousands);
-      untilMark = 3;
-    }
-    text.Add(static_cast<wchar_t>(digit));
-    --untilMark;
+/// As "%1.<decimals>f" prints it, without the zeros at its ends where decimals are not fixed.
+std::string PrintPlain(double number, const NumberForm& form) {
+  const int decimals =
+      form.fixedDecimals ? std::clamp(form.decimals, 0, MAX_DECIMALS) : DecimalDigits::PLACES;
+  std::string text(MAX_WHOLE_DIGITS + static_cast<std::size_t>(decimals) + 3, '\0');
+  char* const end = text.data() + text.size();
+  text.erase(static_cast<std::size_t>(
+      std::to_chars(text.data(), end, number, std::chars_format::fixed, decimals).ptr - text.data()));
+  if (!form.fixedDecimals) {
+    text.erase(text.find_last_not_of('0') + 1);
+    text.erase(0, text.find_first_not_of('0'));
   }
-  if (point < plain.size()) {
-    text.Add(marks.decimal);
-    for (const char digit : plain.substr(point + 1)) text.Add(static_cast<wchar_t>(digit));
-  }
-  text.Finish(target);
-  return true;
+  if (!text.empty() && text.back() == '.') text.erase(text.find_last_not_of('.') + 1);
+  return text.empty() ? "0" : text;
 }
 
-std::string_view WithoutPoint(std::string_view text) {
-  if (!text.empty() && text.back() == '.') {
-    while (!text.empty() && text.back() == '.') text.remove_suffix(1);
-  }
-  return text.empty() ? std::string_view("0") : text;
-}
-
-/// Keeps the target's buffer.
-void Store(const std::wstring& source, CString& target) {
-  target.Empty();
-  target += source.c_str();
-}
-
-void ReplaceAll(std::wstring& text, const std::wstring& from, const std::wstring& to) {
-  if (from.empty()) return;
-  for (std::size_t at = text.find(from); at != std::wstring::npos; at = text.find(from, at + to.size())) {
-    text.replace(at, from.size(), to);
-  }
-}
-
-/// A number of at most 15 digits is a whole number below 2^53 divided by a power of ten below 10^22: one
-/// exact operation on exact operands, so the result is the nearest double.
-bool ReadShort(std::wstring_view text, double& number) {
-  const bool negative = !text.empty() && text.front() == L'-';
-  if (negative) text.remove_prefix(1);
-  if (text.empty() || text.size() > 16) return false;
-  std::uint64_t whole = 0;
-  int digits = 0;
-  int decimals = -1;
-  for (const wchar_t character : text) {
-    if (character == L'.' && decimals < 0) {
-      decimals = 0;
-    } else if (character >= L'0' && character <= L'9') {
-      whole = whole * 10 + static_cast<std::uint64_t>(character - L'0');
-      ++digits;
-      if (decimals >= 0) ++decimals;
-    } else {
-      return false;
-    }
-  }
-  if (digits == 0 || digits > 15) return false;
-  number = static_cast<double>(whole) /
-           static_cast<double>(static_cast<std::uint64_t>(PowerOfTen(std::max(decimals, 0))));
-  if (negative) number = -number;
-  return true;
-}
-
-/// The C library reads the process's separator; the text has '.' by now.
-locale_t PlainLocale() {
-  static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
-  return plain;
-}
-
-void WriteLocale(std::string_view plain, const NumberForm& form, std::wstring& scratch, CString& text) {
-  if (WriteGrouped(plain, text)) return;
-  scratch.clear();
-  AppendAscii(scratch, plain);
-  const CString source{std::wstring_view(scratch)};
+void WriteByPlatform(double number, const NumberForm& form, std::wstring& text) {
+  const std::string plain = PrintPlain(number, form);
+  text.assign(plain.begin(), plain.end());
+  if (!form.userLocale) return;
   const std::size_t point = plain.rfind('.');
-  const int shown = point == std::string_view::npos ? 0 : static_cast<int>(plain.size() - point - 1);
-  text = FormatNumberText(source, form.fixedDecimals ? std::max(form.decimals, 0) : shown);
-  if (!text.IsEmpty()) return;
-  text = source;
-  text.Replace(L".", GetUserLocale().decimal);
+  const int shown = point == std::string::npos ? 0 : static_cast<int>(plain.size() - point - 1);
+  const CString formatted = FormatNumberText(CString(text), form.fixedDecimals ? form.decimals : shown);
+  if (!formatted.IsEmpty()) {
+    text = formatted.Str();
+  } else if (point != std::string::npos) {
+    text.replace(point, 1, GetUserLocale().decimal.Str());
+  }
 }
 
 }  // namespace
 
-void WriteNumber(double number, const NumberForm& form, CString& text) {
-  PlainText buffer;
-  std::string_view plain;
-  if (form.fixedDecimals) {
-    WritePlain(number, std::clamp(form.decimals, 0, MAX_DECIMALS), buffer);
-    plain = buffer.View();
-  } else if (WriteWhole(number, buffer)) {
-    plain = buffer.View();
-  } else {
-    WritePlain(number, MAX_EXACT_DECIMALS, buffer);
-    plain = StripZeros(buffer.View());
-  }
-  plain = WithoutPoint(plain);
-  thread_local std::wstring scratch;
-  if (form.userLocale) {
-    WriteLocale(plain, form, scratch, text);
-    return;
-  }
-  scratch.clear();
-  AppendAscii(scratch, plain);
-  Store(scratch, text);
-}
-
-double ReadNumber(const CString& text) {
-  const UserLocale& locale = GetUserLocale();
-  std::wstring plain = text.Str();
-  ReplaceAll(plain, locale.thousands.Str(), L"");
-  ReplaceAll(plain, locale.currency.Str(), L"");
-  if (locale.decimal != L".") ReplaceAll(plain, locale.decimal.Str(), L".");
-  double number = 0.0;
-  return ReadShort(plain, number) ? number : wcstod_l(plain.c_str(), nullptr, PlainLocale());
+void WriteNumber(double number, const NumberForm& form, std::wstring& text) {
+  // Without the user's marks a leading zero stays where digits are fixed or a sign stands before it.
+  const bool done =
+      form.userLocale
+          ? WriteUsual(number, form, UserMarks(), text)
+          : WriteUsual(number, form, PlainMarks(form.fixedDecimals || std::signbit(number)), text);
+  if (!done) WriteByPlatform(number, form, text);
 }
 
 }  // namespace coregui

@@ -6,7 +6,7 @@ namespace coregui {
 
 void RowLeaf::MakePositions() {
   positions = std::make_unique<Positions>();
-  positions->last.fill(-1);
+  positions->last.fill(ColumnMap::NONE);
 }
 
 ColumnChunk& RowLeaf::FindOrAdd(int storage) {
@@ -20,7 +20,7 @@ ColumnChunk& RowLeaf::FindOrAdd(int storage) {
 
 void RowLeaf::AppendRow() {
   positions->first[static_cast<std::size_t>(count)] = 0;
-  positions->last[static_cast<std::size_t>(count)] = -1;
+  positions->last[static_cast<std::size_t>(count)] = ColumnMap::NONE;
   ++count;
 }
 
@@ -30,7 +30,7 @@ void RowLeaf::InsertRow(int row) {
     values[static_cast<std::size_t>(row)] = fresh;
   };
   shift(positions->first, 0);
-  shift(positions->last, -1);
+  shift(positions->last, ColumnMap::NONE);
   for (ColumnChunk& chunk : columns) chunk.InsertRow(row);
   ++count;
 }
@@ -53,7 +53,7 @@ void RowLeaf::MoveTail(int from, RowLeaf& target) {
   move(positions->first, target.positions->first);
   move(positions->last, target.positions->last);
   for (std::size_t i = 0; i < columns.size(); ++i) {
-    if (columns[i].Present() != 0) columns[i].MoveTail(from, target.FindOrAdd(static_cast<int>(i)), at);
+    if (columns[i].Count() != 0) columns[i].MoveTail(from, target.FindOrAdd(static_cast<int>(i)), at);
   }
   target.count += count - from;
   count = from;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "grid/data/ColumnChunk.h"
+#include "grid/data/ColumnMap.h"
 
 namespace coregui {
 
@@ -34,10 +35,13 @@ class RowNode {
 class RowLeaf final : public RowNode {
  public:
   static constexpr int ROWS = ColumnChunk::ROWS;
-  /// The positions of each row: first to last; none when last < first.
+  /// The positions of each row: from the column `first`, 0 or below, to the one that the storage column
+  /// `last` holds; none when that is ColumnMap::NONE. So an inserted column moves the ends of the rows that
+  /// reach it, and no row is touched.
   struct Positions {
     std::array<int, ROWS> first{};
     std::array<int, ROWS> last{};
+    bool HasAny(int row) const { return last[static_cast<std::size_t>(row)] != ColumnMap::NONE; }
   };
 
   RowLeaf() : RowNode(true) {}
@@ -49,9 +53,11 @@ class RowLeaf final : public RowNode {
     return static_cast<std::size_t>(storage) < columns.size() ? &columns[static_cast<std::size_t>(storage)]
                                                               : nullptr;
   }
-  CellSlot* FindCell(int storage, int row) {
-    ColumnChunk* const chunk = Find(storage);
-    return chunk != nullptr ? chunk->Find(row) : nullptr;
+  /// The cell, if there is one.
+  CellSlot FindCell(int storage, int row) const {
+    return static_cast<std::size_t>(storage) < columns.size()
+               ? columns[static_cast<std::size_t>(storage)].Find(row)
+               : CellSlot();
   }
   ColumnChunk& FindOrAdd(int storage);
   /// Appends a row without positions; there is room.
@@ -61,10 +67,6 @@ class RowLeaf final : public RowNode {
   void EraseRow(int row);
   /// Moves the rows from `from` on behind the rows of `target`, which has room.
   void MoveTail(int from, RowLeaf& target);
-  bool HasPosition(int col, int row) const {
-    return positions != nullptr && positions->first[static_cast<std::size_t>(row)] <= col &&
-           col <= positions->last[static_cast<std::size_t>(row)];
-  }
   bool Check() const;
 
   std::int64_t count = 0;

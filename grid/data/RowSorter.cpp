@@ -31,10 +31,10 @@ class OwnerCompare {
   }
 
  private:
-  void Read(const CellSlot* cell, CGridCell& target) const {
+  void Read(const CellSlot& cell, CGridCell& target) const {
     target.ClearAll();
     target.SetPropertyFlags(0);
-    if (cell != nullptr) m_codec.MergeInto(*cell, target);
+    if (cell.Exists()) m_codec.MergeInto(cell, target);
   }
   int CompareKey(std::size_t key, std::uint32_t other) {
     Read(m_cells[key][other], m_other);
@@ -123,8 +123,8 @@ void RowSorter::OpenRuns() {
   m_items = std::move(opened);
 }
 
-std::vector<const CellSlot*> RowSorter::KeyCells(int col) const {
-  std::vector<const CellSlot*> cells(m_items.size() - m_fixed, nullptr);
+std::vector<CellSlot> RowSorter::KeyCells(int col) const {
+  std::vector<CellSlot> cells(m_items.size() - m_fixed);
   const int storage = m_store.Columns().Find(col);
   if (storage == ColumnMap::NONE) return cells;
   for (std::size_t i = 0; i < cells.size(); ++i) {
@@ -217,18 +217,12 @@ std::vector<RowLeaf*> RowSorter::BuildLeaves(const std::vector<std::uint32_t>& o
 
 void RowSorter::FillColumn(int storage, const std::vector<std::uint32_t>& order,
                            const std::vector<RowLeaf*>& leaves) const {
-  struct Cell {
-    CellSlot slot;
-    bool stored;
-  };
-  std::vector<Cell> cells(m_items.size());
+  std::vector<CellSlot> cells(m_items.size());
   bool any = false;
   for (std::size_t i = 0; i < m_items.size(); ++i) {
     const Item& item = m_items[i];
-    const CellSlot* const slot = item.run == 0 ? item.leaf->FindCell(storage, item.row) : nullptr;
-    cells[i].stored = slot != nullptr;
-    if (slot != nullptr) cells[i].slot = *slot;
-    any = any || slot != nullptr;
+    if (item.run == 0) cells[i] = item.leaf->FindCell(storage, item.row);
+    any = any || cells[i].Exists();
   }
   if (!any) return;
   auto at = order.begin();
@@ -236,10 +230,10 @@ void RowSorter::FillColumn(int storage, const std::vector<std::uint32_t>& order,
     ColumnChunk* chunk = nullptr;
     for (int row = 0; row < static_cast<int>(leaf->count); ++at) {
       if (IsRun(*at)) continue;
-      const Cell& cell = cells[*at];
-      if (cell.stored) {
+      const CellSlot& cell = cells[*at];
+      if (cell.Exists()) {
         if (chunk == nullptr) chunk = &leaf->FindOrAdd(storage);
-        chunk->Add(row) = cell.slot;
+        chunk->Put(row, cell);
       }
       ++row;
     }

@@ -28,7 +28,7 @@ class RowSorter {
   /// Gives each row of a run an item of its own, for comparisons that may part them.
   void OpenRuns();
   std::vector<std::uint32_t> Order(const std::vector<int>& cols);
-  std::vector<const CellSlot*> KeyCells(int col) const;
+  std::vector<CellSlot> KeyCells(int col) const;
   void Rebuild(const std::vector<std::uint32_t>& order);
   std::vector<RowLeaf*> BuildLeaves(const std::vector<std::uint32_t>& order, RowTree& rows) const;
   void FillColumn(int storage, const std::vector<std::uint32_t>& order,

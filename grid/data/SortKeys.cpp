@@ -10,9 +10,9 @@
 namespace coregui {
 namespace {
 
-bool ComparesByNumber(const CellCodec& codec, const CellSlot* cell) {
-  if (cell == nullptr) return false;
-  const short type = codec.DataType(*cell);
+bool ComparesByNumber(const CellCodec& codec, const CellSlot& cell) {
+  if (!cell.Exists()) return false;
+  const short type = codec.DataType(cell);
   return type == CELLDATA_NUMBER || type == CELLDATA_BOOL || type == CELLDATA_CURRENCY;
 }
 
@@ -54,9 +54,9 @@ struct TextForm {
 
 TextForm FormOf(const CellCodec& codec, const KeyCells& cells) {
   TextForm form;
-  for (const CellSlot* const cell : cells) {
-    if (cell == nullptr || cell->IsInlineText() || !codec.HasValue(*cell)) continue;
-    const StoredText text = codec.TextField(*cell);
+  for (const CellSlot& cell : cells) {
+    if (cell.Kind() == SlotKind::inlineText || !codec.HasValue(cell)) continue;
+    const StoredText text = codec.TextField(cell);
     if (text.width != 1 && text.length != 0) form.narrow = false;
     if (text.length > 8) form.complete = false;
   }
@@ -68,7 +68,7 @@ TextForm FormOf(const CellCodec& codec, const KeyCells& cells) {
 void RefineTexts(const CellCodec& codec, const KeyCells& cells, bool descending,
                  std::vector<KeyedRow>& entries) {
   const auto less = [&](const KeyedRow& a, const KeyedRow& b) {
-    const int order = CompareTexts(codec.TextField(*cells[a.row]), codec.TextField(*cells[b.row]));
+    const int order = CompareTexts(codec.TextField(cells[a.row]), codec.TextField(cells[b.row]));
     return descending ? order > 0 : order < 0;
   };
   for (auto begin = entries.begin(); begin != entries.end();) {
@@ -81,11 +81,11 @@ void RefineTexts(const CellCodec& codec, const KeyCells& cells, bool descending,
 
 /// The place of each row's text among those of the column, equal for equal texts. Only of rows with a text.
 void RankTexts(const CellCodec& codec, const KeyCells& cells, std::vector<SortKey>& keys) {
-  std::vector<CString> texts(cells.size());
+  std::vector<std::wstring> texts(cells.size());
   std::vector<KeyedRow> rows;
   for (std::uint32_t row = 0; row < cells.size(); ++row) {
     if (!keys[row].hasText) continue;
-    texts[row] = codec.ShownString(*cells[row]);
+    texts[row] = codec.ShownString(cells[row]);
     rows.push_back({WideKey(WideText(texts[row])), row});
   }
   SortByKey(rows);
@@ -128,18 +128,18 @@ void SortByKey(std::vector<KeyedRow>& rows) {
   }
 }
 
-bool IsBlankKey(const CellCodec& codec, const CellSlot* cell) {
-  return cell == nullptr || (!ComparesByNumber(codec, cell) && !codec.HasValue(*cell));
+bool IsBlankKey(const CellCodec& codec, const CellSlot& cell) {
+  return !codec.HasValue(cell) && !ComparesByNumber(codec, cell);
 }
 
 bool IsConsistent(const CellCodec& codec, const KeyCells& cells) {
   bool numbers = false;
   bool texts = false;
-  for (const CellSlot* const cell : cells) {
+  for (const CellSlot& cell : cells) {
     const bool byNumber = ComparesByNumber(codec, cell);
     (byNumber ? numbers : texts) = true;
     if (numbers && texts) return false;
-    if (byNumber && std::isnan(codec.NumberValue(*cell))) return false;
+    if (byNumber && std::isnan(codec.NumberValue(cell))) return false;
   }
   return true;
 }
@@ -152,7 +152,7 @@ void SortByColumn(const CellCodec& codec, const KeyCells& cells, bool descending
   entries.reserve(order.size());
   bool byNumber = false;
   for (const std::uint32_t row : order) {
-    const CellSlot* const cell = cells[row];
+    const CellSlot& cell = cells[row];
     if ((!ended.empty() && ended[row]) || IsBlankKey(codec, cell)) {
       blank.push_back(row);
       continue;
@@ -160,9 +160,9 @@ void SortByColumn(const CellCodec& codec, const KeyCells& cells, bool descending
     byNumber = ComparesByNumber(codec, cell);
     std::uint64_t key = 0;
     if (byNumber) {
-      key = NumberKey(codec.NumberValue(*cell));
+      key = NumberKey(codec.NumberValue(cell));
     } else {
-      const StoredText text = codec.TextField(*cell);
+      const StoredText text = codec.TextField(cell);
       key = form.narrow ? NarrowKey(text) : WideKey(text);
     }
     entries.push_back({descending ? ~key : key, row});
@@ -181,15 +181,14 @@ std::vector<SortKey> MakeSortKeys(const CellCodec& codec, const KeyCells& cells)
   bool anyNumber = false;
   bool anyText = false;
   for (std::size_t row = 0; row < cells.size(); ++row) {
-    const CellSlot* const cell = cells[row];
-    if (cell == nullptr) continue;
+    const CellSlot& cell = cells[row];
     keys[row].byNumber = ComparesByNumber(codec, cell);
-    keys[row].hasText = codec.HasValue(*cell);
+    keys[row].hasText = codec.HasValue(cell);
     anyNumber = anyNumber || keys[row].byNumber;
     anyText = anyText || (keys[row].hasText && !keys[row].byNumber);
   }
   for (std::size_t row = 0; anyNumber && row < cells.size(); ++row) {
-    if (cells[row] != nullptr) keys[row].number = codec.NumberValue(*cells[row]);
+    keys[row].number = codec.NumberValue(cells[row]);
   }
   if (anyText) RankTexts(codec, cells, keys);
   return keys;

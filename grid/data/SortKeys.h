@@ -25,8 +25,8 @@ void SortByKey(std::vector<KeyedRow>& rows);
 /// A number whose order among unsigned numbers is the double's; both zeros are one. Not for NaN.
 std::uint64_t NumberKey(double number);
 
-/// The cells of one key column, null where there is none.
-using KeyCells = std::vector<const CellSlot*>;
+/// The cells of one key column; those of rows without one do not exist.
+using KeyCells = std::vector<CellSlot>;
 
 /// Whether the standard comparison orders these cells without contradiction: all by number, none of them NaN,
 /// or all by text. A cell without text goes behind (with descending order before) all others, and such cells
@@ -40,7 +40,7 @@ void SortByColumn(const CellCodec& codec, const KeyCells& cells, bool descending
                   const std::vector<bool>& ended, std::vector<std::uint32_t>& order);
 
 /// Whether the cell compares by text and has none.
-bool IsBlankKey(const CellCodec& codec, const CellSlot* cell);
+bool IsBlankKey(const CellCodec& codec, const CellSlot& cell);
 
 std::vector<SortKey> MakeSortKeys(const CellCodec& codec, const KeyCells& cells);
 
