@@ -128,8 +128,7 @@ int CGridMem::FindNext(CString* text, int* col, long* row, int flags) {
 
 int CGridMem::SortBy(int* cols, int count, int flags) {
   if (m_store->IsEmpty() || m_store->EndRow() <= 0) return 1;
-  coregui::RowSorter(*m_store, GetOwner(), flags).Sort({cols, cols + std::max(count, 0)});
-  return 0;
+  return coregui::RowSorter(*m_store, GetOwner(), flags).Sort({cols, cols + std::max(count, 0)}) ? 0 : 1;
 }
 
 int CGridMem::SortBy(int col, int flags) {

@@ -49,7 +49,7 @@ class COREGUI_API CGridMem : public CGridDataSource {
 
   int FindFirst(CString* text, int* col, long* row, long flags) override;
   int FindNext(CString* text, int* col, long* row, int flags) override;
-  /// 1 when nothing is stored. Rows before row 0 stay where they are.
+  /// 1 when nothing is stored, or rows beyond 2^32. Rows before row 0 stay where they are.
   int SortBy(int* cols, int count, int flags) override;
   int SortBy(int col, int flags) override;
 

@@ -11,8 +11,7 @@ namespace coregui {
 class KeyCompare {
  public:
   /// `keys` by column and row, one column at least. Borrowed.
-  KeyCompare(const std::vector<std::vector<SortKey>>& keys, bool descending)
-      : m_keys(keys), m_descending(descending) {}
+  KeyCompare(const std::vector<KeyColumn>& keys, bool descending) : m_keys(keys), m_descending(descending) {}
   /// The row to compare with others.
   void Take(std::uint32_t row) { m_row = row; }
   int First(std::uint32_t other) const { return Compare(m_keys[0], other); }
@@ -24,11 +23,11 @@ class KeyCompare {
   }
 
  private:
-  int Compare(const std::vector<SortKey>& keys, std::uint32_t other) const {
+  int Compare(const KeyColumn& keys, std::uint32_t other) const {
     return CompareKeys(keys[m_row], keys[other], m_descending);
   }
 
-  const std::vector<std::vector<SortKey>>& m_keys;
+  const std::vector<KeyColumn>& m_keys;
   bool m_descending;
   std::uint32_t m_row = 0;
 };

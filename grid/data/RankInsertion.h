@@ -13,29 +13,47 @@ namespace coregui {
 /// Where blanks, texts and numbers stand together the run is not sorted in any one order, so the place of a
 /// new row depends on where the scan begins and on which rows the leaps land; both are followed here, and
 /// what lies between is passed over by rank.
+///
+/// Many rows without keys, as they lie before a row far out, are inserted one at a time only until it is
+/// known what the next ones do; those then go in at once.
 class RankInsertion {
  public:
   /// `ranks` are exact; `compare` compares the same rows. Both borrowed.
   RankInsertion(const SortRanks& ranks, KeyCompare& compare);
-  /// The order of the rows 0 to count - 1.
-  std::vector<std::uint32_t> Sort(std::uint32_t count);
+  /// The order of these rows. Those that are counted have no keys, and have one name together.
+  std::vector<RankedRows> Sort(const std::vector<RankedRows>& rows);
 
  private:
   static constexpr std::uint32_t LEAP = 100;
   static constexpr int PATIENCE = 2;
+  /// Where the scan of the next row begins depends on these alone.
+  struct Hint {
+    std::uint32_t position = 0;
+    std::uint32_t row = 0;  // the row there
+    int count = 0;
+    friend bool operator==(const Hint&, const Hint&) = default;
+  };
+  /// The steps of four like rows.
+  struct Cycle {
+    Hint begin;
+    int steps = 0;
+    bool onlyAppends = true;
+  };
+
   std::uint32_t ChooseStart();
   void MoveHint(std::uint32_t position);
   std::uint32_t FindPlace(std::uint32_t start);
-  bool GoesBefore(std::uint32_t position);
+  bool InsertOne(std::uint32_t row);
+  void InsertMany(std::uint32_t row, std::uint32_t count);
+  std::uint32_t FindLikeSteps(std::uint32_t row, std::uint32_t count, std::uint32_t& place) const;
+  bool Recurs(Cycle& cycle, bool appended) const;
 
   const SortRanks& m_ranks;
   KeyCompare& m_compare;
   RankTree m_run;
   std::vector<int> m_limits;  // of the row to insert
-  std::vector<int> m_scratch;
-  std::uint32_t m_hint = 0;     // the hint row's position
-  std::uint32_t m_hintRow = 0;  // and the row itself
-  int m_count = 0;
+  std::vector<int> m_own;     // its ranks
+  Hint m_hint;
 };
 
 }  // namespace coregui

@@ -1,9 +1,15 @@
 #include "grid/data/RankTree.h"
 
 #include <algorithm>
-#include <numeric>
 
 namespace coregui {
+
+/// The entry that holds the position, which is below Rows(). It looks at all entries: that takes no branch.
+std::uint32_t RankTree::Node::Find(std::uint32_t position) const {
+  std::uint32_t before = 0;
+  for (const std::uint32_t end : ends) before += end <= position ? 1 : 0;
+  return before;
+}
 
 RankTree::RankTree(std::size_t kinds) : m_kinds(kinds) {
   m_root = AddNode();
@@ -15,26 +21,34 @@ std::uint32_t RankTree::AddNode() {
   return static_cast<std::uint32_t>(m_nodes.size() - 1);
 }
 
-std::uint32_t RankTree::At(std::uint32_t position) const {
+RankedRows RankTree::EntryAt(std::uint32_t position) const {
   std::uint32_t node = m_root;
-  for (int level = m_height; level > 0; --level) {
-    const Node& inner = m_nodes[node];
-    std::uint32_t at = 0;
-    while (position >= inner.counts[at]) position -= inner.counts[at++];
-    node = inner.entries[at];
+  for (int level = m_height;; --level) {
+    const Node& here = m_nodes[node];
+    const std::uint32_t at = here.Find(position);
+    if (level == 0) return {here.entries[at], here.ends[at] - position};
+    position -= here.Start(at);
+    node = here.entries[at];
   }
-  return m_nodes[node].entries[position];
 }
 
+/// The first entry from `from` on with a rank above its limit; the node's size when none.
 std::uint32_t RankTree::FirstAbove(std::uint32_t node, std::uint32_t from,
                                    const std::vector<int>& limits) const {
+  constexpr std::uint32_t BLOCK = 16;
   std::uint32_t end = m_nodes[node].size;
   for (std::size_t kind = 0; kind < m_kinds; ++kind) {
     const int limit = limits[kind];
     if (limit == NEVER) continue;
     const int* const ranks = Ranks(node, kind);
-    end = static_cast<std::uint32_t>(
-        std::find_if(ranks + from, ranks + end, [limit](int rank) { return rank > limit; }) - ranks);
+    std::uint32_t at = from;
+    for (; at + BLOCK <= end; at += BLOCK) {
+      int any = 0;
+      for (std::uint32_t i = 0; i < BLOCK; ++i) any |= ranks[at + i] > limit ? 1 : 0;
+      if (any != 0) break;
+    }
+    while (at < end && ranks[at] <= limit) ++at;
+    end = std::min(end, at);
   }
   return end;
 }
@@ -42,22 +56,20 @@ std::uint32_t RankTree::FirstAbove(std::uint32_t node, std::uint32_t from,
 std::uint32_t RankTree::FindIn(std::uint32_t node, int level, std::uint32_t from,
                                const std::vector<int>& limits) const {
   const Node& here = m_nodes[node];
+  if (from >= here.Rows()) return NONE;
+  std::uint32_t at = here.Find(from);
   if (level == 0) {
-    const std::uint32_t found = from < here.size ? FirstAbove(node, from, limits) : here.size;
-    return found < here.size ? found : NONE;
+    const std::uint32_t found = FirstAbove(node, at, limits);
+    if (found == here.size) return NONE;
+    return found == at ? from : here.Start(found);
   }
-  std::uint32_t at = 0;
-  std::uint32_t before = 0;
-  while (at < here.size && from >= before + here.counts[at]) before += here.counts[at++];
-  if (at < here.size && from > before) {
-    const std::uint32_t found = FindIn(here.entries[at], level - 1, from - before, limits);
-    if (found != NONE) return before + found;
-    before += here.counts[at++];
+  if (from > here.Start(at)) {
+    const std::uint32_t found = FindIn(here.entries[at], level - 1, from - here.Start(at), limits);
+    if (found != NONE) return here.Start(at) + found;
+    ++at;
   }
-  const std::uint32_t to = at < here.size ? FirstAbove(node, at, limits) : here.size;
-  if (to == here.size) return NONE;
-  before = std::accumulate(here.counts.begin() + at, here.counts.begin() + to, before);
-  return before + FindIn(here.entries[to], level - 1, 0, limits);
+  const std::uint32_t to = FirstAbove(node, at, limits);
+  return to >= here.size ? NONE : here.Start(to) + FindIn(here.entries[to], level - 1, 0, limits);
 }
 
 std::uint32_t RankTree::FindAbove(std::uint32_t from, const std::vector<int>& limits) const {
@@ -65,23 +77,17 @@ std::uint32_t RankTree::FindAbove(std::uint32_t from, const std::vector<int>& li
   return found == NONE ? m_size : found;
 }
 
-void RankTree::InsertEntry(std::uint32_t node, std::uint32_t at, std::uint32_t entry, std::uint32_t count) {
+/// Makes room for an entry at `at`, without rows yet.
+void RankTree::OpenEntry(std::uint32_t node, std::uint32_t at) {
   Node& target = m_nodes[node];
   const std::uint32_t size = target.size++;
   const auto shift = [at, size](auto* values) {
     std::copy_backward(values + at, values + size, values + size + 1);
   };
   shift(target.entries.data());
-  shift(target.counts.data());
+  shift(target.ends.data());
   for (std::size_t kind = 0; kind < m_kinds; ++kind) shift(Ranks(node, kind));
-  target.entries[at] = entry;
-  target.counts[at] = count;
-}
-
-std::uint32_t RankTree::CountRows(std::uint32_t node, bool isLeaf) const {
-  const Node& counted = m_nodes[node];
-  return isLeaf ? counted.size
-                : std::accumulate(counted.counts.begin(), counted.counts.begin() + counted.size, 0U);
+  target.ends[at] = target.Start(at);
 }
 
 /// Sets an entry's ranks to the largest of the node that it stands for.
@@ -93,90 +99,124 @@ void RankTree::TakeLargest(std::uint32_t node, std::uint32_t at) {
   }
 }
 
-/// Makes two of the full node that stands at `at`. A split `atEnd` leaves most where it is: rows that come in
+/// Makes two of the node that stands at `at`. A split `atEnd` leaves most where it is: rows that come in
 /// order fill their nodes.
-void RankTree::SplitEntry(std::uint32_t node, std::uint32_t at, bool atEnd, bool aboveLeaves) {
+void RankTree::SplitEntry(std::uint32_t node, std::uint32_t at, bool atEnd) {
   const std::uint32_t right = AddNode();
+  OpenEntry(node, at + 1);
   const std::uint32_t left = m_nodes[node].entries[at];
-  const std::uint32_t kept = atEnd ? WIDTH - WIDTH / 8 : WIDTH / 2;
   Node& source = m_nodes[left];
   Node& target = m_nodes[right];
-  const auto move = [kept](const auto* from, auto* to) { std::copy(from + kept, from + WIDTH, to); };
+  const std::uint32_t kept = atEnd ? WIDTH - WIDTH / 8 : WIDTH / 2;
+  const std::uint32_t size = source.size;
+  const auto move = [kept, size](const auto* from, auto* to) { std::copy(from + kept, from + size, to); };
   move(source.entries.data(), target.entries.data());
-  move(source.counts.data(), target.counts.data());
   for (std::size_t kind = 0; kind < m_kinds; ++kind) move(Ranks(left, kind), Ranks(right, kind));
-  target.size = WIDTH - kept;
+  const std::uint32_t rows = source.Start(kept);
+  std::transform(source.ends.begin() + kept, source.ends.begin() + size, target.ends.begin(),
+                 [rows](std::uint32_t end) { return end - rows; });
+  std::fill(source.ends.begin() + kept, source.ends.end(), NONE);
+  target.size = size - kept;
   source.size = kept;
-  const std::uint32_t moved = CountRows(right, aboveLeaves);
-  m_nodes[node].counts[at] -= moved;
-  InsertEntry(node, at + 1, right, moved);
+  m_nodes[node].entries[at + 1] = right;
+  m_nodes[node].ends[at] = m_nodes[node].Start(at) + rows;
+  m_nodes[node].ends[at + 1] = m_nodes[node].ends[at] + target.Rows();
   TakeLargest(node, at);
   TakeLargest(node, at + 1);
-}
-
-/// The entry that a row comes below when it takes the position; at a border the one before.
-RankTree::Place RankTree::FindEntry(std::uint32_t node, std::uint32_t position) const {
-  const Node& inner = m_nodes[node];
-  Place place;
-  while (position > place.before + inner.counts[place.at]) place.before += inner.counts[place.at++];
-  return place;
 }
 
 void RankTree::GrowRoot() {
   const std::uint32_t old = m_root;
   m_root = AddNode();
   ++m_height;
-  InsertEntry(m_root, 0, old, m_size);
+  OpenEntry(m_root, 0);
+  m_nodes[m_root].entries[0] = old;
+  m_nodes[m_root].ends[0] = m_size;
   TakeLargest(m_root, 0);
 }
 
-void RankTree::Insert(std::uint32_t position, std::uint32_t row, const std::vector<int>& ranks) {
-  if (m_nodes[m_root].size == WIDTH) GrowRoot();
+void RankTree::AddEntry(std::uint32_t node, std::uint32_t at, RankedRows rows,
+                        const std::vector<int>& ranks) {
+  OpenEntry(node, at);
+  m_nodes[node].entries[at] = rows.row;
+  for (std::size_t kind = 0; kind < m_kinds; ++kind) Ranks(node, kind)[at] = ranks[kind];
+}
+
+void RankTree::InsertInLeaf(std::uint32_t node, std::uint32_t position, RankedRows rows,
+                            const std::vector<int>& ranks) {
+  Node& leaf = m_nodes[node];
+  // The entry before the position, or the one that it parts.
+  std::uint32_t at = position == 0 ? 0 : leaf.Find(position - 1);
+  const bool hasBefore = position != 0 && leaf.entries[at] == rows.row;
+  if (!hasBefore) {
+    const bool parts = position != 0 && position < leaf.ends[at];
+    if (position != 0) ++at;
+    const bool joinsNext = !parts && at < leaf.size && leaf.entries[at] == rows.row;
+    if (parts) {
+      std::vector<int> same(m_kinds);
+      for (std::size_t kind = 0; kind < m_kinds; ++kind) same[kind] = Ranks(node, kind)[at - 1];
+      AddEntry(node, at, {leaf.entries[at - 1], 0}, same);
+      leaf.ends[at] = leaf.ends[at - 1];
+      leaf.ends[at - 1] = position;
+    }
+    if (!joinsNext) AddEntry(node, at, rows, ranks);
+  }
+  for (std::uint32_t i = at; i < leaf.size; ++i) leaf.ends[i] += rows.count;
+}
+
+void RankTree::Insert(std::uint32_t position, RankedRows rows, const std::vector<int>& ranks) {
+  // An insertion takes two entries in a leaf when it parts one.
+  const auto isFull = [this](std::uint32_t node) { return m_nodes[node].size >= WIDTH - 1; };
+  if (isFull(m_root)) GrowRoot();
   const bool atEnd = position == m_size;
   std::uint32_t node = m_root;
   for (int level = m_height; level > 0; --level) {
-    Place place = FindEntry(node, position);
-    if (m_nodes[m_nodes[node].entries[place.at]].size == WIDTH) {
-      SplitEntry(node, place.at, atEnd, level == 1);
-      place = FindEntry(node, position);
+    // At a border the rows come below the entry before.
+    const auto find = [&] { return position == 0 ? 0 : m_nodes[node].Find(position - 1); };
+    std::uint32_t at = find();
+    if (isFull(m_nodes[node].entries[at])) {
+      SplitEntry(node, at, atEnd);
+      at = find();
     }
-    ++m_nodes[node].counts[place.at];
+    Node& inner = m_nodes[node];
+    position -= inner.Start(at);
+    for (std::uint32_t i = at; i < inner.size; ++i) inner.ends[i] += rows.count;
     for (std::size_t kind = 0; kind < m_kinds; ++kind) {
-      int& largest = Ranks(node, kind)[place.at];
+      int& largest = Ranks(node, kind)[at];
       largest = std::max(largest, ranks[kind]);
     }
-    position -= place.before;
-    node = m_nodes[node].entries[place.at];
+    node = inner.entries[at];
   }
-  InsertEntry(node, position, row, 1);
-  for (std::size_t kind = 0; kind < m_kinds; ++kind) Ranks(node, kind)[position] = ranks[kind];
-  ++m_size;
+  InsertInLeaf(node, position, rows, ranks);
+  m_size += rows.count;
 }
 
-void RankTree::FlattenNode(std::uint32_t node, int level, std::vector<std::uint32_t>& rows) const {
+void RankTree::FlattenNode(std::uint32_t node, int level, std::vector<RankedRows>& rows) const {
   const Node& here = m_nodes[node];
-  const auto end = here.entries.begin() + here.size;
-  if (level == 0) {
-    rows.insert(rows.end(), here.entries.begin(), end);
-    return;
+  for (std::uint32_t at = 0; at < here.size; ++at) {
+    if (level > 0) {
+      FlattenNode(here.entries[at], level - 1, rows);
+    } else {
+      rows.push_back({here.entries[at], here.ends[at] - here.Start(at)});
+    }
   }
-  std::for_each(here.entries.begin(), end, [&](std::uint32_t entry) { FlattenNode(entry, level - 1, rows); });
 }
 
-std::vector<std::uint32_t> RankTree::Flatten() const {
-  std::vector<std::uint32_t> rows;
-  rows.reserve(m_size);
+std::vector<RankedRows> RankTree::Flatten() const {
+  std::vector<RankedRows> rows;
   FlattenNode(m_root, m_height, rows);
   return rows;
 }
 
 bool RankTree::CheckNode(std::uint32_t node, int level) const {
   const Node& here = m_nodes[node];
-  if (here.size > WIDTH || level == 0) return here.size <= WIDTH;
-  for (std::uint32_t at = 0; at < here.size; ++at) {
+  for (std::uint32_t at = 0; at < WIDTH; ++at) {
+    if (at >= here.size ? here.ends[at] != NONE : here.ends[at] <= here.Start(at)) return false;
+  }
+  for (std::uint32_t at = 0; level > 0 && at < here.size; ++at) {
     const std::uint32_t below = here.entries[at];
     if (m_nodes[below].size == 0 || !CheckNode(below, level - 1)) return false;
-    if (here.counts[at] != CountRows(below, level == 1)) return false;
+    if (here.ends[at] - here.Start(at) != m_nodes[below].Rows()) return false;
     for (std::size_t kind = 0; kind < m_kinds; ++kind) {
       const int* const ranks = Ranks(below, kind);
       if (Ranks(node, kind)[at] != *std::max_element(ranks, ranks + m_nodes[below].size)) return false;
@@ -186,7 +226,7 @@ bool RankTree::CheckNode(std::uint32_t node, int level) const {
 }
 
 bool RankTree::Check() const {
-  return CheckNode(m_root, m_height) && CountRows(m_root, m_height == 0) == m_size;
+  return CheckNode(m_root, m_height) && m_nodes[m_root].Rows() == m_size;
 }
 
 }  // namespace coregui

@@ -7,9 +7,17 @@
 
 namespace coregui {
 
+/// A row, or a number of like ones that stand together and have one name.
+struct RankedRows {
+  std::uint32_t row = 0;
+  std::uint32_t count = 1;
+  friend bool operator==(const RankedRows&, const RankedRows&) = default;
+};
+
 /// A sequence of rows that grows by insertion anywhere, in which the next row whose rank passes a limit is
-/// found without looking at those between: a B+-tree that keeps in each node the number of its rows and the
-/// largest rank of each kind. Every operation costs O(log n).
+/// found without looking at those between: a B+-tree that keeps in each node where its entries end and the
+/// largest rank of each kind. Every operation costs O(log n), n being the number of entries: like rows that
+/// stand together are one, however many they are. Positions count rows, 2^32 - 2 at most.
 class RankTree {
  public:
   /// A limit that no rank passes.
@@ -21,12 +29,14 @@ class RankTree {
   explicit RankTree(std::size_t kinds);
   std::uint32_t Size() const { return m_size; }
   /// The row at a position below Size().
-  std::uint32_t At(std::uint32_t position) const;
+  std::uint32_t At(std::uint32_t position) const { return EntryAt(position).row; }
+  /// A position's entry: the row and how many of its like stand there from the position on.
+  RankedRows EntryAt(std::uint32_t position) const;
   /// The first position from `from` on whose row has a rank above the limit of its kind; Size() when none.
   std::uint32_t FindAbove(std::uint32_t from, const std::vector<int>& limits) const;
-  /// The row takes the position, at most Size().
-  void Insert(std::uint32_t position, std::uint32_t row, const std::vector<int>& ranks);
-  std::vector<std::uint32_t> Flatten() const;
+  /// The rows take the position, at most Size(). All rows of one name have the same ranks.
+  void Insert(std::uint32_t position, RankedRows rows, const std::vector<int>& ranks);
+  std::vector<RankedRows> Flatten() const;
   bool Check() const;
 
  private:
@@ -34,14 +44,13 @@ class RankTree {
   static constexpr std::uint32_t NONE = ~0U;
   /// Entries are rows in a leaf, nodes above.
   struct Node {
+    Node() { ends.fill(NONE); }
     std::uint32_t size = 0;
     std::array<std::uint32_t, WIDTH> entries{};
-    std::array<std::uint32_t, WIDTH> counts{};  // rows below each entry, where it is a node
-  };
-
-  struct Place {
-    std::uint32_t at = 0;      // an entry's index in its node
-    std::uint32_t before = 0;  // rows below the entries before it
+    std::array<std::uint32_t, WIDTH> ends;  // rows up to each entry's last; NONE behind the last entry
+    std::uint32_t Start(std::uint32_t at) const { return at == 0 ? 0 : ends[at - 1]; }
+    std::uint32_t Rows() const { return Start(size); }
+    std::uint32_t Find(std::uint32_t position) const;
   };
 
   int* Ranks(std::uint32_t node, std::size_t kind) { return &m_ranks[(node * m_kinds + kind) * WIDTH]; }
@@ -49,16 +58,17 @@ class RankTree {
     return &m_ranks[(node * m_kinds + kind) * WIDTH];
   }
   std::uint32_t AddNode();
-  Place FindEntry(std::uint32_t node, std::uint32_t position) const;
   void GrowRoot();
-  void InsertEntry(std::uint32_t node, std::uint32_t at, std::uint32_t entry, std::uint32_t count);
-  void SplitEntry(std::uint32_t node, std::uint32_t at, bool atEnd, bool aboveLeaves);
-  std::uint32_t CountRows(std::uint32_t node, bool isLeaf) const;
+  void OpenEntry(std::uint32_t node, std::uint32_t at);
+  void SplitEntry(std::uint32_t node, std::uint32_t at, bool atEnd);
   void TakeLargest(std::uint32_t node, std::uint32_t at);
+  void InsertInLeaf(std::uint32_t node, std::uint32_t position, RankedRows rows,
+                    const std::vector<int>& ranks);
+  void AddEntry(std::uint32_t node, std::uint32_t at, RankedRows rows, const std::vector<int>& ranks);
   std::uint32_t FirstAbove(std::uint32_t node, std::uint32_t from, const std::vector<int>& limits) const;
   std::uint32_t FindIn(std::uint32_t node, int level, std::uint32_t from,
                        const std::vector<int>& limits) const;
-  void FlattenNode(std::uint32_t node, int level, std::vector<std::uint32_t>& rows) const;
+  void FlattenNode(std::uint32_t node, int level, std::vector<RankedRows>& rows) const;
   bool CheckNode(std::uint32_t node, int level) const;
 
   std::size_t m_kinds;

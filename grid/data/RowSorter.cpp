@@ -7,7 +7,6 @@
 
 #include "grid/data/CGridCell.h"
 #include "grid/data/InsertionOrder.h"
-#include "grid/data/KeyCompare.h"
 #include "grid/data/RankInsertion.h"
 #include "grid/data/SortKeys.h"
 
@@ -73,17 +72,6 @@ std::vector<std::uint32_t> OrderByColumns(const CellCodec& codec, const std::vec
   return order;
 }
 
-/// For comparisons that contradict each other: as the required insertion goes, by ranks where they stand for
-/// the keys.
-std::vector<std::uint32_t> OrderByKeys(const CellCodec& codec, const std::vector<KeyCells>& cells,
-                                       bool descending, std::uint32_t count) {
-  std::vector<std::vector<SortKey>> keys;
-  for (const auto& column : cells) keys.push_back(MakeSortKeys(codec, column));
-  KeyCompare compare(keys, descending);
-  const SortRanks ranks(keys, descending);
-  return ranks.AreExact() ? RankInsertion(ranks, compare).Sort(count) : InsertionOrder(compare).Sort(count);
-}
-
 }  // namespace
 
 void RowSorter::Gather() {
@@ -123,8 +111,8 @@ void RowSorter::OpenRuns() {
   m_items = std::move(opened);
 }
 
-std::vector<CellSlot> RowSorter::KeyCells(int col) const {
-  std::vector<CellSlot> cells(m_items.size() - m_fixed);
+KeyCells RowSorter::ReadKey(int col) const {
+  KeyCells cells(Count());
   const int storage = m_store.Columns().Find(col);
   if (storage == ColumnMap::NONE) return cells;
   for (std::size_t i = 0; i < cells.size(); ++i) {
@@ -134,29 +122,44 @@ std::vector<CellSlot> RowSorter::KeyCells(int col) const {
   return cells;
 }
 
-std::vector<std::uint32_t> RowSorter::Order(const std::vector<int>& cols) {
-  const SortOrder known = m_owner != nullptr ? m_owner->GetSortOrder() : SortOrder::standard;
-  const bool descending = (m_flags & SORT_DESCENDING) != 0;
-  const CellCodec& codec = m_store.Codec();
-  const auto readKeys = [&] {
-    std::vector<coregui::KeyCells> keys;
-    for (const int col : cols) keys.push_back(KeyCells(col));
-    return keys;
-  };
-  std::vector<coregui::KeyCells> keys = readKeys();
-  if (known == SortOrder::standard &&
-      std::all_of(keys.begin(), keys.end(), [&](const auto& cells) { return IsConsistent(codec, cells); })) {
-    return OrderByColumns(codec, keys, descending);
+std::vector<KeyCells> RowSorter::ReadKeys(const std::vector<int>& cols) const {
+  std::vector<KeyCells> keys;
+  keys.reserve(cols.size());
+  for (const int col : cols) keys.push_back(ReadKey(col));
+  return keys;
+}
+
+/// As the required insertion goes. It may part runs; the parts are items of their own then.
+std::vector<std::uint32_t> RowSorter::OrderByRanks(const SortRanks& ranks, KeyCompare& compare) {
+  const std::size_t count = Count();
+  std::vector<RankedRows> rows(count);
+  std::uint32_t run = ~0U;  // the name of all rows without positions: they are alike
+  for (std::uint32_t i = 0; i < count; ++i) {
+    const Item& item = m_items[i + m_fixed];
+    if (item.run == 0) {
+      rows[i] = {i, 1};
+      continue;
+    }
+    run = std::min(run, i);
+    rows[i] = {run, static_cast<std::uint32_t>(item.run)};
   }
-  OpenRuns();
-  keys = readKeys();
-  const std::size_t count = m_items.size() - m_fixed;
-  if (known == SortOrder::standard) {
-    return OrderByKeys(codec, keys, descending, static_cast<std::uint32_t>(count));
+  std::vector<std::uint32_t> order;
+  order.reserve(count);
+  for (const RankedRows& sorted : RankInsertion(ranks, compare).Sort(rows)) {
+    if (sorted.row != run) {
+      order.push_back(sorted.row);
+      continue;
+    }
+    order.push_back(static_cast<std::uint32_t>(Count()));
+    m_items.push_back({nullptr, 0, sorted.count});
   }
-  OwnerCompare compare(codec, *m_owner, m_flags, std::move(keys));
-  if (known == SortOrder::unknown) return InsertionOrder(compare).Sort(static_cast<std::uint32_t>(count));
-  std::vector<std::uint32_t> order = InStoredOrder(count);
+  return order;
+}
+
+/// By a comparison that the owner calls consistent: the rows of a run are equal and stay together.
+std::vector<std::uint32_t> RowSorter::OrderByOwner(std::vector<KeyCells>&& keys) const {
+  std::vector<std::uint32_t> order = InStoredOrder(Count());
+  OwnerCompare compare(m_store.Codec(), *m_owner, m_flags, std::move(keys));
   std::stable_sort(order.begin(), order.end(), [&compare](std::uint32_t a, std::uint32_t b) {
     compare.Take(a);
     return compare.All(b) < 0;
@@ -164,14 +167,47 @@ std::vector<std::uint32_t> RowSorter::Order(const std::vector<int>& cols) {
   return order;
 }
 
-void RowSorter::Sort(const std::vector<int>& cols) {
-  if (cols.empty()) return;
+/// Where nothing stands for the comparisons: the required insertion itself.
+std::vector<std::uint32_t> RowSorter::OrderStepByStep(const std::vector<int>& cols) {
+  OpenRuns();
+  const auto count = static_cast<std::uint32_t>(Count());
+  std::vector<KeyCells> cells = ReadKeys(cols);
+  if (m_owner != nullptr && m_owner->GetSortOrder() == SortOrder::unknown) {
+    OwnerCompare compare(m_store.Codec(), *m_owner, m_flags, std::move(cells));
+    return InsertionOrder(compare).Sort(count);
+  }
+  const std::vector<KeyColumn> keys = MakeSortKeys(m_store.Codec(), cells);
+  KeyCompare compare(keys, IsDescending());
+  return InsertionOrder(compare).Sort(count);
+}
+
+std::vector<std::uint32_t> RowSorter::Order(const std::vector<int>& cols) {
+  const SortOrder known = m_owner != nullptr ? m_owner->GetSortOrder() : SortOrder::standard;
+  if (known == SortOrder::unknown) return OrderStepByStep(cols);
+  const CellCodec& codec = m_store.Codec();
+  std::vector<KeyCells> cells = ReadKeys(cols);
+  if (known == SortOrder::consistent) return OrderByOwner(std::move(cells));
+  const auto isConsistent = [&codec](const KeyCells& column) { return IsConsistent(codec, column); };
+  if (std::all_of(cells.begin(), cells.end(), isConsistent)) {
+    return OrderByColumns(codec, cells, IsDescending());
+  }
+  const std::vector<KeyColumn> keys = MakeSortKeys(codec, cells);
+  const SortRanks ranks(keys, IsDescending());
+  if (!ranks.AreExact()) return OrderStepByStep(cols);
+  KeyCompare compare(keys, IsDescending());
+  return OrderByRanks(ranks, compare);
+}
+
+bool RowSorter::Sort(const std::vector<int>& cols) {
+  if (m_store.EndRow() > MOST_ROWS) return false;
+  if (cols.empty()) return true;
   Gather();
   std::vector<std::uint32_t> order = InStoredOrder(m_fixed);
   const std::vector<std::uint32_t> sorted = Order(cols);
   order.reserve(m_fixed + sorted.size());
   for (const std::uint32_t row : sorted) order.push_back(row + static_cast<std::uint32_t>(m_fixed));
   Rebuild(order);
+  return true;
 }
 
 std::vector<RowLeaf*> RowSorter::BuildLeaves(const std::vector<std::uint32_t>& order, RowTree& rows) const {

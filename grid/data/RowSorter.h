@@ -5,6 +5,8 @@
 
 #include "grid/data/CGridSourceOwner.h"
 #include "grid/data/CellStore.h"
+#include "grid/data/KeyCompare.h"
+#include "grid/data/SortRanks.h"
 
 namespace coregui {
 
@@ -14,9 +16,11 @@ class RowSorter {
   /// `owner` compares; null for the standard comparison.
   RowSorter(CellStore& store, CGridSourceOwner* owner, int flags)
       : m_store(store), m_owner(owner), m_flags(flags) {}
-  void Sort(const std::vector<int>& cols);
+  /// False, with nothing changed, when there are more than MOST_ROWS.
+  bool Sort(const std::vector<int>& cols);
 
  private:
+  static constexpr std::int64_t MOST_ROWS = 0xFFFF'FFFE;
   /// A row to move, or a run of rows without positions, which stay together.
   struct Item {
     RowLeaf* leaf;  // borrowed from the store
@@ -28,7 +32,13 @@ class RowSorter {
   /// Gives each row of a run an item of its own, for comparisons that may part them.
   void OpenRuns();
   std::vector<std::uint32_t> Order(const std::vector<int>& cols);
-  std::vector<CellSlot> KeyCells(int col) const;
+  std::vector<std::uint32_t> OrderByRanks(const SortRanks& ranks, KeyCompare& compare);
+  std::vector<std::uint32_t> OrderByOwner(std::vector<KeyCells>&& keys) const;
+  std::vector<std::uint32_t> OrderStepByStep(const std::vector<int>& cols);
+  std::vector<KeyCells> ReadKeys(const std::vector<int>& cols) const;
+  bool IsDescending() const { return (m_flags & SORT_DESCENDING) != 0; }
+  std::size_t Count() const { return m_items.size() - m_fixed; }
+  KeyCells ReadKey(int col) const;
   void Rebuild(const std::vector<std::uint32_t>& order);
   std::vector<RowLeaf*> BuildLeaves(const std::vector<std::uint32_t>& order, RowTree& rows) const;
   void FillColumn(int storage, const std::vector<std::uint32_t>& order,

@@ -104,6 +104,24 @@ void RankTexts(const CellCodec& codec, const KeyCells& cells, std::vector<SortKe
   }
 }
 
+KeyColumn MakeKeyColumn(const CellCodec& codec, const KeyCells& cells) {
+  KeyColumn keys(cells.size());
+  bool anyNumber = false;
+  bool anyText = false;
+  for (std::size_t row = 0; row < cells.size(); ++row) {
+    const CellSlot& cell = cells[row];
+    keys[row].byNumber = ComparesByNumber(codec, cell);
+    keys[row].hasText = codec.HasValue(cell);
+    anyNumber = anyNumber || keys[row].byNumber;
+    anyText = anyText || (keys[row].hasText && !keys[row].byNumber);
+  }
+  for (std::size_t row = 0; anyNumber && row < cells.size(); ++row) {
+    keys[row].number = codec.NumberValue(cells[row]);
+  }
+  if (anyText) RankTexts(codec, cells, keys);
+  return keys;
+}
+
 }  // namespace
 
 std::uint64_t NumberKey(double number) {
@@ -176,21 +194,10 @@ void SortByColumn(const CellCodec& codec, const KeyCells& cells, bool descending
   if (!descending) std::copy(blank.begin(), blank.end(), target);
 }
 
-std::vector<SortKey> MakeSortKeys(const CellCodec& codec, const KeyCells& cells) {
-  std::vector<SortKey> keys(cells.size());
-  bool anyNumber = false;
-  bool anyText = false;
-  for (std::size_t row = 0; row < cells.size(); ++row) {
-    const CellSlot& cell = cells[row];
-    keys[row].byNumber = ComparesByNumber(codec, cell);
-    keys[row].hasText = codec.HasValue(cell);
-    anyNumber = anyNumber || keys[row].byNumber;
-    anyText = anyText || (keys[row].hasText && !keys[row].byNumber);
-  }
-  for (std::size_t row = 0; anyNumber && row < cells.size(); ++row) {
-    keys[row].number = codec.NumberValue(cells[row]);
-  }
-  if (anyText) RankTexts(codec, cells, keys);
+std::vector<KeyColumn> MakeSortKeys(const CellCodec& codec, const std::vector<KeyCells>& cells) {
+  std::vector<KeyColumn> keys;
+  keys.reserve(cells.size());
+  for (const KeyCells& column : cells) keys.push_back(MakeKeyColumn(codec, column));
   return keys;
 }
 

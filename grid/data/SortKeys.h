@@ -42,7 +42,9 @@ void SortByColumn(const CellCodec& codec, const KeyCells& cells, bool descending
 /// Whether the cell compares by text and has none.
 bool IsBlankKey(const CellCodec& codec, const CellSlot& cell);
 
-std::vector<SortKey> MakeSortKeys(const CellCodec& codec, const KeyCells& cells);
+/// The keys of one column, by row.
+using KeyColumn = std::vector<SortKey>;
+std::vector<KeyColumn> MakeSortKeys(const CellCodec& codec, const std::vector<KeyCells>& cells);
 
 /// What the standard comparison answers for the first key cell against the second.
 int CompareKeys(const SortKey& a, const SortKey& b, bool descending);

@@ -8,9 +8,6 @@
 
 namespace coregui {
 
-/// The keys of one column, by row.
-using KeyColumn = std::vector<SortKey>;
-
 /// The standard comparison of rows as a comparison of ranks.
 ///
 /// How two keys compare depends on the deciding one's type: the new row's when ascending, the other's when

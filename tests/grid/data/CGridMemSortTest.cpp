@@ -2,6 +2,7 @@
 
 #include <iterator>
 #include <list>
+#include <map>
 #include <random>
 
 #include "grid/data/CGridCell.h"
@@ -261,6 +262,55 @@ TEST(CGridMemSort, RowsAboveTheFirstStayAndFarRowsMoveAsOne) {
   EXPECT_EQ(1, store.GetCell(0, 2, &cell));
   CGridMem empty;
   EXPECT_EQ(1, empty.SortBy(0, 0));
+}
+
+std::string TextAt(CGridMem& store, long row) {
+  CGridCell cell;
+  cell.SetPropertyFlags(0);
+  return store.GetCell(0, row, &cell) == 0 ? CString(cell.GetText()).ToUtf8() : "";
+}
+
+/// A heading, some numbers, and two far down. The cells by row.
+std::map<long, CGridCell> FarOutCells(long far) {
+  std::map<long, CGridCell> cells;
+  cells[0].SetText(L"Level");
+  for (const long row : {1L, 2L, 3L}) cells[row].SetNumber(static_cast<double>(10 - row));
+  cells[far / 2].SetNumber(4);
+  cells[far].SetNumber(2);
+  return cells;
+}
+
+/// A column of mixed cells has no consistent order: empty rows go where the insertion takes each of them.
+TEST(CGridMemSort, EmptyRowsBeforeFarOnesTakeNoRoomInAMixedColumn) {
+  TestOwner owner(1, 4);
+  for (const int flags : {0, coregui::SORT_DESCENDING}) {
+    for (const long far : {3000L, 2'000'000'000L}) {
+      SCOPED_TRACE(std::to_string(far) + " flags " + std::to_string(flags));
+      CGridMem store;
+      std::map<long, CGridCell> cells = FarOutCells(far);
+      for (auto& [row, cell] : cells) store.SetCell(0, row, &cell);
+      ASSERT_EQ(0, store.SortBy(0, flags));
+      EXPECT_TRUE(store.Check());
+      EXPECT_EQ(far, store.GetNumRows());
+      EXPECT_EQ("Level", TextAt(store, 0));
+      CString wanted = L"4";
+      int col = 0;
+      long found = 0;
+      EXPECT_EQ(0, store.FindFirst(&wanted, &col, &found, 0));
+      if (far > 3000) continue;
+      std::vector<Row> rows(static_cast<std::size_t>(far) + 1, Row(1));
+      for (long row = 0; row <= far; ++row) {
+        rows[static_cast<std::size_t>(row)][0].SetPropertyFlags(0);
+        if (cells.count(row) != 0) rows[static_cast<std::size_t>(row)][0] = cells[row];
+      }
+      const std::vector<int> order = InsertionModel(owner, flags).Sort(rows);
+      for (long row = 0; row <= far; ++row) {
+        const wchar_t* const text =
+            rows[static_cast<std::size_t>(order[static_cast<std::size_t>(row)])][0].GetText();
+        ASSERT_EQ(CString(text).ToUtf8(), TextAt(store, row)) << row;
+      }
+    }
+  }
 }
 
 }  // namespace

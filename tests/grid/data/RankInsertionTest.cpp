@@ -57,6 +57,12 @@ std::vector<KeyColumn> RandomKeys(const Mix& mix, std::size_t columns, std::uint
   return keys;
 }
 
+std::vector<std::uint32_t> OneByOne(const std::vector<coregui::RankedRows>& rows) {
+  std::vector<std::uint32_t> names;
+  for (const auto& entry : rows) names.insert(names.end(), entry.count, entry.row);
+  return names;
+}
+
 TEST(RankInsertion, GivesTheOrderThatTheStepsGive) {
   std::mt19937 random(11);
   for (const Mix& mix : MIXES) {
@@ -67,12 +73,48 @@ TEST(RankInsertion, GivesTheOrderThatTheStepsGive) {
           coregui::KeyCompare compare(keys, descending);
           const coregui::SortRanks ranks(keys, descending);
           ASSERT_TRUE(ranks.AreExact());
+          std::vector<coregui::RankedRows> plain(rows);
+          for (std::uint32_t row = 0; row < rows; ++row) plain[row].row = row;
           ASSERT_EQ(coregui::InsertionOrder(compare).Sort(rows),
-                    coregui::RankInsertion(ranks, compare).Sort(rows))
+                    OneByOne(coregui::RankInsertion(ranks, compare).Sort(plain)))
               << mix.name << ", " << columns << " keys, " << rows << " rows" << (descending ? ", down" : "");
         }
       }
     }
+  }
+}
+
+/// Rows that are counted must come as if each had been inserted.
+TEST(RankInsertion, GivesRunsOfEmptyRowsThePlacesThatTheStepsGive) {
+  std::mt19937 random(13);
+  const auto below = [&random](unsigned high) { return static_cast<std::uint32_t>(random() % high); };
+  for (int round = 0; round < 600; ++round) {
+    const Mix mix{"", static_cast<int>(below(40)), static_cast<int>(below(101)),
+                  1 + static_cast<int>(below(300)), 1 + static_cast<int>(below(30))};
+    const std::uint32_t rows = 1 + below(round % 3 == 0 ? 400 : 8);
+    std::vector<KeyColumn> keys = RandomKeys(mix, 1 + below(2), rows, random);
+    for (KeyColumn& column : keys) column.emplace_back();  // the empty rows' name is `rows`
+    std::vector<coregui::RankedRows> counted;
+    std::vector<KeyColumn> single(keys.size());
+    std::vector<std::uint32_t> names;
+    const auto add = [&](std::uint32_t row, std::uint32_t count) {
+      counted.push_back({row, count});
+      names.insert(names.end(), count, row);
+      for (std::size_t key = 0; key < keys.size(); ++key)
+        single[key].insert(single[key].end(), count, keys[key][row]);
+    };
+    for (std::uint32_t row = 0; row < rows; ++row) {
+      if (below(std::min(rows, 40U)) < 2) add(rows, below(2) == 0 ? below(9) + 1 : below(1500) + 1);
+      add(row, 1);
+    }
+    const bool descending = below(2) != 0;
+    coregui::KeyCompare steps(single, descending);
+    std::vector<std::uint32_t> wanted =
+        coregui::InsertionOrder(steps).Sort(static_cast<std::uint32_t>(names.size()));
+    for (std::uint32_t& row : wanted) row = names[row];
+    coregui::KeyCompare compare(keys, descending);
+    const coregui::SortRanks ranks(keys, descending);
+    ASSERT_EQ(wanted, OneByOne(coregui::RankInsertion(ranks, compare).Sort(counted))) << "round " << round;
   }
 }
 
@@ -96,12 +138,18 @@ TEST(RankTree, FindsAndInsertsAsAPlainSequence) {
   coregui::RankTree tree(2);
   std::vector<std::pair<std::uint32_t, std::vector<int>>> plain;
   for (std::uint32_t row = 0; row < 9000; ++row) {
+    const auto size = static_cast<std::uint32_t>(plain.size());
     const bool inOrder = row > 6000;
-    const std::uint32_t at = inOrder ? row : static_cast<std::uint32_t>(random() % (row + 1));
-    const std::vector<int> ranks{static_cast<int>(random() % 9000),
-                                 random() % 4 == 0 ? -static_cast<int>(row) : coregui::RankTree::LOWEST};
-    tree.Insert(at, row, ranks);
-    plain.insert(plain.begin() + at, {row, ranks});
+    const std::uint32_t at = inOrder ? size : static_cast<std::uint32_t>(random() % (size + 1));
+    // Some come in numbers, again and again under the same name, and are parted by others.
+    const bool many = random() % 20 == 0;
+    const coregui::RankedRows rows{many ? 9000 + row % 2 : row,
+                                   many ? 1 + static_cast<std::uint32_t>(random() % 9) : 1};
+    const std::vector<int> ranks{
+        many ? 5 : static_cast<int>(random() % 9000),
+        !many && random() % 4 == 0 ? -static_cast<int>(row) : coregui::RankTree::LOWEST};
+    tree.Insert(at, rows, ranks);
+    plain.insert(plain.begin() + at, rows.count, {rows.row, ranks});
     ASSERT_TRUE(row % 1000 != 999 || tree.Check()) << row;
     const std::vector<int> limits{
         random() % 3 == 0 ? coregui::RankTree::NEVER : 9000 - static_cast<int>(random() % 300),
@@ -113,7 +161,7 @@ TEST(RankTree, FindsAndInsertsAsAPlainSequence) {
     ASSERT_EQ(static_cast<std::uint32_t>(found - plain.begin()), tree.FindAbove(from, limits)) << row;
     ASSERT_EQ(plain[from].first, tree.At(from)) << row;
   }
-  const std::vector<std::uint32_t> rows = tree.Flatten();
+  const std::vector<std::uint32_t> rows = OneByOne(tree.Flatten());
   ASSERT_EQ(plain.size(), rows.size());
   for (std::size_t i = 0; i < rows.size(); ++i) ASSERT_EQ(plain[i].first, rows[i]) << i;
 }
