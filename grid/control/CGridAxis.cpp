@@ -105,6 +105,12 @@ void CGridAxis::KeepDragInView() {
   m_first = drag < m_first ? drag : std::max(m_first, std::min(FirstThatShows(drag), MaxFirst()));
 }
 
+bool CGridAxis::Check() const {
+  return m_table.Count() == (m_uniform ? 0 : m_count) && m_table.Check() && m_first >= m_locked &&
+         m_first <= MaxFirst() && (m_locked <= m_count || m_count == 0) && current >= -1 &&
+         current < m_count && drag >= -1 && drag < m_count;
+}
+
 long CGridAxis::MaxFirst() const {
   return std::max(FirstThatShows(m_count - 1), m_locked);
 }

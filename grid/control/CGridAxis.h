@@ -80,6 +80,10 @@ class COREGUI_API CGridAxis {
   /// Moves the view as little as needed for `drag` to be in it.
   void KeepDragInView();
 
+  /// True when the sizes fit the count, the first entry in view lies in its range, and no entry that does not
+  /// exist is current or dragged.
+  bool Check() const;
+
   // --- Position: -1 is none
 
   long current = -1;

@@ -119,8 +119,8 @@ int CGridCounts::InsertCol(int col) {
     return AppendCol();
   }
   const CGridSourceTable::Place place = m_rooms.sources.Of(col);
-  // The memory store makes room at the grid column, not at the data column that it is asked for.
-  const bool isMemory = place.source == static_cast<CGridDataSource*>(info.memory.get());
+  // A memory store makes room at the grid column, not at the data column that it is asked for.
+  const bool isMemory = dynamic_cast<CGridMem*>(place.source) != nullptr;
   const int made = isMemory ? info.columns.FromTranslation(place.col) : place.col;
   const std::vector<int> before = Translations(info.columns);
   place.source->InsertCol(place.col);

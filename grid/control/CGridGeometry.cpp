@@ -22,28 +22,44 @@ bool IsInSheet(const CGridInfo& info, int col, long row) {
          row < info.rows.Count();
 }
 
-}  // namespace
+/// Pixels from one entry's start to another's end.
+struct Span {
+  LONG start;
+  LONG end;
+};
 
-CGridGeometry::Span CGridGeometry::ColSpan(int startCol, int endCol) const {
-  const CGridInfo& info = m_sheets.Current();
-  if (startCol < 0) {
-    const int innermost = std::min(endCol, -1);
-    return {info.headings.SideColSpan(startCol).start, info.headings.SideColSpan(innermost).end};
+Span SpanInBody(const CGridAxis& axis, long first, long last) {
+  const LONG start = ToPixel(axis.PositionOf(first));
+  std::int64_t end = axis.PositionOf(last) + axis.SizeOf(last);
+  if (first < axis.Locked() && last >= axis.Locked()) {
+    // However far the scrollable ones are scrolled away, the locked ones stay in view.
+    end = std::max(end, axis.LockedSize());
   }
-  const CGridAxis& axis = info.columns;
-  const LONG start = ToPixel(axis.PositionOf(startCol));
-  return {start, std::max(start, ToPixel(axis.PositionOf(endCol) + axis.SizeOf(endCol)))};
+  return {start, std::max(start, ToPixel(end))};
 }
 
-CGridGeometry::Span CGridGeometry::RowSpan(long startRow, long endRow) const {
-  const CGridInfo& info = m_sheets.Current();
-  if (startRow < 0) {
-    const long innermost = std::min(endRow, -1L);
-    return {info.headings.TopRowSpan(startRow).start, info.headings.TopRowSpan(innermost).end};
+Span ColSpan(const CGridInfo& info, int first, int last) {
+  if (first >= 0) {
+    return SpanInBody(info.columns, first, last);
   }
-  const CGridAxis& axis = info.rows;
-  const LONG start = ToPixel(axis.PositionOf(startRow));
-  return {start, std::max(start, ToPixel(axis.PositionOf(endRow) + axis.SizeOf(endRow)))};
+  return {info.headings.SideColSpan(first).start, info.headings.SideColSpan(std::min(last, -1)).end};
+}
+
+Span RowSpan(const CGridInfo& info, long first, long last) {
+  if (first >= 0) {
+    return SpanInBody(info.rows, first, last);
+  }
+  return {info.headings.TopRowSpan(first).start, info.headings.TopRowSpan(std::min(last, -1L)).end};
+}
+
+}  // namespace
+
+CGridJoins::Block CGridGeometry::BlockOf(int col, long row) const {
+  CGridJoins::Block block{};
+  m_joins.Find(col, row, block);
+  col < 0 ? block.endCol = std::min(block.endCol, -1) : block.startCol = std::max(block.startCol, 0);
+  row < 0 ? block.endRow = std::min(block.endRow, -1L) : block.startRow = std::max(block.startRow, 0L);
+  return block;
 }
 
 bool CGridGeometry::CellRect(int col, long row, CRect& rect) const {
@@ -51,8 +67,7 @@ bool CGridGeometry::CellRect(int col, long row, CRect& rect) const {
   if (!IsInSheet(m_sheets.Current(), col, row)) {
     return false;
   }
-  CGridJoins::Block block{};
-  m_joins.Find(col, row, block);
+  const CGridJoins::Block block = BlockOf(col, row);
   return RangeRect(block.startCol, block.startRow, block.endCol, block.endRow, rect);
 }
 
@@ -66,8 +81,8 @@ bool CGridGeometry::RangeRect(int startCol, long startRow, int endCol, long endR
   if (firstCol > lastCol || firstRow > lastRow) {
     return false;
   }
-  const Span cols = ColSpan(firstCol, lastCol);
-  const Span rows = RowSpan(firstRow, lastRow);
+  const Span cols = ColSpan(info, firstCol, lastCol);
+  const Span rows = RowSpan(info, firstRow, lastRow);
   rect.SetRect(cols.start, rows.start, cols.end, rows.end);
   return true;
 }
@@ -82,8 +97,7 @@ bool CGridGeometry::CellAt(int section, CPoint point, int& col, long& row) const
   if ((atCol < 0) != inSide || (atRow < 0) != inTop) {
     return false;
   }
-  CGridJoins::Block block{};
-  m_joins.Find(atCol, atRow, block);
+  const CGridJoins::Block block = BlockOf(atCol, atRow);
   col = block.startCol;
   row = block.startRow;
   return true;

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "grid/control/CGridJoins.h"
 #include "platform/Geometry.h"
 
 namespace coregui {
 
-class CGridJoins;
 class CGridSheets;
 
 /// From the state of the current sheet to pixels and back. Coordinates are those of the window that shows the
@@ -14,8 +14,9 @@ class CGridGeometry {
  public:
   CGridGeometry(CGridSheets& sheets, CGridJoins& joins) : m_sheets(sheets), m_joins(joins) {}
 
-  /// The rectangle of a cell, or of the whole joined block that holds it; hidden ones are empty. Cells that
-  /// are scrolled away lie outside the window. False, with an empty rectangle, out of the sheet.
+  /// The rectangle of a cell, or of the joined block that holds it, as far as it is in the same window (a
+  /// block may reach from a heading into the cells); hidden ones are empty. Cells that are scrolled away lie
+  /// outside the window. False, with an empty rectangle, out of the sheet.
   bool CellRect(int col, long row, CRect& rect) const;
   /// The rectangle from one cell's start to another's end; joined blocks are not looked at. The range is
   /// clipped to the sheet; false when nothing is left. Both ends must lie in the same window.
@@ -25,12 +26,8 @@ class CGridGeometry {
   bool CellAt(int section, CPoint point, int& col, long& row) const;
 
  private:
-  struct Span {
-    LONG start;
-    LONG end;
-  };
-  Span ColSpan(int startCol, int endCol) const;
-  Span RowSpan(long startRow, long endRow) const;
+  /// The joined block of a cell, or the cell, as far as it lies in the same window.
+  CGridJoins::Block BlockOf(int col, long row) const;
 
   CGridSheets& m_sheets;
   CGridJoins& m_joins;

@@ -67,6 +67,9 @@ TEST(CGridGeometry, AJoinedBlockIsOneRectangleFromAnyOfItsCells) {
   EXPECT_EQ(row, 2);
   grid.SetTopRow(3);
   EXPECT_EQ(RectOf(grid, 2, 3), "50,-10,150,20") << "its start is scrolled away";
+  grid.LockColumns(2);
+  grid.SetLeftCol(4);
+  EXPECT_EQ(RectOf(grid, 2, 3), "50,-10,100,20") << "its end is, and its locked column is not";
 }
 
 TEST(CGridGeometry, HeadingCellsStandInTheirOwnWindows) {
