@@ -16,6 +16,7 @@ bool IsDown(UINT key) {
 
 int CGridMultiSelect::ClearAll() {
   m_blocks.clear();
+  ForgetRow();
   m_enum = {};
   m_clickedCol = -1;
   m_clickedRow = -1;
@@ -28,6 +29,7 @@ int CGridMultiSelect::StartBlock(int col, long row) {
   block.startRow = block.endRow = row;
   Normalise(block);
   m_blocks.push_back(block);
+  ForgetRow();
   Report(block);
   Hint(block);
   return 0;
@@ -44,6 +46,7 @@ int CGridMultiSelect::EndBlock(int col, long row) {
   block.selected = 1;
   Normalise(block);
   m_blocks.back() = block;
+  ForgetRow();
   Report(block);
   HintChange(before, block);
   return 0;
@@ -156,38 +159,57 @@ int CGridMultiSelect::GetNumberBlocks() {
   return static_cast<int>(m_blocks.size());
 }
 
-template <class Covers>
-int CGridMultiSelect::Decide(Covers covers, int* block) const {
+/// Cells are asked for row by row, by the paint pass and by an enumeration: with many blocks, most of them
+/// are looked at once for each row and not for each cell.
+const std::vector<std::size_t>& CGridMultiSelect::BlocksInRow(long row) {
+  if (!m_rowIsKnown || m_row != row) {
+    m_rowBlocks.clear();
+    for (std::size_t i = 0; i < m_blocks.size(); ++i) {
+      if (row >= m_blocks[i].top && row <= m_blocks[i].bottom) {
+        m_rowBlocks.push_back(i);
+      }
+    }
+    m_row = row;
+    m_rowIsKnown = true;
+  }
+  return m_rowBlocks;
+}
+
+int CGridMultiSelect::IsSelected(int col, long row, int* block) {
   int selected = 0;
-  int deciding = 0;
-  for (std::size_t i = 0; i < m_blocks.size(); ++i) {
-    if (covers(m_blocks[i])) {
+  std::size_t deciding = 0;
+  for (const std::size_t i : BlocksInRow(row)) {
+    if (col >= m_blocks[i].left && col <= m_blocks[i].right) {
       selected = m_blocks[i].selected;
-      deciding = static_cast<int>(i);
-      if ((m_mode & MULTISELECT_FIRSTWINS) != 0) {
+      deciding = i;
+      if (FirstWins()) {
         break;
       }
     }
   }
   if (block != nullptr) {
-    *block = deciding;
+    *block = static_cast<int>(deciding);
   }
   return selected;
 }
 
-int CGridMultiSelect::IsSelected(int col, long row, int* block) {
-  return Decide(
-      [&](const Block& b) { return col >= b.left && col <= b.right && row >= b.top && row <= b.bottom; },
-      block);
-}
-
 int CGridMultiSelect::IsCellInColSelected(int col) {
   const int tested = (m_mode & MULTISELECT_ROWS) != 0 ? 1 : col;
-  return Decide([&](const Block& b) { return tested >= b.left && tested <= b.right; }, nullptr);
+  int selected = 0;
+  for (const Block& block : m_blocks) {
+    if (tested >= block.left && tested <= block.right) {
+      selected = block.selected;
+      if (FirstWins()) {
+        break;
+      }
+    }
+  }
+  return selected;
 }
 
 int CGridMultiSelect::IsCellInRowSelected(long row) {
-  return Decide([&](const Block& b) { return row >= b.top && row <= b.bottom; }, nullptr);
+  const std::vector<std::size_t>& blocks = BlocksInRow(row);
+  return blocks.empty() ? 0 : m_blocks[FirstWins() ? blocks.front() : blocks.back()].selected;
 }
 
 int CGridMultiSelect::SelectMode(int mode) {

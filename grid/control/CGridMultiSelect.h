@@ -99,16 +99,20 @@ class COREGUI_API CGridMultiSelect : public CObject {
   void HintChange(const Block& before, const Block& after);
   void HintAndClear();
   CGridDrawHint* Hints() const;
-  template <class Covers>
-  int Decide(Covers covers, int* block) const;
+  bool FirstWins() const { return (m_mode & MULTISELECT_FIRSTWINS) != 0; }
+  const std::vector<std::size_t>& BlocksInRow(long row);
+  void ForgetRow() { m_rowIsKnown = false; }
   bool StartEnumeration();
   /// The first selected cell in the direction of `step` (1 or -1), and the next one.
   int EnumFrom(int* col, long* row, int step);
   int EnumOn(int* col, long* row, int step);
   int FirstEnumerated(int step) const;
 
-  CGridCtrl* m_control = nullptr;  ///< borrowed: the owner
-  std::vector<Block> m_blocks;     ///< in list order; the last one is current: the block in progress
+  CGridCtrl* m_control = nullptr;        ///< borrowed: the owner
+  std::vector<Block> m_blocks;           ///< in list order; the last one is current: the block in progress
+  std::vector<std::size_t> m_rowBlocks;  ///< those of m_blocks that reach into m_row, while that is known
+  long m_row = 0;
+  bool m_rowIsKnown = false;
   int m_mode = 0;
   Enumeration m_enum;
   int m_clickedCol = -1;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <numeric>
 
 namespace coregui {
 
@@ -15,73 +16,86 @@ std::size_t LowestBit(std::size_t value) {
 
 void SizeTable::Set(long index, int size) {
   const auto at = static_cast<std::size_t>(index);
-  const std::int64_t change = size - m_sizes[at];
+  const std::int64_t change = std::int64_t{size} - m_sizes[at];
   m_sizes[at] = size;
-  for (std::size_t i = at + 1; i <= m_tree.size(); i += LowestBit(i)) {
+  m_blocks[at / blockSize] += change;
+  for (std::size_t i = at / blockSize + 1; i <= m_tree.size(); i += LowestBit(i)) {
     m_tree[i - 1] += change;
   }
 }
 
 void SizeTable::Resize(long count, int size) {
-  const auto wanted = static_cast<std::size_t>(count);
-  if (wanted <= m_sizes.size()) {
-    // A node sums only what stands before it, so the nodes that stay are right as they are.
-    m_sizes.resize(wanted);
-    m_tree.resize(wanted);
-    return;
-  }
-  if (wanted > 2 * m_sizes.size()) {
-    m_sizes.resize(wanted, size);
-    Rebuild();
-    return;
-  }
-  m_sizes.reserve(std::max(wanted, m_sizes.capacity()));
-  while (m_sizes.size() < wanted) {
-    const std::size_t node = m_sizes.size() + 1;
-    const std::int64_t before =
-        SumBefore(static_cast<long>(node - 1)) - SumBefore(static_cast<long>(node - LowestBit(node)));
-    m_sizes.push_back(size);
-    m_tree.push_back(before + size);
-  }
+  const std::size_t firstChanged = std::min(m_sizes.size(), static_cast<std::size_t>(count)) / blockSize;
+  m_sizes.resize(static_cast<std::size_t>(count), size);
+  SumBlocksFrom(firstChanged);
 }
 
 void SizeTable::Insert(long index, int size) {
   m_sizes.insert(m_sizes.begin() + index, size);
-  Rebuild();
+  const std::size_t first = static_cast<std::size_t>(index) / blockSize;
+  // Every full block behind gets its neighbour's last entry and gives its own last one away.
+  for (std::size_t block = first + 1; block < m_blocks.size(); ++block) {
+    const std::size_t start = block * blockSize;
+    const std::size_t end = start + blockSize;
+    m_blocks[block] += m_sizes[start] - (end < m_sizes.size() ? std::int64_t{m_sizes[end]} : 0);
+  }
+  if (m_blocks.size() * blockSize < m_sizes.size()) {
+    m_blocks.push_back(m_sizes.back());
+  }
+  m_blocks[first] = SumOfBlock(first);
+  SumTree();
 }
 
 void SizeTable::Erase(long index) {
+  const std::size_t first = static_cast<std::size_t>(index) / blockSize;
+  for (std::size_t block = first + 1; block < m_blocks.size(); ++block) {
+    const std::size_t start = block * blockSize;
+    const std::size_t end = start + blockSize;
+    m_blocks[block] += (end < m_sizes.size() ? std::int64_t{m_sizes[end]} : 0) - m_sizes[start];
+  }
   m_sizes.erase(m_sizes.begin() + index);
-  Rebuild();
+  m_blocks.resize((m_sizes.size() + blockSize - 1) / blockSize);
+  if (first < m_blocks.size()) {
+    m_blocks[first] = SumOfBlock(first);
+  }
+  SumTree();
 }
 
 void SizeTable::Move(long from, long to) {
   const int size = At(from);
   m_sizes.erase(m_sizes.begin() + from);
   m_sizes.insert(m_sizes.begin() + to, size);
-  Rebuild();
+  SumBlocksFrom(static_cast<std::size_t>(std::min(from, to)) / blockSize);
 }
 
 void SizeTable::Clear() {
   m_sizes = {};
+  m_blocks = {};
   m_tree = {};
 }
 
 std::int64_t SizeTable::SumBefore(long index) const {
+  const auto at = static_cast<std::size_t>(index);
+  const std::size_t block = at / blockSize;
   std::int64_t sum = 0;
-  for (auto i = static_cast<std::size_t>(index); i > 0; i -= LowestBit(i)) {
+  for (std::size_t i = block; i > 0; i -= LowestBit(i)) {
     sum += m_tree[i - 1];
   }
-  return sum;
+  return std::accumulate(m_sizes.begin() + static_cast<std::ptrdiff_t>(block * blockSize),
+                         m_sizes.begin() + index, sum);
 }
 
 long SizeTable::IndexAt(std::int64_t pixel) const {
-  std::size_t index = 0;
+  std::size_t block = 0;
   for (std::size_t step = std::bit_floor(m_tree.size()); step > 0; step /= 2) {
-    if (index + step <= m_tree.size() && m_tree[index + step - 1] <= pixel) {
-      index += step;
-      pixel -= m_tree[index - 1];
+    if (block + step <= m_tree.size() && m_tree[block + step - 1] <= pixel) {
+      block += step;
+      pixel -= m_tree[block - 1];
     }
+  }
+  std::size_t index = std::min(block * blockSize, m_sizes.size());
+  while (index < m_sizes.size() && m_sizes[index] <= pixel) {
+    pixel -= m_sizes[index++];
   }
   return static_cast<long>(index);
 }
@@ -94,11 +108,26 @@ bool SizeTable::Check() const {
     }
     sum += At(i);
   }
-  return m_tree.size() == m_sizes.size() && SumBefore(Count()) == sum;
+  return m_blocks.size() == (m_sizes.size() + blockSize - 1) / blockSize && SumBefore(Count()) == sum;
 }
 
-void SizeTable::Rebuild() {
-  m_tree.assign(m_sizes.begin(), m_sizes.end());
+std::int64_t SizeTable::SumOfBlock(std::size_t block) const {
+  const auto start = m_sizes.begin() + static_cast<std::ptrdiff_t>(block * blockSize);
+  const auto end =
+      m_sizes.begin() + static_cast<std::ptrdiff_t>(std::min((block + 1) * blockSize, m_sizes.size()));
+  return std::accumulate(start, end, std::int64_t{0});
+}
+
+void SizeTable::SumBlocksFrom(std::size_t block) {
+  m_blocks.resize((m_sizes.size() + blockSize - 1) / blockSize);
+  for (; block < m_blocks.size(); ++block) {
+    m_blocks[block] = SumOfBlock(block);
+  }
+  SumTree();
+}
+
+void SizeTable::SumTree() {
+  m_tree = m_blocks;
   for (std::size_t i = 1; i <= m_tree.size(); ++i) {
     const std::size_t parent = i + LowestBit(i);
     if (parent <= m_tree.size()) {

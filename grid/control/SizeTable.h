@@ -7,9 +7,9 @@
 
 namespace coregui {
 
-/// The pixel sizes of a run of rows or columns, with their sums. Reading a size is O(1); setting one,
-/// summing, searching by pixel, adding and dropping at the end are O(log n); inserting, erasing and moving
-/// are O(n).
+/// The pixel sizes of a run of rows or columns, with their sums. Reading a size is O(1); setting one, summing
+/// and searching by pixel are O(log n). Inserting, erasing and moving shift the sizes behind, and correct one
+/// sum for each block of them.
 class COREGUI_API SizeTable {
  public:
   long Count() const { return static_cast<long>(m_sizes.size()); }
@@ -32,11 +32,17 @@ class COREGUI_API SizeTable {
   bool Check() const;
 
  private:
-  void Rebuild();
+  /// Entries are summed in blocks of this many.
+  static constexpr std::size_t blockSize = 128;
+
+  std::int64_t SumOfBlock(std::size_t block) const;
+  void SumBlocksFrom(std::size_t block);
+  void SumTree();
 
   std::vector<int> m_sizes;
-  std::vector<std::int64_t>
-      m_tree;  ///< binary indexed: entry i - 1 sums the lowest-set-bit-of-i sizes up to i - 1
+  std::vector<std::int64_t> m_blocks;  ///< the sum of each block
+  /// Binary indexed over the blocks: entry i - 1 sums the lowest-set-bit-of-i blocks up to i - 1.
+  std::vector<std::int64_t> m_tree;
 };
 
 }  // namespace coregui
