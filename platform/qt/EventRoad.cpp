@@ -404,7 +404,7 @@ bool EventRoad::Other() {
         m_window->NoteGeometry();
         break;
       case QEvent::WindowStateChange:
-        m_window->NoteGeometry();
+        m_window->NoteState();
         break;
       case QEvent::Show:
         m_window->NoteGeometry();

@@ -23,11 +23,14 @@ class SurfaceWidget : public QWidget {
     setAttribute(Qt::WA_InputMethodEnabled);
     setFocusPolicy(Qt::NoFocus);
   }
+  /// Called by a paint at another scale than the surface's: the screen's own scale was changed.
+  std::function<void()> onOtherScale;
   /// One pixel round the edge, over the surface's own.
   bool hasBorder = false;
 
  protected:
   void paintEvent(QPaintEvent* event) override {
+    if (devicePixelRatioF() != m_surface->Scale() && onOtherScale) onOtherScale();
     QPainter painter(this);
     for (const QRect& part : event->region()) {
       m_surface->Expose(painter,
@@ -73,10 +76,16 @@ PaintedWindow::PaintedWindow(CWnd& window, const CREATESTRUCT& create,
   m_surface->onDamage = [this] { Pump::Get().QueueExposure(this); };
   m_surface->onMove = [this](const CRect& to, int dx, int dy) { return MoveShown(to, dx, dy); };
   FitSurface(SizeOf(create), QtWindow::Scale());
+  m_toldScale = m_surface->Scale();
+  static_cast<SurfaceWidget*>(GetWidget())->onOtherScale = [this] {
+    QMetaObject::invokeMethod(
+        this, [this] { NoteScale(); }, Qt::QueuedConnection);
+  };
   PaintedWindow::StyleChanged();
 }
 
 PaintedWindow::~PaintedWindow() {
+  if (auto* widget = static_cast<SurfaceWidget*>(GetWidget())) widget->onOtherScale = nullptr;
   m_surface->onDamage = nullptr;
   m_surface->onMove = nullptr;
 }
@@ -113,8 +122,22 @@ void PaintedWindow::NoteScale() {
     return;
   }
   FitSurface(m_surface->Size(), scale);
+  // Told later: the toolkit changes the screen of a window that moves before its place.
+  if (!std::exchange(m_tellsScale, true)) {
+    QMetaObject::invokeMethod(
+        this, [this] { TellScale(); }, Qt::QueuedConnection);
+  }
+}
+
+void PaintedWindow::TellScale() {
+  m_tellsScale = false;
+  if (std::exchange(m_toldScale, m_surface->Scale()) == m_surface->Scale()) {
+    return;
+  }
+  // Logical pixels are what they were: so are the dots per inch that fonts are measured with, and the place.
   const int dots = Window().GetDpi();
-  Window().SendMessage(WM_DPICHANGED, MAKEWPARAM(dots, dots));
+  RECT place = Window().State().look.rect;
+  Window().SendMessage(WM_DPICHANGED, MAKEWPARAM(dots, dots), reinterpret_cast<LPARAM>(&place));
 }
 
 void PaintedWindow::NoteWidgetSize() {

@@ -32,9 +32,12 @@ class PaintedWindow : public QtWindow {
   void FitSurface(CSize size, double scale);
   /// Has the toolkit move what it shows as the surface did. False where it cannot.
   bool MoveShown(const CRect& to, int dx, int dy);
+  void TellScale();
 
   std::shared_ptr<Surface> m_surface;
   std::shared_ptr<RasterTarget> m_target;
+  double m_toldScale = 1.0;   ///< what the window knows
+  bool m_tellsScale = false;  ///< it is about to be told
 };
 
 }  // namespace coregui

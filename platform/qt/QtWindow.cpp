@@ -235,6 +235,11 @@ void QtWindow::StopTimer(UINT id) {
 }
 
 void QtWindow::timerEvent(QTimerEvent* event) {
+  if (event->timerId() == m_resizeAwaited.timerId()) {
+    m_resizeAwaited.stop();
+    if (m_widget != nullptr) NoteGeometry();
+    return;
+  }
   const auto timer = std::find_if(m_timers.begin(), m_timers.end(), [event](const auto& entry) {
     return entry.second.timerId() == event->timerId();
   });
@@ -322,14 +327,31 @@ bool QtWindow::eventFilter(QObject* receiver, QEvent* event) {
   return EventRoad(*this, *static_cast<QWidget*>(receiver), *event).Travel();
 }
 
+void QtWindow::NoteState() {
+  // A maximised or restored window learns its size a little later; until then it has the old one.
+  constexpr int longest = 100;  // milliseconds; a window may have had the new size before
+  const WPARAM code = SizeCodeOf(*m_widget);
+  if (code != SIZE_MINIMIZED && code != m_lastCode) {
+    m_resizeAwaited.start(longest, this);
+  }
+  NoteGeometry();
+}
+
 void QtWindow::NoteGeometry() {
   const QRect place = m_widget->geometry();
   const CRect rect(place.left(), place.top(), place.left() + place.width(), place.top() + place.height());
   const WindowState::Look& look = m_window.State().look;
-  const WPARAM code = SizeCodeOf(*m_widget);
-  if (m_widget->isVisible() && (!(rect == look.rect) || code != look.sizeCode)) {
-    NotePlace(m_window, rect, code);
+  WPARAM code = SizeCodeOf(*m_widget);
+  if (m_resizeAwaited.isActive() && rect.Size() == look.rect.Size()) {
+    code = look.sizeCode;
+  } else {
+    m_resizeAwaited.stop();
   }
+  if (!m_widget->isVisible() || (rect == look.rect && code == look.sizeCode)) {
+    return;
+  }
+  if (code != SIZE_MINIMIZED) m_lastCode = code;
+  NotePlace(m_window, rect, code);
 }
 
 }  // namespace coregui

@@ -89,6 +89,7 @@ class QtWindow : public QObject, public NativeWindow {
  private:
   friend class EventRoad;
   void WidgetLost();
+  void NoteState();
   void NoteGeometry();
   bool IsTopLevel() const;
   Qt::WindowFlags FlagsOf(DWORD style) const;
@@ -99,7 +100,9 @@ class QtWindow : public QObject, public NativeWindow {
   QPointer<QWidget> m_widget;
   bool m_borrowed = false;
   std::map<UINT, QBasicTimer> m_timers;
-  WheelGatherer m_wheel[2];  ///< vertical, horizontal
+  WPARAM m_lastCode = 0;        ///< of WM_SIZE when it was not minimised
+  QBasicTimer m_resizeAwaited;  ///< of a maximised or restored window: both are told together
+  WheelGatherer m_wheel[2];     ///< vertical, horizontal
 
   /// The toolkit's event behind the message at hand.
   struct InFlight {
