@@ -12,6 +12,7 @@ constexpr UINT kFormat = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIP
 constexpr int kItemHeight = 24;  // at 96 dots per inch
 constexpr int kFontHeight = 15;
 constexpr int kMargin = 4;
+constexpr int kListWidth = 280;  // at least: names are longer than the boxes of a dialog
 
 /// Signs that fonts of symbols have at the places of letters.
 const CString kSymbolSample = L"AaBb12";
@@ -47,6 +48,7 @@ const coregui::MessageTable& CFontCombo::GetMessageTable() const {
 
 LRESULT CFontCombo::HandleCreate(WPARAM /*wParam*/, LPARAM /*lParam*/) {
   for (const auto& family : coregui::FontNameCache::Get().Families()) AddString(family.name);
+  SetDroppedWidth(ScaleByDpi(kListWidth));
   return Default();
 }
 

@@ -67,10 +67,11 @@ FamilyBytes BytesOf(const QString& family) {
   const BYTE kind = fixed ? FF_MODERN : FamilyOf(font.fontTable("OS/2"));
   bytes.pitchAndFamily = static_cast<BYTE>((fixed ? FIXED_PITCH : VARIABLE_PITCH) | kind);
   const QList<QFontDatabase::WritingSystem> systems = QFontDatabase::writingSystems(family);
-  if (systems.contains(QFontDatabase::Latin)) {
-    bytes.charSet = ANSI_CHARSET;
-  } else if (systems.contains(QFontDatabase::Symbol)) {
+  // First: fonts of symbols may have their signs in the places of letters, and then seem to write Latin, too.
+  if (systems.contains(QFontDatabase::Symbol)) {
     bytes.charSet = SYMBOL_CHARSET;
+  } else if (systems.contains(QFontDatabase::Latin)) {
+    bytes.charSet = ANSI_CHARSET;
   }
   known[family] = bytes;
   return bytes;

@@ -10,6 +10,7 @@
 #include "controls/CLinkButton.h"
 #include "controls/CLinkSlider.h"
 #include "controls/CWidthComboBox.h"
+#include "controls/FontNameCache.h"
 #include "platform/CDC.h"
 #include "platform/CFont.h"
 #include "platform/Locale.h"
@@ -52,6 +53,11 @@ TEST(FontCombo, WritesEachFamilyInItsOwnFace) {
     combo.GetLBText(i, name);
     EXPECT_NE(name, before) << "each family once";
     before = name;
+    // A name that cannot be read in its own signs stands in the system's letters.
+    const CString inOwnFace = L"font \"" + name + L"\",-15,400 \"" + name + L"\"";
+    const auto& family = coregui::FontNameCache::Get().Families()[static_cast<std::size_t>(i)];
+    EXPECT_EQ(combo.Draw(i).Find(inOwnFace) >= 0, !family.symbols) << combo.Draw(i).ToUtf8();
+    EXPECT_FALSE(family.symbols && name.Find(L"DejaVu") >= 0);
   }
 }
 
