@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QScreen>
 #include <QTreeView>
 
 #include "platform/MessageBox.h"
@@ -32,7 +33,7 @@ void MakeRoom(QFileDialog& dialog) {
   constexpr int kNames = 0;
   constexpr int kTimes = 3;
   constexpr QSize kSize(780, 480);
-  dialog.resize(kSize);
+  dialog.resize(kSize.boundedTo(dialog.screen()->availableSize()));
   if (const auto* list = dialog.findChild<QTreeView*>("treeView")) {
     list->header()->setSectionResizeMode(kNames, QHeaderView::Stretch);
     list->header()->setSectionResizeMode(kTimes, QHeaderView::ResizeToContents);
