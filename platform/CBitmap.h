@@ -15,8 +15,8 @@ class COREGUI_API CBitmap : public CGdiObject {
   /// A bitmap for drawing on with CMemoryDC: `width` × `height` logical pixels at the scale of `like`.
   /// False when a dimension is below 1 or memory is short; the bitmap is then empty.
   BOOL CreateCompatibleBitmap(const CDC* like, int width, int height);
-  /// From rows of 0xAARRGGBB dots, top row first.
-  BOOL CreateFromPixels(int width, int height, const std::vector<DWORD>& pixels);
+  /// From rows of 0xAARRGGBB dots, top row first. `width` × `height` dots, `scale` to a logical pixel.
+  BOOL CreateFromPixels(int width, int height, const std::vector<DWORD>& pixels, double scale = 1.0);
   BOOL LoadFile(const wchar_t* path);
   BOOL SaveFile(const wchar_t* path) const;  ///< PNG
   void DeleteObject();

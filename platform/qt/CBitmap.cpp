@@ -31,9 +31,9 @@ BOOL CBitmap::CreateCompatibleBitmap(const CDC* like, int width, int height) {
   return TRUE;
 }
 
-BOOL CBitmap::CreateFromPixels(int width, int height, const std::vector<DWORD>& pixels) {
+BOOL CBitmap::CreateFromPixels(int width, int height, const std::vector<DWORD>& pixels, double scale) {
   m_data.reset();
-  if (width < 1 || height < 1 ||
+  if (width < 1 || height < 1 || !(scale > 0) ||
       pixels.size() < static_cast<std::size_t>(width) * static_cast<std::size_t>(height)) {
     return FALSE;
   }
@@ -46,7 +46,7 @@ BOOL CBitmap::CreateFromPixels(int width, int height, const std::vector<DWORD>& 
                 reinterpret_cast<DWORD*>(image.scanLine(y)));
   }
   image.convertTo(QImage::Format_ARGB32_Premultiplied);
-  m_data = std::make_shared<coregui::BitmapData>(std::make_shared<coregui::Surface>(std::move(image), 1.0));
+  m_data = std::make_shared<coregui::BitmapData>(std::make_shared<coregui::Surface>(std::move(image), scale));
   return TRUE;
 }
 

@@ -28,7 +28,7 @@ bool DrawModalBox(CBitmap& picture) {
     const auto* row = reinterpret_cast<const DWORD*>(image.constScanLine(y));
     pixels.insert(pixels.end(), row, row + image.width());
   }
-  return picture.CreateFromPixels(image.width(), image.height(), pixels) != FALSE;
+  return picture.CreateFromPixels(image.width(), image.height(), pixels, image.devicePixelRatio()) != FALSE;
 }
 
 bool CloseModalBox() {

@@ -5,10 +5,12 @@
 #include <functional>
 #include <memory>
 
+#include "platform/CBitmap.h"
 #include "platform/CDialog.h"
 #include "platform/CToolTipCtrl.h"
 #include "platform/CWinApp.h"
 #include "platform/DialogLayout.h"
+#include "platform/ModalBox.h"
 #include "platform/TipClock.h"
 #include "platform/qt/interop.h"
 #include "tests/platform/LogWindow.h"
@@ -179,6 +181,20 @@ TEST(Dialog, ItsFrameCannotBeDraggedButCodeSizesIt) {
   LogWindow framed;
   ASSERT_TRUE(framed.Open());
   EXPECT_GT(WidgetOf(&framed)->maximumWidth(), 10000);
+}
+
+TEST(Dialog, ItsPictureIsAsLargeAsItself) {
+  FormDialog dialog;
+  dialog.SetClientSize(CSize(240, 130));
+  dialog.shown = [] {
+    CBitmap picture;
+    EXPECT_TRUE(coregui::DrawModalBox(picture));
+    EXPECT_EQ(picture.GetSize(), CSize(240, 130));
+    EXPECT_TRUE(coregui::CloseModalBox());
+  };
+  EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+  CBitmap none;
+  EXPECT_FALSE(coregui::DrawModalBox(none));
 }
 
 TEST(DialogPlaces, RowsShareTheWidthAndButtonsStandRight) {
