@@ -30,7 +30,7 @@ BOOL CommandBar::CreateBar(CWnd* parent, const std::vector<BarCommand>& commands
   int left = gap;
   for (const BarCommand& command : commands) {
     const int width = WidthOf(command.text);
-    auto button = std::make_unique<CButton>();
+    auto button = std::make_unique<WithTip<CButton>>(m_tips);
     if (!button->Create(command.text, WS_CHILD | WS_VISIBLE | WS_TABSTOP,
                         CRect(CPoint(left, gap), CSize(width, height)), this, command.id)) {
       return FALSE;
@@ -95,11 +95,6 @@ std::vector<CWnd*> CommandBar::Stops() {
   stops.push_back(&m_exaggeration);
   std::erase_if(stops, [](const CWnd* stop) { return stop->IsWindowEnabled() == FALSE; });
   return stops;
-}
-
-BOOL CommandBar::PreTranslateMessage(MSG* message) {
-  m_tips.RelayEvent(*message);
-  return CWnd::PreTranslateMessage(message);
 }
 
 const coregui::MessageTable& CommandBar::GetMessageTable() const {

@@ -14,6 +14,21 @@ struct BarCommand {
   const wchar_t* tip;
 };
 
+/// A control that lets tips see its messages.
+template <class Control>
+class WithTip : public Control {
+ public:
+  /// `tips` is borrowed and must outlive the control's window.
+  explicit WithTip(CToolTipCtrl& tips) : m_tips(tips) {}
+  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+    m_tips.RelayEvent({this->GetSafeHwnd(), message, wParam, lParam});
+    return Control::WindowProc(message, wParam, lParam);
+  }
+
+ private:
+  CToolTipCtrl& m_tips;
+};
+
 /// A row of buttons with tips, and a choice of vertical exaggerations behind them. Everything is sent to the
 /// parent as WM_COMMAND.
 class CommandBar : public CWnd {
@@ -34,7 +49,6 @@ class CommandBar : public CWnd {
 
  protected:
   const coregui::MessageTable& GetMessageTable() const override;
-  BOOL PreTranslateMessage(MSG* message) override;
 
  private:
   int WidthOf(const wchar_t* text);
@@ -42,11 +56,11 @@ class CommandBar : public CWnd {
   void HandlePaint();
   LRESULT HandleCommand(WPARAM wParam, LPARAM lParam);
 
+  CToolTipCtrl m_tips;
   std::vector<std::unique_ptr<CButton>> m_buttons;
   CStatic m_label;
-  CComboBox m_exaggeration;
+  WithTip<CComboBox> m_exaggeration{m_tips};
   std::vector<double> m_times;  ///< of the list's entries
-  CToolTipCtrl m_tips;
 };
 
 }  // namespace desk

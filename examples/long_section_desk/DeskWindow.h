@@ -112,8 +112,9 @@ class DeskWindow : public CWnd, private SurveySink {
   void FindAgain(bool back);
   void AskChainage();
   void Fit() { m_section.Redraw(); }
-  void LookBack() { m_section.GoBack(); }
-  void LookForward() { m_section.GoForward(); }
+  void LookBack() { Look(true); }
+  void LookForward() { Look(false); }
+  void Look(bool back);
   void AskExaggeration();
   void CopyCells() { m_grid.CopySelected(); }
   void NextPane();

@@ -73,6 +73,7 @@ bool DeskWindow::Open(const std::wstring& path) {
   if (!keepLock) {
     m_lock = std::move(lock);
   }
+  m_status.Show(L"Showing " + m_report.RowsText() + L" of " + m_opening);
   m_grid.EndTable(m_report.rows);
   ShowSection();
   m_status.Show(m_opening + L": " + m_report.Summary(), m_report.HasOddities());

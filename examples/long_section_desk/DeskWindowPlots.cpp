@@ -31,6 +31,11 @@ void DeskWindow::ShowSection() {
   FollowRow(m_grid.GetCurrentRow());
 }
 
+void DeskWindow::Look(bool back) {
+  m_section.Look(back);
+  m_commands.ShowExaggeration(m_section.GetExaggeration());
+}
+
 void DeskWindow::OnSectionEvent(PNT_2D_record const& position, EVENT_TYPE event, char /*keyFlags*/,
                                 char /*key*/, CWnd* parent) {
   auto* self = dynamic_cast<DeskWindow*>(parent);

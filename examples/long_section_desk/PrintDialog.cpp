@@ -6,8 +6,9 @@ namespace {
 
 constexpr int kWidth = 330;  // lengths at 96 dots per inch
 constexpr int kRow = 24;
-constexpr int kLine = 18;
+constexpr int kLine = 22;
 constexpr int kLabel = 190;
+constexpr int kLabelDown = 4;
 constexpr DWORD kShown = WS_CHILD | WS_VISIBLE;
 constexpr DWORD kStop = kShown | WS_TABSTOP;
 
@@ -25,7 +26,9 @@ PrintDialog::PrintDialog(const PrintChoice& choice, std::function<int(const Prin
                          CWnd* parent)
     : CCADBaseDialog(L"Print the long-section", parent), m_choice(choice), m_sheetsOf(std::move(sheets)) {}
 
-CStatic& PrintDialog::AddLabel(const wchar_t* text, const CRect& place, UINT id) {
+/// Its text stands on the line of the field beside it.
+CStatic& PrintDialog::AddLabel(const wchar_t* text, CRect place, UINT id) {
+  place.top += ScaleByDpi(kLabelDown);
   CStatic& label = *m_labels.emplace_back(std::make_unique<CStatic>());
   label.Create(text, kShown, place, this, id);
   return label;

@@ -31,7 +31,7 @@ class PrintDialog : public CCADBaseDialog {
   void OnOK() override;
 
  private:
-  CStatic& AddLabel(const wchar_t* text, const CRect& place, UINT id = 0xFFFF);
+  CStatic& AddLabel(const wchar_t* text, CRect place, UINT id = 0xFFFF);
   void AddNumber(coregui::DialogLayout& layout, CFloatEdit& edit, UINT id, const wchar_t* label,
                  const wchar_t* name, double least, double most, double value);
   void TakeChoice();

@@ -14,12 +14,14 @@ namespace {
 constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
 constexpr int kTopMargin = 24;  // points
 constexpr double kRowHeight = 44.0;
+constexpr double kMostOfTable = 0.55;  // of a window's height
 constexpr int kGap = 4;
 constexpr double kTextPitch = 11.0;  // points from one upright text to the next
 constexpr int kPaperEdge = 24;       // points around what is printed
 constexpr LONG kTitleBlock = 58;     // points below the table for the title block
 constexpr LONG kTableEnd = 6;        // points between the table and the frame of a sheet
 constexpr double kMillimetresPerInch = 25.4;
+constexpr double kLeastForLegend = 60.0;
 constexpr double kGroundPen = 1.0;  // points
 constexpr double kDesignPen = 1.25;
 constexpr UINT kPlusKey = 0xBB;  // on the main board
@@ -67,20 +69,29 @@ void SectionView::Show(const SectionData& data) {
   m_extents = data.extents;
   m_mark = kNothing;
   m_hasData = !data.IsEmpty();
-  const CRect margins = Margins();
-  SetMargins(margins);
-  m_exaggeration = RoundExaggeration(m_extents, PlaceBetween(*this, margins));
+  m_exaggeration = RoundExaggeration(m_extents, PlaceBetween(*this, Margins(true)));
+  m_size = CSize();  // whatever was zoomed before is gone
   FitAgain();
 }
 
-CRect SectionView::Margins() const {
+/// The table has the rows that leave the drawing most of a window's height; paper has room for all.
+int SectionView::TableRows(bool forWindow) const {
+  int rows = m_design.GetCount() == 0 ? 2 : 4;
+  const double height = forWindow ? GetClientRectangle().Height() * 72.0 / GetDpi() : HUGE_VAL;
+  while (rows > 0 && rows * kRowHeight > kMostOfTable * height) {
+    --rows;
+  }
+  return rows;
+}
+
+CRect SectionView::Margins(bool forWindow) const {
   return {kLeftMargin, kTopMargin, kRightMargin,
-          static_cast<LONG>((m_design.GetCount() == 0 ? 2 : 4) * kRowHeight) + 2 * kGap};
+          static_cast<LONG>(TableRows(forWindow) * kRowHeight) + 2 * kGap};
 }
 
 /// Of the part of a sheet inside its edges.
 CRect SectionView::PrintMargins() const {
-  CRect margins = Margins();
+  CRect margins = Margins(false);
   margins.right += kTableEnd;
   margins.bottom += kTitleBlock;
   return margins;
@@ -130,15 +141,37 @@ bool SectionView::PrintSheets(CPrinterDC& dc, const PrintChoice& choice) {
       good = dc.EndPage();
     }
   }
-  SetMargins(Margins());
+  SetMargins(Margins(true));
   return good;
 }
 
 void SectionView::FitAgain() {
   SetBackgroundColour(SectionColors::Of(false).paper);
-  if (m_hasData && HasWindow() && !GetClientRectangle().IsRectEmpty()) {
-    InitView(m_extents, m_exaggeration);
+  const CSize size = GetClientRectangle().Size();
+  if (!m_hasData || !HasWindow() || size.cx < 1 || size.cy < 1) {
+    return;
   }
+  const coregui::CViewMapping::Scale before = GetMapping().now;
+  const PNT_2D_record middle = WindowToUser(MiddleOf(CRect(CPoint(0, 0), m_size)));
+  const bool zoomed = m_size.cx > 0 && before.scale < before.fitScale;
+  m_size = size;
+  SetMargins(Margins(true));
+  InitView(m_extents, m_exaggeration);
+  if (zoomed) {
+    // No gesture, so nothing to go back over.
+    const Options options = GetOptions();
+    Options quiet = options;
+    quiet.history = false;
+    SetOptions(quiet);
+    DoZoom(middle, before.scale, false);
+    SetOptions(options);
+  }
+}
+
+bool SectionView::Look(bool back) {
+  const bool went = back ? GoBack() : GoForward();
+  m_exaggeration = GetVertRatio();
+  return went;
 }
 
 void SectionView::SetExaggeration(double times) {
@@ -213,6 +246,9 @@ void SectionView::DrawLegend(const SectionColors& colors) {
   }
   const auto pixels = [this](double points) { return static_cast<LONG>(PixelsOfPoints(points)); };
   const CRect area = GetDrawingArea();
+  if (area.Height() < pixels(kLeastForLegend)) {
+    return;
+  }
   PlotTextStyle text = RulerText(colors.text);
   text.align = TA_LEFT | TA_TOP;
   SetPlotText(text);
@@ -356,6 +392,7 @@ void SectionView::DrawTable(const SectionColors& colors) {
     rows.push_back(coregui::MakeLevelRow(L"Design level", design, m_levelDecimals));
     rows.push_back(coregui::MakeDifferenceRow(L"Difference", ground, design, m_levelDecimals));
   }
+  rows.resize(static_cast<std::size_t>(TableRows(!IsPrinting())));
   for (PlotTableRow& row : rows) {
     row.height = kRowHeight;
   }

@@ -22,12 +22,14 @@ class SectionView : public CGUIBaseViewWnd {
   explicit SectionView(CWnd* parent);
   /// Takes the data over and shows all of it.
   void Show(const SectionData& data);
-  /// Fits again after the window's size has changed.
+  /// Fits again after the window's size has changed; a view that is zoomed keeps its middle and its scale.
   void FitAgain();
   /// A line through the section at a chainage; NaN takes it away.
   void Mark(double chainage);
   /// How much longer a metre is drawn upwards than along: a round number of times.
   void SetExaggeration(double times);
+  /// Goes to the view before or after, with its exaggeration; false when there is none.
+  bool Look(bool back);
   double GetExaggeration() const { return m_exaggeration; }
   /// Digits behind the separator in the table below the section.
   void SetDecimals(int chainage, int level) {
@@ -64,7 +66,8 @@ class SectionView : public CGUIBaseViewWnd {
     CString scale;  ///< empty: as large as the page allows
   };
 
-  CRect Margins() const;
+  int TableRows(bool forWindow) const;
+  CRect Margins(bool forWindow) const;
   CRect PrintMargins() const;
   std::vector<coregui::CViewMapping> Plan(const PrintChoice& choice, CSize page, CSize dotsPerInch) const;
   CRect Drawing() const;
@@ -81,6 +84,7 @@ class SectionView : public CGUIBaseViewWnd {
   CPlotSeries m_ground;
   CPlotSeries m_design;
   FRect m_extents;
+  CSize m_size;  ///< of the client area at the last fit; empty: nothing was shown yet
   CString m_title;
   Sheet m_sheet;
   std::function<void(StationStep)> m_stepHook;

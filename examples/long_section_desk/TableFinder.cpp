@@ -61,14 +61,14 @@ TableFinder::Result TableFinder::FindAgain(bool back) {
   }
   const bool up = m_up != back;
   const Place from{m_grid.GetCurrentRow(), m_grid.GetCurrentCol()};
-  const auto isAhead = [&](const Place& place) { return up ? place < from : place > from; };
+  const auto isAhead = [&](const Place& place) { return up ? place < from : from < place; };
   std::optional<Place> found = Search(m_text, from, up);
   if (const CString stored = AsStored(m_text); !stored.IsEmpty() && stored != m_text) {
     const std::optional<Place> number = Search(stored, from, up);
     // What comes first: ahead before what is found from the other end, then in the search's direction.
     const bool better =
         number && found &&
-        (isAhead(*number) != isAhead(*found) ? isAhead(*number) : (up ? *number > *found : *number < *found));
+        (isAhead(*number) != isAhead(*found) ? isAhead(*number) : (up ? *found < *number : *number < *found));
     found = !found || better ? number : found;
   }
   if (!found) {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <compare>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include "SurveyGrid.h"
 #include "coregui/coregui.h"
@@ -43,7 +43,7 @@ class TableFinder {
   struct Place {
     long row;
     int col;
-    auto operator<=>(const Place&) const = default;
+    bool operator<(const Place& other) const { return std::pair(row, col) < std::pair(other.row, other.col); }
   };
   std::optional<Place> Search(const CString& text, const Place& from, bool up);
 

@@ -135,6 +135,28 @@ TEST_F(Desk, FindsInEveryColumnAndSaysWhenThereIsNothing) {
   window.Find(L"%s");
 }
 
+TEST_F(Desk, AZoomedSectionKeepsItsPlaceWhenTheWindowIsSized) {
+  ASSERT_TRUE(window.Open(Write("a.csv", "Chainage,Level\n0,100\n500,110\n1000,102\n")));
+  desk::SectionView& section = window.Section();
+  const auto middle = [&section] {
+    return section.WindowToUser(desk::MiddleOf(section.GetClientRectangle()));
+  };
+  section.ZoomAt(section.OnLine(section.GetClientRectangle().Width() / 2), 4.0);
+  const double scale = section.GetScale();
+  const PNT_2D_record at = middle();
+  window.MoveWindow(80, 60, 1300, 500);
+  EXPECT_EQ(section.GetScale(), scale);
+  EXPECT_NEAR(middle().x, at.x, 2.0 * scale);
+  section.SetExaggeration(7.5);
+  EXPECT_NEAR(middle().x, at.x, 4.0 * scale);
+  EXPECT_TRUE(section.Look(true));
+  EXPECT_FALSE(section.Look(true));
+  EXPECT_GT(section.GetScale(), scale);
+  section.ZoomAt(section.OnLine(section.GetClientRectangle().Width() / 2), 4.0);
+  ASSERT_TRUE(window.Open(Write("b.csv", "Chainage,Level\n0,100\n500,110\n1000,102\n")));
+  EXPECT_EQ(section.GetScale(), section.GetMapping().now.fitScale);
+}
+
 TEST_F(Desk, AnyExaggerationCanBeTyped) {
   ASSERT_TRUE(window.Open(Write("a.csv", "Chainage,Level\n0,101.50\n100,102\n")));
   window.ShowWindow(SW_SHOW);
@@ -160,7 +182,7 @@ TEST_F(Desk, TheSectionRunsAlongTheChainageWhateverTheOrderOfRows) {
 }
 
 TEST(SectionColumns, AreFoundByTheirNames) {
-  const auto find = [](std::vector<std::wstring> headings) {
+  const auto find = [](const std::vector<std::wstring>& headings) {
     const desk::SectionColumns columns =
         desk::FindSectionColumns(headings, std::vector<bool>(headings.size(), true));
     return std::vector<int>({columns.chainage, columns.ground, columns.design});

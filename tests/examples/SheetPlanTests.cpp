@@ -21,6 +21,7 @@ std::vector<CViewMapping> Plan(const std::vector<CPlotSeries>& lines, const Plot
   view.margins = kMargins;
   view.extents = FRect(0.0, 1000.0, 140.0, -1000.0);
   std::vector<const CPlotSeries*> pointers;
+  pointers.reserve(lines.size());
   for (const CPlotSeries& line : lines) {
     pointers.push_back(&line);
   }
