@@ -61,14 +61,14 @@ void DrawLines(CDC* dc, const BorderPlan& plan, CPen* cellPen, CPen* gridPen) {
   dc->SelectObject(before);
 }
 
-bool IsEmptyText(const wchar_t* text) {
-  return text == nullptr || *text == L'\0';
+bool HasText(CGridCell& cell) {
+  const wchar_t* const text = cell.GetText();
+  return text != nullptr && *text != L'\0';
 }
 
-/// Whether a text may pass over the cell: plain, not joined, of the normal type and without a value.
-bool IsEmptyPlain(CGridCell& cell) {
-  return cell.IsPropertySet(CELLPROP_CELLTYPEEX | CELLPROP_JOIN | CELLPROP_BITMAP) == 0 &&
-         cell.GetCellType() <= 0 && IsEmptyText(cell.GetText());
+int BitmapWidth(const CGridCell& cell) {
+  const CBitmap* const bitmap = cell.GetBitmap();
+  return bitmap != nullptr ? static_cast<int>(bitmap->GetSize().cx) : 0;
 }
 
 }  // namespace
@@ -78,8 +78,12 @@ bool IsEmptyPlain(CGridCell& cell) {
 void CGridCellType::OnDraw(CDC* dc, RECT* rect, int col, long row, CGridCell* cell, int selected,
                            int current) {
   if (MayOverlap(col, row, cell)) {
-    if (IsEmptyText(cell->GetText()) && DrawSpilledText(dc, rect, col, row, cell, selected, current)) return;
-    HintRightNeighbour(col, row);
+    if (HasText(*cell)) {
+      HintRightNeighbour(col, row);
+    } else if (DrawSpilledText(dc, rect, col, row, cell, selected, current)) {
+      HintRightNeighbour(col, row);
+      return;
+    }
   }
   RECT inner;
   DrawBorder(dc, rect, &inner, cell);
@@ -93,26 +97,29 @@ bool CGridCellType::MayOverlap(int col, long row, CGridCell* cell) const {
 
 bool CGridCellType::DrawSpilledText(CDC* dc, RECT* rect, int col, long row, CGridCell* cell, int selected,
                                     int current) {
+  if (cell->GetBitmap() != nullptr) return false;
   int startCol = 0;
   const int offset = GetCellOverlapInfo(dc, col, row, &startCol, &m_spilling);
   if (offset == 0) return false;
   RECT inner;
   DrawBorder(dc, rect, &inner, cell);
-  DrawText(dc, &inner, offset, startCol, row, &m_spilling, selected, current);
-  HintRightNeighbour(col, row);
+  const int saved = dc->SaveDC();
+  dc->IntersectClipRect(inner);  // a bitmap before the text lies outside
+  DrawText(dc, &inner, offset - (inner.left - rect->left), startCol, row, &m_spilling, selected, current);
+  dc->RestoreDC(saved);
+  if (CGridDrawHint* const hints = m_control->GetDrawHints(); hints != nullptr) hints->NoteSpill(col, row);
   return true;
 }
 
-/// The next cell in view has to be drawn again, as a text may pass over it now or did so before. One that has
-/// a text of its own shows just that: without it the hints would run on through a row of full cells.
+/// A text may go on, or may have gone on before, in the next cell in view.
 void CGridCellType::HintRightNeighbour(int col, long row) {
   CGridDrawHint* const hints = m_control->GetDrawHints();
   if (hints == nullptr) return;
   int next = col + 1;
   while (next < m_control->GetNumberCols() && m_control->GetColWidth(next) == 0) ++next;
-  if (next >= m_control->GetNumberCols() || hints->IsInvalid(next, row) != 0) return;
-  m_control->GetCellIndirect(next, row, &m_neighbour);
-  if (IsEmptyText(m_neighbour.GetText())) hints->AddHint(next, row);
+  if (next < m_control->GetNumberCols() && hints->IsInvalid(next, row) == 0) {
+    hints->AddHint(col + 1, row, next, row);
+  }
 }
 
 void CGridCellType::DrawBorder(CDC* dc, RECT* rect, RECT* inner, CGridCell* cell) {
@@ -237,18 +244,29 @@ int CGridCellType::GetCellOverlapInfo(CDC* dc, int col, long row, int* startCol,
     if (distance > kLongestSpill) return 0;
     if (width == 0) continue;
     m_control->GetCellIndirect(left, row, startCell);
-    if (IsEmptyPlain(*startCell)) continue;
     const CGridCellType* const type = m_control->GetCellType(startCell->GetCellType());
     if (type == nullptr || type->CanOverLap(startCell) == 0) return 0;
+    if (!HasText(*startCell)) {
+      if (startCell->GetBitmap() != nullptr) return 0;
+      continue;  // the text may pass over it
+    }
+    const int indent = LeftBorderWidth(*startCell);
     const wchar_t* const text = startCell->GetText();
-    if (IsEmptyText(text)) return 0;
     const FontInUse font(*dc, startCell->GetFont());
     const int textWidth = dc->GetTextExtent(text, static_cast<int>(std::wcslen(text))).cx;
-    if (!TextReaches(distance, m_control->GetMargin(), textWidth)) return 0;
+    const int used = indent + m_control->GetMargin() + BitmapWidth(*startCell);
+    if (!TextReaches(distance, used, textWidth)) return 0;
     *startCol = left;
-    return -distance;
+    return indent - distance;
   }
   return 0;
+}
+
+int CGridCellType::LeftBorderWidth(const CGridCell& cell) const {
+  constexpr CRect kRoomy(0, 0, 100, 100);
+  return cell.IsPropertySet(CELLPROP_BORDER) != 0
+             ? BorderPlan(kRoomy, cell.GetBorder(), false, m_control->Get3DHeight()).Inner().left
+             : 0;
 }
 
 // --- Measuring

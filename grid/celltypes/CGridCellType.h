@@ -47,7 +47,7 @@ class COREGUI_API CGridCellType : public coregui::CGridCellDelegate {
   int DrawTextOrLabel() const { return m_drawLabel; }
   /// Whether the cell's text may spill into empty neighbours: 1 for a plain left-aligned cell of a type that
   /// allows it.
-  int CanOverLap(CGridCell* cell) const;
+  int CanOverLap(CGridCell* cell) const override;
 
   // --- Device-independent bitmap rules
 
@@ -85,8 +85,8 @@ class COREGUI_API CGridCellType : public coregui::CGridCellDelegate {
   bool MayOverlap(int col, long row, CGridCell* cell) const;
   bool DrawSpilledText(CDC* dc, RECT* rect, int col, long row, CGridCell* cell, int selected, int current);
   void HintRightNeighbour(int col, long row);
+  int LeftBorderWidth(const CGridCell& cell) const;
   void PutText(CDC* dc, const RECT& rect, int offset, const wchar_t* text, CGridCell* cell) const;
 
-  CGridCell m_spilling;   ///< scratch: the cell whose text spills into the one being drawn
-  CGridCell m_neighbour;  ///< scratch: the cell that a text may spill into
+  CGridCell m_spilling;  ///< scratch: the cell whose text spills into the one being drawn
 };

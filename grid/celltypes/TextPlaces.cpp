@@ -73,8 +73,8 @@ int WrapTop(const TextPlacement& place, int height) {
   return place.cell.top;
 }
 
-bool TextReaches(int distance, int margin, int textWidth) {
-  return margin + textWidth > distance;
+bool TextReaches(int distance, int before, int textWidth) {
+  return before + textWidth > distance;
 }
 
 }  // namespace coregui

@@ -39,8 +39,8 @@ COREGUI_API bool NeedsWrappedHeight(int alignment);
 /// The top of wrapped text that is `height` pixels high; above the cell when it is too high to be centred.
 COREGUI_API int WrapTop(const TextPlacement& place, int height);
 
-/// Where a text that starts `distance` pixels to the left reaches past the start of a cell: left-aligned,
-/// `textWidth` wide, with the margin before it.
-COREGUI_API bool TextReaches(int distance, int margin, int textWidth);
+/// Whether a text reaches the cell that starts `distance` pixels right of its own: left-aligned, `textWidth`
+/// wide, with `before` pixels (border, bitmap, margin) before it.
+COREGUI_API bool TextReaches(int distance, int before, int textWidth);
 
 }  // namespace coregui

@@ -75,6 +75,8 @@ class COREGUI_API CGridCellDelegate : public CObject {
 
   /// Non-zero when cells of the type may be edited as text.
   virtual int CanTextEdit() const = 0;
+  /// Whether the cell's text may spill into empty neighbours.
+  virtual int CanOverLap(CGridCell* cell) const = 0;
   /// Called once, at registration: the control (borrowed: it outlives its types) and the type's ID in it.
   virtual void Attach(CGridCtrl* control, int id) = 0;
 };

@@ -44,11 +44,11 @@ int CGridDrawHint::IsInvalid(int col, long row) const {
 }
 
 int CGridDrawHint::IsValid(int col, long row) const {
-  return std::find(m_valid.begin(), m_valid.end(), Cell{col, row}) != m_valid.end();
+  return std::find(m_valid.begin(), m_valid.end(), Cell{row, col}) != m_valid.end();
 }
 
 void CGridDrawHint::SetAsValid(int col, long row) {
-  m_valid.push_back({col, row});
+  m_valid.push_back({row, col});
 }
 
 int CGridDrawHint::GetTotalRange(int* startCol, long* startRow, int* endCol, long* endRow) const {
@@ -64,4 +64,18 @@ int CGridDrawHint::GetTotalRange(int* startCol, long* startRow, int* endCol, lon
   *endCol = total.endCol;
   *endRow = total.endRow;
   return m_invalid.empty() ? 0 : 1;
+}
+
+void CGridDrawHint::NoteSpill(int col, long row) {
+  const auto at = std::lower_bound(m_spills.begin(), m_spills.end(), Cell{row, col});
+  if (at == m_spills.end() || *at != Cell{row, col}) m_spills.insert(at, {row, col});
+}
+
+void CGridDrawHint::ForgetSpill(int col, long row) {
+  const auto at = std::lower_bound(m_spills.begin(), m_spills.end(), Cell{row, col});
+  if (at != m_spills.end() && *at == Cell{row, col}) m_spills.erase(at);
+}
+
+bool CGridDrawHint::ShowsSpill(int col, long row) const {
+  return !m_spills.empty() && std::binary_search(m_spills.begin(), m_spills.end(), Cell{row, col});
 }

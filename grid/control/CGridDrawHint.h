@@ -5,8 +5,9 @@
 #include "core/Export.h"
 #include "platform/CObject.h"
 
-/// The cell ranges that wait to be repainted, and the joined blocks that the running paint pass has drawn
-/// already. Each child window that draws cells owns one; a paint pass empties it.
+/// The cell ranges that wait to be repainted, the joined blocks that the running paint pass has drawn
+/// already, and the cells that show a neighbour's text. Each child window that draws cells owns one; a paint
+/// pass empties it of all but the last.
 class COREGUI_API CGridDrawHint : public CObject {
  public:
   /// A range of cells, inclusive at both ends.
@@ -45,13 +46,26 @@ class COREGUI_API CGridDrawHint : public CObject {
   /// The ranges in the order they were added.
   const std::vector<Range>& GetRanges() const { return m_invalid; }
 
+  /// A cell is drawn with the text that spills into it from its left. That is remembered until the cell is
+  /// drawn again, so that a text that goes takes with it what it left in its neighbours.
+  void NoteSpill(int col, long row);
+  /// Before a cell is drawn again.
+  void ForgetSpill(int col, long row);
+  bool ShowsSpill(int col, long row) const;
+  /// Forgets the cells of all rows that `isShown(row)` denies: they are drawn anew when they come into view.
+  template <class IsShown>
+  void ForgetSpillsOutside(IsShown isShown) {
+    std::erase_if(m_spills, [&isShown](const Cell& cell) { return !isShown(cell.row); });
+  }
+
  private:
   struct Cell {
-    int col;
     long row;
-    bool operator==(const Cell&) const = default;
+    int col;
+    auto operator<=>(const Cell&) const = default;
   };
   std::vector<Range> m_invalid;
   std::vector<Cell> m_valid;
+  std::vector<Cell> m_spills;  ///< in order
   Range m_box;
 };

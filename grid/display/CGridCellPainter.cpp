@@ -1,8 +1,11 @@
 #include "grid/display/CGridCellPainter.h"
 
+#include <cmath>
+
 #include "grid/control/CGridCellDelegate.h"
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridDrawHint.h"
+#include "platform/CDC.h"
 
 namespace coregui {
 
@@ -28,10 +31,26 @@ bool CGridCellPainter::EnterBlock(Cell& cell) {
   return true;
 }
 
+CGridCellDelegate& CGridCellPainter::TypeOfCell() {
+  return *m_control.GetCellDelegate(m_cell.IsPropertySet(CELLPROP_CELLTYPE) != 0 ? m_cell.GetCellType() : -1);
+}
+
+bool CGridCellPainter::ShowsOwnText() {
+  const wchar_t* const text = m_cell.GetText();
+  return text != nullptr && *text != L'\0' && &TypeOfCell() == m_control.GetCellDelegate(-1);
+}
+
+bool CGridCellPainter::MayOverlap() {
+  return m_control.GetCellOverLap() != 0 && TypeOfCell().CanOverLap(&m_cell) != 0;
+}
+
 void CGridCellPainter::Draw(CDC& dc, const Cell& cell, int selected, int current) {
-  const int id = m_cell.IsPropertySet(CELLPROP_CELLTYPE) != 0 ? m_cell.GetCellType() : -1;
   RECT rect = cell.rect;
-  m_control.GetCellDelegate(id)->OnDraw(&dc, &rect, cell.col, cell.row, &m_cell, selected, current);
+  // Where a pixel is no whole number of dots, a border's lines and the ground inside leave gaps between them.
+  if (const double dots = dc.GetScaleFactor(); dots != std::floor(dots)) {
+    dc.FillSolidRect(rect, selected != 0 ? m_cell.GetHBackColor() : m_cell.GetBackColor());
+  }
+  TypeOfCell().OnDraw(&dc, &rect, cell.col, cell.row, &m_cell, selected, current);
 }
 
 }  // namespace coregui

@@ -42,6 +42,11 @@ class COREGUI_API CGridCellPainter {
     if (alive) GetDisplayed(cell);
     return alive ? Fetched::draw : Fetched::gone;
   }
+  /// Whether the cell fetched last is of the built-in normal type and shows a text of its own: no other
+  /// cell's text can change its look.
+  bool ShowsOwnText();
+  /// Whether the text of the cell fetched last may spill into its right neighbour.
+  bool MayOverlap();
   /// The type of the cell fetched last draws it. Handlers run.
   void Draw(CDC& dc, const Cell& cell, int selected, int current);
 
@@ -49,6 +54,7 @@ class COREGUI_API CGridCellPainter {
   void GetDisplayed(const Cell& cell);
   bool IsJoined();
   bool EnterBlock(Cell& cell);
+  CGridCellDelegate& TypeOfCell();
 
   CGridCtrl& m_control;
   CGridDrawHint& m_hints;

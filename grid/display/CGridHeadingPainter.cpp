@@ -96,6 +96,7 @@ bool CGridHeadingPainter::DrawCell(CDC& dc, CGridCellPainter::Cell cell) {
   }
   if (cell.rect.IsRectEmpty()) return true;
   const int saved = dc.SaveDC();
+  dc.IntersectClipRect(cell.rect);
   m_cells.Draw(dc, cell, 0, 0);
   if (!alive) return false;
   dc.RestoreDC(saved);

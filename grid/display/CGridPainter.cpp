@@ -113,27 +113,59 @@ bool CGridPainter::DrawRow(Pass& pass, long row, int height) {
   pass.anyRow = true;
   m_control.GetInfo().columns.last = m_columns.last;
   m_row.Enter(row);
-  if (!m_row.IsEmpty()) {
-    for (const ShownLine& line : m_columns.lines) {
-      const int col = static_cast<int>(line.index);
-      if (!m_row.IsInvalid(col)) continue;
-      if (!DrawCell(pass, {col, row, CRect(line.start, pass.y, line.End(), pass.y + height), false}))
-        return false;
-    }
-  }
+  if (!m_row.IsEmpty() && !DrawCells(pass, row, height)) return false;
   RememberFocus(pass, row, height);
   return true;
 }
 
-bool CGridPainter::DrawCell(Pass& pass, CGridCellPainter::Cell cell) {
-  switch (m_cells.Fetch(cell, pass.alive)) {
-    case CGridCellPainter::Fetched::gone:
-      return false;
-    case CGridCellPainter::Fetched::drawn:
-      return true;
-    case CGridCellPainter::Fetched::draw:
-      break;
+/// Drawing a cell may hint the next one, as its text may go on there; those that are hinted before it are
+/// asked for in their own right.
+bool CGridPainter::DrawCells(Pass& pass, long row, int height) {
+  const std::vector<ShownLine>& lines = m_columns.lines;
+  const int first = static_cast<int>(m_control.GetInfo().columns.First());
+  // A text may spill in from a column that is scrolled out of view.
+  const bool spillsIn = m_row.Touches(static_cast<int>(m_control.GetInfo().columns.Locked()), first - 1);
+  bool asked = !lines.empty() && m_row.IsInvalid(static_cast<int>(lines.front().index));
+  bool handedOn = false;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    const ShownLine& line = lines[i];
+    const int col = static_cast<int>(line.index);
+    const int next = i + 1 < lines.size() ? static_cast<int>(lines[i + 1].index) : -1;
+    const bool nextAsked = next >= 0 && m_row.IsInvalid(next);
+    const CGridCellPainter::Cell cell{col, row, CRect(line.start, pass.y, line.End(), pass.y + height),
+                                      false};
+    const bool visited = asked || handedOn || (spillsIn && col == first) || m_row.IsInvalid(col);
+    handedOn = false;
+    if (visited && !(asked ? DrawCell(pass, cell) : DrawNeighbour(pass, cell, &handedOn))) return false;
+    // A text that reached the next cell before may have gone.
+    handedOn = handedOn || (visited && next >= 0 && m_hints.ShowsSpill(next, row));
+    asked = nextAsked;
   }
+  return true;
+}
+
+/// A cell that only the drawing of its left neighbour hints. Nothing spills over a text, so what shows its
+/// own looks as it did and only hands the hint on.
+bool CGridPainter::DrawNeighbour(Pass& pass, CGridCellPainter::Cell cell, bool* handsOn) {
+  *handsOn = false;
+  const CGridCellPainter::Fetched fetched = m_cells.Fetch(cell, pass.alive);
+  if (fetched != CGridCellPainter::Fetched::draw) return fetched != CGridCellPainter::Fetched::gone;
+  if (m_requested.empty() && !cell.joined && m_cells.ShowsOwnText() &&
+      !m_hints.ShowsSpill(cell.col, cell.row)) {
+    *handsOn = m_cells.MayOverlap();
+    return true;
+  }
+  return DrawFetched(pass, cell);
+}
+
+bool CGridPainter::DrawCell(Pass& pass, CGridCellPainter::Cell cell) {
+  const CGridCellPainter::Fetched fetched = m_cells.Fetch(cell, pass.alive);
+  if (fetched != CGridCellPainter::Fetched::draw) return fetched != CGridCellPainter::Fetched::gone;
+  return DrawFetched(pass, cell);
+}
+
+bool CGridPainter::DrawFetched(Pass& pass, const CGridCellPainter::Cell& cell) {
+  m_hints.ForgetSpill(cell.col, cell.row);
   const CGridInfo& info = m_control.GetInfo();
   const bool current =
       cell.row == info.rows.current && (cell.col == info.columns.current || info.view.highlightRow != 0);
@@ -143,24 +175,29 @@ bool CGridPainter::DrawCell(Pass& pass, CGridCellPainter::Cell cell) {
     selected = block + 1;
   }
   const int saved = pass.dc->SaveDC();
-  if (cell.joined) ClipToPane(*pass.dc, cell);
+  const CRect pane = PaneOf(cell);
+  pass.dc->IntersectClipRect(pane);
   m_cells.Draw(*pass.dc, cell, selected, current ? 1 : 0);
   if (!pass.alive) return false;
-  DrawSeparators(*pass.dc, cell.rect, cell.col, cell.row);
   pass.dc->RestoreDC(saved);
+  DrawSeparators(*pass.dc, pane, cell.col, cell.row);
   return true;
 }
 
-/// A joined block that begins above or left of what is in view must not cover the locked cells.
-void CGridPainter::ClipToPane(CDC& dc, const CGridCellPainter::Cell& cell) const {
+/// The part of the cell that may be drawn on: all of it, but a joined block that begins above or left of what
+/// is in view must not cover the locked cells. Where a pixel is no whole number of dots, a line at a cell's
+/// edge would else reach into the next cell.
+CRect CGridPainter::PaneOf(const CGridCellPainter::Cell& cell) const {
+  if (!cell.joined) return cell.rect;
+  const auto start = [](const CGridAxis& axis, long index, LONG place) {
+    const bool beside = axis.Locked() > 0 && index >= axis.Locked();
+    return beside ? std::max(place, static_cast<LONG>(axis.LockedSize())) : place;
+  };
   const CGridInfo& info = m_control.GetInfo();
-  const bool besideLocked = info.columns.Locked() > 0 && cell.col >= info.columns.Locked();
-  const bool belowLocked = info.rows.Locked() > 0 && cell.row >= info.rows.Locked();
-  if (!besideLocked && !belowLocked) return;
   CRect pane = cell.rect;
-  if (besideLocked) pane.left = std::max<LONG>(pane.left, static_cast<LONG>(info.columns.LockedSize()));
-  if (belowLocked) pane.top = std::max<LONG>(pane.top, static_cast<LONG>(info.rows.LockedSize()));
-  dc.IntersectClipRect(pane);
+  pane.left = start(info.columns, cell.col, pane.left);
+  pane.top = start(info.rows, cell.row, pane.top);
+  return pane;
 }
 
 void CGridPainter::DrawSeparators(CDC& dc, const CRect& rect, int col, long row) const {
@@ -176,11 +213,13 @@ void CGridPainter::DrawSeparators(CDC& dc, const CRect& rect, int col, long row)
     dc.MoveTo(rect.left, y);
     dc.LineTo(rect.right + 1, y);
   };
+  const int saved = dc.SaveDC();
   dc.SelectStockObject(StockObject::blackPen);
   if (lockedCols > 0 && col == info.columns.First()) vertical(rect.left - 1);
   if (lockedCols > 0 && col == lockedCols - 1) vertical(rect.right - 1);
   if (lockedRows > 0 && row == info.rows.First()) horizontal(rect.top - 1);
   if (lockedRows > 0 && row == lockedRows - 1) horizontal(rect.bottom - 1);
+  dc.RestoreDC(saved);
 }
 
 void CGridPainter::RememberFocus(Pass& pass, long row, int height) {
@@ -212,6 +251,11 @@ int CGridPainter::FocusRight() const {
 
 void CGridPainter::RememberShown() {
   CGridInfo& info = m_control.GetInfo();
+  if (IsViewStale()) {
+    m_hints.ForgetSpillsOutside([&rows = info.rows](long row) {
+      return row < rows.Locked() || (row >= rows.First() && row <= rows.last);
+    });
+  }
   info.columns.paintedFirst = info.columns.First();
   info.rows.paintedFirst = info.rows.First();
   m_shownCol = static_cast<int>(info.columns.current);

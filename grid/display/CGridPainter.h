@@ -65,9 +65,12 @@ class COREGUI_API CGridPainter {
   bool WalkRows(Pass& pass);
   bool GrowRows(Pass& pass, long next, long before);
   bool DrawRow(Pass& pass, long row, int height);
+  bool DrawCells(Pass& pass, long row, int height);
   bool DrawCell(Pass& pass, CGridCellPainter::Cell cell);
+  bool DrawNeighbour(Pass& pass, CGridCellPainter::Cell cell, bool* handsOn);
+  bool DrawFetched(Pass& pass, const CGridCellPainter::Cell& cell);
   void RememberFocus(Pass& pass, long row, int height);
-  void ClipToPane(CDC& dc, const CGridCellPainter::Cell& cell) const;
+  CRect PaneOf(const CGridCellPainter::Cell& cell) const;
   void DrawSeparators(CDC& dc, const CRect& rect, int col, long row) const;
   void RememberShown();
   bool FillBlank(Pass& pass);

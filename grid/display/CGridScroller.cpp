@@ -17,9 +17,14 @@ ScrollDistance Distance(const CGridAxis& axis) {
                        [&axis](long line) { return axis.SizeOf(line); });
 }
 
-bool IsWholeDots(int pixels, double dots) {
-  const double exact = pixels * dots;
+bool IsWholeDots(std::int64_t pixels, double dots) {
+  const double exact = static_cast<double>(pixels) * dots;
   return exact == std::floor(exact);
+}
+
+/// Whether the scroll moves dots onto dots, with the locked lines that stay put.
+bool MovesDots(const ScrollDistance& distance, const CGridAxis& axis, double dots) {
+  return distance.pixels == 0 || (IsWholeDots(distance.pixels, dots) && IsWholeDots(axis.LockedSize(), dots));
 }
 
 }  // namespace
@@ -28,7 +33,7 @@ CGridScroller::Shift CGridScroller::Plan(const CRect& client, double dots) {
   const CGridInfo& info = m_control.GetInfo();
   const ScrollDistance x = Distance(info.columns);
   const ScrollDistance y = Distance(info.rows);
-  if (x.tooFar || y.tooFar || !IsWholeDots(x.pixels, dots) || !IsWholeDots(y.pixels, dots)) {
+  if (x.tooFar || y.tooFar || !MovesDots(x, info.columns, dots) || !MovesDots(y, info.rows, dots)) {
     m_painter.HintAll();
     return {};
   }

@@ -6,16 +6,22 @@ namespace coregui {
 
 void CHintedRow::Enter(long row) {
   m_row = row;
+  m_picked.clear();
+  m_seen = 0;
   Collect();
 }
 
+/// Picks from the ranges that came since the last time.
 void CHintedRow::Collect() {
   const std::vector<CGridDrawHint::Range>& ranges = m_hints.GetRanges();
-  m_picked.clear();
-  m_seen = ranges.size();
-  for (std::size_t i = 0; i < ranges.size(); ++i) {
+  if (ranges.size() < m_seen) {  // a handler cleared them
+    m_picked.clear();
+    m_seen = 0;
+  }
+  for (; m_seen < ranges.size(); ++m_seen) {
     // The first range is the one that can be widened in place.
-    if (i == 0 || (ranges[i].startRow <= m_row && m_row <= ranges[i].endRow)) m_picked.push_back(i);
+    const CGridDrawHint::Range& range = ranges[m_seen];
+    if (m_seen == 0 || (range.startRow <= m_row && m_row <= range.endRow)) m_picked.push_back(m_seen);
   }
 }
 
@@ -33,6 +39,14 @@ bool CHintedRow::IsInvalid(int col) {
   return std::any_of(m_picked.begin(), m_picked.end(),
                      [&](std::size_t i) { return ranges[i].Contains(col, m_row); }) &&
          m_hints.IsInBox(col, m_row);
+}
+
+bool CHintedRow::Touches(int from, int to) const {
+  return from <= to && std::any_of(m_picked.begin(), m_picked.end(), [&](std::size_t i) {
+           const CGridDrawHint::Range& range = m_hints.GetRanges()[i];
+           return range.startCol <= to && range.endCol >= from && range.startRow <= m_row &&
+                  m_row <= range.endRow;
+         });
 }
 
 }  // namespace coregui

@@ -17,6 +17,8 @@ class COREGUI_API CHintedRow {
   /// Whether nothing in the row is hinted.
   bool IsEmpty();
   bool IsInvalid(int col);
+  /// Whether a hint reaches one of the columns; false where `to` is less than `from`.
+  bool Touches(int from, int to) const;
 
  private:
   void Collect();

@@ -158,7 +158,9 @@ CRect RasterTarget::PutStraight(const DrawAttributes& with, bool level, std::int
                                 std::int64_t end, const LinePen& pen) {
   const int first = Dot(start);
   const int last = Dot(end);
-  const int across = Dot(at) - pen.before;
+  // A thin line ends with its pixel at the latest: where a pixel is no whole number of dots, it must not reach
+  // into the next one, which may be another's.
+  const int across = pen.before > 0 ? Dot(at) - pen.before : std::min(Dot(at), Dot(at + 1) - pen.thickness);
   const CRect dots = level ? CRect(first, across, last, across + pen.thickness)
                            : CRect(across, first, across + pen.thickness, last);
   with.clip.ForEach(dots, [this, &pen](const CRect& part) { PutRect(part, pen.colour, pen.rop); });

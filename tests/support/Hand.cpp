@@ -128,6 +128,16 @@ COLORREF ShownPixel(CWnd& window, CPoint at) {
   return RGB(qRed(colour), qGreen(colour), qBlue(colour));
 }
 
+std::vector<DWORD> ShownDots(CWnd& window) {
+  const QImage picture = Picture(window);
+  std::vector<DWORD> dots;
+  dots.reserve(static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(picture.height()));
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) dots.push_back(picture.pixel(x, y) & 0xFFFFFF);
+  }
+  return dots;
+}
+
 int InkPixels(CWnd& window) {
   const QImage picture = Picture(window);
   const QRgb ground = picture.pixel(picture.width() / 2, 2);

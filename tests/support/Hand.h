@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "platform/CWnd.h"
 
 /// A person's hand on one window: the toolkit's own events, as a keyboard, an input method and a mouse bring
@@ -19,6 +21,8 @@ void Click(CWnd& window);
 void ClickAt(CWnd& window, CPoint at);
 /// The colour of the pixel that the window shows there, children included.
 COLORREF ShownPixel(CWnd& window, CPoint at);
+/// All dots of the screen that the window shows, children included, row by row, as 0xRRGGBB.
+std::vector<DWORD> ShownDots(CWnd& window);
 /// How many pixels of the window differ from the one in its corner.
 int InkPixels(CWnd& window);
 /// What a screen reader says besides the name.

@@ -1,0 +1,147 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "grid/celltypes/CGridCellType.h"
+#include "grid/control/CGridCtrl.h"
+#include "grid/control/CGridDrawHint.h"
+#include "grid/control/CGridInfo.h"
+#include "platform/CDC.h"
+#include "platform/CWinApp.h"
+
+namespace coregui::test {
+namespace {
+
+using testing::ElementsAre;
+
+constexpr const wchar_t* kLong = L"A text over two neighbours";
+
+/// A type of the application's that draws like the normal one and writes the columns down.
+class WatchedType : public CGridCellType {
+ public:
+  void OnDraw(CDC* dc, RECT* rect, int col, long row, CGridCell* cell, int selected, int current) override {
+    drawn.push_back(col);
+    CGridCellType::OnDraw(dc, rect, col, row, cell, selected, current);
+  }
+  std::vector<int> drawn;
+};
+
+/// Eight columns of 60 pixels in a window.
+struct OverlapWindow {
+  WatchedType watched;  // outlives the grid
+  CWnd frame;
+  CGridCtrl grid;
+  int watchedId = 0;
+
+  OverlapWindow() {
+    watchedId = grid.AddCellType(&watched);
+    grid.SetDefColWidth(60);
+    grid.SetNumberCols(8);
+    grid.SetNumberRows(5);
+    grid.SetHighlightRow(0);
+    frame.Create(L"", L"frame", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 700, 200), nullptr, 0);
+    grid.CreateGrid(WS_CHILD | WS_VISIBLE, CRect(0, 0, 700, 200), &frame, 1);
+    grid.GotoCell(7, 4);
+    CWinApp::PumpPending();
+  }
+  ~OverlapWindow() { frame.DestroyWindow(); }
+
+  /// The columns that drawing a cell of row 0 hints, as text.
+  std::string HintedBy(int col) {
+    CGridDrawHint& hints = *grid.GetDrawHints();
+    hints.ClearHints();
+    CRecordingDC dc;
+    CGridCell cell;
+    grid.GetCellIndirect(col, 0, &cell);
+    CRect rect;
+    grid.GetCellRect(col, 0, &rect);
+    grid.GetCellType(col, 0)->OnDraw(&dc, &rect, col, 0, &cell, 0, 0);
+    std::string hinted;
+    for (int i = 0; i < 8; ++i) hinted += hints.IsInvalid(i, 0) != 0 ? std::to_string(i) : "";
+    hints.ClearHints();
+    return hinted;
+  }
+  /// The offset of the text that spills into a column of row 0.
+  int SpillInto(int col) {
+    CClientDC screen(&grid);
+    int start = 0;
+    CGridCell from;
+    return grid.GetCellType(0)->GetCellOverlapInfo(&screen, col, 0, &start, &from);
+  }
+};
+
+struct CellOverlapTest : testing::Test, OverlapWindow {};
+
+TEST_F(CellOverlapTest, OnlyATextAndAnEmptyCellThatShowsOneHintTheirNeighbour) {
+  grid.QuickSetText(0, 0, kLong);
+  grid.QuickSetText(5, 0, L"b");
+  grid.QuickSetText(6, 0, L"c");
+  EXPECT_EQ(HintedBy(0), "1");
+  EXPECT_EQ(HintedBy(1), "2") << "shows the text";
+  EXPECT_EQ(HintedBy(4), "") << "shows nothing";
+  EXPECT_EQ(HintedBy(5), "6") << "whatever the neighbour holds";
+  EXPECT_EQ(HintedBy(7), "") << "the last column has none";
+  grid.SetColWidth(1, 0);
+  EXPECT_THAT(HintedBy(0), testing::AnyOf("2", "12")) << "the next one in view";
+}
+
+TEST_F(CellOverlapTest, WhatCannotSpillHintsNothing) {
+  struct Row {
+    const char* name;
+    void (*change)(CGridCtrl&);
+  };
+  for (const Row& row : {Row{"off", [](CGridCtrl& g) { g.EnableCellOverLap(0); }},
+                         Row{"extended", [](CGridCtrl& g) { g.QuickSetCellTypeEx(0, 0, 2); }},
+                         Row{"joined", [](CGridCtrl& g) { g.JoinCells(0, 0, 1, 1); }},
+                         Row{"right", [](CGridCtrl& g) { g.QuickSetAlignment(0, 0, 2); }},
+                         Row{"check box", [](CGridCtrl& g) { g.QuickSetCellType(0, 0, 2); }}}) {
+    OverlapWindow fresh;
+    fresh.grid.QuickSetText(0, 0, kLong);
+    row.change(fresh.grid);
+    EXPECT_EQ(fresh.HintedBy(0), "") << row.name;
+    EXPECT_EQ(fresh.HintedBy(1), "") << row.name;
+  }
+}
+
+TEST_F(CellOverlapTest, ATextPassesOverCellsThatCanShowItOnly) {
+  grid.QuickSetText(0, 0, kLong);
+  EXPECT_EQ(SpillInto(1), -60);
+  EXPECT_EQ(SpillInto(2), -120);
+  EXPECT_EQ(SpillInto(4), 0) << "it is not as long as that";
+  grid.QuickSetBorder(0, 0, 0x100);
+  EXPECT_EQ(SpillInto(2), -117) << "it begins behind its cell's border";
+  grid.QuickSetAlignment(1, 0, 2);
+  EXPECT_EQ(SpillInto(2), 0) << "a right-aligned cell between would leave a hole in it";
+  grid.QuickSetAlignment(1, 0, 1);
+  EXPECT_EQ(SpillInto(2), -117);
+  grid.QuickSetText(1, 0, L"b");
+  EXPECT_EQ(SpillInto(2), 0);
+}
+
+TEST_F(CellOverlapTest, AHintGoesOnThroughTextsToTheNextType) {
+  grid.QuickSetCellType(4, 0, watchedId);
+  grid.QuickSetCellType(6, 0, watchedId);
+  for (int col = 0; col < 7; ++col) grid.QuickSetText(col, 0, L"a");
+  grid.QuickSetText(5, 0, L"");
+  grid.RedrawAll();
+  CWinApp::PumpPending();
+  watched.drawn.clear();
+  grid.RedrawCell(1, 0);
+  EXPECT_THAT(watched.drawn, ElementsAre(4)) << "an empty cell ends it";
+}
+
+TEST_F(CellOverlapTest, ATextThatCameUnseenCoversTheSpillWithItsNeighbour) {
+  grid.QuickSetText(0, 0, kLong);
+  grid.RedrawAll();
+  CWinApp::PumpPending();
+  EXPECT_TRUE(grid.GetDrawHints()->ShowsSpill(1, 0));
+  grid.QuickSetText(1, 0, L"b");
+  grid.RedrawCell(0, 0);
+  EXPECT_FALSE(grid.GetDrawHints()->ShowsSpill(1, 0));
+  EXPECT_FALSE(grid.GetDrawHints()->ShowsSpill(2, 0)) << "what lay behind it is gone too";
+}
+
+}  // namespace
+}  // namespace coregui::test
