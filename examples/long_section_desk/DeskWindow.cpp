@@ -94,7 +94,10 @@ BOOL DeskWindow::CreateDesk(CSize size) {
   m_section.SetAccessibleName(L"Long-section");
   m_difference.SetAccessibleName(L"Difference of ground and design");
   m_grid.SetRowHook([this](long row) { FollowRow(row); });
-  m_grid.SetOrderHook([this] { m_data = TakeSection(m_grid); });
+  m_grid.SetOrderHook([this] {
+    m_data = TakeSection(m_grid);
+    FollowRow(m_grid.GetCurrentRow());
+  });
   m_section.SetStepHook([this](StationStep step) { Step(step); });
   m_grid.SetFocusHook([this] { Invalidate(FALSE); });
   m_section.SetFocusHook([this] { Invalidate(FALSE); });
@@ -189,7 +192,7 @@ LRESULT DeskWindow::HandleCommand(WPARAM wParam, LPARAM /*lParam*/) {
 }
 
 LRESULT DeskWindow::HandleFind(WPARAM /*wParam*/, LPARAM lParam) {
-  if (m_finder.TakeFromDialog(lParam)) {
+  if (m_finder.TakeFromDialog(lParam) && !m_reading) {
     FindAgain(false);
   }
   return 0;

@@ -4,6 +4,7 @@
 #include "DeskHelp.h"
 #include "DeskMemory.h"
 #include "DeskWindow.h"
+#include "FilePath.h"
 #include "PrintDialog.h"
 
 // What the desk does with files, and what it asks and tells.
@@ -23,8 +24,8 @@ std::wstring FileName(const std::wstring& path) {
 /// The same file from wherever it is opened again.
 std::wstring WholePath(const std::wstring& path) {
   std::error_code error;
-  const std::filesystem::path whole = std::filesystem::absolute(path, error);
-  return error || path.empty() ? path : whole.lexically_normal().wstring();
+  const std::filesystem::path whole = std::filesystem::absolute(ToPath(path), error);
+  return error || path.empty() ? path : FromPath(whole.lexically_normal());
 }
 
 /// The wait cursor for as long as this lives.
@@ -193,10 +194,9 @@ bool DeskWindow::SaveCopy(const std::wstring& path) {
 }
 
 void DeskWindow::SaveCopyWithDialog() {
-  const std::filesystem::path survey(m_path);
-  CString path(
-      (survey.parent_path() / (survey.stem().wstring() + L" copy" + survey.extension().wstring())).wstring());
-  const std::wstring extension = survey.extension().wstring();
+  const std::filesystem::path survey = ToPath(m_path);
+  const std::wstring extension = FromPath(survey.extension());
+  CString path(FromPath(survey.parent_path() / survey.stem()) + L" copy" + extension);
   if (coreFileDialog(L"Save a copy", path, kTables, extension.empty() ? L"" : extension.c_str() + 1, false,
                      OFN_OVERWRITEPROMPT, this)) {
     SaveCopy(path.Str());

@@ -12,7 +12,6 @@ constexpr short kAlignCentreVertically = 0x20;
 constexpr long kFirstRows = 1024;
 constexpr long kRowsForFit = 500;
 constexpr int kWidestColumn = 420;
-constexpr int kDescending = 2;
 enum : int { kMenuCopy = 1, kMenuSortUp, kMenuSortDown };
 
 /// The row of the station that the section marks.
@@ -151,11 +150,15 @@ void SurveyGrid::OnMenuCommand(int col, long /*row*/, int /*section*/, int item)
   if (item == kMenuCopy) {
     CopySelected();
   } else if (col >= 0 && (item == kMenuSortUp || item == kMenuSortDown)) {
-    SortBy(col, item == kMenuSortDown ? kDescending : 0);
-    RedrawAll();
-    if (m_orderHook) {
-      m_orderHook();
-    }
+    SortFromMenu(col, item == kMenuSortDown);
+  }
+}
+
+void SurveyGrid::SortFromMenu(int col, bool downwards) {
+  SortBy(col, downwards ? coregui::SORT_DESCENDING : 0);
+  RedrawAll();
+  if (m_orderHook) {
+    m_orderHook();
   }
 }
 

@@ -21,6 +21,8 @@ class SurveyGrid : public CGridCtrl {
   void EndTable(std::uint64_t rows);
   /// What a row's cell of a number column holds; false for an empty cell or a text.
   bool NumberAt(int col, long row, double& value);
+  /// Sorts the rows by a column, as a person asks for it, and says so to the order hook.
+  void SortFromMenu(int col, bool downwards);
   /// Called after the current row has changed.
   void SetRowHook(std::function<void(long)> hook) { m_rowHook = std::move(hook); }
   /// Called after the rows were put into another order.

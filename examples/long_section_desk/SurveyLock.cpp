@@ -7,9 +7,16 @@ namespace desk {
 namespace {
 
 constexpr wchar_t kExtension[] = L"lck";
+constexpr std::size_t kLongestPath = 260;  // of which a lock is made
 
 std::wstring LockOf(const std::wstring& survey) {
   return coreChangeFileExt(survey.c_str(), kExtension);
+}
+
+/// A lock file that is looked at as a table would be its own lock, and closing it would delete it. A longer
+/// path would be cut off, and name another file's lock.
+bool CanHaveLock(const std::wstring& survey) {
+  return LockOf(survey) != survey && survey.size() <= kLongestPath;
 }
 
 }  // namespace
@@ -27,18 +34,18 @@ SurveyLock& SurveyLock::operator=(SurveyLock&& other) noexcept {
 void SurveyLock::Take(const std::wstring& survey, CWnd* owner) {
   Release();
   m_survey = survey;
-  if (LockOf(survey) == survey) {
-    // A lock file that is looked at as a table would be its own lock, and closing it would delete it.
-    m_state = State::unavailable;
-    return;
+  m_state = State::unavailable;
+  if (CanHaveLock(survey)) {
+    Learn(coreCheckLockStatus(survey.c_str(), kExtension, false, owner), State::held);
   }
-  Learn(coreCheckLockStatus(survey.c_str(), kExtension, false, owner), State::held);
 }
 
 void SurveyLock::Look(const std::wstring& survey) {
   Release();
   m_survey = survey;
-  Learn(coreCheckLockStatus(survey.c_str(), kExtension, true, nullptr), State::none);
+  if (CanHaveLock(survey)) {
+    Learn(coreCheckLockStatus(survey.c_str(), kExtension, true, nullptr), State::none);
+  }
 }
 
 void SurveyLock::Learn(bool mayUse, State whenFree) {

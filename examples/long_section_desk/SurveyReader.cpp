@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <string_view>
 
+#include "FilePath.h"
 #include "core/TextReader.h"
 
 namespace desk {
@@ -142,7 +143,8 @@ void Append(std::wstring& text, const Oddity& oddity, const wchar_t* one, const 
 
 std::wstring SurveyFault(const std::wstring& path) {
   std::error_code error;
-  const auto status = std::filesystem::status(path, error);
+  const std::filesystem::path file = ToPath(path);
+  const auto status = std::filesystem::status(file, error);
   if (!std::filesystem::exists(status)) {
     return L"The file does not exist.";
   }
@@ -152,7 +154,7 @@ std::wstring SurveyFault(const std::wstring& path) {
   if (!std::filesystem::is_regular_file(status)) {
     return L"This is not an ordinary file.";
   }
-  return std::filesystem::file_size(path, error) == 0 ? L"The file is empty." : L"";
+  return std::filesystem::file_size(file, error) == 0 ? L"The file is empty." : L"";
 }
 
 SurveyReport ReadSurvey(const std::wstring& path, SurveySink& sink) {
@@ -179,7 +181,7 @@ SurveyReport ReadSurvey(const std::wstring& path, SurveySink& sink) {
     records.NextLine(headings);
   }
   std::error_code unknown;
-  const auto size = std::filesystem::file_size(path, unknown);
+  const auto size = std::filesystem::file_size(ToPath(path), unknown);
   ReadRows(records, reader, unknown ? 1.0 : static_cast<double>(size), report, sink);
   reader.Close();
   report.cutShort = report.cutShort || reader.Tally().readError;

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <clocale>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -37,7 +38,7 @@ class DeskFiles : public testing::Test {
 
   std::wstring Write(const std::string& name, const std::string& bytes = kSurvey) const {
     std::ofstream(folder / name, std::ios::binary) << bytes;
-    return (folder / name).wstring();
+    return CString::FromUtf8((folder / name).string()).Str();
   }
   std::string Read(const std::string& name) const {
     std::ostringstream bytes;
@@ -104,6 +105,23 @@ TEST_F(DeskFiles, ALockThatCannotBeMadeOrTakenIsNoObstacle) {
   ASSERT_TRUE(window.Open(Write("c.lck", own)));
   ASSERT_TRUE(window.Open(Write("b.csv")));
   EXPECT_EQ(Read("c.lck"), own);
+  // Of a longer path than a lock can have, another one's would be taken.
+  const std::string deep = std::string(150, 'd') + "/" + std::string(150, 'd');
+  fs::create_directories(folder / deep);
+  ASSERT_TRUE(window.Open(Write(deep + "/a.csv")));
+  EXPECT_EQ(window.StateText(), L"read-only: no lock can be made here");
+}
+
+TEST_F(DeskFiles, NamesMayHaveAnyLettersInAnyLocale) {
+  const std::string before = std::setlocale(LC_ALL, nullptr);
+  std::setlocale(LC_ALL, "C");
+  Write("L\xC3\xA4ngsschnitt \xE8\xB7\xAF & 100%.csv");
+  EXPECT_TRUE(window.Open(
+      CString::FromUtf8((folder / "L\xC3\xA4ngsschnitt \xE8\xB7\xAF & 100%.csv").string()).Str()));
+  EXPECT_TRUE(Has("L\xC3\xA4ngsschnitt \xE8\xB7\xAF & 100%.lck"));
+  EXPECT_EQ(window.GetWindowTextString(),
+            L"L\u00E4ngsschnitt \u8DEF & 100%.csv (3 rows) - Long-section desk");
+  std::setlocale(LC_ALL, before.c_str());
 }
 
 TEST_F(DeskFiles, AnUnattendedDeskShowsNoBoxAndLeavesNothingBehind) {

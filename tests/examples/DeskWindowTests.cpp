@@ -108,6 +108,11 @@ TEST_F(Desk, TheTableAndTheSectionFollowEachOther) {
   EXPECT_EQ(window.Grid().GetCurrentRow(), 0);
   window.GoToChainage(16.0);
   EXPECT_EQ(window.Grid().GetCurrentRow(), 2);
+  // Sorted by level from the menu, row 2 is another station.
+  window.Grid().SortFromMenu(0, false);
+  EXPECT_EQ(window.StatusText(), L"Station 0+030.000   ground 103.000");
+  PressKey(section, VK_LEFT);
+  EXPECT_EQ(window.Grid().GetCurrentRow(), 1);
 }
 
 TEST_F(Desk, FindsInEveryColumnAndSaysWhenThereIsNothing) {
