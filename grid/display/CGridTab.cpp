@@ -44,7 +44,8 @@ void CGridTab::Measure(CDC& dc) {
 
 const coregui::TabStrip& CGridTab::GetStrip() {
   CClientDC dc(this);
-  if (dc.IsValid()) {
+  // A strip without room asks for no font: at the start of a program that would be the first one.
+  if (dc.IsValid() && !GetClientRectangle().IsRectEmpty()) {
     Measure(dc);
   }
   return m_strip;
