@@ -156,10 +156,10 @@ int CGridCtrl::EnableJoins(int on) {
   return 0;
 }
 int CGridCtrl::JoinCells(int startCol, long startRow, int endCol, long endRow) {
-  return m_rooms->joins.Join({startCol, startRow, endCol, endRow});
+  return Shown(m_rooms->joins.Join({startCol, startRow, endCol, endRow}));
 }
 int CGridCtrl::UnJoinCells(int startCol, long startRow, int endCol, long endRow) {
-  return m_rooms->joins.UnJoin({startCol, startRow, endCol, endRow});
+  return Shown(m_rooms->joins.UnJoin({startCol, startRow, endCol, endRow}));
 }
 int CGridCtrl::GetJoinStartCell(int* col, long* row) {
   CGridJoins::Block block{};

@@ -71,7 +71,8 @@ void CGridTab::Scroll(int tabs) {
 void CGridTab::HandlePaint() {
   CPaintDC dc(this);
   Measure(dc);
-  dc.FillSolidRect(GetClientRectangle(), GetSysColor(COLOR_BTNFACE));
+  const CRect client = GetClientRectangle();
+  dc.FillSolidRect(client, GetSysColor(COLOR_BTNFACE));
   dc.SetBkMode(TRANSPARENT);
   for (int sheet = 0; sheet < m_strip.Count(); ++sheet) {
     if (!m_strip.TabRect(sheet).IsRectEmpty()) {
@@ -80,6 +81,9 @@ void CGridTab::HandlePaint() {
   }
   DrawArrow(dc, -1);
   DrawArrow(dc, 1);
+  // A tab that is cut off ends before the scroll bar begins.
+  dc.FillSolidRect(CRect(client.right - 1, client.top, client.right, client.bottom),
+                   GetSysColor(COLOR_BTNSHADOW));
 }
 
 void CGridTab::DrawTab(CDC& dc, int sheet) const {
