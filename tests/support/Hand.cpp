@@ -65,6 +65,19 @@ void GiveKey(CWnd& window, int key, Qt::KeyboardModifiers modifiers, const QStri
   }
 }
 
+/// Nothing when the window is gone.
+void GiveMouse(const WindowRef& window, QEvent::Type type, CPoint at) {
+  QWidget* widget = window ? WidgetOf(window.Get()) : nullptr;
+  if (widget == nullptr) return;
+  auto* area = qobject_cast<QAbstractScrollArea*>(widget);
+  QWidget* receiver = area == nullptr ? widget : area->viewport();
+  const QPointF place(at.x, at.y);
+  QMouseEvent event(type, place, receiver->mapToGlobal(place),
+                    type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                    type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(receiver, &event);
+}
+
 QImage Picture(CWnd& window) {
   return WidgetOf(&window)->grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
@@ -108,17 +121,16 @@ void Click(CWnd& window) {
 
 void ClickAt(CWnd& window, CPoint at) {
   const WindowRef life(&window);
-  const QPointF place(at.x, at.y);
-  for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-    QWidget* widget = life ? WidgetOf(&window) : nullptr;
-    if (widget == nullptr) return;
-    auto* area = qobject_cast<QAbstractScrollArea*>(widget);
-    QWidget* receiver = area == nullptr ? widget : area->viewport();
-    const bool press = type == QEvent::MouseButtonPress;
-    QMouseEvent event(type, place, receiver->mapToGlobal(place), Qt::LeftButton,
-                      press ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
-    QApplication::sendEvent(receiver, &event);
-  }
+  GiveMouse(life, QEvent::MouseButtonPress, at);
+  GiveMouse(life, QEvent::MouseButtonRelease, at);
+}
+
+void Drag(CWnd& window, CPoint from, CPoint to, const std::function<void()>& held) {
+  const WindowRef life(&window);
+  GiveMouse(life, QEvent::MouseButtonPress, from);
+  GiveMouse(life, QEvent::MouseMove, to);
+  held();
+  GiveMouse(life, QEvent::MouseButtonRelease, to);
 }
 
 COLORREF ShownPixel(CWnd& window, CPoint at) {

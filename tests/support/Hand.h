@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "platform/CWnd.h"
@@ -19,6 +20,8 @@ void DropText(CWnd& window, const wchar_t* text);
 /// Clicks in the middle, or at a place of the client area.
 void Click(CWnd& window);
 void ClickAt(CWnd& window, CPoint at);
+/// Presses the button at one place and releases it at another; `held` is called before the release.
+void Drag(CWnd& window, CPoint from, CPoint to, const std::function<void()>& held);
 /// The colour of the pixel that the window shows there, children included.
 COLORREF ShownPixel(CWnd& window, CPoint at);
 /// All dots of the screen that the window shows, children included, row by row, as 0xRRGGBB.

@@ -7,6 +7,7 @@
 #include "platform/CDC.h"
 #include "platform/CScrollBar.h"
 #include "tests/grid/GridPicture.h"
+#include "tests/support/Hand.h"
 
 namespace {
 
@@ -100,13 +101,22 @@ TEST(CGridCtrl, ScrollBarsStepPageAndFollowThePosition) {
 }
 
 TEST(CGridCtrl, DraggingTheThumbNamesTheRowThatTheViewWouldStartWith) {
-  WindowedGrid grid;
-  auto& bar = static_cast<coregui::CGridScrollBar&>(*grid.GetScrollBarCtrl(SB_VERT));
-  grid.SendMessage(WM_VSCROLL, MAKEWPARAM(SB_THUMBTRACK, 0));
-  EXPECT_TRUE(bar.GetTip().IsWindowVisible());
-  EXPECT_EQ(bar.GetTip().GetText(), L"1");
-  grid.SendMessage(WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 0));
-  EXPECT_FALSE(bar.GetTip().IsWindowVisible());
+  for (const int follows : {1, 0}) {
+    WindowedGrid grid;
+    grid.SetVScrollMode(follows);
+    auto& bar = static_cast<coregui::CGridScrollBar&>(*grid.GetScrollBarCtrl(SB_VERT));
+    long named = 0;
+    coregui::test::Drag(bar, {8, 25}, {8, 90}, [&] {
+      EXPECT_TRUE(bar.GetTip().IsWindowVisible());
+      named = std::stol(bar.GetTip().GetText().ToUtf8());
+      EXPECT_GT(named, 20);
+      EXPECT_LT(named, 80);
+      EXPECT_EQ(grid.GetTopRow(), follows != 0 ? named - 1 : 0);
+    });
+    EXPECT_EQ(grid.GetTopRow(), named - 1);
+    EXPECT_EQ(bar.GetScrollPos(), named - 1);
+    EXPECT_FALSE(bar.GetTip().IsWindowVisible());
+  }
 }
 
 TEST(CGridCtrl, TabsAreChosenByTheMouseAndTheKeysOnEverySheet) {
@@ -114,9 +124,7 @@ TEST(CGridCtrl, TabsAreChosenByTheMouseAndTheKeysOnEverySheet) {
   grid.SetTabWidth(120);
   grid.SetNumberSheets(9);
   auto& tabs = *static_cast<CGridTab*>(grid.GetDlgItem(5));
-  const auto click = [&](const CRect& at) {
-    tabs.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.left + 2, at.top + 5));
-  };
+  const auto click = [&](const CRect& at) { coregui::test::ClickAt(tabs, {at.left + 2, at.top + 5}); };
   grid.log.clear();
   click(tabs.GetStrip().TabRect(1));
   EXPECT_EQ(grid.log, "tab1 ");
@@ -130,13 +138,13 @@ TEST(CGridCtrl, TabsAreChosenByTheMouseAndTheKeysOnEverySheet) {
   EXPECT_EQ(grid.GetSheetNumber(), 8);
   click(tabs.GetStrip().TabRect(8));
   EXPECT_EQ(CWnd::GetFocus(), &tabs) << "the current tab takes the keys";
-  tabs.SendMessage(WM_KEYDOWN, VK_LEFT);
+  coregui::test::PressKey(tabs, VK_LEFT);
   EXPECT_EQ(grid.GetSheetNumber(), 7);
-  tabs.SendMessage(WM_KEYDOWN, VK_HOME);
+  coregui::test::PressKey(tabs, VK_HOME);
   EXPECT_FALSE(tabs.GetStrip().TabRect(0).IsRectEmpty());
   EXPECT_EQ(grid.GetNumberRows(), 100);
   grid.log.clear();
-  tabs.SendMessage(WM_KEYDOWN, VK_LEFT);
+  coregui::test::PressKey(tabs, VK_LEFT);
   EXPECT_EQ(grid.log, "");
 }
 
