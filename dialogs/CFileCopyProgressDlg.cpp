@@ -35,8 +35,7 @@ CFileCopyProgressDlg::CFileCopyProgressDlg(const wchar_t* from, const wchar_t* t
       source(from),
       destination(to),
       description(what),
-      totalSize(SizeOf(from)),
-      m_error(ECANCELED) {}
+      totalSize(SizeOf(from)) {}
 
 BOOL CFileCopyProgressDlg::OnInitDialog() {
   CCADBaseDialog::OnInitDialog();

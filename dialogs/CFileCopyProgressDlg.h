@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cerrno>
 #include <cstdint>
 
 #include "platform/CCADBaseDialog.h"
@@ -58,7 +59,7 @@ class COREGUI_API CFileCopyProgressDlg : public CCADBaseDialog {
   CStatic m_description;
   CProgressCtrl m_bar;
   CStatic m_amount;
-  DWORD m_error;
+  DWORD m_error = ECANCELED;
   bool m_quitting = false;
 };
 

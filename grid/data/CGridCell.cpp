@@ -238,7 +238,8 @@ void CGridCell::ConvertValue(short type) {
     std::int64_t amount = 0;
     // Kept: integer division drops the fraction, so that 12.75 becomes 12.
     if (!coregui::ParseCurrency(GetText(), amount)) amount = 0;
-    m_number = static_cast<double>(amount / CURRENCY_UNIT);
+    const std::int64_t whole = amount / CURRENCY_UNIT;
+    m_number = static_cast<double>(whole);
   }
 }
 

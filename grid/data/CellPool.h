@@ -23,7 +23,7 @@ class CellPool {
  private:
   static constexpr std::size_t STEP = 8;
   static constexpr std::size_t LARGEST = 128;
-  static constexpr std::size_t SLAB = 32 * 1024;
+  static constexpr std::size_t SLAB = 32 * std::size_t{1024};
   struct Free {
     Free* next;
   };

@@ -29,15 +29,16 @@ double FactorRightOf(int position, int gridWidth, int lineSize) {
 }
 
 double FactorBelow(int position, int gridHeight, int lineSize) {
-  const int lines = (position - gridHeight) / NotZero(lineSize) + 1;
-  return lines;
+  const int lines = (position - gridHeight) / NotZero(lineSize);
+  return lines + 1;
 }
 
 KeyPace PaceKey(int count, int mode, int delay) {
   if (mode <= 0) return {};
-  const double n = count / mode;  // whole key-downs only
+  const int keyDowns = count / mode;
+  const double n = keyDowns;
   const double step = std::min(n * n * n + 1, kMostLines);
-  return {static_cast<long>(step), count / mode == 0 && count > 1 && delay > 0};
+  return {static_cast<long>(step), keyDowns == 0 && count > 1 && delay > 0};
 }
 
 }  // namespace coregui

@@ -247,7 +247,7 @@ void CGridMouse::Wheel(UINT flags, short delta) {
   CGridViewState& view = m_control.GetInfo().view;
   view.mouseEvent = MouseEvent::wheel;
   view.mouseFlags = flags;
-  m_control.SetTopRow(m_control.GetTopRow() - delta / WHEEL_DELTA * kRowsPerNotch);
+  m_control.SetTopRow(m_control.GetTopRow() - long{delta / WHEEL_DELTA} * kRowsPerNotch);
   if (!alive) return;
   m_control.Invalidate(TRUE);
   m_control.GetInfo().view.mouseEvent = MouseEvent::none;

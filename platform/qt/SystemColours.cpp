@@ -56,7 +56,7 @@ struct Theme {
         const QColor wanted = palette->color(role.group, role.role);
         colour = RGB(wanted.red(), wanted.green(), wanted.blue());
       }
-      const std::size_t index = static_cast<std::size_t>(role.index);
+      const auto index = static_cast<std::size_t>(role.index);
       colours[index] = fixed[index].value_or(colour);
     }
   }

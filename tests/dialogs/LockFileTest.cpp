@@ -134,7 +134,7 @@ TEST_F(LockFileTest, SomeoneElsesLockIsToldUnlessOnlyChecked) {
 }
 
 TEST_F(LockFileTest, HostileLockFilesAreReadWithinTheLimits) {
-  WriteLock(std::string(10'000'000, 'x'));
+  WriteLock(std::string(10'000'000, 'x'));  // NOLINT(bugprone-string-constructor): ten megabytes are meant
   ExpectLog(L"1024");
   EXPECT_FALSE(Check());
   WriteLock(std::string(1000, 'x') + "," + std::string(60, '7'));

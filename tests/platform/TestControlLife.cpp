@@ -31,7 +31,7 @@ class DestroyingHost : public ControlHost {
     CWnd* control = FromHandle(reinterpret_cast<HWND>(lParam));
     const bool tells = message == WM_COMMAND || message == WM_HSCROLL || message == WM_VSCROLL;
     if (tells && !focus && control != nullptr && control->DestroyWindow() != FALSE) ++destroyed;
-    return CWnd::WindowProc(message, wParam, lParam);
+    return ControlHost::WindowProc(message, wParam, lParam);
   }
 };
 

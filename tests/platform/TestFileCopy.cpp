@@ -55,7 +55,7 @@ class FileCopyTest : public testing::Test {
 };
 
 TEST_F(FileCopyTest, ReportsTheStartAndEveryChunk) {
-  const std::string bytes(600 * 1024, 'x');
+  const std::string bytes(600'000, 'x');
   Write("a", bytes);
   Write("b", "old and to be replaced");
   fs::permissions(At("a"), fs::perms::owner_read | fs::perms::owner_write | fs::perms::owner_exec);
@@ -84,7 +84,7 @@ TEST_F(FileCopyTest, AnEmptyFileHasOneChunk) {
 }
 
 TEST_F(FileCopyTest, CancellingLeavesTheOldFile) {
-  Write("a", std::string(900 * 1024, 'x'));
+  Write("a", std::string(900'000, 'x'));
   Write("b", "old");
   m_cancelAt = 2;
   EXPECT_FALSE(Copy("a", "b"));
@@ -98,11 +98,11 @@ TEST_F(FileCopyTest, CancellingLeavesTheOldFile) {
 }
 
 TEST_F(FileCopyTest, AFailedWriteLeavesTheOldFileAndNoTemporaryOne) {
-  Write("a", std::string(900 * 1024, 'x'));
+  Write("a", std::string(900'000, 'x'));
   Write("b", "old");
   rlimit before{};
   getrlimit(RLIMIT_FSIZE, &before);
-  const rlimit small{300 * 1024, before.rlim_max};
+  const rlimit small{300'000, before.rlim_max};
   const auto handler = std::signal(SIGXFSZ, SIG_IGN);
   setrlimit(RLIMIT_FSIZE, &small);
   const bool copied = Copy("a", "b");

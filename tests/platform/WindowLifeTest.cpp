@@ -11,7 +11,6 @@
 #include "tests/platform/LogWindow.h"
 
 using coregui::WidgetOf;
-using coregui::WindowRef;
 using coregui::test::LogWindow;
 
 namespace {

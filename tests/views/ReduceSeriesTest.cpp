@@ -159,7 +159,7 @@ std::map<std::string, Points> AwkwardData() {
     return PNT_2D_record{500 + turn * 15 * std::cos(turn), 50 + turn * 1.5 * std::sin(turn)};
   });
   data["row to and fro"] = Generated(5000, [](std::size_t i, auto& random) {
-    return PNT_2D_record{Noise(random, 100, 900), 50 + static_cast<double>(i / 2500) * 10};
+    return PNT_2D_record{Noise(random, 100, 900), i < 2500 ? 50.0 : 60.0};
   });
   data["standing end"] = Generated(5000, [](std::size_t i, auto& random) {
     return i < 100 ? PNT_2D_record{i * 0.03, Noise(random, 10, 90)} : PNT_2D_record{3, 90.5};

@@ -29,7 +29,7 @@ class LayeredGrid : public LoggingGrid {
  public:
   LayeredGrid() : LoggingGrid(3, 3, 300, 100) {}
   void OnGetCell(int col, long row, CGridCell* cell) override {
-    asked.push_back({col, row});
+    asked.emplace_back(col, row);
     if (change) {
       cell->AppendText(L">notify");
       cell->SetFormatClass(&format);

@@ -76,7 +76,7 @@ class LoggingGrid : public CGridCtrl {
       line += " " + std::to_string(argument);
     }
     log.push_back(line);
-    return refused.count(name) == 0 ? 1 : 0;
+    return refused.contains(name) ? 0 : 1;
   }
 };
 

@@ -34,9 +34,9 @@ TEST_F(CGridCellTest, StartsWithTheColoursOfTheSystemAndNoValue) {
 }
 
 TEST_F(CGridCellTest, EachPropertyIsSetKeptMergedAndFallsBackWithoutItsBit) {
-  CPen* const pen = reinterpret_cast<CPen*>(0x10);
-  CFont* const font = reinterpret_cast<CFont*>(0x20);
-  CBitmap* const bitmap = reinterpret_cast<CBitmap*>(0x30);
+  auto* const pen = reinterpret_cast<CPen*>(0x10);
+  auto* const font = reinterpret_cast<CFont*>(0x20);
+  auto* const bitmap = reinterpret_cast<CBitmap*>(0x30);
   CGridCellFormat format;
   CGridCell style;
   const struct {
