@@ -1,6 +1,8 @@
 #include "grid/data/CGridMem.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <utility>
 
 #include "grid/data/CGridCell.h"
 #include "grid/data/CGridSourceOwner.h"
@@ -30,7 +32,7 @@ int CGridMem::GetCell(int col, long row, CGridCell* cell) {
 }
 
 int CGridMem::SetCell(int col, long row, CGridCell* cell) {
-  if (cell == nullptr) return 1;
+  if (cell == nullptr || !std::in_range<std::int32_t>(row)) return 1;
   m_store->Set(col, row, *cell);
   return 0;
 }
@@ -128,7 +130,8 @@ int CGridMem::FindNext(CString* text, int* col, long* row, int flags) {
 
 int CGridMem::SortBy(int* cols, int count, int flags) {
   if (m_store->IsEmpty() || m_store->EndRow() <= 0) return 1;
-  return coregui::RowSorter(*m_store, GetOwner(), flags).Sort({cols, cols + std::max(count, 0)}) ? 0 : 1;
+  coregui::RowSorter(*m_store, GetOwner(), flags).Sort({cols, cols + std::max(count, 0)});
+  return 0;
 }
 
 int CGridMem::SortBy(int col, int flags) {

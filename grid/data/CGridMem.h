@@ -24,7 +24,7 @@ class COREGUI_API CGridMem : public CGridDataSource {
   /// 1 when no cell is stored there; `cell` then keeps what it had.
   int GetCell(int col, long row, CGridCell* cell) override;
   /// Creates what is missing up to the position. A cell with no property set is stored too. 1 when `cell` is
-  /// null.
+  /// null or the row does not fit in 32 bits.
   int SetCell(int col, long row, CGridCell* cell) override;
   /// Leaves the position without a cell. 1 when the row or the position does not exist.
   int DeleteCell(int col, long row) override;
@@ -49,7 +49,7 @@ class COREGUI_API CGridMem : public CGridDataSource {
 
   int FindFirst(CString* text, int* col, long* row, long flags) override;
   int FindNext(CString* text, int* col, long* row, int flags) override;
-  /// 1 when nothing is stored, or rows beyond 2^32. Rows before row 0 stay where they are.
+  /// 1 when nothing is stored. Rows before row 0 stay where they are.
   int SortBy(int* cols, int count, int flags) override;
   int SortBy(int col, int flags) override;
 

@@ -51,6 +51,19 @@ void ColumnChunk::Put(int row, const CellSlot& cell) {
   PutTag(rank, count, cell.Tag());
 }
 
+void ColumnChunk::Fill(std::span<const CellSlot> rows) {
+  const auto exists = [](const CellSlot& cell) { return cell.Exists(); };
+  Reserve(static_cast<int>(std::count_if(rows.begin(), rows.end(), exists)));
+  int rank = 0;
+  for (std::size_t row = 0; row < rows.size(); ++row) {
+    if (!rows[row].Exists()) continue;
+    m_payloads[Index(rank)] = rows[row].Payload();
+    PutTag(rank, rank + 1, rows[row].Tag());
+    m_present |= 1ULL << row;
+    ++rank;
+  }
+}
+
 CellSlot ColumnChunk::Take(int row) {
   const int rank = Rank(row);
   const int count = Count();

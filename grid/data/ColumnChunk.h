@@ -3,6 +3,7 @@
 #include <bit>
 #include <cstdint>
 #include <memory>
+#include <span>
 
 #include "grid/data/CellSlot.h"
 
@@ -22,6 +23,8 @@ class ColumnChunk {
   CellSlot Find(int row) const { return Has(row) ? At(Rank(row)) : CellSlot(); }
   /// Makes `cell` the row's, without releasing the one before.
   void Put(int row, const CellSlot& cell);
+  /// Gives the rows from 0 on these cells; the chunk has none yet.
+  void Fill(std::span<const CellSlot> rows);
   /// Takes the row's cell out, without releasing it.
   CellSlot Take(int row);
   void InsertRow(int row);

@@ -1,5 +1,6 @@
 #include "grid/data/DecimalDigits.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstddef>
@@ -30,10 +31,13 @@ class Fraction {
     m_high = static_cast<std::uint64_t>(high);
     return static_cast<std::uint64_t>(high >> 64U);
   }
-  /// Whether what is left rounds up a number that ends with an odd or an even digit.
-  bool RoundsUp(bool afterOdd) const {
+  /// 1 when what is left rounds up a number of these digits, else 0. Each is as likely as the other, so there
+  /// is no branch to guess.
+  std::uint64_t RoundUp(std::uint64_t digits) const {
     constexpr std::uint64_t HALF = 1ULL << 63U;
-    return m_high > HALF || (m_high == HALF && (m_low != 0 || afterOdd));
+    const auto above = static_cast<unsigned>(m_high > HALF);
+    const auto tie = static_cast<unsigned>(m_high == HALF);
+    return above | (tie & (static_cast<unsigned>(m_low != 0) | static_cast<unsigned>(digits & 1U)));
   }
 
  private:
@@ -41,23 +45,33 @@ class Fraction {
   std::uint64_t m_low;
 };
 
-void Round(const Fraction& left, int decimals, DecimalDigits& digits) {
-  const std::uint64_t upperStep = PowerOfTen(HALF_PLACES - (decimals < HALF_PLACES ? decimals : HALF_PLACES));
-  const std::uint64_t lowerStep =
-      decimals > HALF_PLACES ? PowerOfTen(DecimalDigits::PLACES - decimals) : DecimalDigits::HALF_UNIT;
-  const std::uint64_t last = decimals > HALF_PLACES ? digits.lower / lowerStep
-                             : decimals > 0         ? digits.upper / upperStep
-                                                    : digits.whole;
-  if (!left.RoundsUp((last & 1U) != 0)) return;
-  if (decimals > HALF_PLACES) {
-    digits.lower += lowerStep;
-    if (digits.lower < DecimalDigits::HALF_UNIT) return;
-    digits.lower = 0;
+/// Takes the decimals out of the fraction; `digits` has the whole part.
+void TakeDecimals(Fraction fraction, int decimals, DecimalDigits& digits) {
+  std::uint64_t* last = &digits.whole;
+  std::uint64_t taken = digits.whole;
+  std::uint64_t step = 1;
+  if (decimals > 0) {
+    const int places = std::min(decimals, HALF_PLACES);
+    taken = fraction.TakeDigits(PowerOfTen(places));
+    step = PowerOfTen(HALF_PLACES - places);
+    digits.upper = taken * step;
+    last = &digits.upper;
   }
-  digits.upper += upperStep;
-  if (digits.upper < DecimalDigits::HALF_UNIT) return;
-  digits.upper = 0;
-  ++digits.whole;
+  if (decimals > HALF_PLACES) {
+    taken = fraction.TakeDigits(PowerOfTen(decimals - HALF_PLACES));
+    step = PowerOfTen(DecimalDigits::PLACES - decimals);
+    digits.lower = taken * step;
+    last = &digits.lower;
+  }
+  *last += step * fraction.RoundUp(taken);
+  if (digits.lower == DecimalDigits::HALF_UNIT) {
+    digits.lower = 0;
+    ++digits.upper;
+  }
+  if (digits.upper == DecimalDigits::HALF_UNIT) {
+    digits.upper = 0;
+    ++digits.whole;
+  }
 }
 
 }  // namespace
@@ -80,15 +94,7 @@ bool SplitNumber(double number, int decimals, DecimalDigits& digits) {
   digits.whole = shift < 64 ? mantissa >> shift : 0;
   const std::uint64_t rest = shift < 64 ? mantissa & ((1ULL << shift) - 1) : mantissa;
   if (rest == 0) return true;
-  Fraction fraction(static_cast<Wide>(rest) << (128 - shift));
-  if (decimals < HALF_PLACES) {
-    digits.upper = fraction.TakeDigits(PowerOfTen(decimals)) * PowerOfTen(HALF_PLACES - decimals);
-  } else {
-    digits.upper = fraction.TakeDigits(DecimalDigits::HALF_UNIT);
-    const int left = decimals - HALF_PLACES;
-    if (left > 0) digits.lower = fraction.TakeDigits(PowerOfTen(left)) * PowerOfTen(HALF_PLACES - left);
-  }
-  Round(fraction, decimals, digits);
+  TakeDecimals(Fraction(static_cast<Wide>(rest) << (128 - shift)), decimals, digits);
   return true;
 }
 

@@ -12,7 +12,8 @@ void RowLeaf::MakePositions() {
 ColumnChunk& RowLeaf::FindOrAdd(int storage) {
   const auto index = static_cast<std::size_t>(storage);
   if (index >= columns.size()) {
-    columns.reserve(index + 1);
+    // Neighbours mostly have the same columns.
+    columns.reserve(std::max(index + 1, previous != nullptr ? previous->columns.size() : 0));
     columns.resize(index + 1);
   }
   return columns[index];

@@ -198,16 +198,14 @@ std::vector<std::uint32_t> RowSorter::Order(const std::vector<int>& cols) {
   return OrderByRanks(ranks, compare);
 }
 
-bool RowSorter::Sort(const std::vector<int>& cols) {
-  if (m_store.EndRow() > MOST_ROWS) return false;
-  if (cols.empty()) return true;
+void RowSorter::Sort(const std::vector<int>& cols) {
+  if (cols.empty()) return;
   Gather();
   std::vector<std::uint32_t> order = InStoredOrder(m_fixed);
   const std::vector<std::uint32_t> sorted = Order(cols);
   order.reserve(m_fixed + sorted.size());
   for (const std::uint32_t row : sorted) order.push_back(row + static_cast<std::uint32_t>(m_fixed));
   Rebuild(order);
-  return true;
 }
 
 std::vector<RowLeaf*> RowSorter::BuildLeaves(const std::vector<std::uint32_t>& order, RowTree& rows) const {
@@ -242,6 +240,7 @@ std::vector<RowLeaf*> RowSorter::BuildLeaves(const std::vector<std::uint32_t>& o
     if (leaf == nullptr) {
       leaf = std::make_unique<RowLeaf>();
       leaf->MakePositions();
+      leaf->columns.reserve(static_cast<std::size_t>(m_store.Columns().StorageCount()));
     }
     const auto to = static_cast<std::size_t>(leaf->count++);
     leaf->positions->first[to] = positions[at].first;
@@ -261,18 +260,18 @@ void RowSorter::FillColumn(int storage, const std::vector<std::uint32_t>& order,
     any = any || cells[i].Exists();
   }
   if (!any) return;
+  std::array<CellSlot, RowLeaf::ROWS> rows;
   auto at = order.begin();
   for (RowLeaf* const leaf : leaves) {
-    ColumnChunk* chunk = nullptr;
-    for (int row = 0; row < static_cast<int>(leaf->count); ++at) {
+    const auto count = static_cast<std::size_t>(leaf->count);
+    bool stored = false;
+    for (std::size_t row = 0; row < count; ++at) {
       if (IsRun(*at)) continue;
-      const CellSlot& cell = cells[*at];
-      if (cell.Exists()) {
-        if (chunk == nullptr) chunk = &leaf->FindOrAdd(storage);
-        chunk->Put(row, cell);
-      }
+      rows[row] = cells[*at];
+      stored = stored || rows[row].Exists();
       ++row;
     }
+    if (stored) leaf->FindOrAdd(storage).Fill({rows.data(), count});
   }
 }
 

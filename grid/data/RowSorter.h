@@ -16,11 +16,9 @@ class RowSorter {
   /// `owner` compares; null for the standard comparison.
   RowSorter(CellStore& store, CGridSourceOwner* owner, int flags)
       : m_store(store), m_owner(owner), m_flags(flags) {}
-  /// False, with nothing changed, when there are more than MOST_ROWS.
-  bool Sort(const std::vector<int>& cols);
+  void Sort(const std::vector<int>& cols);
 
  private:
-  static constexpr std::int64_t MOST_ROWS = 0xFFFF'FFFE;
   /// A row to move, or a run of rows without positions, which stay together.
   struct Item {
     RowLeaf* leaf;  // borrowed from the store
