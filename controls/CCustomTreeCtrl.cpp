@@ -5,34 +5,40 @@ TreeItemLook CCustomTreeCtrl::Look(HTREEITEM item) const {
   return found == m_looks.end() ? TreeItemLook() : found->second;
 }
 
-void CCustomTreeCtrl::Show(HTREEITEM item, const TreeItemLook& look) {
+template <class T>
+void CCustomTreeCtrl::Set(HTREEITEM item, T TreeItemLook::*part, T value) {
   if (item == nullptr || !HasWindow()) return;
-  m_looks[item] = look;
+  TreeItemLook& look = m_looks[item];
+  look.*part = value;
   SetItemLook(item, look);
 }
 
 void CCustomTreeCtrl::SetItemColor(HTREEITEM item, COLORREF text) {
-  TreeItemLook look = Look(item);
-  look.text = text;
-  Show(item, look);
+  Set(item, &TreeItemLook::text, text);
 }
 
 void CCustomTreeCtrl::SetItemBkColor(HTREEITEM item, COLORREF ground) {
-  TreeItemLook look = Look(item);
-  look.ground = ground;
-  Show(item, look);
+  Set(item, &TreeItemLook::ground, ground);
 }
 
 void CCustomTreeCtrl::SetItemBold(HTREEITEM item, bool bold) {
-  TreeItemLook look = Look(item);
-  look.bold = bold;
-  Show(item, look);
+  Set(item, &TreeItemLook::bold, bold);
 }
 
 void CCustomTreeCtrl::SetItemCheckBox(HTREEITEM item, bool has) {
-  TreeItemLook look = Look(item);
-  look.checkBox = has;
-  Show(item, look);
+  Set(item, &TreeItemLook::checkBox, has);
+}
+
+/// The items of a window before are gone; the new ones may have their handles.
+LRESULT CCustomTreeCtrl::HandleCreate(WPARAM /*wParam*/, LPARAM /*lParam*/) {
+  m_looks.clear();
+  return Default();
+}
+
+const coregui::MessageTable& CCustomTreeCtrl::GetMessageTable() const {
+  static const coregui::MessageTable table =
+      coregui::MessageTable(CTreeCtrl::Messages()).On<WM_CREATE>(&CCustomTreeCtrl::HandleCreate);
+  return table;
 }
 
 bool CCustomTreeCtrl::HasItemCheckBox(HTREEITEM item) const {

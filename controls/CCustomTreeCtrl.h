@@ -26,9 +26,13 @@ class COREGUI_API CCustomTreeCtrl : public CTreeCtrl {
   BOOL DeleteItem(HTREEITEM item);
   void DeleteAllItems();
 
+  const coregui::MessageTable& GetMessageTable() const override;
+
  private:
   TreeItemLook Look(HTREEITEM item) const;
-  void Show(HTREEITEM item, const TreeItemLook& look);
+  template <class T>
+  void Set(HTREEITEM item, T TreeItemLook::*part, T value);
+  LRESULT HandleCreate(WPARAM wParam, LPARAM lParam);
   void Forget(HTREEITEM item);
 
   std::map<HTREEITEM, TreeItemLook> m_looks;  ///< of items that are not plain

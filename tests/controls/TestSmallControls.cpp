@@ -167,6 +167,11 @@ TEST(CustomTree, ItemsHaveLooksOfTheirOwn) {
   EXPECT_TRUE(tree.DeleteItem(road));
   EXPECT_EQ(tree.GetItemColor(kerb), CCustomTreeCtrl::kThemeColour);
   EXPECT_FALSE(tree.DeleteItem(nullptr));
+  const HTREEITEM old = tree.InsertItem(L"Old");
+  tree.SetItemCheckBox(old);
+  tree.DestroyWindow();
+  tree.Create(kChild, CRect(10, 10, 210, 210), &host, 7);
+  EXPECT_FALSE(tree.HasItemCheckBox(old)) << "a new item may have its handle";
 }
 
 TEST(EmptyTree, SaysWhyWhileItIsEmpty) {
