@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "platform/CWnd.h"
+#include "platform/CEdit.h"
 
 namespace coregui::test {
 
@@ -16,7 +16,11 @@ class ControlWindow : public CWnd {
   }
   CString TakeLog() { return std::exchange(m_log, CString()); }
 
+  CWnd* destroyOnChange = nullptr;  ///< goes as soon as it tells of a change
+
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+    const bool changed = message == WM_COMMAND && HIWORD(wParam) == EN_CHANGE;
+    if (changed && destroyOnChange != nullptr) destroyOnChange->DestroyWindow();
     if (message == WM_COMMAND) m_log.AppendFormat(L"%d:%d ", LOWORD(wParam), HIWORD(wParam));
     if (message == WM_HSCROLL) m_log += L"scroll ";
     return CWnd::WindowProc(message, wParam, lParam);

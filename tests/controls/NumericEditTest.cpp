@@ -10,6 +10,7 @@
 #include "controls/NumberInput.h"
 #include "platform/Locale.h"
 #include "platform/System.h"
+#include "tests/controls/ControlWindow.h"
 
 namespace {
 
@@ -105,8 +106,6 @@ TEST(NumberFormat, OnlyOneDirectiveOfTheRightTypeIsUsed) {
 class NumericEditTest : public testing::Test {
  protected:
   NumericEditTest() {
-    m_host.Create(L"", L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 300, 100), nullptr, 0);
-    m_host.SetActiveWindow();
     constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER;
     m_real.Create(kStyle, CRect(10, 10, 150, 34), &m_host, 1);
     m_whole.Create(kStyle, CRect(10, 40, 150, 64), &m_host, 2);
@@ -118,7 +117,7 @@ class NumericEditTest : public testing::Test {
   }
   static CString Text(const CWnd& window) { return window.GetWindowTextString(); }
 
-  CWnd m_host;
+  coregui::test::ControlWindow m_host;
   CFloatEdit m_real;
   CIntEdit m_whole;
 };
@@ -249,23 +248,12 @@ TEST(NumericEdit, WithoutAWindowItHasAValueThatShowsOnceItIsMade) {
   EXPECT_EQ(edit.GetValue(), 2.5);
 }
 
-/// Destroys its edit box as soon as that tells of a change.
-class Destroyer : public CWnd {
- public:
-  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-    if (edit != nullptr && message == WM_COMMAND && HIWORD(wParam) == EN_CHANGE) edit->DestroyWindow();
-    return CWnd::WindowProc(message, wParam, lParam);
-  }
-  CWnd* edit = nullptr;
-};
-
 TEST(NumericEdit, TheParentMayDestroyItWhenItTells) {
   for (const UINT key : {VK_UP, static_cast<UINT>('7')}) {
-    Destroyer host;
+    coregui::test::ControlWindow host;
     CIntEdit edit;
-    host.Create(L"", L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 300, 100), nullptr, 0);
     edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 24), &host, 1);
-    host.edit = &edit;
+    host.destroyOnChange = &edit;
     edit.SendMessage(key == VK_UP ? WM_KEYDOWN : WM_CHAR, key, 1);
     EXPECT_FALSE(edit.HasWindow());
   }

@@ -27,7 +27,9 @@ class Queue {
   ~Queue() { coregui::Profile::Get().WriteString(L"UnitTesting", nullptr, nullptr); }
   Queue(const Queue&) = delete;
   Queue& operator=(const Queue&) = delete;
-  void Write(int answers) { coregui::Profile::Get().WriteInt(L"UnitTesting", L"PopupChoiceId", answers); }
+  void Write(int answers) const {
+    coregui::Profile::Get().WriteInt(L"UnitTesting", L"PopupChoiceId", answers);
+  }
   int Read() const { return coregui::Profile::Get().GetInt(L"UnitTesting", L"PopupChoiceId", -1); }
 };
 
@@ -81,7 +83,7 @@ TEST(MessageFunctions, TheBoxStandsInFrontOfItsOwner) {
   }
 }
 
-TEST(MessageFunctions, ScriptedAnswersAreTakenByteByByte) {
+TEST(MessageFunctions, ScriptedAnswersAreTakenByteByByteAndAZeroShowsTheBox) {
   const Queue queue(0x0706);
   {
     const NoWindow none;
@@ -90,13 +92,12 @@ TEST(MessageFunctions, ScriptedAnswersAreTakenByteByByte) {
     EXPECT_EQ(CustomMessage(L"b", L"c", MB_OK), IDNO);
     EXPECT_EQ(queue.Read(), 0);
   }
-  const NextWindow next([](ShownWindow& box) { box.Click("Yes"); });
-  EXPECT_EQ(ConfirmMessage(L"c"), IDYES);
-  EXPECT_EQ(queue.Read(), 0);
-}
-
-TEST(MessageFunctions, AZeroByteShowsTheBoxAndIsConsumed) {
-  const Queue queue(static_cast<int>(0x80010200U));
+  {
+    const NextWindow next([](ShownWindow& box) { box.Click("Yes"); });
+    EXPECT_EQ(ConfirmMessage(L"c"), IDYES);
+    EXPECT_EQ(queue.Read(), 0);
+  }
+  queue.Write(static_cast<int>(0x80010200U));
   {
     const NextWindow next([](ShownWindow& box) { box.Click("OK"); });
     ErrorMessage(L"shown");
@@ -108,22 +109,8 @@ TEST(MessageFunctions, AZeroByteShowsTheBoxAndIsConsumed) {
   EXPECT_EQ(queue.Read(), 0);
 }
 
-TEST(MessageFunctions, CheckBoxesAndOwnButtonsAskAPersonDespiteScriptedAnswers) {
-  const Queue queue(IDYES);
-  UINT checked = 1;
-  {
-    const NextWindow next([](ShownWindow& box) { box.Click("OK"); });
-    EXPECT_EQ(CustomMessageAndCheck(L"a", L"b", MB_OK, L"Again", checked), IDOK);
-  }
-  const _MsgBoxButtons button{77, IDIGNORE};
-  {
-    const NextWindow next([](ShownWindow& box) { box.Click("Ignore"); });
-    EXPECT_EQ(CustomButtonsMessage(L"a", L"b", MB_OK, 1, &button), 77);
-  }
-  EXPECT_EQ(queue.Read(), IDYES);
-}
-
 TEST(MessageFunctions, TheCheckBoxStartsUncheckedWhateverIsPassedInIsKept) {
+  const Queue queue(IDYES);  // scripted answers are not for these boxes
   UINT checked = 1;
   {
     const NextWindow next([](ShownWindow& box) {
@@ -143,9 +130,11 @@ TEST(MessageFunctions, TheCheckBoxStartsUncheckedWhateverIsPassedInIsKept) {
   });
   EXPECT_EQ(CustomButtonsMessageAndCheck(L"a", L"b", MB_OK, L"Always", checked, 2, buttons), 6);
   EXPECT_EQ(checked, 1U);
+  EXPECT_EQ(queue.Read(), IDYES);
 }
 
-TEST(MessageFunctions, OwnButtonsShowRegisteredTexts) {
+TEST(MessageFunctions, OwnButtonsShowRegisteredTextsAndAskAPerson) {
+  const Queue queue(IDYES);
   coregui::SetButtonText(900, L"&Overwrite");
   coregui::SetButtonText(IDNO, L"Leave it");
   const _MsgBoxButtons buttons[] = {{11, 900}, {12, IDNO}, {13, IDRETRY}, {14, 4000000000U}};
@@ -164,6 +153,7 @@ TEST(MessageFunctions, OwnButtonsShowRegisteredTexts) {
   }
   const NextWindow next([](ShownWindow& box) { box.Click("OK"); });
   EXPECT_EQ(CustomButtonsMessage(L"a", L"b", MB_OK, 2, nullptr), IDOK);
+  EXPECT_EQ(queue.Read(), IDYES);
 }
 
 TEST(MessageFunctionsDeathTest, MoreThanFourButtonsStopADebugBuildAndLoseTheFifthInOthers) {

@@ -153,12 +153,14 @@ TEST_F(FileCopyTest, ANameAsLongAsTheFileSystemTakesIsCopied) {
   EXPECT_EQ(Read(longest.c_str()), "x");
 }
 
-TEST_F(FileCopyTest, ALinkAsDestinationStaysALink) {
+TEST_F(FileCopyTest, LinksAreFollowedAtBothEnds) {
   Write("a", "new");
   Write("real", "old");
-  fs::create_symlink(At("real"), At("link"));
-  ASSERT_TRUE(Copy("a", "link"));
-  EXPECT_TRUE(fs::is_symlink(At("link")));
+  fs::create_symlink(At("real"), At("to"));
+  fs::create_symlink(At("a"), At("from"));
+  ASSERT_TRUE(Copy("from", "to"));
+  EXPECT_TRUE(fs::is_symlink(At("to")));
+  EXPECT_FALSE(fs::is_symlink(At("real")));
   EXPECT_EQ(Read("real"), "new");
 }
 
