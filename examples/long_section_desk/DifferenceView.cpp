@@ -58,7 +58,12 @@ LRESULT DifferenceView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_MOUSEWHEEL:
       return m_master.SendMessage(message, wParam, ToMasterScreen(lParam));
-    case WM_MBUTTONDOWN:  // captures the mouse for the master, which gets the rest of the drag
+    case WM_MBUTTONDOWN: {  // captures the mouse for the master, which gets the rest of the drag
+      POINT at = CPoint::FromLParam(lParam);
+      ClientToScreen(&at);
+      m_master.ScreenToClient(&at);
+      return m_master.SendMessage(message, wParam, MAKELPARAM(at.x, at.y));
+    }
     case WM_COREGUI_PINCH:
       return m_master.SendMessage(message, wParam, ToMasterClient(lParam));
     case WM_COREGUI_WANTPAN:

@@ -72,7 +72,7 @@ TEST_F(Desk, ATextTableHasNoSection) {
   EXPECT_FALSE(window.PrintToPdf((folder / "none.pdf").wstring()));
 }
 
-TEST_F(Desk, TheWheelOverTheDifferenceZoomsBothAboutTheChainage) {
+TEST_F(Desk, TheWheelAndTheMiddleButtonOverTheDifferenceMoveTheSection) {
   std::string road = "Chainage,Ground level,Design level\n";
   for (int i = 0; i <= 100; ++i) {
     road += std::to_string(10 * i) + "," + std::to_string(100 + i % 9) + ",101\n";
@@ -89,6 +89,16 @@ TEST_F(Desk, TheWheelOverTheDifferenceZoomsBothAboutTheChainage) {
   EXPECT_EQ(slave.GetScale(), window.Section().GetScale());
   EXPECT_NEAR(slave.WindowToUser(at).x, chainage, 2.0 * scale);
   EXPECT_NEAR(window.Section().WindowToUser(at).x, chainage, 2.0 * scale);
+
+  const CPoint before = window.Section().UserToWindow({500.0, 101.0});
+  slave.SendMessage(WM_MBUTTONDOWN, MK_MBUTTON, MAKELPARAM(at.x, at.y));
+  ASSERT_EQ(CWnd::GetCapture(), &window.Section());
+  window.Section().ScreenToClient(&screen);
+  for (const UINT message : {WM_MOUSEMOVE, WM_MBUTTONUP}) {
+    window.Section().SendMessage(message, MK_MBUTTON, MAKELPARAM(screen.x - 40, screen.y + 3));
+  }
+  EXPECT_EQ(window.Section().UserToWindow({500.0, 101.0}), before + CSize(-40, 3));
+  EXPECT_EQ(slave.UserToWindow({500.0, 0.0}).x, before.x - 40);
 }
 
 TEST_F(Desk, TheTableAndTheSectionFollowEachOther) {
