@@ -143,13 +143,14 @@ BOOL CWnd::CreateNative(const CREATESTRUCT& create, CWnd* family) {
 
 BOOL CWnd::FinishCreation(bool show) {
   const WindowRef self(this);
-  const CRect rect = m_state->look.rect;
   for (const auto& [id, milliseconds] : m_state->timers) {
     if (m_state->native != nullptr) m_state->native->StartTimer(id, milliseconds);
   }
-  SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(rect.Width(), rect.Height()));
+  const CSize size = GetClientRectangle().Size();
+  SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(size.cx, size.cy));
   if (self && HasWindow()) {
-    SendMessage(WM_MOVE, 0, MAKELPARAM(rect.left, rect.top));
+    const WindowState::Look& look = m_state->look;
+    SendMessage(WM_MOVE, 0, MAKELPARAM(look.rect.left + look.border, look.rect.top + look.border));
   }
   if (show && self && HasWindow()) {
     ShowWindow(SW_SHOW);

@@ -160,6 +160,12 @@ int CWnd::GetDpi() const {
 }
 
 void CWnd::PrintTo(CDC* dc) {
+  const LONG border = m_state->look.border;
+  const CPoint corner = dc->GetViewportOrg();
+  if (border > 0) {
+    dc->FrameRect(CRect(CPoint(), m_state->look.rect.Size()), GetSysColor(COLOR_3DDKSHADOW));
+    dc->SetViewportOrg(corner.x + border, corner.y + border);
+  }
   if (SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc)) == 0 && m_state->native != nullptr) {
     m_state->native->PrintTo(*dc);
   }
@@ -175,6 +181,7 @@ void CWnd::PrintTo(CDC* dc) {
       dc->RestoreDC(saved);
     }
   }
+  dc->SetViewportOrg(corner.x, corner.y);
 }
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {

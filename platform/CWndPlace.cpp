@@ -23,13 +23,10 @@ CPoint ClientOrigin(const CWnd& window) {
   if (window.State().native != nullptr) {
     return window.State().native->ClientOrigin();
   }
-  const CRect& rect = window.State().look.rect;
+  const coregui::WindowState::Look& look = window.State().look;
   const CWnd* parent = window.GetParent();
-  if (parent == nullptr) {
-    return rect.TopLeft();
-  }
-  const CPoint origin = ClientOrigin(*parent);
-  return {origin.x + rect.left, origin.y + rect.top};
+  const CPoint origin = parent == nullptr ? CPoint() : ClientOrigin(*parent);
+  return {origin.x + look.rect.left + look.border, origin.y + look.rect.top + look.border};
 }
 
 CWnd* ChildAt(CWnd& window, POINT client) {
@@ -38,8 +35,8 @@ CWnd* ChildAt(CWnd& window, POINT client) {
     return (child->GetStyle() & WS_VISIBLE) != 0 && child->State().look.rect.PtInRect(client);
   });
   if (hit == children.rend()) return &window;
-  const CRect& rect = (*hit)->State().look.rect;
-  return ChildAt(**hit, {client.x - rect.left, client.y - rect.top});
+  const coregui::WindowState::Look& look = (*hit)->State().look;
+  return ChildAt(**hit, {client.x - look.rect.left - look.border, client.y - look.rect.top - look.border});
 }
 
 }  // namespace
@@ -51,11 +48,15 @@ void coregui::NativeWindow::NotePlace(CWnd& window, const CRect& rect, WPARAM si
 }
 
 CRect CWnd::GetClientRectangle() const {
-  return {CPoint(), m_state->look.rect.Size()};
+  const coregui::WindowState::Look& look = m_state->look;
+  return {0, 0, std::max<LONG>(0, look.rect.Width() - 2 * look.border),
+          std::max<LONG>(0, look.rect.Height() - 2 * look.border)};
 }
 
 void CWnd::GetWindowRect(RECT* rect) const {
-  *rect = CRect(ClientOrigin(*this), m_state->look.rect.Size());
+  const CPoint origin = ClientOrigin(*this);
+  const LONG border = m_state->look.border;
+  *rect = CRect(CPoint(origin.x - border, origin.y - border), m_state->look.rect.Size());
 }
 
 void CWnd::MoveWindow(int x, int y, int width, int height, BOOL /*repaint*/) {
@@ -89,7 +90,8 @@ void CWnd::PlaceChanged(const CRect& old, WPARAM oldCode) {
   const CRect rect = m_state->look.rect;
   const WPARAM code = m_state->look.sizeCode;
   if (!(old.TopLeft() == rect.TopLeft())) {
-    SendMessage(WM_MOVE, 0, MAKELPARAM(rect.left, rect.top));
+    const LONG border = m_state->look.border;
+    SendMessage(WM_MOVE, 0, MAKELPARAM(rect.left + border, rect.top + border));
   }
   if (self && !(old.Size() == rect.Size())) {
     m_state->update.region.Intersect(GetClientRectangle());
@@ -99,7 +101,7 @@ void CWnd::PlaceChanged(const CRect& old, WPARAM oldCode) {
   }
   if (self) {
     // A minimised window has no client area to speak of; its place waits for the restoring.
-    const CSize size = code == SIZE_MINIMIZED ? CSize() : rect.Size();
+    const CSize size = code == SIZE_MINIMIZED ? CSize() : GetClientRectangle().Size();
     SendMessage(WM_SIZE, code, MAKELPARAM(size.cx, size.cy));
   }
 }
@@ -272,8 +274,13 @@ BOOL CWnd::ModifyStyle(DWORD remove, DWORD add) {
     return FALSE;
   }
   m_state->look.style = style;
+  const CSize before = GetClientRectangle().Size();
   if (m_state->native != nullptr) {
     m_state->native->StyleChanged();
+  }
+  if (const CSize size = GetClientRectangle().Size(); !(size == before)) {
+    Invalidate();
+    SendMessage(WM_SIZE, m_state->look.sizeCode, MAKELPARAM(size.cx, size.cy));
   }
   return TRUE;
 }

@@ -160,7 +160,8 @@ CPoint EventRoad::ClientPosition(const CWnd& target, const QPointF& position, co
   const QPointF at = &target == &m_window->Window() && &m_receiver == own ? position
                      : widget != nullptr                                  ? widget->mapFromGlobal(global)
                                                                           : QPointF();
-  return {static_cast<LONG>(std::floor(at.x())), static_cast<LONG>(std::floor(at.y()))};
+  const LONG border = target.State().look.border;
+  return {static_cast<LONG>(std::floor(at.x())) - border, static_cast<LONG>(std::floor(at.y())) - border};
 }
 
 bool EventRoad::Mouse(const QMouseEvent& event) {
@@ -176,6 +177,10 @@ bool EventRoad::Mouse(const QMouseEvent& event) {
   }
   const WindowRef targetRef(target);
   const CPoint client = ClientPosition(*target, event.position(), global);
+  if (target->State().look.border > 0 && CWnd::GetCapture() == nullptr &&
+      !target->GetClientRectangle().PtInRect(client)) {
+    return true;  // on the border
+  }
   if (message == WM_MOUSEMOVE && CWnd::GetCapture() == nullptr) {
     SetCursorTarget(WidgetOf(target));
     target->SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(target->GetSafeHwnd()),

@@ -25,21 +25,25 @@ class SurfaceWidget : public QWidget {
   }
   /// Called by a paint at another scale than the surface's: the screen's own scale was changed.
   std::function<void()> onOtherScale;
-  /// One pixel round the edge, over the surface's own.
-  bool hasBorder = false;
+  /// Pixels round the surface.
+  int border = 0;
 
  protected:
   void paintEvent(QPaintEvent* event) override {
     if (devicePixelRatioF() != m_surface->Scale() && onOtherScale) onOtherScale();
     QPainter painter(this);
-    for (const QRect& part : event->region()) {
+    const QRect client = rect().adjusted(border, border, -border, -border);
+    if (border > 0) {
+      const COLORREF colour = GetSysColor(COLOR_3DDKSHADOW);
+      for (const QRect& edge : event->region() - client) {
+        painter.fillRect(edge, QColor(GetRValue(colour), GetGValue(colour), GetBValue(colour)));
+      }
+      painter.translate(border, border);
+    }
+    for (const QRect& exposed : event->region() & client) {
+      const QRect part = exposed.translated(-border, -border);
       m_surface->Expose(painter,
                         {part.left(), part.top(), part.left() + part.width(), part.top() + part.height()});
-    }
-    if (hasBorder) {
-      const COLORREF colour = GetSysColor(COLOR_3DDKSHADOW);
-      painter.setPen(QColor(GetRValue(colour), GetGValue(colour), GetBValue(colour)));
-      painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
   }
 
@@ -52,10 +56,6 @@ bool HasBorder(const CWnd& window) {
   return (window.GetStyle() & WS_CAPTION) == WS_BORDER;
 }
 
-CSize SizeOf(const CREATESTRUCT& create) {
-  return {create.width, create.height};
-}
-
 }  // namespace
 
 std::unique_ptr<NativeWindow> MakePaintedWindow(CWnd& window, const CREATESTRUCT& create) {
@@ -66,7 +66,7 @@ std::unique_ptr<NativeWindow> MakePaintedWindow(CWnd& window, const CREATESTRUCT
 }
 
 PaintedWindow::PaintedWindow(CWnd& window, const CREATESTRUCT& create)
-    : PaintedWindow(window, create, std::make_shared<Surface>(SizeOf(create), 1.0)) {}
+    : PaintedWindow(window, create, std::make_shared<Surface>(CSize(), 1.0)) {}
 
 PaintedWindow::PaintedWindow(CWnd& window, const CREATESTRUCT& create,
                              const std::shared_ptr<Surface>& surface)
@@ -75,13 +75,13 @@ PaintedWindow::PaintedWindow(CWnd& window, const CREATESTRUCT& create,
       m_target(std::make_shared<RasterTarget>(surface)) {
   m_surface->onDamage = [this] { Pump::Get().QueueExposure(this); };
   m_surface->onMove = [this](const CRect& to, int dx, int dy) { return MoveShown(to, dx, dy); };
-  FitSurface(SizeOf(create), QtWindow::Scale());
+  PaintedWindow::StyleChanged();
+  FitSurface(window.GetClientRectangle().Size(), QtWindow::Scale());
   m_toldScale = m_surface->Scale();
   static_cast<SurfaceWidget*>(GetWidget())->onOtherScale = [this] {
     QMetaObject::invokeMethod(
         this, [this] { NoteScale(); }, Qt::QueuedConnection);
   };
-  PaintedWindow::StyleChanged();
 }
 
 PaintedWindow::~PaintedWindow() {
@@ -103,17 +103,23 @@ void PaintedWindow::FitSurface(CSize size, double scale) {
 }
 
 void PaintedWindow::Move(const CRect& rect) {
-  FitSurface(rect.Size(), m_surface->Scale());
+  FitSurface(Window().GetClientRectangle().Size(), m_surface->Scale());
   QtWindow::Move(rect);
 }
 
 void PaintedWindow::StyleChanged() {
   auto* widget = static_cast<SurfaceWidget*>(GetWidget());
-  if (widget == nullptr || widget->hasBorder == HasBorder(Window())) {
+  const int border = HasBorder(Window()) ? 1 : 0;
+  if (widget == nullptr || widget->border == border) {
     return;
   }
-  widget->hasBorder = HasBorder(Window());
+  widget->border = border;
   widget->update();
+  Window().State().look.border = border;
+  FitSurface(Window().GetClientRectangle().Size(), m_surface->Scale());
+  for (const CWnd* child : Window().State().family.children) {
+    if (child->State().native != nullptr) child->State().native->Move(child->State().look.rect);
+  }
 }
 
 void PaintedWindow::NoteScale() {
@@ -142,7 +148,9 @@ void PaintedWindow::TellScale() {
 
 void PaintedWindow::NoteWidgetSize() {
   if (GetWidget() != nullptr && GetWidget()->isVisible()) {
-    FitSurface({GetWidget()->width(), GetWidget()->height()}, m_surface->Scale());
+    const int edges = 2 * Window().State().look.border;
+    FitSurface({std::max(0, GetWidget()->width() - edges), std::max(0, GetWidget()->height() - edges)},
+               m_surface->Scale());
   }
 }
 
@@ -158,7 +166,9 @@ void PaintedWindow::ShowDamage(bool now) {
     for (const CRect& piece : pieces) all.UnionRect(all, piece);
     pieces = {all};
   }
+  const LONG border = Window().State().look.border;
   for (std::size_t i = 0; i < pieces.size(); ++i) {
+    pieces[i].OffsetRect(border, border);
     QtWindow::Expose(pieces[i], now && i + 1 == pieces.size());
   }
 }
@@ -176,7 +186,9 @@ bool PaintedWindow::MoveShown(const CRect& to, int dx, int dy) {
   from.OffsetRect(-dx, -dy);
   CRect both;
   both.UnionRect(from, to);
-  const QRect area(both.left / scale, both.top / scale, both.Width() / scale, both.Height() / scale);
+  const LONG border = Window().State().look.border;
+  const QRect area(both.left / scale + border, both.top / scale + border, both.Width() / scale,
+                   both.Height() / scale);
   // The toolkit would take the pixels of its children along.
   for (const QObject* child : widget->children()) {
     const auto* above = qobject_cast<const QWidget*>(child);
@@ -195,9 +207,6 @@ void PaintedWindow::PrintTo(CDC& dc) {
   CClientDC source(&Window());
   const CSize size = m_surface->Size();
   dc.BitBlt(0, 0, size.cx, size.cy, &source, 0, 0, SRCCOPY);
-  if (HasBorder(Window())) {
-    dc.FrameRect(CRect(CPoint(), size), GetSysColor(COLOR_3DDKSHADOW));
-  }
 }
 
 bool PaintedWindow::FilterOther(QWidget& /*receiver*/, QEvent& event) {

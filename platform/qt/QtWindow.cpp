@@ -117,10 +117,17 @@ Qt::WindowFlags QtWindow::FlagsOf(DWORD style) const {
 }
 
 /// A frame without WS_THICKFRAME cannot be dragged larger or smaller; code still sizes the window.
-void QtWindow::Place(const CRect& rect, DWORD style) {
+void QtWindow::Place(CRect rect, DWORD style) {
   const bool fixed = (style & (WS_CHILD | WS_CAPTION | WS_THICKFRAME)) == WS_CAPTION;
   if (fixed) m_widget->setFixedSize(std::max<LONG>(0, rect.Width()), std::max<LONG>(0, rect.Height()));
+  rect.OffsetRect(ParentsBorder(), ParentsBorder());
   m_widget->setGeometry(ToQt(rect));
+}
+
+/// How far a widget in its parent's lies from the client area's corner.
+int QtWindow::ParentsBorder() const {
+  const CWnd* parent = m_window.GetParent();
+  return parent == nullptr ? 0 : parent->State().look.border;
 }
 
 void QtWindow::Move(const CRect& rect) {
@@ -174,11 +181,10 @@ void QtWindow::SetParent(NativeWindow* parent) {
     return;
   }
   const bool shown = (m_window.GetStyle() & WS_VISIBLE) != 0;
-  const QRect place = m_widget->geometry();
   QWidget* under = parent == nullptr ? nullptr : static_cast<QWidget*>(parent->Widget());
   m_widget->setParent(
       under, under != nullptr ? Qt::WindowFlags(Qt::Widget) : FlagsOf(m_window.GetStyle() & ~WS_CHILD));
-  m_widget->setGeometry(place);
+  Place(m_window.State().look.rect, m_window.GetStyle());
   m_widget->setVisible(shown);
 }
 
@@ -218,7 +224,8 @@ CPoint QtWindow::ClientOrigin() const {
   if (m_widget == nullptr) {
     return m_window.State().look.rect.TopLeft();
   }
-  const QPoint origin = m_widget->mapToGlobal(QPoint(0, 0));
+  const int border = m_window.State().look.border;
+  const QPoint origin = m_widget->mapToGlobal(QPoint(border, border));
   return {origin.x(), origin.y()};
 }
 
@@ -338,7 +345,7 @@ void QtWindow::NoteState() {
 }
 
 void QtWindow::NoteGeometry() {
-  const QRect place = m_widget->geometry();
+  const QRect place = m_widget->geometry().translated(-ParentsBorder(), -ParentsBorder());
   const CRect rect(place.left(), place.top(), place.left() + place.width(), place.top() + place.height());
   const WindowState::Look& look = m_window.State().look;
   WPARAM code = SizeCodeOf(*m_widget);

@@ -93,7 +93,8 @@ class QtWindow : public QObject, public NativeWindow {
   void NoteGeometry();
   bool IsTopLevel() const;
   Qt::WindowFlags FlagsOf(DWORD style) const;
-  void Place(const CRect& rect, DWORD style);
+  void Place(CRect rect, DWORD style);
+  int ParentsBorder() const;
   void Forget();
 
   CWnd& m_window;

@@ -3,6 +3,7 @@
 #include <QBackingStore>
 #include <QColor>
 #include <QImage>
+#include <QTest>
 #include <QWidget>
 #include <cmath>
 #include <cstdlib>
@@ -165,7 +166,8 @@ class WindowShown : public testing::Test {
     // Places between the dots of a screen with a fractional scale, and a window over the scrolled one.
     const CRect places[] = {CRect(3, 5, 204, 291), CRect(205, 5, 396, 120), CRect(150, 200, 250, 270)};
     for (std::size_t i = 0; i < std::size(places); ++i) {
-      ASSERT_TRUE(children[i].Create(L"", L"", WS_CHILD | WS_VISIBLE, places[i], &window, 0));
+      const DWORD border = i == 1 ? WS_BORDER : 0;
+      ASSERT_TRUE(children[i].Create(L"", L"", WS_CHILD | WS_VISIBLE | border, places[i], &window, 0));
       children[i].first = static_cast<int>(i) * 50;
     }
     CWinApp::PumpPending();
@@ -181,7 +183,8 @@ class WindowShown : public testing::Test {
     CRect above = children[2].State().look.rect;
     above.InflateRect(1, 1);
     for (const Striped& child : children) {
-      const CRect place = child.State().look.rect;
+      CRect place = child.State().look.rect;
+      place.DeflateRect(child.State().look.border, child.State().look.border);
       const auto* target = dynamic_cast<const coregui::RasterTarget*>(child.State().native->Target().get());
       const QImage own = target->Pixels()->Snapshot();
       const double scale = target->Scale();
@@ -356,28 +359,62 @@ TEST_F(WindowPaint, PrintingTakesTheWindowAndItsChildren) {
   EXPECT_EQ(dc.GetPixel(65, 65), Striped::ColourOf(6));
 }
 
-TEST(WindowBorder, IsOnePixelRoundTheEdgeUnlessThereIsACaption) {
+TEST(WindowBorder, LiesRoundTheClientAreaUnlessThereIsACaption) {
   LogWindow window;
   ASSERT_TRUE(window.Open(CRect(0, 0, 60, 40)));
   LogWindow child;
-  ASSERT_TRUE(child.OpenIn(window, CRect(10, 10, 30, 25)));
-  CWinApp::PumpPending();
-  const QColor edge(GetRValue(GetSysColor(COLOR_3DDKSHADOW)), GetGValue(GetSysColor(COLOR_3DDKSHADOW)),
-                    GetBValue(GetSysColor(COLOR_3DDKSHADOW)));
-  const auto at = [&](int x, int y) {
-    const QImage picture = WidgetOf(&window)->grab().toImage();
-    const double scale = picture.devicePixelRatio();
-    return picture.pixelColor(static_cast<int>(std::lround(x * scale)),
-                              static_cast<int>(std::lround(y * scale)));
-  };
-  EXPECT_EQ(at(10, 10), QColor(Qt::white));
+  ASSERT_TRUE(child.OpenIn(window, CRect(10, 10, 30, 26)));
+  LogWindow inner;
+  ASSERT_TRUE(inner.OpenIn(child, CRect(0, 0, 4, 4)));
+  child.logsState = true;
   child.ModifyStyle(0, WS_BORDER);
-  for (const QPoint point : {QPoint(10, 10), QPoint(29, 17), QPoint(15, 24)}) {
-    EXPECT_EQ(at(point.x(), point.y()), edge) << point.x();
+  EXPECT_EQ(child.TakeLog(), "5 0 18,14;");
+  EXPECT_EQ(child.GetClientRectangle(), CRect(0, 0, 18, 14));
+  CPoint corner;
+  child.ClientToScreen(&corner);
+  RECT outer;
+  child.GetWindowRect(&outer);
+  EXPECT_EQ(CRect(outer).TopLeft(), CPoint(corner.x - 1, corner.y - 1));
+  EXPECT_EQ(CRect(outer).Size(), CSize(20, 16));
+  EXPECT_EQ(CWnd::WindowFromPoint(CPoint(corner.x + 3, corner.y + 3)), &inner);
+  EXPECT_EQ(CWnd::WindowFromPoint(CPoint(corner.x + 4, corner.y + 3)), &child);
+  EXPECT_EQ(inner.State().look.rect, CRect(0, 0, 4, 4));
+  child.MoveWindow(10, 10, 20, 15);
+  EXPECT_EQ(child.TakeLog(), "5 0 18,13;");
+  child.logsState = false;
+  // A click reaches the client area with its own coordinates, and the border not at all.
+  QTest::mouseClick(WidgetOf(&child), Qt::LeftButton, Qt::NoModifier, QPoint(6, 1));
+  EXPECT_EQ(child.TakeLog(), "201 1 5,0;202 0 5,0;");
+  QTest::mouseClick(WidgetOf(&child), Qt::LeftButton, Qt::NoModifier, QPoint(6, 0));
+  EXPECT_EQ(child.TakeLog(), "");
+  CWinApp::PumpPending();
+  {
+    CClientDC dc(&child);
+    dc.FillSolidRect(CRect(0, 0, 18, 13), kBlue);
+    CClientDC own(&inner);
+    own.FillSolidRect(CRect(0, 0, 4, 4), kRed);
   }
-  EXPECT_EQ(at(11, 11), QColor(Qt::white));
-  EXPECT_EQ(at(28, 23), QColor(Qt::white));
-  EXPECT_EQ(at(0, 0), QColor(Qt::white)) << "the desktop's frame is enough";
+  CWinApp::PumpPending();
+  const QColor edge =
+      QColor::fromRgb(GetRValue(GetSysColor(COLOR_3DDKSHADOW)), GetGValue(GetSysColor(COLOR_3DDKSHADOW)),
+                      GetBValue(GetSysColor(COLOR_3DDKSHADOW)));
+  const QImage shown = WidgetOf(&window)->grab().toImage();
+  CBitmap bitmap;
+  const CClientDC screen(&window);
+  ASSERT_TRUE(bitmap.CreateCompatibleBitmap(&screen, 60, 40));
+  CMemoryDC printed(&screen, &bitmap);
+  window.PrintTo(&printed);
+  const auto expect = [&](CPoint at, const QColor& colour) {
+    const double scale = shown.devicePixelRatio();
+    const int x = static_cast<int>((at.x + 0.5) * scale);
+    EXPECT_EQ(shown.pixelColor(x, static_cast<int>((at.y + 0.5) * scale)), colour) << at.x << ',' << at.y;
+    const COLORREF dot = printed.GetPixel(at.x, at.y);
+    EXPECT_EQ(QColor(GetRValue(dot), GetGValue(dot), GetBValue(dot)), colour) << at.x << ',' << at.y;
+  };
+  for (const CPoint at : {CPoint(10, 10), CPoint(29, 17), CPoint(15, 24)}) expect(at, edge);
+  for (const CPoint at : {CPoint(20, 11), CPoint(28, 23), CPoint(11, 20)}) expect(at, Qt::blue);
+  for (const CPoint at : {CPoint(11, 11), CPoint(14, 14)}) expect(at, Qt::red);
+  expect(CPoint(0, 0), Qt::white);  // the desktop's frame is enough
 }
 
 }  // namespace
