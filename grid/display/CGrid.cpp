@@ -356,4 +356,5 @@ void CGrid::HandleKillFocus(CWnd* other) {
 
 void CGrid::HandleTimer(UINT id) {
   if (id == CGridTips::kTimer) m_tips.TimeElapsed();
+  if (id == CGridMouse::kDragTimer) m_mouse.TimeElapsed();
 }

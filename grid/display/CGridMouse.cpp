@@ -32,8 +32,7 @@ const CGridInfo& CGridMouse::Info() const {
 
 CGridMouse::Hit CGridMouse::HitTest(CPoint point) const {
   Hit hit;
-  const CRect body(0, 0, Info().columns.Extent(), Info().rows.Extent());
-  hit.found = body.PtInRect(point) &&  // cells go on outside what is shown
+  hit.found = !IsOutside(point) &&  // cells go on outside what is shown
               m_control.GetCellFromPoint(point.x, point.y, &hit.col, &hit.row, &hit.rect) == 0;
   if (!hit.found) hit = Hit();
   return hit;
@@ -49,43 +48,65 @@ CGridMouse::Hit CGridMouse::CurrentCell(CPoint point) const {
   return hit;
 }
 
+/// What tells the two buttons apart: the event's kind, and whom it is offered and told to.
+struct CGridMouse::Button {
+  MouseEvent event;
+  int (CGridCellDelegate::*offer)(int col, long row, int updn, RECT* rect, POINT* point);
+  void (CGridNotify::*tell)(int col, long row, int updn, RECT* rect, POINT* point, int processed);
+};
+
+const CGridMouse::Button CGridMouse::kLeft{MouseEvent::leftDown, &CGridCellDelegate::OnLClicked,
+                                           &CGridNotify::OnLClicked};
+const CGridMouse::Button CGridMouse::kRight{MouseEvent::rightDown, &CGridCellDelegate::OnRClicked,
+                                            &CGridNotify::OnRClicked};
+
+int CGridMouse::Offer(const Button& button, Hit& hit, int updn, CPoint& point) {
+  if (!hit.found) return 0;
+  CGridCellDelegate* const type = m_control.GetCellDelegate(hit.col, hit.row);
+  return (type->*button.offer)(hit.col, hit.row, updn, &hit.rect, &point);
+}
+
+/// False when the grid is gone.
+bool CGridMouse::Press(const Button& button, UINT flags, CPoint point, Hit& hit) {
+  const WindowRef alive(&m_window);
+  m_control.GetInfo().view.mouseEvent = button.event;
+  m_control.GetInfo().view.mouseFlags = flags;
+  hit = HitTest(point);
+  if (hit.found) m_control.GotoCell(hit.col, hit.row);
+  if (!alive) return false;
+  const int processed = Offer(button, hit, 1, point);
+  if (!alive) return false;
+  if (&button == &kLeft) m_typeTook = processed != 0;
+  (m_control.*button.tell)(hit.col, hit.row, 1, &hit.rect, &point, processed);
+  if (!alive) return false;
+  m_control.GetInfo().view.mouseEvent = MouseEvent::none;
+  return true;
+}
+
+/// `offered` is the cell whose type is asked. False when the grid is gone.
+bool CGridMouse::Release(const Button& button, Hit offered, CPoint point) {
+  const WindowRef alive(&m_window);
+  Hit hit = HitTest(point);
+  const int processed = Offer(button, offered, 0, point);
+  if (!alive) return false;
+  (m_control.*button.tell)(hit.col, hit.row, 0, &hit.rect, &point, processed);
+  return static_cast<bool>(alive);
+}
+
 void CGridMouse::LeftDown(UINT flags, CPoint point, bool hasFocus) {
   const WindowRef alive(&m_window);
   if (!hasFocus) m_window.SetFocus();
   if (!alive || m_control.GetEditInProgress() != 0) return;
   m_window.SetCapture();
-  m_control.GetInfo().view.mouseEvent = MouseEvent::leftDown;
-  m_control.GetInfo().view.mouseFlags = flags;
-  Hit hit = HitTest(point);
-  int processed = 0;
-  if (hit.found) {
-    m_control.GotoCell(hit.col, hit.row);
-    if (!alive) return;
-    processed =
-        m_control.GetCellDelegate(hit.col, hit.row)->OnLClicked(hit.col, hit.row, 1, &hit.rect, &point);
-    if (!alive) return;
-    m_typeTook = processed != 0;
-  }
-  m_control.OnLClicked(hit.col, hit.row, 1, &hit.rect, &point, processed);
-  if (!alive) return;
-  m_control.GetInfo().view.mouseEvent = MouseEvent::none;
-  m_leftDown = true;
+  Hit hit;
+  if (Press(kLeft, flags, point, hit)) m_leftDown = true;
 }
 
 void CGridMouse::LeftUp(UINT, CPoint point) {
   if (!m_leftDown) return;
-  const WindowRef alive(&m_window);
+  m_window.KillTimer(kDragTimer);
   // The type that took the press gets the release too, wherever the pointer is by then.
-  Hit type = m_typeTook ? CurrentCell(point) : HitTest(point);
-  Hit hit = HitTest(point);
-  int processed = 0;
-  if (type.found) {
-    processed =
-        m_control.GetCellDelegate(type.col, type.row)->OnLClicked(type.col, type.row, 0, &type.rect, &point);
-  }
-  if (!alive) return;
-  m_control.OnLClicked(hit.col, hit.row, 0, &hit.rect, &point, processed);
-  if (!alive) return;
+  if (!Release(kLeft, m_typeTook ? CurrentCell(point) : HitTest(point), point)) return;
   CWnd::ReleaseCapture();
   m_control.ResetDragCell();
   m_leftDown = false;
@@ -94,21 +115,8 @@ void CGridMouse::LeftUp(UINT, CPoint point) {
 
 void CGridMouse::RightDown(UINT flags, CPoint point) {
   if (m_control.GetEditInProgress() != 0) return;
-  const WindowRef alive(&m_window);
-  m_control.GetInfo().view.mouseEvent = MouseEvent::rightDown;
-  m_control.GetInfo().view.mouseFlags = flags;
-  Hit hit = HitTest(point);
-  int processed = 0;
-  if (hit.found) {
-    m_control.GotoCell(hit.col, hit.row);
-    if (!alive) return;
-    processed =
-        m_control.GetCellDelegate(hit.col, hit.row)->OnRClicked(hit.col, hit.row, 1, &hit.rect, &point);
-    if (!alive) return;
-  }
-  m_control.OnRClicked(hit.col, hit.row, 1, &hit.rect, &point, processed);
-  if (!alive) return;
-  m_control.GetInfo().view.mouseEvent = MouseEvent::none;
+  Hit hit;
+  if (!Press(kRight, flags, point, hit)) return;
   m_rightDown = true;
   if (Info().view.menu == 0) return;
   POINT screen = point;
@@ -117,17 +125,7 @@ void CGridMouse::RightDown(UINT flags, CPoint point) {
 }
 
 void CGridMouse::RightUp(UINT, CPoint point) {
-  if (!m_rightDown) return;
-  const WindowRef alive(&m_window);
-  Hit hit = HitTest(point);
-  int processed = 0;
-  if (hit.found) {
-    processed =
-        m_control.GetCellDelegate(hit.col, hit.row)->OnRClicked(hit.col, hit.row, 0, &hit.rect, &point);
-  }
-  if (!alive) return;
-  m_control.OnRClicked(hit.col, hit.row, 0, &hit.rect, &point, processed);
-  if (alive) m_rightDown = false;
+  if (m_rightDown && Release(kRight, HitTest(point), point)) m_rightDown = false;
 }
 
 void CGridMouse::DoubleClick(UINT, CPoint point) {
@@ -153,6 +151,30 @@ void CGridMouse::Move(UINT flags, CPoint point) {
     if (!alive) return;
   }
   if (m_typeTook || !m_leftDown || (flags & MK_LBUTTON) == 0) return;
+  m_dragPoint = point;
+  if (IsOutside(point)) {
+    m_window.SetTimer(kDragTimer, kDragEvery);
+  } else {
+    m_window.KillTimer(kDragTimer);
+  }
+  Extend(hit, point);
+}
+
+/// The selection goes on growing while the pointer rests outside.
+void CGridMouse::TimeElapsed() {
+  if (!m_leftDown || CWnd::GetCapture() != &m_window || m_control.GetEditInProgress() != 0) {
+    m_window.KillTimer(kDragTimer);
+  } else {
+    Extend(HitTest(m_dragPoint), m_dragPoint);
+  }
+}
+
+bool CGridMouse::IsOutside(CPoint point) const {
+  return !CRect(0, 0, Info().columns.Extent(), Info().rows.Extent()).PtInRect(point);
+}
+
+void CGridMouse::Extend(const Hit& hit, CPoint point) {
+  const WindowRef alive(&m_window);
   m_control.GetInfo().view.keepSelectionOnGoto = 1;  // the moves extend the selection
   Drag(hit, point);
   if (alive) m_control.GetInfo().view.keepSelectionOnGoto = 0;

@@ -28,13 +28,25 @@ class COREGUI_API CGridMouse {
   void DoubleClick(UINT flags, CPoint point);
   void Move(UINT flags, CPoint point);
   void Wheel(UINT flags, short delta);
+  static constexpr UINT kDragTimer = 0x710B;  ///< of the body
+  static constexpr UINT kDragEvery = 100;     ///< milliseconds between steps while the pointer rests outside
+  /// That timer went off.
+  void TimeElapsed();
   /// The body gained the focus: no cell type has the button any more.
   void ReleaseType() { m_typeTook = false; }
 
  private:
   struct Hit;
+  struct Button;
+  static const Button kLeft;
+  static const Button kRight;
   Hit HitTest(CPoint point) const;
   Hit CurrentCell(CPoint point) const;
+  int Offer(const Button& button, Hit& hit, int updn, CPoint& point);
+  bool Press(const Button& button, UINT flags, CPoint point, Hit& hit);
+  bool Release(const Button& button, Hit offered, CPoint point);
+  bool IsOutside(CPoint point) const;
+  void Extend(const Hit& hit, CPoint point);
   void Drag(const Hit& hit, CPoint point);
   void DragColumn(const Hit& hit, int x);
   void DragRow(const Hit& hit, int y);
@@ -52,6 +64,7 @@ class COREGUI_API CGridMouse {
   bool m_leftDown = false;  ///< the left button went down in this window
   bool m_rightDown = false;
   bool m_typeTook = false;  ///< the cell type took the left button
+  CPoint m_dragPoint;       ///< where the pointer was during the drag last
 };
 
 }  // namespace coregui

@@ -141,6 +141,14 @@ void CGridSizer::DragLine(int position) {
     if (alive) DrawOutline(position);
   } else {
     m_control.RedrawAll();
+    ShowAtOnce(alive);
+  }
+}
+
+/// A drag is followed without waiting for the events behind it.
+void CGridSizer::ShowAtOnce(const WindowRef& alive) {
+  for (CWnd* const part : {m_control.GetGridWnd(), m_control.GetTopHdgWnd(), m_control.GetSideHdgWnd()}) {
+    if (alive && part != nullptr && part->HasWindow()) part->UpdateWindow();
   }
 }
 

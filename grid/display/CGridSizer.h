@@ -12,6 +12,7 @@ class CWnd;
 namespace coregui {
 
 class CGridAxis;
+class WindowRef;
 
 /// Which of the two headings a room serves.
 enum class HeadingKind { top, side };
@@ -48,6 +49,7 @@ class COREGUI_API CGridSizer {
   void EndLine();
   void TellChanged(int* size);
   void DrawOutline(int position);
+  void ShowAtOnce(const WindowRef& alive);
   void SetLineSize(int size);
   int LineSize() const;
   std::vector<long> LinesAcross() const;

@@ -38,11 +38,16 @@ void CGridTopHdg::PressedOn(const Click& click, CPoint point) {
   m_dragged = false;
 }
 
+/// Whether the pointer is further from the press than a hand trembles.
+bool CGridTopHdg::IsDrag(CPoint point) const {
+  return std::abs(point.x - m_pressed.x) > GetSystemMetrics(SM_CXDRAG);
+}
+
 void CGridTopHdg::DraggedTo(CPoint point) {
   if (m_source < 0) return;
   KillTimer(kScrollTimer);
   m_scrollCode = -1;
-  if (!m_dragged && std::abs(point.x - m_pressed.x) > GetSystemMetrics(SM_CXDRAG)) {
+  if (!m_dragged && IsDrag(point)) {
     m_dragged = true;
     m_painter.MarkLine(m_source);
     Invalidate(FALSE);
@@ -63,7 +68,7 @@ void CGridTopHdg::ReleasedAt(CPoint point) {
   m_source = -1;
   m_scrollCode = -1;
   m_painter.MarkLine(-1);
-  if (!m_dragged) return;
+  if (!m_dragged && !IsDrag(point)) return;
   m_dragged = false;
   Invalidate(FALSE);
   Swap(source, DropColumnAt(point.x));

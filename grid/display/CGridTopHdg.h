@@ -18,6 +18,7 @@ class COREGUI_API CGridTopHdg : public coregui::CGridHeading {
   void TimerElapsed(UINT id) override;
 
  private:
+  bool IsDrag(CPoint point) const;
   int DropColumnAt(int x) const;
   void Swap(int source, int drop);
 

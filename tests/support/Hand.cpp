@@ -7,8 +7,11 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QWheelEvent>
 #include <QWidget>
+#include <array>
 
+#include "platform/CToolTipCtrl.h"
 #include "platform/WindowRef.h"
 #include "platform/qt/interop.h"
 
@@ -131,6 +134,37 @@ void Drag(CWnd& window, CPoint from, CPoint to, const std::function<void()>& hel
   GiveMouse(life, QEvent::MouseMove, to);
   held();
   GiveMouse(life, QEvent::MouseButtonRelease, to);
+}
+
+void StepMouse(CWnd& window, MouseStep step, CPoint at, bool right) {
+  static Qt::MouseButtons held;
+  static constexpr std::array kTypes{QEvent::MouseButtonPress, QEvent::MouseMove, QEvent::MouseButtonRelease,
+                                     QEvent::MouseButtonDblClick};
+  QWidget* const widget = WidgetOf(&window);
+  const QPointF place(at.x, at.y);
+  const Qt::MouseButton button = right ? Qt::RightButton : Qt::LeftButton;
+  held.setFlag(button, step == MouseStep::move ? held.testFlag(button) : step != MouseStep::release);
+  QMouseEvent event(kTypes[static_cast<std::size_t>(step)], place, widget->mapToGlobal(place),
+                    step == MouseStep::move ? Qt::NoButton : button, held, Qt::NoModifier);
+  QApplication::sendEvent(widget, &event);
+}
+
+void TurnWheel(CWnd& window, CPoint at, int delta) {
+  QWidget* const widget = WidgetOf(&window);
+  const QPointF place(at.x, at.y);
+  QWheelEvent event(place, widget->mapToGlobal(place), {}, QPoint(0, delta), Qt::NoButton, Qt::NoModifier,
+                    Qt::NoScrollPhase, false);
+  QApplication::sendEvent(widget, &event);
+}
+
+CString ShownTip() {
+  for (QWidget* const widget : QApplication::topLevelWidgets()) {
+    CWnd* const window = widget->isVisible() ? WindowOf(widget) : nullptr;
+    if (const auto* const tip = dynamic_cast<CToolTipCtrl*>(window); tip != nullptr) {
+      return tip->GetWindowTextString();
+    }
+  }
+  return {};
 }
 
 COLORREF ShownPixel(CWnd& window, CPoint at) {

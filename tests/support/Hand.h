@@ -21,7 +21,15 @@ void DropText(CWnd& window, const wchar_t* text);
 void Click(CWnd& window);
 void ClickAt(CWnd& window, CPoint at);
 /// Presses the button at one place and releases it at another; `held` is called before the release.
-void Drag(CWnd& window, CPoint from, CPoint to, const std::function<void()>& held);
+void Drag(CWnd& window, CPoint from, CPoint to, const std::function<void()>& held = [] {});
+enum class MouseStep { press, move, release, doubleClick };
+/// One step of the mouse at a place of the client area. Moves are made with the button held that the last
+/// press left down.
+void StepMouse(CWnd& window, MouseStep step, CPoint at, bool right = false);
+/// Turns the wheel; 120 are one notch away from the hand.
+void TurnWheel(CWnd& window, CPoint at, int delta);
+/// The text of the tip that is shown; empty when none is.
+CString ShownTip();
 /// The colour of the pixel that the window shows there, children included.
 COLORREF ShownPixel(CWnd& window, CPoint at);
 /// All dots of the screen that the window shows, children included, row by row, as 0xRRGGBB.

@@ -169,20 +169,6 @@ TEST_F(GridPictureTest, AnyWayOfScrollingEndsInTheSamePictureAsPaintingAnew) {
   check("one cell");
 }
 
-TEST_F(GridPictureTest, MessagesReachTheRooms) {
-  Open();
-  CWnd& body = *grid.GetGridWnd();
-  Click(WM_LBUTTONDOWN, Cell(3, 9).TopLeft() + CSize(5, 5));
-  EXPECT_EQ(grid.GetCurrentCol(), 3);
-  EXPECT_EQ(grid.GetCurrentRow(), 9);
-  body.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -240), 0);
-  EXPECT_EQ(grid.GetTopRow(), 6);
-  body.SendMessage(WM_KEYDOWN, VK_DOWN, 0);
-  EXPECT_EQ(grid.GetCurrentRow(), 10);
-  EXPECT_EQ(body.SendMessage(WM_GETDLGCODE), static_cast<LRESULT>(DLGC_WANTARROWS | DLGC_WANTALLKEYS));
-  EXPECT_EQ(body.SendMessage(WM_MOUSEACTIVATE), MA_ACTIVATE);
-}
-
 TEST_F(GridPictureTest, ACheckBoxTogglesWithAClickInItsBox) {
   Open();
   CWnd& body = *grid.GetGridWnd();

@@ -1,0 +1,232 @@
+// The grid under a person's hand: the toolkit's events go in, notifications and pictures come out.
+
+#include "grid/display/CGridMouse.h"
+#include "platform/Keys.h"
+#include "platform/Messages.h"
+#include "tests/grid/GridPicture.h"
+#include "tests/grid/display/FakeGrid.h"
+#include "tests/grid/display/HandGrid.h"
+
+namespace coregui::test {
+namespace {
+
+// --- Clicks
+
+TEST_F(GridHandTest, EveryPartReportsEveryClickWithItsCell) {
+  grid.EnableMenu(1);
+  struct Row {
+    CWnd& part;
+    CPoint at;
+    const char* name;
+    const char* cell;
+    const char* section;
+  };
+  for (const Row& row :
+       {Row{Body(), {60, 30}, "", "1,1", "1"}, Row{Body(), {60, 30}, "", "1,1", "1"},
+        Row{Top(), {75, 10}, "TH", "1,-2", "2"}, Row{Top(), {75, 30}, "TH", "1,-1", "2"},
+        Row{Side(), {10, 30}, "SH", "-1,1", "3"}, Row{Corner(), {10, 10}, "CB", "-1,-1", "4"}}) {
+    const std::string what = row.name;
+    const std::string cell = row.cell;
+    StepMouse(row.part, MouseStep::press, row.at);
+    StepMouse(row.part, MouseStep::release, row.at);
+    EXPECT_EQ(grid.TakeNotes(), what + "L " + cell + " down; " + what + "L " + cell + " up; ");
+    StepMouse(row.part, MouseStep::press, row.at, true);
+    StepMouse(row.part, MouseStep::release, row.at, true);
+    EXPECT_EQ(grid.TakeNotes(), what + "R " + cell + " down; menu " + cell + " in " + row.section + "; " +
+                                    what + "R " + cell + " up; ");
+    StepMouse(row.part, MouseStep::doubleClick, row.at);
+    StepMouse(row.part, MouseStep::release, row.at);
+    EXPECT_EQ(grid.TakeNotes(), what + "D " + cell + "; ");
+    EXPECT_EQ(CWnd::GetFocus(), &Body());
+    EXPECT_EQ(CWnd::GetCapture(), nullptr);
+  }
+}
+
+// --- Sizing
+
+TEST_F(GridHandTest, AnEdgeIsDraggedInOutlineAndLive) {
+  for (const int mode : {1, 2}) {
+    SCOPED_TRACE(mode);
+    grid.SetUserSizingMode(mode);
+    const std::vector<DWORD> before = ShownDots(Body());
+    StepMouse(Top(), MouseStep::move, {101, 30});
+    StepMouse(Top(), MouseStep::press, {101, 30});
+    StepMouse(Top(), MouseStep::move, {121, 30});
+    EXPECT_EQ(grid.TakeNotes(), "col 1 sizing 70; ");
+    EXPECT_EQ(grid.GetColWidth(1), 70);
+    EXPECT_FALSE(ShownDots(Body()) == before) << "the outline, or the new width";
+    StepMouse(Top(), MouseStep::move, {-500, 30});
+    EXPECT_EQ(grid.TakeNotes(), "col 1 sizing 0; ");
+    StepMouse(Top(), MouseStep::move, {101, 30});
+    EXPECT_EQ(ShownDots(Body()) == before, mode == 2) << "the outline alone, or as it was";
+    grid.TakeNotes();
+    StepMouse(Top(), MouseStep::release, {101, 30});
+    EXPECT_EQ(grid.TakeNotes(), "col 1 sized 50; ");
+    CWinApp::PumpPending();
+    EXPECT_EQ(ShownDots(Body()) == before, true) << "as it was";
+  }
+}
+
+TEST_F(GridHandTest, EdgesOfEveryKindAreSized) {
+  Drag(Side(), {10, 41}, {10, 61});
+  EXPECT_EQ(grid.TakeNotes(), "row 1 sizing 40; row 1 sized 40; ");
+  grid.sizedTo = 33;
+  Drag(Side(), {10, 20}, {10, 60});
+  EXPECT_EQ(grid.GetRowHeight(0), 33) << "the notification has the last word";
+  grid.sizedTo = -1;
+  grid.TakeNotes();
+  Drag(Top(), {25, 20}, {25, 26});
+  EXPECT_EQ(grid.TakeNotes(), "top 0 sizing 46; top 0 sized 46; ");
+  EXPECT_EQ(grid.GetTH_Height(), 46);
+  Drag(Corner(), {38, 10}, {58, 10});
+  EXPECT_EQ(grid.TakeNotes(), "side 0 sized 58; ");
+  EXPECT_EQ(grid.GetSH_Width(), 58) << "the edge jumps to the pointer";
+  grid.refuses = "OnTopHdgSizing";
+  Drag(Corner(), {10, 44}, {10, 54});
+  EXPECT_EQ(grid.GetTH_Height(), 54) << "the corner does not ask";
+  CWinApp::PumpPending();
+  EXPECT_EQ(DifferenceToFresh(), "");
+}
+
+TEST_F(GridHandTest, AHiddenColumnIsDraggedOpenAndARefusedOneIsClicked) {
+  grid.SetColWidth(2, 0);
+  Drag(Top(), {100, 30}, {130, 30});
+  EXPECT_EQ(grid.GetColWidth(1), 50);
+  EXPECT_EQ(grid.GetColWidth(2), 30);
+  grid.TakeNotes();
+  grid.refuses = "OnCanSizeCol";
+  Drag(Top(), {49, 30}, {80, 30});
+  EXPECT_EQ(grid.TakeNotes(), "THL 0,-1 down; THL 1,-1 up; ");
+  grid.refuses = "";
+  grid.SetUserSizingMode(0);
+  Drag(Top(), {49, 30}, {80, 30});
+  EXPECT_EQ(grid.GetColWidth(0), 50);
+}
+
+TEST_F(GridHandTest, ADoubleClickOnAnEdgeFitsTheColumn) {
+  grid.QuickSetText(1, 5, L"A text that needs far more than fifty pixels");
+  StepMouse(Top(), MouseStep::doubleClick, {99, 30});
+  EXPECT_GT(grid.GetColWidth(1), 150);
+  EXPECT_EQ(grid.TakeNotes(), "col 1 sized " + std::to_string(grid.GetColWidth(1)) + "; ");
+}
+
+// --- Swapping columns
+
+TEST_F(GridHandTest, AColumnIsDraggedToAnotherPlace) {
+  grid.EnableColSwapping(1);
+  Drag(Top(), {75, 30}, {190, 30});  // right half of column 3
+  EXPECT_THAT(grid.TakeNotes(), testing::HasSubstr("swap 1 to 3?; swapped 1 to 3; "));
+  EXPECT_EQ(Texts(5), "c0 c2 c3 c1 c4 ");
+  Drag(Top(), {175, 30}, {10, 30});
+  EXPECT_THAT(grid.TakeNotes(), testing::HasSubstr("swapped 3 to 0; "));
+  EXPECT_EQ(Texts(5), "c1 c0 c2 c3 c4 ");
+  for (const char* refused : {"OnCanColSwap", "OnColSwapStart"}) {
+    grid.refuses = refused;
+    Drag(Top(), {75, 30}, {190, 30});
+    EXPECT_EQ(Texts(5), "c1 c0 c2 c3 c4 ") << refused;
+  }
+  EXPECT_EQ(DifferenceToFresh(), "");
+}
+
+TEST_F(GridHandTest, ADraggedColumnScrollsTheViewWhileThePointerRestsBesideIt) {
+  grid.EnableColSwapping(1);
+  StepMouse(Top(), MouseStep::press, {75, 30});
+  StepMouse(Top(), MouseStep::move, {400, 30});
+  PumpUntil([this] { return grid.GetLeftCol() >= 3; });
+  StepMouse(Top(), MouseStep::move, {25, 30});
+  const int left = grid.GetLeftCol();
+  StepMouse(Top(), MouseStep::release, {20, 30});
+  EXPECT_THAT(grid.TakeNotes(), testing::HasSubstr("swapped 1 to " + std::to_string(left - 1)));
+}
+
+// --- Selecting
+
+TEST_F(GridHandTest, ADragSelectsAndGoesOnWhileThePointerRestsOutside) {
+  grid.SetMultiSelectMode(1);
+  StepMouse(Body(), MouseStep::press, {60, 30});
+  StepMouse(Body(), MouseStep::move, {110, 70});
+  EXPECT_TRUE(grid.IsSelected(1, 1) != 0 && grid.IsSelected(2, 3) != 0 && grid.IsSelected(3, 3) == 0) << grid;
+  StepMouse(Body(), MouseStep::move, {110, 500});
+  PumpUntil([this] { return grid.GetTopRow() >= 3; });
+  EXPECT_NE(grid.IsSelected(2, grid.GetTopRow() + 2), 0) << grid;
+  StepMouse(Body(), MouseStep::move, {110, 70});
+  EXPECT_FALSE(Body().KillTimer(CGridMouse::kDragTimer)) << "back inside it rests";
+  StepMouse(Body(), MouseStep::move, {110, 500});
+  StepMouse(Body(), MouseStep::release, {110, 500});
+  EXPECT_FALSE(Body().KillTimer(CGridMouse::kDragTimer));
+  EXPECT_NE(grid.IsSelected(1, 1), 0);
+  EXPECT_EQ(DifferenceToFresh(), "");
+}
+
+// --- Wheel and keys
+
+TEST_F(GridHandTest, WheelAndKeysLeaveThePictureOfPaintingAnew) {
+  Body().SetFocus();
+  grid.GotoCell(1, 1);
+  struct Row {
+    const char* name;
+    std::function<void()> act;
+    int col;
+    long row;
+    int left;
+    long top;
+  };
+  const auto key = [this](UINT vk, bool control) {
+    return [this, vk, control] { PressKey(Body(), vk, control); };
+  };
+  for (const Row& row :
+       {Row{"notch",
+            [this] {
+              TurnWheel(Body(), {5, 5}, -120);
+            },
+            1, 1, 0, 3},
+        Row{"half",
+            [this] {
+              TurnWheel(Body(), {5, 5}, -60);
+            },
+            1, 1, 0, 3},
+        Row{"the other half",
+            [this] {
+              TurnWheel(Body(), {5, 5}, -60);
+            },
+            1, 1, 0, 6},
+        Row{"down", key(VK_DOWN, false), 1, 2, 0, 2}, Row{"right", key(VK_RIGHT, false), 2, 2, 0, 2},
+        Row{"end", key(VK_END, false), 19, 2, 15, 2}, Row{"ctrl end", key(VK_END, true), 19, 99, 15, 92},
+        Row{"up", key(VK_UP, false), 19, 98, 15, 92}, Row{"home", key(VK_HOME, false), 0, 98, 0, 92},
+        Row{"ctrl home", key(VK_HOME, true), 0, 0, 0, 0}}) {
+    SCOPED_TRACE(row.name);
+    row.act();
+    CWinApp::PumpPending();
+    EXPECT_EQ(At(grid.GetCurrentCol(), grid.GetCurrentRow()), At(row.col, row.row));
+    EXPECT_EQ(At(grid.GetLeftCol(), grid.GetTopRow()), At(row.left, row.top));
+    EXPECT_EQ(DifferenceToFresh(), "");
+  }
+}
+
+TEST_F(GridHandTest, TheBodyWantsAllKeysAndIsActivatedByAClick) {
+  EXPECT_EQ(Body().SendMessage(WM_GETDLGCODE), static_cast<LRESULT>(DLGC_WANTARROWS | DLGC_WANTALLKEYS));
+  EXPECT_EQ(Body().SendMessage(WM_MOUSEACTIVATE), MA_ACTIVATE);
+}
+
+// --- Tips
+
+TEST_F(GridHandTest, ATipShowsWhereThePointerRestsInEveryPart) {
+  grid.UseHints(1);
+  StepMouse(Body(), MouseStep::move, {60, 30});
+  PumpUntil([] { return !ShownTip().IsEmpty(); });
+  EXPECT_EQ(ShownTip(), L"1,1 in 1");
+  StepMouse(Body(), MouseStep::move, {60, 35});
+  EXPECT_EQ(ShownTip(), L"1,1 in 1") << "it stays over its cell";
+  StepMouse(Body(), MouseStep::move, {60, 50});
+  EXPECT_EQ(ShownTip(), L"") << "and goes with it";
+  PumpUntil([] { return !ShownTip().IsEmpty(); });
+  EXPECT_EQ(ShownTip(), L"1,2 in 1");
+  PressKey(Body(), VK_DOWN);
+  EXPECT_EQ(ShownTip(), L"");
+  StepMouse(Top(), MouseStep::move, {75, 30});
+  PumpUntil([] { return !ShownTip().IsEmpty(); });
+  EXPECT_EQ(ShownTip(), L"1,-1 in 2");
+}
+
+}  // namespace
+}  // namespace coregui::test
