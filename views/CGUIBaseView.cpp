@@ -1,6 +1,7 @@
 #include "views/CGUIBaseView.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 
 CGUIBaseView::CGUIBaseView(double vertRatio, CWnd* parent) : m_parent(parent) {
@@ -65,6 +66,7 @@ bool CGUIBaseView::Tell(EVENT_TYPE event) {
   if (m_hook == nullptr) {
     return true;
   }
+  const OverlayPause pause(*this);
   const Life life = m_life;
   const PNT_2D_record position = m_currentPos;  // the hook may move it, or destroy it with the view
   m_hook(position, event, m_keyFlags, m_inKey ? m_lastKey : '\0', m_parent.Get());
@@ -72,10 +74,15 @@ bool CGUIBaseView::Tell(EVENT_TYPE event) {
 }
 
 void CGUIBaseView::DoZoom(PNT_2D_record const& centre, double newScale, bool moveCursor) {
+  NoteForHistory();
+  ZoomTo(centre, newScale, moveCursor);
+}
+
+void CGUIBaseView::ZoomTo(PNT_2D_record const& centre, double newScale, bool moveCursor) {
   using Result = coregui::CViewMapping::ZoomResult;
   const PNT_2D_record middle = centre;  // `centre` may be the current position, which changes below
   const Life life = m_life;
-  NoteForHistory();
+  const OverlayPause pause(*this);
   const Result result = m_mapping.Zoom(middle, newScale, ClientSize());
   if (result == Result::refit) {
     Redraw();
@@ -108,20 +115,25 @@ void CGUIBaseView::GetZoomRect(FRect& r) const {
 }
 
 void CGUIBaseView::ZoomAt(CPoint at, double factor) {
-  if (!m_initialised || m_isSlave || !(factor > 0.0)) {
-    return;
+  if (m_initialised && !m_isSlave && factor > 0.0) {
+    NoteForHistory();
+    ZoomAround(at, factor);
   }
+}
+
+void CGUIBaseView::ZoomAround(CPoint at, double factor) {
   // The middle of the client area is where a zoom puts its centre.
   const CSize client = ClientSize();
   const PNT_2D_record held = m_mapping.WindowToUser(at);
   const PNT_2D_record middle = m_mapping.WindowToUser({client.cx / 2, client.cy / 2});
-  DoZoom({held.x + (middle.x - held.x) / factor, held.y + (middle.y - held.y) / factor},
+  ZoomTo({held.x + (middle.x - held.x) / factor, held.y + (middle.y - held.y) / factor},
          m_mapping.now.scale / factor, false);
 }
 
-void CGUIBaseView::NoteForHistory() {
+void CGUIBaseView::NoteForHistory(coregui::CViewHistory::Gesture gesture) {
   if (m_options.history) {
-    m_history.Note(m_mapping.now);
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    m_history.Note(m_mapping.now, gesture, std::chrono::duration<double>(now).count());
   }
 }
 
@@ -147,9 +159,7 @@ bool CGUIBaseView::GoForward() {
 }
 
 void CGUIBaseView::SetCurrentPos(PNT_2D_record const& p, bool force) {
-  if (m_options.crossHair || m_measuring) {
-    Invalidate(TRUE);
-  }
+  const OverlayPause pause(*this);
   m_currentPos = p;
   m_basePoint = p;
   m_hasPosition = true;

@@ -10,6 +10,7 @@
 #include "platform/WindowRef.h"
 #include "views/CPanGesture.h"
 #include "views/CPlotSheet.h"
+#include "views/CPositionOverlay.h"
 #include "views/CViewHistory.h"
 #include "views/CViewMapping.h"
 #include "views/CZoomBox.h"
@@ -59,7 +60,7 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
   void SetBackgroundColour(COLORREF colour) { m_background = colour; }
   /// Shown while the pointer rests on the view; empty: nothing.
   void SetTooltip(const CString& text);
-  void SetOptions(Options const& options) { m_options = options; }
+  void SetOptions(Options const& options);
   const Options& GetOptions() const { return m_options; }
   /// The points that tracking snaps to; borrowed, null: none.
   void SetSnapSeries(const CPlotSeries* series) { m_snapSeries = series; }
@@ -173,6 +174,19 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
  private:
   /// Tells whether the view outlived a call of foreign code.
   using Life = std::weak_ptr<int>;
+  /// The overlay is away while one of these lives: its view's pixels are those of the picture, for whoever
+  /// draws on them. Afterwards it shows the position then.
+  class OverlayPause {
+   public:
+    explicit OverlayPause(CGUIBaseView& view);
+    ~OverlayPause();
+    OverlayPause(const OverlayPause&) = delete;
+    OverlayPause& operator=(const OverlayPause&) = delete;
+
+   private:
+    CGUIBaseView& m_view;
+    Life m_life;
+  };
   struct KeyAction {
     char key;
     void (CGUIBaseView::*act)();
@@ -185,16 +199,19 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
   void NotifyParent();
   bool Tell(EVENT_TYPE event);
   bool TellButton(EVENT_TYPE event, UINT flags, char button);
-  void NoteForHistory();
+  void NoteForHistory(coregui::CViewHistory::Gesture gesture = coregui::CViewHistory::Gesture::single);
+  void ZoomTo(PNT_2D_record const& centre, double newScale, bool moveCursor);
+  void ZoomAround(CPoint at, double factor);
   void Track(UINT flags, CPoint point);
   bool PanStep(CPoint point);
   void ScrollFor(CSize moved);
   PNT_2D_record Snapped(CPoint pointer) const;
   void ActivateTooltip();
-  void DrawCrossHair(CDC& dc);
-  void DrawMeasure(CDC& dc);
-  void DrawLabel(CDC& dc, CPoint at, const CString& text);
+  CString GetReadOut() const;
+  void ShowOverlay();
+  void HideOverlay();
   void ShowPlace();
+  LRESULT OnCaptureChanged(WPARAM wParam, LPARAM lParam);
   LRESULT OnPinch(WPARAM wParam, LPARAM lParam);
   LRESULT OnTouchPan(WPARAM wParam, LPARAM lParam);
   LRESULT OnWantPan(WPARAM wParam, LPARAM lParam);
@@ -202,6 +219,7 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
 
   void KeyZoomIn() { DoZoom(m_currentPos, m_mapping.now.scale * 0.5, true); }
   void KeyZoomOut() { DoZoom(m_currentPos, m_mapping.now.scale * 2.0, true); }
+  void KeyFit();
   void KeyRepaint() { Invalidate(TRUE); }
   void KeyRecentre() { DoZoom(m_currentPos, m_mapping.now.scale, false); }
   void KeyZoomBox();
@@ -230,6 +248,8 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
   PNT_2D_record m_basePoint;
   PNT_2D_record m_measureStart;
   bool m_measuring = false;
+  coregui::CPositionOverlay m_overlay;
+  int m_overlayPauses = 0;
   coregui::CPanGesture m_pan;
   bool m_initialised = false;
   bool m_zoomBoxMode = false;

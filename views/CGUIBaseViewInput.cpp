@@ -1,12 +1,10 @@
 #include "views/CGUIBaseView.h"
 #include "views/FindPoint.h"
 
-// What reaches a view from outside: messages, keys, the pointer.
+// What reaches a view from outside: messages, buttons, the pointer.
 
 namespace {
 
-constexpr COLORREF kBoxColour = 0xFEFEFE;
-constexpr UINT kEscape = 27;
 constexpr double kWheelStep = 1.25;
 
 }  // namespace
@@ -32,6 +30,7 @@ const coregui::MessageTable& CGUIBaseView::GetMessageTable() const {
                                                  .On<WM_CHAR>(&View::OnChar)
                                                  .On<WM_GETDLGCODE>(&View::OnGetDlgCode)
                                                  .On<WM_DESTROY>(&View::OnDestroy)
+                                                 .OnMessage(WM_CAPTURECHANGED, &View::OnCaptureChanged)
                                                  .OnMessage(WM_COREGUI_PINCH, &View::OnPinch)
                                                  .OnMessage(WM_COREGUI_PAN, &View::OnTouchPan)
                                                  .OnMessage(WM_COREGUI_WANTPAN, &View::OnWantPan);
@@ -53,113 +52,6 @@ BOOL CGUIBaseView::OnSetCursor(CWnd* /*window*/, UINT /*hitTest*/, UINT /*messag
   }
   SetCursor(m_cursor);
   return TRUE;
-}
-
-// --- Keys
-
-const CGUIBaseView::KeyAction CGUIBaseView::kKeyActions[] = {
-    {'m', &CGUIBaseView::KeyZoomIn},  {'d', &CGUIBaseView::KeyZoomOut},  {'r', &CGUIBaseView::Redraw},
-    {'s', &CGUIBaseView::KeyRepaint}, {'w', &CGUIBaseView::KeyRecentre}, {'z', &CGUIBaseView::KeyZoomBox},
-};
-
-void CGUIBaseView::OnChar(UINT character, UINT /*repeat*/, UINT /*flags*/) {
-  ProcessKeys(character);
-}
-
-void CGUIBaseView::ProcessKeys(UINT character) {
-  const bool control = GetKeyState(VK_CONTROL) < 0;
-  const int kept = m_keyFlags & ~(KEYFLAG_SHIFT | KEYFLAG_CTRL);
-  m_keyFlags = static_cast<char>(kept | (GetKeyState(VK_SHIFT) < 0 ? KEYFLAG_SHIFT : 0) |
-                                 (control ? KEYFLAG_CTRL : 0));
-  const UINT key = control ? character + 64 : character;
-  m_lastKey = static_cast<char>(key);
-  m_lastEvent = EVENT_KEY;
-  if (!m_initialised) {
-    return;
-  }
-  const Life life = m_life;
-  m_inKey = true;
-  const UINT lower = key >= 'A' && key <= 'Z' ? key + ('a' - 'A') : key;
-  const KeyAction* action = nullptr;
-  for (const KeyAction& row : kKeyActions) {
-    if (static_cast<UINT>(row.key) == lower) action = &row;
-  }
-  if (m_zoomBoxMode) {
-    if (key == kEscape) {
-      ZoomBox(ZOOM_CANCEL);
-    } else if (key == VK_SPACE) {
-      ZoomBox(ZOOM_KEY);
-    }
-  } else if (action == nullptr) {
-    Tell(key == kEscape ? EVENT_ESCAPE : EVENT_KEY);
-  } else if (!m_isSlave) {
-    (this->*action->act)();
-  }
-  if (!life.expired()) {
-    m_inKey = false;
-  }
-}
-
-void CGUIBaseView::KeyZoomBox() {
-  m_zoomBoxMode = true;
-  if (m_pan.IsActive()) {
-    m_pan.Stop();  // its release would go to the box
-    ReleaseCapture();
-  }
-  Tell(EVENT_ZOOM_MODE);
-}
-
-void CGUIBaseView::EscapePressed() {
-  const Life life = m_life;
-  m_drawMode = R2_COPYPEN;
-  if (m_zoomBoxMode) {
-    ZoomBox(ZOOM_CANCEL);
-  }
-  if (!life.expired()) {
-    Invalidate(TRUE);
-  }
-}
-
-// --- Zoom box
-
-int CGUIBaseView::ZoomBox(ZOOM_EVENT event) {
-  coregui::CZoomBox& box = coregui::CZoomBox::Shared();
-  const CPoint at = m_mapping.UserToWindow(m_currentPos);
-  switch (event) {
-    case ZOOM_MOVE:
-      box.Move(*this, at);
-      break;
-    case ZOOM_CLICK:
-      box.Click(*this, at);
-      break;
-    case ZOOM_KEY:
-      box.Key(*this, m_lastKey);
-      break;
-    case ZOOM_CANCEL:
-      box.Cancel(*this);
-      break;
-  }
-  return 1;
-}
-
-void CGUIBaseView::DrawBoxOutline(CPoint anchor, CPoint corner) {
-  // What is still to be painted must come before the outline, or it would cover half of an exclusive-or.
-  UpdateWindow();
-  m_drawMode = R2_XORPEN;
-  DrawRect(anchor, corner, kBoxColour);
-  m_drawMode = R2_COPYPEN;
-}
-
-void CGUIBaseView::ReleaseFromBox() {
-  if (GetCapture() == this) {
-    ReleaseCapture();
-  }
-}
-
-bool CGUIBaseView::ZoomToBox(CPoint anchor, CPoint corner) {
-  const Life life = m_life;
-  ZoomRect(FRect(m_mapping.WindowToUser(anchor), m_mapping.WindowToUser(corner)));
-  return !life.expired();
 }
 
 // --- Buttons
@@ -221,41 +113,6 @@ void CGUIBaseView::OnRButtonUp(UINT flags, CPoint /*point*/) {
     return;
   }
   TellButton(EVENT_BUTTON_UP, flags, KEYFLAG_RIGHT);
-}
-
-void CGUIBaseView::OnMButtonDown(UINT flags, CPoint point) {
-  if (!m_initialised || m_zoomBoxMode) {
-    return;
-  }
-  const Life life = m_life;
-  SetFocus();
-  if (!m_isSlave) {
-    NoteForHistory();
-    m_pan.Start(point);
-    SetCapture();
-    NotifyParent();
-  }
-  if (!life.expired()) {
-    TellButton(EVENT_OTHER_DOWN, flags, KEYFLAG_MIDDLE);
-  }
-}
-
-void CGUIBaseView::OnMButtonUp(UINT flags, CPoint /*point*/) {
-  if (!m_initialised || m_zoomBoxMode) {
-    return;
-  }
-  const Life life = m_life;
-  if (!m_isSlave) {
-    m_pan.Stop();
-    if (GetCapture() == this) {
-      ReleaseCapture();
-    }
-    Invalidate(TRUE);
-    NotifyParent();
-  }
-  if (!life.expired()) {
-    TellButton(EVENT_BUTTON_UP, flags, KEYFLAG_MIDDLE);
-  }
 }
 
 BOOL CGUIBaseView::OnMouseWheel(UINT /*flags*/, short delta, CPoint screen) {
@@ -331,22 +188,22 @@ LRESULT CGUIBaseView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void CGUIBaseView::OnMouseLeave() {
+  const OverlayPause pause(*this);
   m_tracking = false;
   m_hasPosition = false;
-  if (m_options.crossHair) {
-    Invalidate(TRUE);
-  }
 }
 
 void CGUIBaseView::Track(UINT flags, CPoint point) {
   // Only another pixel replaces the position: one that the program set exactly survives the pointer that
   // follows it.
   if (m_mapping.UserToWindow(m_currentPos) == point) {
+    if (!m_hasPosition) {  // it came back where it left
+      const OverlayPause pause(*this);
+      m_hasPosition = true;
+    }
     return;
   }
-  if (m_options.crossHair || m_measuring) {
-    Invalidate(TRUE);
-  }
+  const OverlayPause pause(*this);
   m_currentPos = Snapped(point);
   m_hasPosition = true;
   m_keyFlags = KeyFlagsOf(flags);
@@ -371,65 +228,4 @@ PNT_2D_record CGUIBaseView::Snapped(CPoint pointer) const {
     }
   }
   return position;
-}
-
-bool CGUIBaseView::PanStep(CPoint point) {
-  CSize moved;
-  if (!m_pan.Step(point, m_mapping, &moved)) {
-    return true;
-  }
-  const Life life = m_life;
-  ScrollFor(moved);
-  if (m_slave == nullptr) {
-    NotifyParent();
-  }
-  return !life.expired() && Tell(EVENT_PAN);
-}
-
-void CGUIBaseView::ScrollFor(CSize moved) {
-  const CRect client = GetClientRectangle();
-  const coregui::CPanGesture::Scroll scroll = coregui::CPanGesture::ScrollFor(moved, m_mapping, client);
-  ScrollWindow(scroll.by.cx, scroll.by.cy, &scroll.area, &scroll.area, TRUE);
-  if (!scroll.strip.IsRectEmpty()) {
-    ScrollWindow(0, scroll.by.cy, &scroll.strip, &scroll.strip, TRUE);
-  }
-  if (scroll.whole) {
-    Invalidate(TRUE);
-  }
-  if (m_slave == nullptr) {
-    return;
-  }
-  m_slave->m_mapping.now.offsetX = m_mapping.now.offsetX;
-  const CRect theirs = m_slave->GetClientRectangle();
-  const CRect area = scroll.whole ? theirs : coregui::CPanGesture::DrawingArea(m_mapping, theirs);
-  m_slave->ScrollWindow(moved.cx, 0, &area, &area, TRUE);
-}
-
-// --- Touchpad
-
-LRESULT CGUIBaseView::OnPinch(WPARAM wParam, LPARAM lParam) {
-  if (!m_options.touchpad || m_zoomBoxMode) {
-    return Default();
-  }
-  ZoomAt(CPoint::FromLParam(lParam), static_cast<double>(wParam) / 65536.0);
-  return 1;
-}
-
-LRESULT CGUIBaseView::OnWantPan(WPARAM /*wParam*/, LPARAM /*lParam*/) {
-  return m_options.touchpad && m_initialised && !m_isSlave && !m_zoomBoxMode ? 1 : 0;
-}
-
-LRESULT CGUIBaseView::OnTouchPan(WPARAM /*wParam*/, LPARAM lParam) {
-  if (OnWantPan(0, 0) == 0) {
-    return 0;
-  }
-  const bool wasPanning = m_pan.IsActive();
-  NoteForHistory();
-  m_pan.Start({0, 0});
-  const Life life = m_life;
-  PanStep(CPoint::FromLParam(lParam));
-  if (!life.expired() && !wasPanning) {
-    m_pan.Stop();
-  }
-  return 1;
 }

@@ -12,8 +12,14 @@ bool IsSame(const CViewMapping::Scale& a, const CViewMapping::Scale& b) {
 
 }  // namespace
 
-void CViewHistory::Note(const CViewMapping::Scale& now) {
+void CViewHistory::Note(const CViewMapping::Scale& now, Gesture gesture, double seconds) {
+  const bool continues = gesture != Gesture::single && gesture == m_gesture && seconds - m_time < kPause;
+  m_gesture = gesture;
+  m_time = seconds;
   m_forward.clear();
+  if (continues) {
+    return;
+  }
   if (!m_back.empty() && IsSame(m_back.back(), now)) {
     return;
   }
@@ -31,8 +37,13 @@ bool CViewHistory::Go(Places& from, Places& to, CViewMapping::Scale& now) {
   if (from.empty()) {
     return false;
   }
+  m_gesture = Gesture::single;
   to.push_back(now);
+  const CViewMapping::Scale window = now;
   now = from.back();
+  now.fitScale = window.fitScale;
+  now.dpiX = window.dpiX;
+  now.dpiY = window.dpiY;
   from.pop_back();
   return true;
 }

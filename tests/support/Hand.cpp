@@ -85,7 +85,56 @@ QImage Picture(CWnd& window) {
   return WidgetOf(&window)->grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
+Qt::MouseButtons ButtonsOf(UINT flags) {
+  Qt::MouseButtons buttons;
+  buttons.setFlag(Qt::LeftButton, (flags & MK_LBUTTON) != 0);
+  buttons.setFlag(Qt::RightButton, (flags & MK_RBUTTON) != 0);
+  buttons.setFlag(Qt::MiddleButton, (flags & MK_MBUTTON) != 0);
+  return buttons;
+}
+
+void GiveMouse(CWnd& window, QEvent::Type type, CPoint at, UINT button, UINT flags) {
+  QWidget* widget = WidgetOf(&window);
+  const QPointF place(at.x, at.y);
+  Qt::KeyboardModifiers modifiers;
+  modifiers.setFlag(Qt::ShiftModifier, (flags & MK_SHIFT) != 0);
+  modifiers.setFlag(Qt::ControlModifier, (flags & MK_CONTROL) != 0);
+  QMouseEvent event(type, place, widget->mapToGlobal(place),
+                    static_cast<Qt::MouseButton>(ButtonsOf(button).toInt()), ButtonsOf(flags), modifiers);
+  QApplication::sendEvent(widget, &event);
+}
+
+void GiveWheel(CWnd& window, CPoint at, QPoint pixels, QPoint angle, Qt::ScrollPhase phase) {
+  QWidget* widget = WidgetOf(&window);
+  const QPointF place(at.x, at.y);
+  QWheelEvent event(place, widget->mapToGlobal(place), pixels, angle, Qt::NoButton, Qt::NoModifier, phase,
+                    false);
+  QApplication::sendEvent(widget, &event);
+}
+
 }  // namespace
+
+void MovePointer(CWnd& window, CPoint at, UINT flags) {
+  GiveMouse(window, QEvent::MouseMove, at, 0, flags);
+}
+
+void PressButton(CWnd& window, UINT button, CPoint at) {
+  GiveMouse(window, QEvent::MouseButtonPress, at, button, button);
+}
+
+void ReleaseButton(CWnd& window, UINT button, CPoint at) {
+  GiveMouse(window, QEvent::MouseButtonRelease, at, button, 0);
+}
+
+void TakePointerAway(CWnd& window) {
+  QEvent event(QEvent::Leave);
+  QApplication::sendEvent(WidgetOf(&window), &event);
+}
+
+void SlideTwoFingers(CWnd& window, CPoint at, CSize by) {
+  const QPoint pixels(by.cx, by.cy);
+  GiveWheel(window, at, pixels, pixels * 8, Qt::ScrollUpdate);
+}
 
 void PressKey(CWnd& window, UINT key, bool control, bool shift) {
   Qt::KeyboardModifiers modifiers;

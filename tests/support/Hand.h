@@ -30,6 +30,15 @@ void StepMouse(CWnd& window, MouseStep step, CPoint at, bool right = false);
 void TurnWheel(CWnd& window, CPoint at, int delta);
 /// The text of the tip that is shown; empty when none is.
 CString ShownTip();
+/// Moves the pointer over a place; `flags` are the buttons and keys held (MK_).
+void MovePointer(CWnd& window, CPoint at, UINT flags = 0);
+/// Presses or releases one button (MK_LBUTTON, MK_RBUTTON or MK_MBUTTON).
+void PressButton(CWnd& window, UINT button, CPoint at);
+void ReleaseButton(CWnd& window, UINT button, CPoint at);
+/// The pointer leaves the window.
+void TakePointerAway(CWnd& window);
+/// One step of two fingers on a touchpad.
+void SlideTwoFingers(CWnd& window, CPoint at, CSize by);
 /// The colour of the pixel that the window shows there, children included.
 COLORREF ShownPixel(CWnd& window, CPoint at);
 /// All dots of the screen that the window shows, children included, row by row, as 0xRRGGBB.

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
-#include "platform/CBitmap.h"
 #include "platform/CDC.h"
 #include "tests/views/ViewFixture.h"
 
@@ -39,15 +39,15 @@ TEST_F(PlotView, InitViewFitsNotifiesAndRepaints) {
 }
 
 TEST_F(PlotView, TheWheelZoomsAroundThePositionByAQuarter) {
-  view->Wheel(-120);
+  view->Wheel(-1);
   EXPECT_DOUBLE_EQ(view->GetScale(), 0.625);
-  view->Wheel(120);
-  view->Wheel(0);
+  view->Wheel(1);
+  view->SendMessage(WM_MOUSEWHEEL, 0, 0);  // no direction counts as towards the drawing
   EXPECT_DOUBLE_EQ(view->GetScale(), 0.4);
   EXPECT_EQ(Hook::Taken(), "2 2 2 ") << "the pointer follows the position";
   EXPECT_EQ(view->UserToWindow(view->GetCurrentPos()), CPoint(100, 50));
   view->SendMessage(WM_CHAR, 'z');
-  view->Wheel(120);
+  view->Wheel(1);
   EXPECT_DOUBLE_EQ(view->GetScale(), 0.4) << "not while a zoom box is meant";
 }
 
@@ -71,7 +71,7 @@ TEST_F(PlotView, KeysZoomFitRecentreAndPassTheRestOn) {
   EXPECT_TRUE(view->GetUpdateRect(nullptr));
   EXPECT_EQ(parent.changes, changes) << "a repaint is no change";
   view->SendMessage(WM_CHAR, 'x');
-  view->SendMessage(WM_CHAR, 27);
+  view->Key(VK_ESCAPE);
   EXPECT_EQ(Hook::Taken(), "6(x) 5(\x1b) ");
 }
 
@@ -114,7 +114,7 @@ TEST_F(PlotView, TrackingReplacesThePositionOnlyOnAnotherPixel) {
   view->Move({12, 50}, MK_SHIFT | MK_CONTROL | MK_LBUTTON);
   EXPECT_EQ(Hook::lastFlags, KEYFLAG_SHIFT | KEYFLAG_CTRL | KEYFLAG_LEFT);
   Hook::Taken();
-  view->SendMessage(WM_MOUSELEAVE);
+  coregui::test::TakePointerAway(*view);
   view->Move({13, 50});
   EXPECT_EQ(Hook::Taken(), "2 12 ");
 }
@@ -130,13 +130,13 @@ TEST_F(PlotView, TheToleranceOfAccurateCoordinatesIsKept) {
 TEST_F(PlotView, ButtonsTellTheHook) {
   view->Move({10, 50});
   Hook::Taken();
-  view->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(90, 50));
+  view->Press(MK_LBUTTON, {90, 50});
   EXPECT_EQ(Hook::lastPosition.x, 5) << "a press leaves the position";
   EXPECT_EQ(Hook::lastFlags, KEYFLAG_LEFT);
-  view->SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(90, 50));
+  view->Release(MK_LBUTTON, {90, 50});
   EXPECT_EQ(Hook::lastPosition.x, 45) << "a left release moves it first";
-  view->SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(10, 50));
-  view->SendMessage(WM_RBUTTONUP, 0, MAKELPARAM(10, 50));
+  view->Press(MK_RBUTTON, {10, 50});
+  view->Release(MK_RBUTTON, {10, 50});
   EXPECT_EQ(Hook::lastPosition.x, 45);
   EXPECT_EQ(Hook::lastFlags, KEYFLAG_RIGHT);
   EXPECT_EQ(Hook::Taken(), "0 1 4 1 ");
@@ -145,10 +145,10 @@ TEST_F(PlotView, ButtonsTellTheHook) {
 TEST_F(PlotView, AZoomBoxDraggedZoomsAndTells) {
   view->SendMessage(WM_CHAR, 'Z');
   view->Move({20, 42});
-  view->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 42));
+  view->Press(MK_LBUTTON, {20, 42});
   EXPECT_EQ(CWnd::GetCapture(), view.get());
   view->Move({60, 58}, MK_LBUTTON);
-  view->SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(60, 58));
+  view->Release(MK_LBUTTON, {60, 58});
   EXPECT_EQ(Hook::Taken(), "13(Z) 12 14 15 ");
   EXPECT_EQ(CWnd::GetCapture(), nullptr);
   EXPECT_DOUBLE_EQ(view->GetScale(), 20.0 / 200);
@@ -162,29 +162,28 @@ TEST_F(PlotView, AFlatZoomBoxDoesNotZoomButTells) {
   view->ZoomBox(CGUIBaseView::ZOOM_CLICK);
   view->Move({60, 42});
   Hook::Taken();
-  view->SendMessage(WM_CHAR, ' ');
+  view->Key(VK_SPACE);
   EXPECT_EQ(Hook::Taken(), "15( ) ");
   EXPECT_EQ(view->GetScale(), 0.5);
 }
 
 TEST_F(PlotView, EscapeAndTheRightButtonCancelTheBoxAndRestoreThePixels) {
-  view->UpdateWindow();
-  const std::string before = view->Pixels();
+  const std::vector<DWORD> before = view->Picture();
   view->SendMessage(WM_CHAR, 'z');
   view->Move({20, 42});
   view->ZoomBox(CGUIBaseView::ZOOM_CLICK);
   view->Move({60, 58});
-  EXPECT_NE(view->Pixels(), before);
+  EXPECT_NE(view->Picture(), before);
   view->Invalidate();
   view->UpdateWindow();  // painting in the middle must not break the exclusive-or
   view->Move({70, 68});
   Hook::Taken();
-  view->SendMessage(WM_CHAR, 27);
+  view->Key(VK_ESCAPE);
   EXPECT_EQ(Hook::Taken(), "5(\x1b) ");
-  EXPECT_EQ(view->Pixels(), before);
+  EXPECT_EQ(view->Picture(), before);
   view->SendMessage(WM_CHAR, 'z');
   view->ZoomBox(CGUIBaseView::ZOOM_CLICK);
-  view->SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(1, 1));
+  view->Press(MK_RBUTTON, {1, 1});
   EXPECT_EQ(Hook::Taken(), "13(z) 14 5 ");
 }
 
@@ -192,19 +191,17 @@ TEST_F(PlotView, TheMiddleButtonPansAndKeepsThePicture) {
   view->AddLayer(0, [](CGUIBaseView& plot) { plot.PlotLine({10, 2}, {90, 8}); });
   view->UpdateWindow();
   parent.changes = 0;
-  view->SendMessage(WM_MBUTTONDOWN, MK_MBUTTON, MAKELPARAM(50, 50));
+  view->Press(MK_MBUTTON, {50, 50});
   EXPECT_EQ(parent.changes, 1);
   view->Move({53, 47}, MK_MBUTTON);
   view->Move({57, 49}, MK_MBUTTON);
   EXPECT_EQ(parent.changes, 3);
   EXPECT_EQ(view->UserToWindow({0, 10}), CPoint(7, 39));
-  view->UpdateWindow();
-  const std::string panned = view->Pixels();
-  view->SendMessage(WM_MBUTTONUP, 0, MAKELPARAM(57, 49));
+  const std::vector<DWORD> panned = view->Picture();
+  view->Release(MK_MBUTTON, {57, 49});
   EXPECT_EQ(parent.changes, 4);
   EXPECT_EQ(Hook::Taken(), "4 16 12 16 1 ");
-  view->UpdateWindow();
-  EXPECT_EQ(view->Pixels(), panned) << "moved pixels are those of a fresh drawing";
+  EXPECT_EQ(view->Picture(), panned) << "moved pixels are those of a fresh drawing";
   view->Move({80, 80});
   EXPECT_EQ(view->UserToWindow({0, 10}), CPoint(7, 39)) << "released";
 }
@@ -229,14 +226,14 @@ TEST_F(PlotView, ASlaveFollowsHorizontallyAndIgnoresItsOwnGestures) {
   slave.SetFuncHook(&Hook::Note);
   Hook::Taken();
   for (const UINT key : {'m', 'd', 'r', 's', 'w', 'z'}) slave.SendMessage(WM_CHAR, key);
-  slave.Wheel(120);
+  slave.Wheel(1);
   slave.Redraw();
   EXPECT_EQ(Hook::Taken(), "") << "not even passed on";
   EXPECT_EQ(slave.GetScale(), before);
   parent.changes = 0;
-  view->SendMessage(WM_MBUTTONDOWN, MK_MBUTTON, MAKELPARAM(50, 50));
+  view->Press(MK_MBUTTON, {50, 50});
   view->Move({43, 50}, MK_MBUTTON);
-  view->SendMessage(WM_MBUTTONUP, 0, MAKELPARAM(43, 50));
+  view->Release(MK_MBUTTON, {43, 50});
   EXPECT_EQ(parent.changes, 2) << "press and release always tell the parent";
   EXPECT_EQ(slave.UserToWindow({13.7, 0}).x, view->UserToWindow({13.7, 0}).x);
 }
@@ -289,7 +286,7 @@ TEST_F(PlotView, AHookMayChangeTheMappingAndReenter) {
   EXPECT_EQ(view->GetVertRatio(), 1.0 / 200 / (1.0 / 100));
   EXPECT_EQ(Hook::Taken(), "2 12 ") << "the inner move is ignored";
   view->DestroyWindow();
-  view->Move({1, 1});
+  view->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(1, 1));
   EXPECT_EQ(Hook::Taken(), "") << "nothing after the window is gone";
 }
 
@@ -315,17 +312,16 @@ TEST_F(PlotView, OptionsHoldThePointerGoBackAndSnap) {
   view->SetOptions(
       {.zoomUnderPointer = true, .history = true, .touchpad = true, .crossHair = false, .snapPixels = 5});
   const PNT_2D_record held = view->WindowToUser(30, 60);
-  view->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 120), view->ScreenParam({30, 60}));
+  view->Wheel(1, {30, 60});
   view->SendMessage(WM_COREGUI_PINCH, static_cast<WPARAM>(2 * 65536), MAKELPARAM(30, 60));
   EXPECT_DOUBLE_EQ(view->GetScale(), 0.5 / 2.5);
   EXPECT_NEAR(view->UserToWindow(held).x, 30, 1);
   EXPECT_NEAR(view->UserToWindow(held).y, 60, 1);
-  EXPECT_EQ(view->SendMessage(WM_COREGUI_WANTPAN), 1);
   const CPoint place = view->UserToWindow(held);
-  view->SendMessage(WM_COREGUI_PAN, 0, MAKELPARAM(4, -3));
-  EXPECT_EQ(view->UserToWindow(held), place + CSize(4, -3));
+  for (int step = 0; step < 5; ++step) coregui::test::SlideTwoFingers(*view, {30, 60}, CSize(4, -3));
+  EXPECT_EQ(view->UserToWindow(held), place + CSize(20, -15));
   EXPECT_TRUE(view->GoBack());
-  EXPECT_EQ(view->UserToWindow(held), place);
+  EXPECT_EQ(view->UserToWindow(held), place) << "the way of two fingers is one gesture";
   EXPECT_TRUE(view->GoBack());
   EXPECT_TRUE(view->GoBack());
   EXPECT_EQ(view->GetScale(), 0.5);
@@ -341,20 +337,89 @@ TEST_F(PlotView, OptionsHoldThePointerGoBackAndSnap) {
   EXPECT_EQ(view->GetCurrentPos().x, 15);
 }
 
-TEST_F(PlotView, MeasuringAndTheCrossHairFollowThePosition) {
-  view->UpdateWindow();
-  const std::string empty = view->Pixels();
-  view->SetOptions({.crossHair = true});
-  view->StartMeasure({10, 4});
-  view->Move({26, 50});
-  EXPECT_EQ(view->GetMeasureText(), L"3.162  dx 3.000  dy 1.000  33.33 %");
-  view->UpdateWindow();
-  EXPECT_NE(view->Pixels(), empty);
+TEST_F(PlotView, TheCrossHairAndTheMeasuringLineMoveWithoutARepaint) {
+  int drawings = 0;
+  view->AddLayer(0, [&drawings](CGUIBaseView& plot) {
+    ++drawings;
+    plot.SetPlotPen({RGB(200, 30, 0), 2.0});
+    plot.PlotPolyline({{0, 1}, {30, 9}, {55, 2}, {100, 8}});
+  });
+  const std::vector<DWORD> empty = view->Picture();
+  for (const int kind : {0, 1, 2}) {
+    SCOPED_TRACE(kind == 0 ? "cross-hair" : kind == 1 ? "measuring" : "both, beside a zoom box");
+    view->SetOptions({.crossHair = kind != 1});
+    if (kind > 0) view->StartMeasure({10, 4});
+    view->Move({26, 50});
+    const std::vector<DWORD> first = view->Picture();
+    EXPECT_NE(first, empty);
+    const int before = drawings;
+    for (const CPoint at : {CPoint(27, 50), CPoint(199, 99), CPoint(0, 0), CPoint(110, 43)}) {
+      view->Move(at);
+      EXPECT_FALSE(view->GetUpdateRect(nullptr)) << at.x;
+    }
+    view->Move({26, 50});
+    EXPECT_EQ(view->Picture(), first);
+    EXPECT_EQ(drawings, before);
+    view->Invalidate();
+    EXPECT_EQ(view->Picture(), first) << "painting comes to the same";
+    if (kind == 2) {
+      view->SendMessage(WM_CHAR, 'z');
+      view->Press(MK_LBUTTON, {26, 50});
+      view->Move({90, 80}, MK_LBUTTON);
+      view->Move({140, 20}, MK_LBUTTON);
+      view->Key(VK_ESCAPE);
+      view->Move({26, 50});
+      EXPECT_EQ(view->Picture(), first) << "two kinds of outlines leave nothing of each other";
+    }
+    EXPECT_EQ(view->GetMeasureText(), kind == 0 ? L"" : L"3.162  dx 3.000  dy 1.000  33.33 %");
+    view->StopMeasure();
+    coregui::test::TakePointerAway(*view);
+    EXPECT_EQ(view->Picture(), empty);
+  }
   view->SetOptions({});
-  view->StopMeasure();
   EXPECT_TRUE(view->GetMeasureText().IsEmpty());
-  view->UpdateWindow();
-  EXPECT_EQ(view->Pixels(), empty);
+}
+
+TEST_F(PlotView, TheHookDrawsOnThePictureWithoutTheCrossHair) {
+  view->SetOptions({.crossHair = true});
+  Hook::onEvent = [this](EVENT_TYPE event) {
+    if (event != EVENT_MOVE) return;
+    CClientDC dc(view.get());
+    EXPECT_EQ(dc.GetPixel(50, 70), 0xFFFFFFU) << "the hair is away";
+    view->SetDrawMode(R2_XORPEN);
+    view->DrawRect({10, 10}, {40, 30}, 0x00FF00);
+  };
+  view->Move({50, 50});
+  view->Move({52, 52});
+  view->Move({50, 54});
+  view->Move({60, 54});  // an even number of outlines
+  Hook::onEvent = nullptr;
+  view->SetOptions({});
+  const std::vector<DWORD> picture = view->Picture();
+  EXPECT_EQ(std::count(picture.begin(), picture.end(), picture[0]),
+            static_cast<std::ptrdiff_t>(picture.size()));
+}
+
+TEST_F(PlotView, ALostCaptureEndsThePanAndTheBox) {
+  view->Press(MK_MBUTTON, {50, 50});
+  view->Move({53, 47}, MK_MBUTTON);
+  parent.SetCapture();
+  const CPoint place = view->UserToWindow({0, 10});
+  view->Move({90, 90});
+  EXPECT_EQ(view->UserToWindow({0, 10}), place);
+  EXPECT_FALSE(view->IsPanning());
+  CWnd::ReleaseCapture();
+  Hook::Taken();
+  const std::vector<DWORD> before = view->Picture();
+  view->SendMessage(WM_CHAR, 'z');
+  view->Press(MK_LBUTTON, {20, 42});
+  view->Move({60, 58}, MK_LBUTTON);
+  parent.SetCapture();
+  EXPECT_EQ(Hook::Taken(), "13(z) 14 5 ");
+  EXPECT_FALSE(view->IsZoomBoxMode());
+  EXPECT_EQ(CWnd::GetCapture(), &parent);
+  EXPECT_EQ(view->Picture(), before);
+  CWnd::ReleaseCapture();
 }
 
 TEST_F(PlotView, PrintingToScaleLeavesAPointViewAsItWas) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <functional>
@@ -28,6 +29,10 @@ using Points = std::vector<PNT_2D_record>;
 class Raster {
  public:
   void Segment(POINT a, POINT b) {
+    if (std::max(a.y, b.y) < 0 || std::min(a.y, b.y) >= kHeight || std::max(a.x, b.x) < 0 ||
+        std::min(a.x, b.x) >= kWidth) {
+      return;
+    }
     const LONG dx = std::abs(b.x - a.x);
     const LONG dy = -std::abs(b.y - a.y);
     LONG error = dx + dy;

@@ -5,8 +5,10 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/CDC.h"
+#include "tests/support/Hand.h"
 #include "views/CGUIBaseView.h"
 
 namespace coregui::test {
@@ -57,24 +59,16 @@ class TestView : public CGUIBaseView {
   void CreateIn(CWnd& family, CRect const& place) {
     ASSERT_TRUE(Create(L"view", L"", WS_CHILD | WS_VISIBLE, place, &family, 1));
   }
-  void Move(CPoint at, UINT flags = 0) { SendMessage(WM_MOUSEMOVE, flags, MAKELPARAM(at.x, at.y)); }
-  void Wheel(int delta) { SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, delta), ScreenParam({0, 0})); }
-  LPARAM ScreenParam(CPoint client) const {
-    ClientToScreen(&client);
-    return MAKELPARAM(client.x, client.y);
-  }
-  /// The client area's pixels, a character each: '.' white, '#' anything else.
-  std::string Pixels() {
-    CClientDC dc(this);
-    const CRect client = GetClientRectangle();
-    std::string text;
-    for (int y = 0; y < client.bottom; ++y) {
-      for (int x = 0; x < client.right; ++x) {
-        text += dc.GetPixel(x, y) == 0xFFFFFF ? '.' : '#';
-      }
-      text += '\n';
-    }
-    return text;
+  // What a person does, as the toolkit's own events.
+  void Move(CPoint at, UINT flags = 0) { MovePointer(*this, at, flags); }
+  void Press(UINT button, CPoint at) { PressButton(*this, button, at); }
+  void Release(UINT button, CPoint at) { ReleaseButton(*this, button, at); }
+  void Wheel(int notches, CPoint at = {0, 0}) { TurnWheel(*this, at, notches * WHEEL_DELTA); }
+  void Key(UINT key) { PressKey(*this, key); }
+  /// What the window shows when all is painted, dot by dot.
+  std::vector<DWORD> Picture() {
+    UpdateWindow();
+    return ShownDots(*this);
   }
 };
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "views/CPanGesture.h"
+#include "views/CViewHistory.h"
 #include "views/CZoomBox.h"
 
 namespace {
@@ -172,6 +173,34 @@ TEST(PanGesture, ARulerInTheMarginScrollsOnlyVertically) {
   const CPanGesture::Scroll plain = CPanGesture::ScrollFor({5, -2}, WithMargin(false), client);
   EXPECT_TRUE(plain.whole);
   EXPECT_EQ(plain.area, client);
+}
+
+TEST(ViewHistory, StepsOfATouchpadAreOneGestureUntilAPauseOrAnother) {
+  using Gesture = coregui::CViewHistory::Gesture;
+  struct Row {
+    Gesture gesture;
+    double seconds;
+    bool noted;
+  };
+  const Row rows[] = {
+      {Gesture::touchPan, 10.0, true}, {Gesture::touchPan, 10.3, false}, {Gesture::touchPan, 10.6, false},
+      {Gesture::pinch, 10.7, true},    {Gesture::pinch, 10.8, false},    {Gesture::pinch, 11.3, true},
+      {Gesture::single, 11.31, true},  {Gesture::single, 11.32, true},   {Gesture::touchPan, 11.33, true}};
+  coregui::CViewHistory history;
+  CViewMapping::Scale now;
+  std::vector<LONG> noted;
+  for (const Row& row : rows) {
+    history.Note(now, row.gesture, row.seconds);
+    if (row.noted) noted.push_back(now.offsetX);
+    ++now.offsetX;
+  }
+  now.fitScale = 7;  // the window was sized since
+  for (auto place = noted.rbegin(); place != noted.rend(); ++place) {
+    ASSERT_TRUE(history.GoBack(now));
+    EXPECT_EQ(now.offsetX, *place);
+    EXPECT_EQ(now.fitScale, 7);
+  }
+  EXPECT_FALSE(history.GoBack(now));
 }
 
 }  // namespace
