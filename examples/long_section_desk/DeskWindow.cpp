@@ -268,6 +268,9 @@ void DeskWindow::NextPane() {
 
 void DeskWindow::HandleSize(UINT type, int /*width*/, int /*height*/) {
   m_maximised = type == SIZE_MAXIMIZED;
+  if (type == SIZE_RESTORED) {
+    GetWindowRect(&m_placeBefore);
+  }
   ArrangePanes();
 }
 
