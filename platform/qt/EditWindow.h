@@ -55,6 +55,7 @@ class EditWindow : public ControlWindow {
   /// The context menu, whose commands are messages.
   void ShowMenu(CPoint screen);
   void Type(const std::wstring& text);
+  void TypeMarkedText(CPoint at);
 };
 
 std::unique_ptr<EditWindow> MakeLineEdit(CWnd& window, const CREATESTRUCT& create);

@@ -182,9 +182,16 @@ TEST(Edit, LinesAreEditedUnderTheSameRules) {
   QTest::keyClick(host.Widget(), Qt::Key_Return);
   QTest::keyClicks(host.Widget(), "7");
   EXPECT_EQ(host.edit.GetWindowTextString(), L"12\n3456\n7");
-  QTest::mouseClick(host.Widget()->findChild<QWidget*>("qt_scrollarea_viewport"), Qt::LeftButton, {},
-                    QPoint(1, 5));
+  auto* view = host.Widget()->findChild<QWidget*>("qt_scrollarea_viewport");
+  QTest::mouseClick(view, Qt::LeftButton, {}, QPoint(1, 5));
   EXPECT_EQ(Selection(host.edit), std::pair(8, 8));  // scrolled to the last line
+  QMimeData data;
+  data.setText("8\nx9");
+  QDragEnterEvent enter(QPoint(140, 20), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(view, &enter);
+  QDropEvent drop(QPointF(140, 20), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(view, &drop);
+  EXPECT_EQ(host.edit.GetWindowTextString(), L"12\n3456\n78\n9");
 }
 
 }  // namespace
