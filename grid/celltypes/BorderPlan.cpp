@@ -44,6 +44,7 @@ BorderPlan::BorderPlan(const CRect& cell, int bits, bool spreadsheet, int height
 void BorderPlan::AddSide(const CRect& cell, Side side, int width, BorderInk ink) {
   for (int depth = 0; depth < width; ++depth) {
     AddLine(cell, side, depth, ink);
+    m_lines[static_cast<std::size_t>(m_count - 1)].wide = width > 1;
   }
   switch (side) {
     case left:

@@ -21,6 +21,7 @@ struct BorderLine {
   CPoint from;
   CPoint to;
   BorderInk ink = BorderInk::cellPen;
+  bool wide = false;  ///< one of several that stand side by side
 
   constexpr bool operator==(const BorderLine&) const = default;
 };

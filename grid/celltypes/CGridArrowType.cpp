@@ -1,5 +1,6 @@
 #include "grid/celltypes/CGridArrowType.h"
 
+#include "grid/celltypes/AbuttingLine.h"
 #include "grid/celltypes/ArrowPlan.h"
 #include "platform/CDC.h"
 
@@ -26,8 +27,7 @@ void CGridArrowType::OnDraw(CDC* dc, RECT* rect, int col, long row, CGridCell* c
   CPen* const before = dc->SelectObject(&pen);
   for (int i = 0; i < glyph.count; ++i) {
     const ArrowGlyph::Line& line = glyph.lines[static_cast<std::size_t>(i)];
-    dc->MoveTo(line.from.x, line.from.y);
-    dc->LineTo(line.to.x, line.to.y);
+    DrawAbuttingLine(*dc, line.from, line.to);
   }
   dc->SelectObject(before);
   dc->RestoreDC(saved);

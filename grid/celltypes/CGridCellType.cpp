@@ -2,13 +2,14 @@
 
 #include <cwchar>
 
+#include "grid/celltypes/AbuttingLine.h"
 #include "grid/celltypes/BorderPlan.h"
 #include "grid/celltypes/CellStyleBits.h"
-#include "grid/celltypes/DarkInk.h"
 #include "grid/celltypes/TextPlaces.h"
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridDrawHint.h"
 #include "grid/control/CGridInfo.h"
+#include "grid/control/DarkInk.h"
 #include "platform/CDC.h"
 #include "platform/System.h"
 
@@ -55,8 +56,12 @@ void DrawLines(CDC* dc, const BorderPlan& plan, CPen* cellPen, CPen* gridPen) {
   CPen* const before = dc->GetCurrentPen();
   for (int i = 0; i < plan.Count(); ++i) {
     dc->SelectObject(pens[static_cast<int>(plan[i].ink)]);
-    dc->MoveTo(plan[i].from.x, plan[i].from.y);
-    dc->LineTo(plan[i].to.x, plan[i].to.y);
+    if (plan[i].wide) {
+      DrawAbuttingLine(*dc, plan[i].from, plan[i].to);
+    } else {
+      dc->MoveTo(plan[i].from.x, plan[i].from.y);
+      dc->LineTo(plan[i].to.x, plan[i].to.y);
+    }
   }
   dc->SelectObject(before);
 }

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "grid/celltypes/CellStyleBits.h"
-#include "grid/celltypes/DarkInk.h"
 #include "grid/control/CGridCtrl.h"
+#include "grid/control/DarkInk.h"
 #include "platform/CDC.h"
 #include "platform/System.h"
 #include "platform/WindowRef.h"

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "grid/celltypes/AbuttingLine.h"
 #include "grid/celltypes/DropListPlan.h"
 #include "grid/control/CGridCtrl.h"
 #include "platform/CDC.h"
@@ -120,8 +121,7 @@ void CGridDropListType::DrawButton(CDC& dc, const CRect& button, bool pressed) c
   CPen pen(PS_SOLID, 1, GetSysColor(COLOR_BTNTEXT));
   CPen* const before = dc.SelectObject(&pen);
   for (int line = 0; line <= kHalf; ++line) {
-    dc.MoveTo(x - kHalf + line, y + line);
-    dc.LineTo(x + kHalf - line + 1, y + line);
+    DrawAbuttingLine(dc, CPoint(x - kHalf + line, y + line), CPoint(x + kHalf - line + 1, y + line));
   }
   dc.SelectObject(before);
   dc.RestoreDC(saved);

@@ -8,7 +8,9 @@
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridInfo.h"
 #include "grid/control/CGridMultiSelect.h"
+#include "grid/control/DarkInk.h"
 #include "platform/CDC.h"
+#include "platform/System.h"
 #include "platform/WindowRef.h"
 
 namespace coregui {
@@ -214,7 +216,12 @@ void CGridPainter::DrawSeparators(CDC& dc, const CRect& rect, int col, long row)
     dc.LineTo(rect.right + 1, y);
   };
   const int saved = dc.SaveDC();
-  dc.SelectStockObject(StockObject::blackPen);
+  CPen light(PS_SOLID, 1, LineInk(GetSysColor(COLOR_WINDOW)));
+  if (light.GetColor() == 0) {
+    dc.SelectStockObject(StockObject::blackPen);
+  } else {
+    dc.SelectObject(&light);  // black lines would not be seen under a dark theme
+  }
   if (lockedCols > 0 && col == info.columns.First()) vertical(rect.left - 1);
   if (lockedCols > 0 && col == lockedCols - 1) vertical(rect.right - 1);
   if (lockedRows > 0 && row == info.rows.First()) horizontal(rect.top - 1);

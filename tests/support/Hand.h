@@ -21,7 +21,8 @@ void DropText(CWnd& window, const wchar_t* text);
 void Click(CWnd& window);
 void ClickAt(CWnd& window, CPoint at);
 /// Presses the button at one place and releases it at another; `held` is called before the release.
-void Drag(CWnd& window, CPoint from, CPoint to, const std::function<void()>& held = [] {});
+void Drag(
+    CWnd& window, CPoint from, CPoint to, const std::function<void()>& held = [] {});
 enum class MouseStep { press, move, release, doubleClick };
 /// One step of the mouse at a place of the client area. Moves are made with the button held that the last
 /// press left down.

@@ -115,6 +115,10 @@ TEST_F(DarkGridPictureTest, FollowsTheDarkTheme) {
   const CRect box = Cell(0, 7);
   EXPECT_EQ(BodyPixel(box.left + 3, box.top + 8), GetSysColor(COLOR_WINDOWTEXT)) << "the check box's frame";
   EXPECT_LT(BodyPixel(Cell(6, 9).right - 1, Cell(6, 9).top + 2) & 0xFF, 100U) << "the grid line";
+  grid.LockColumns(1);
+  CWinApp::PumpPending();
+  EXPECT_EQ(BodyPixel(Cell(0, 9).right - 1, Cell(0, 9).top + 2), GetSysColor(COLOR_WINDOWTEXT))
+      << "the separator";
 }
 
 TEST_F(GridPictureTest, GridLinesFollowTheThemeUntilTheirColourIsChosen) {

@@ -1,4 +1,4 @@
-#include "grid/celltypes/DarkInk.h"
+#include "grid/control/DarkInk.h"
 
 #include <gtest/gtest.h>
 
