@@ -11,7 +11,7 @@ const wchar_t* HelpText() {
          L"\n"
          L"Table\n"
          L"Ctrl+F  find,   F3, Shift+F3  again and back\n"
-         L"Ctrl+C  copy,   right click  sort by a column\n"
+         L"Ctrl+C  copy,   Menu or right click  sort by a column\n"
          L"\n"
          L"Long-section\n"
          L"Ctrl+G  go to a chainage,   Ctrl+E  exaggeration\n"

@@ -52,6 +52,8 @@ const DeskWindow::Command DeskWindow::kCommands[] = {
     {122, 'E', kControl, Needs::section, nullptr, nullptr, &DeskWindow::AskExaggeration},
     {123, VK_F1, kPlain, Needs::nothing, L"&Help", L"Keys and mouse (F1)", &DeskWindow::ShowHelp},
     {124, 'C', kControl, Needs::survey, nullptr, nullptr, &DeskWindow::CopyCells},
+    {127, VK_APPS, kPlain, Needs::survey, nullptr, nullptr, &DeskWindow::OpenTableMenu},
+    {128, VK_F10, kShift, Needs::survey, nullptr, nullptr, &DeskWindow::OpenTableMenu},
     {125, kF6, kPlain, Needs::nothing, nullptr, nullptr, &DeskWindow::NextPane},
     {126, 'Q', kControl, Needs::nothing, nullptr, nullptr, &DeskWindow::QuitCommand},
 };

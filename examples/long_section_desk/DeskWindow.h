@@ -117,6 +117,7 @@ class DeskWindow : public CWnd, private SurveySink {
   void Look(bool back);
   void AskExaggeration();
   void CopyCells() { m_grid.CopySelected(); }
+  void OpenTableMenu() { m_grid.OpenMenuAtCurrent(); }
   void NextPane();
   void ShowHelp();
   void QuitCommand() { PostMessage(WM_CLOSE); }

@@ -154,6 +154,19 @@ void SurveyGrid::OnMenuCommand(int col, long /*row*/, int /*section*/, int item)
   }
 }
 
+void SurveyGrid::OpenMenuAtCurrent() {
+  CRect cell;
+  const CWnd* body = GetGridWnd();
+  if (body == nullptr || GetCellRect(GetCurrentCol(), GetCurrentRow(), &cell) != 0) {
+    return;
+  }
+  const CRect inside = body->GetClientRectangle();
+  POINT at = CPoint(std::clamp(cell.left, inside.left, inside.right),
+                    std::clamp(cell.bottom, inside.top, inside.bottom));
+  body->ClientToScreen(&at);
+  StartMenu(GetCurrentCol(), GetCurrentRow(), &at, coregui::GRIDSECTION_GRID);
+}
+
 void SurveyGrid::SortFromMenu(int col, bool downwards) {
   SortBy(col, downwards ? coregui::SORT_DESCENDING : 0);
   RedrawAll();

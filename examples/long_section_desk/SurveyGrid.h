@@ -23,6 +23,8 @@ class SurveyGrid : public CGridCtrl {
   bool NumberAt(int col, long row, double& value);
   /// Sorts the rows by a column, as a person asks for it, and says so to the order hook.
   void SortFromMenu(int col, bool downwards);
+  /// Opens the context menu below the current cell.
+  void OpenMenuAtCurrent();
   /// Called after the current row has changed.
   void SetRowHook(std::function<void(long)> hook) { m_rowHook = std::move(hook); }
   /// Called after the rows were put into another order.
