@@ -118,7 +118,12 @@ bool CPlotPrimitives::StrokeSmoothly(const PNT_2D_record* points, std::size_t co
   if (!m_smooth || count > kMostSmoothPoints) {
     return false;
   }
-  StrokeDevice(ToDevice({points, points + count}));
+  const PNT_2D_record* const end = points + count;
+  while (points != end) {
+    const PNT_2D_record* const gap = std::find_if_not(points, end, CPlotSeries::IsDrawable);
+    StrokeDevice(ToDevice({points, gap}));
+    points = std::find_if(gap, end, CPlotSeries::IsDrawable);
+  }
   return true;
 }
 
@@ -156,8 +161,7 @@ void CPlotPrimitives::PlotPolyline(const std::vector<PNT_2D_record>& points) {
   if (!IsPlotting()) {
     return;
   }
-  const bool whole = std::all_of(points.begin(), points.end(), CPlotSeries::IsDrawable);
-  if (!whole || !StrokeSmoothly(points.data(), points.size())) {
+  if (!StrokeSmoothly(points.data(), points.size())) {
     PlotPolyline(CPlotSeries(points));
   }
 }
@@ -181,10 +185,12 @@ void CPlotPrimitives::PlotPolyline(const CPlotSeries& series) {
     return;
   }
   std::size_t first = 0;
-  std::size_t last = 0;
-  if (m_smooth && FindVisible(series, GetPlotMapping(), VisibleForPen(), &first, &last) &&
-      StrokeSmoothly(series.GetPoints().data() + first, last - first)) {
-    return;
+  std::size_t last = series.GetCount();
+  if (m_smooth) {
+    FindVisible(series, GetPlotMapping(), VisibleForPen(), &first, &last);  // all, where x turns back
+    if (StrokeSmoothly(series.GetPoints().data() + first, last - first)) {
+      return;
+    }
   }
   CPolylineSink sink(VisibleForPen());
   ReduceSeries(series, GetPlotMapping(), sink);

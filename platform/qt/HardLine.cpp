@@ -198,7 +198,7 @@ void DrawHardLine(Surface& surface, const CRect& clip, const LinePen& pen, std::
     return;
   }
   for (; step < last; ++step) {
-    const bool shown = !dashed || IsDash(pen, step);
+    const bool shown = !dashed || IsDash(pen, pen.walked + step);
     if (shown || pen.fillsGaps) {
       PutAcross(surface, clip, steep, walk.major0 + walk.majorStep * step, minor - pen.before, pen.thickness,
                 shown ? pen.colour : pen.gap, pen.rop);

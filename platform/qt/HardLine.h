@@ -11,11 +11,12 @@ namespace coregui {
 struct LinePen {
   std::uint32_t colour = 0;  ///< in the surface's order
   int rop = 13;
-  int thickness = 1;      ///< dots across the line's lesser direction
-  int before = 0;         ///< how many of them lie before the line
-  int style = 0;          ///< dashes: PS_ values
-  double dash = 1.0;      ///< dots per unit of the dash pattern
-  std::uint32_t gap = 0;  ///< colour of the gaps
+  int thickness = 1;        ///< dots across the line's lesser direction
+  int before = 0;           ///< how many of them lie before the line
+  int style = 0;            ///< dashes: PS_ values
+  double dash = 1.0;        ///< dots per unit of the dash pattern
+  std::int64_t walked = 0;  ///< dots of the line before this part, which the pattern goes on from
+  std::uint32_t gap = 0;    ///< colour of the gaps
   bool fillsGaps = false;
 };
 

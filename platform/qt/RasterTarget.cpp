@@ -158,8 +158,8 @@ CRect RasterTarget::PutStraight(const DrawAttributes& with, bool level, std::int
                                 std::int64_t end, const LinePen& pen) {
   const int first = Dot(start);
   const int last = Dot(end);
-  // A thin line ends with its pixel at the latest: where a pixel is no whole number of dots, it must not reach
-  // into the next one, which may be another's.
+  // A thin line ends with its pixel at the latest: where a pixel is no whole number of dots, it must not
+  // reach into the next one, which may be another's.
   const int across = pen.before > 0 ? Dot(at) - pen.before : std::min(Dot(at), Dot(at + 1) - pen.thickness);
   const CRect dots = level ? CRect(first, across, last, across + pen.thickness)
                            : CRect(across, first, across + pen.thickness, last);
@@ -194,7 +194,7 @@ void RasterTarget::Polyline(const DrawAttributes& with, const POINT* points, int
     PainterTarget::Polyline(with, points, count);
     return;
   }
-  const LinePen pen = HardPen(with);
+  LinePen pen = HardPen(with);
   if (count == 2) {
     CRect drawn;
     drawn.IntersectRect(StraightLine(with, points[0], points[1], pen), with.clip.box);
@@ -207,6 +207,8 @@ void RasterTarget::Polyline(const DrawAttributes& with, const POINT* points, int
     const int next = merges ? PutUpAndDown(with, points, i, count, pen) : i;
     if (next == i) {
       StraightLine(with, points[i - 1], points[i], pen);
+      pen.walked += std::max(std::abs(WideDot(points[i].x) - WideDot(points[i - 1].x)),
+                             std::abs(WideDot(points[i].y) - WideDot(points[i - 1].y)));
       ++i;
     } else {
       i = next;
@@ -246,7 +248,7 @@ void RasterTarget::PolylineF(const DrawAttributes& with, const double* xy, int c
   if (with.pen->GetStyle() == PS_NULL || with.clip.box.IsRectEmpty()) {
     return;
   }
-  const LinePen pen = HardPen(with);
+  LinePen pen = HardPen(with);
   const double scale = Scale();
   const auto dot = [scale](double value) {
     constexpr double limit = 4e9;
@@ -268,6 +270,7 @@ void RasterTarget::PolylineF(const DrawAttributes& with, const double* xy, int c
       with.clip.ForEach(with.clip.box, [&](const CRect& part) {
         DrawHardLine(*m_surface, part, pen, lastX, lastY, dotX, dotY);
       });
+      pen.walked += std::max(std::abs(dotX - lastX), std::abs(dotY - lastY));
     }
     drawing = true;
     lastX = dotX;

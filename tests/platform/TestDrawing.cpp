@@ -120,6 +120,21 @@ TEST_P(Drawing, Polyline_HasTheDotsOfItsSegments_UpAndDownInAColumnToo) {
   }
 }
 
+TEST_P(Drawing, Dashes_GoOnFromPartToPart) {
+  for (const int style : {PS_DASH, PS_DOT, PS_DASHDOTDOT}) {
+    CPen pen(style, 1, red);
+    dc.SelectObject(&pen);
+    const POINT whole[] = {{2, 10}, {58, 10}};
+    const POINT parts[] = {{2, 10}, {4, 10}, {9, 10}, {10, 10}, {23, 10}, {24, 10}, {58, 10}};
+    dc.FillSolidRect(CRect(0, 0, 60, 40), white);
+    dc.Polyline(whole, 2);
+    const QImage line = surface->Snapshot();
+    dc.FillSolidRect(CRect(0, 0, 60, 40), white);
+    dc.Polyline(parts, 7);
+    EXPECT_EQ(surface->Snapshot(), line) << style;
+  }
+}
+
 TEST_P(Drawing, ExclusiveOrTwice_Restores) {
   dc.FillSolidRect(CRect(10, 5, 40, 30), RGB(12, 200, 99));
   const QImage before = surface->Snapshot();

@@ -104,14 +104,6 @@ void GiveMouse(CWnd& window, QEvent::Type type, CPoint at, UINT button, UINT fla
   QApplication::sendEvent(widget, &event);
 }
 
-void GiveWheel(CWnd& window, CPoint at, QPoint pixels, QPoint angle, Qt::ScrollPhase phase) {
-  QWidget* widget = WidgetOf(&window);
-  const QPointF place(at.x, at.y);
-  QWheelEvent event(place, widget->mapToGlobal(place), pixels, angle, Qt::NoButton, Qt::NoModifier, phase,
-                    false);
-  QApplication::sendEvent(widget, &event);
-}
-
 }  // namespace
 
 void MovePointer(CWnd& window, CPoint at, UINT flags) {
@@ -133,7 +125,11 @@ void TakePointerAway(CWnd& window) {
 
 void SlideTwoFingers(CWnd& window, CPoint at, CSize by) {
   const QPoint pixels(by.cx, by.cy);
-  GiveWheel(window, at, pixels, pixels * 8, Qt::ScrollUpdate);
+  QWidget* const widget = WidgetOf(&window);
+  const QPointF place(at.x, at.y);
+  QWheelEvent event(place, widget->mapToGlobal(place), pixels, pixels * 8, Qt::NoButton, Qt::NoModifier,
+                    Qt::ScrollUpdate, false);
+  QApplication::sendEvent(widget, &event);
 }
 
 void PressKey(CWnd& window, UINT key, bool control, bool shift) {

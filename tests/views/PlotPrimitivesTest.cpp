@@ -136,7 +136,9 @@ TEST_F(PlotPrimitives, SmoothLinesStandBetweenPixels) {
   sheet.PlotPolyline({{10.5, 20.5}, {30.25, 40}});
   EXPECT_EQ(Log(), L"PolylineF 2 #000000");
   sheet.PlotPolyline({{10, 20}, {20, 20}, {kNaN, 0}, {30, 20}, {40, 20}});
-  EXPECT_EQ(Log(), L"Polyline 10,80 20,80 #000000\nPolyline 30,80 40,80 #000000");
+  EXPECT_EQ(Log(), L"PolylineF 2 #000000\nPolylineF 2 #000000") << "a gap parts them";
+  sheet.PlotPolyline(CPlotSeries({{10, 20}, {30, 50}, {20, 80}}));
+  EXPECT_EQ(Log(), L"PolylineF 3 #000000") << "x turns back";
 }
 
 TEST_F(PlotPrimitives, RulersMarkRoundValuesOutsideTheDrawing) {
