@@ -113,7 +113,7 @@ void ControlPane::AddChoices(Column& column) {
   m_width.SetWidth(1.0);
   Name(m_width, L"Line width");
   m_link.Create(L"The standard of line widths", kControl | BS_PUSHBUTTON, AddRow(column, L"Web link"),
-                column.parent, m_nextId++);
+                column.parent, kWebLink);
   m_link.SetLink(L"https://www.iso.org/standard/83355.html");
   Name(m_link, L"The standard of line widths, link");
   m_command.Create(L"Open the help", kControl | BS_PUSHBUTTON, AddRow(column, L"Command link"), column.parent,

@@ -13,7 +13,7 @@ class ControlPane {
   /// Makes the controls as children of the window, in the order that Tab goes through. `width` of the client
   /// area, in pixels. Returns the lower edge.
   int Create(CWnd& parent, int width);
-  CEdit& First() { return m_name; }
+  CString WebAddress() const { return m_link.GetLink(); }
 
  private:
   struct Column {
@@ -54,7 +54,8 @@ class ControlPane {
   UINT m_nextId = 200;
 };
 
-/// The id of the link that opens the help.
+/// The ids of the links that open the help and a web page.
 inline constexpr UINT kHelpCommand = 190;
+inline constexpr UINT kWebLink = 191;
 
 }  // namespace gallery

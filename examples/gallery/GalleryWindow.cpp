@@ -19,6 +19,7 @@ const coregui::MessageTable& GalleryWindow::GetMessageTable() const {
   static const coregui::MessageTable table =
       coregui::MessageTable(CDialog::Messages())
           .OnCommand(kHelpCommand, BN_CLICKED, &GalleryWindow::HandleHelp)
+          .OnCommand(kWebLink, CLinkButton::kLinkFailed, &GalleryWindow::HandleDeadLink)
           .On<WM_TIMER>(&GalleryWindow::HandleTimer);
   return table;
 }
@@ -61,6 +62,10 @@ LRESULT GalleryWindow::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 
 void GalleryWindow::HandleHelp() {
   if (auto* app = dynamic_cast<CCoreGUIApp*>(CWinApp::Get())) app->OpenHelp(this);
+}
+
+void GalleryWindow::HandleDeadLink() {
+  ErrorMessage(L"There is no program to open " + m_pane.WebAddress() + L" with.", this);
 }
 
 void GalleryWindow::HandleTimer(UINT id) {

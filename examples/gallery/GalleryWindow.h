@@ -31,6 +31,7 @@ class GalleryWindow : public CDialog {
 
   void MakeButtons(int top);
   void HandleHelp();
+  void HandleDeadLink();
   void HandleTimer(UINT id);
   std::unique_ptr<CBitmap> PictureOfWindow();
 
