@@ -3,6 +3,7 @@
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridInfo.h"
 #include "platform/CDC.h"
+#include "platform/System.h"
 #include "platform/WindowRef.h"
 
 namespace coregui {
@@ -70,7 +71,19 @@ bool CGridHeadingPainter::Run(CDC& dc, const CRect& client) {
   const CRect blank = m_top ? CRect(m_lines.end, client.top, client.right, client.bottom)
                             : CRect(client.left, m_lines.end, client.right, client.bottom);
   if (!blank.IsRectEmpty()) dc.FillRect(blank, &brush);
+  DrawDrop(dc, client);
   return true;
+}
+
+/// A bar over the edge where the marked line would come to stand.
+void CGridHeadingPainter::DrawDrop(CDC& dc, const CRect& client) const {
+  constexpr int kThick = 3;
+  if (m_drop < 0 || m_lines.lines.empty()) return;
+  const ShownLine* const line = m_lines.Find(m_drop);
+  const int at = (line != nullptr ? line->start : m_lines.lines.back().End()) - kThick / 2;
+  const CRect bar = m_top ? CRect(at, client.top, at + kThick, client.bottom)
+                          : CRect(client.left, at, client.right, at + kThick);
+  dc.FillSolidRect(bar, GetSysColor(COLOR_HIGHLIGHT));
 }
 
 CGridCellPainter::Cell CGridHeadingPainter::CellOf(const ShownLine& line, int headingLine) const {

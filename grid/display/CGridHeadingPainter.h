@@ -1,5 +1,7 @@
 #pragma once
 
+#include <utility>
+
 #include "core/Export.h"
 #include "grid/control/CGridDrawHint.h"
 #include "grid/display/CGridCellPainter.h"
@@ -29,9 +31,12 @@ class COREGUI_API CGridHeadingPainter {
   bool IsViewStale() const;
   /// The line to mark as being moved, -1 for none.
   void MarkLine(long line) { m_marked = line; }
+  /// The line before which the marked one would come to stand, -1 for none. True when it is another now.
+  bool MarkDrop(long line) { return std::exchange(m_drop, line) != line; }
 
  private:
   bool Run(CDC& dc, const CRect& client);
+  void DrawDrop(CDC& dc, const CRect& client) const;
   bool DrawCell(CDC& dc, CGridCellPainter::Cell cell);
   CGridCellPainter::Cell CellOf(const ShownLine& line, int headingLine) const;
   int HeadingLines() const;
@@ -45,6 +50,7 @@ class COREGUI_API CGridHeadingPainter {
   bool m_painting = false;
   long m_shownFirst = -1;
   long m_marked = -1;
+  long m_drop = -1;
 };
 
 }  // namespace coregui

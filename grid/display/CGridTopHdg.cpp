@@ -52,6 +52,7 @@ void CGridTopHdg::DraggedTo(CPoint point) {
     m_painter.MarkLine(m_source);
     Invalidate(FALSE);
   }
+  if (m_dragged && m_painter.MarkDrop(DropColumnAt(point.x))) Invalidate(FALSE);
   if (point.x < 0) m_scrollCode = kViewBack;
   if (point.x >= m_control->GetInfo().columns.Extent()) m_scrollCode = kViewForward;
   if (m_scrollCode >= 0) SetTimer(kScrollTimer, kScrollEvery);
@@ -68,6 +69,7 @@ void CGridTopHdg::ReleasedAt(CPoint point) {
   m_source = -1;
   m_scrollCode = -1;
   m_painter.MarkLine(-1);
+  m_painter.MarkDrop(-1);
   if (!m_dragged && !IsDrag(point)) return;
   m_dragged = false;
   Invalidate(FALSE);

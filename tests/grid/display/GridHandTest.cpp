@@ -3,6 +3,7 @@
 #include "grid/display/CGridMouse.h"
 #include "platform/Keys.h"
 #include "platform/Messages.h"
+#include "platform/System.h"
 #include "tests/grid/GridPicture.h"
 #include "tests/grid/display/FakeGrid.h"
 #include "tests/grid/display/HandGrid.h"
@@ -117,7 +118,10 @@ TEST_F(GridHandTest, AColumnIsDraggedToAnotherPlace) {
   Drag(Top(), {75, 30}, {190, 30});  // right half of column 3
   EXPECT_THAT(grid.TakeNotes(), testing::HasSubstr("swap 1 to 3?; swapped 1 to 3; "));
   EXPECT_EQ(Texts(5), "c0 c2 c3 c1 c4 ");
-  Drag(Top(), {175, 30}, {10, 30});
+  Drag(Top(), {175, 30}, {10, 30}, [this] {
+    CWinApp::PumpPending();
+    EXPECT_EQ(ShownPixel(Top(), {0, 30}), GetSysColor(COLOR_HIGHLIGHT)) << "where it would stand";
+  });
   EXPECT_THAT(grid.TakeNotes(), testing::HasSubstr("swapped 3 to 0; "));
   EXPECT_EQ(Texts(5), "c1 c0 c2 c3 c4 ");
   for (const char* refused : {"OnCanColSwap", "OnColSwapStart"}) {
