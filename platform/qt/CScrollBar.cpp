@@ -6,6 +6,7 @@
 
 #include "platform/qt/Application.h"
 #include "platform/qt/ControlWindow.h"
+#include "platform/qt/ScrollCodes.h"
 
 /// The native side of a scroll bar: turns the toolkit's actions into messages and lets only the program move
 /// it.
@@ -49,25 +50,6 @@ class CScrollBarWindow : public coregui::ControlWindow {
  private:
   QScrollBar& Bar() const { return static_cast<QScrollBar&>(*GetWidget()); }
 
-  static int CodeOf(int action) {
-    switch (action) {
-      case QAbstractSlider::SliderSingleStepAdd:
-        return SB_LINEDOWN;
-      case QAbstractSlider::SliderSingleStepSub:
-        return SB_LINEUP;
-      case QAbstractSlider::SliderPageStepAdd:
-        return SB_PAGEDOWN;
-      case QAbstractSlider::SliderPageStepSub:
-        return SB_PAGEUP;
-      case QAbstractSlider::SliderToMinimum:
-        return SB_TOP;
-      case QAbstractSlider::SliderToMaximum:
-        return SB_BOTTOM;
-      default:
-        return SB_THUMBTRACK;
-    }
-  }
-
   /// The toolkit's own keys differ between the directions.
   static int CodeOfKey(UINT key) {
     switch (key) {
@@ -98,7 +80,7 @@ class CScrollBarWindow : public coregui::ControlWindow {
   }
 
   void NoteAction(int action) {
-    const int code = CodeOf(action);
+    const int code = coregui::ScrollCodeOf(action);
     const QPointer<QObject> self(this);
     if (code == SB_THUMBTRACK) {
       if (Bar().isSliderDown()) {
@@ -116,7 +98,7 @@ class CScrollBarWindow : public coregui::ControlWindow {
   void NoteRelease() {
     const QPointer<QObject> self(this);
     Tell(SB_THUMBPOSITION, m_bar.m_info.nTrackPos);
-    if (self && m_bar.HasWindow()) Tell(SB_ENDSCROLL, 0);
+    if (self) Tell(SB_ENDSCROLL, 0);
     if (!self || GetWidget() == nullptr) return;
     m_bar.m_info.nTrackPos = m_bar.m_info.nPos;
     Show(m_bar.m_info);
@@ -124,10 +106,7 @@ class CScrollBarWindow : public coregui::ControlWindow {
   }
 
   void Tell(int code, int position) {
-    CWnd* parent = m_bar.GetParent();
-    if (parent == nullptr) return;
-    const UINT message = (m_bar.GetStyle() & SBS_VERT) != 0 ? WM_VSCROLL : WM_HSCROLL;
-    parent->SendMessage(message, MAKEWPARAM(code, position), reinterpret_cast<LPARAM>(m_bar.GetSafeHwnd()));
+    coregui::TellScroll(m_bar, (m_bar.GetStyle() & SBS_VERT) != 0, code, position);
   }
 
   CScrollBar& m_bar;

@@ -6,6 +6,7 @@
 
 #include "platform/qt/Application.h"
 #include "platform/qt/ControlWindow.h"
+#include "platform/qt/ScrollCodes.h"
 
 namespace {
 
@@ -29,28 +30,10 @@ class SliderWindow : public coregui::ControlWindow {
   QSlider& Slider() const { return static_cast<QSlider&>(*GetWidget()); }
 
  private:
-  int Code() const {
-    switch (m_action) {
-      case QAbstractSlider::SliderSingleStepAdd:
-        return SB_LINEDOWN;
-      case QAbstractSlider::SliderSingleStepSub:
-        return SB_LINEUP;
-      case QAbstractSlider::SliderPageStepAdd:
-        return SB_PAGEDOWN;
-      case QAbstractSlider::SliderPageStepSub:
-        return SB_PAGEUP;
-      case QAbstractSlider::SliderToMinimum:
-        return SB_TOP;
-      case QAbstractSlider::SliderToMaximum:
-        return SB_BOTTOM;
-      default:
-        return SB_THUMBTRACK;
-    }
-  }
   void NoteMove() {
     const QPointer<QObject> self(this);
     m_moved(Slider().value());
-    if (self) Tell(Code());
+    if (self) Tell(coregui::ScrollCodeOf(m_action));
     if (self && !Slider().isSliderDown()) Tell(SB_ENDSCROLL);
   }
   void NoteRelease() {
@@ -59,10 +42,8 @@ class SliderWindow : public coregui::ControlWindow {
     if (self) Tell(SB_ENDSCROLL);
   }
   void Tell(int code) {
-    CWnd* parent = Window().GetParent();
-    if (parent == nullptr || !Window().HasWindow()) return;
-    parent->SendMessage((Window().GetStyle() & TBS_VERT) != 0 ? WM_VSCROLL : WM_HSCROLL,
-                        MAKEWPARAM(code, Slider().value()), reinterpret_cast<LPARAM>(Window().GetSafeHwnd()));
+    if (GetWidget() == nullptr) return;
+    coregui::TellScroll(Window(), (Window().GetStyle() & TBS_VERT) != 0, code, Slider().value());
   }
   std::function<void(int)> m_moved;
   int m_action = QAbstractSlider::SliderNoAction;

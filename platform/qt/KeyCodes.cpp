@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 
+#include "platform/KeyState.h"
 #include "platform/Keys.h"
 
 namespace coregui {
@@ -162,6 +163,12 @@ std::wstring CharactersOf(const QKeyEvent& event) {
     text.clear();
   }
   return text;
+}
+
+void NoteModifiers(Qt::KeyboardModifiers modifiers) {
+  NoteKeyState(VK_SHIFT, (modifiers & Qt::ShiftModifier) != 0);
+  NoteKeyState(VK_CONTROL, (modifiers & Qt::ControlModifier) != 0);
+  NoteKeyState(VK_MENU, (modifiers & Qt::AltModifier) != 0);
 }
 
 }  // namespace coregui

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <Qt>
 #include <string>
 
 #include "platform/Types.h"
@@ -14,5 +15,7 @@ UINT VirtualKeyOf(const QKeyEvent& event);
 int ToolkitKeyOf(UINT virtualKey);
 /// The characters that a key press types, control codes included (Ctrl+V is 22).
 std::wstring CharactersOf(const QKeyEvent& event);
+/// Takes the modifiers that an event was made with over as the state of their keys.
+void NoteModifiers(Qt::KeyboardModifiers modifiers);
 
 }  // namespace coregui

@@ -370,11 +370,11 @@ TEST(SurfaceMemory, OneColour_LastsUntilSomethingElseIsDrawn) {
 
 /// Held against moving dots one by one. The picture is large enough to slide along its memory.
 TEST(SurfaceMemory, Moves_AreThoseOfPlainMemory) {
-  constexpr int width = 300;
-  constexpr int height = 200;
+  constexpr LONG width = 300;
+  constexpr LONG height = 200;
   const auto surface = std::make_shared<coregui::Surface>(CSize(width, height), 1.0);
   SurfaceDC dc(surface);
-  std::vector<std::uint32_t> plain(width * height, 0xFFFFFFFF);
+  std::vector<std::uint32_t> plain(std::size_t{width} * height, 0xFFFFFFFF);
   std::mt19937 random(20);
   const auto any = [&random](int from, int to) {
     return std::uniform_int_distribution<int>(from, to)(random);
@@ -402,7 +402,8 @@ TEST(SurfaceMemory, Moves_AreThoseOfPlainMemory) {
       }
     }
     for (int y = 0; y < height; ++y) {
-      ASSERT_TRUE(std::equal(surface->Row(y), surface->Row(y) + width, plain.begin() + y * width))
+      ASSERT_TRUE(
+          std::equal(surface->Row(y), surface->Row(y) + width, plain.begin() + std::ptrdiff_t{y} * width))
           << "step " << step << ", row " << y << ", by " << dx << ',' << dy;
     }
   }
