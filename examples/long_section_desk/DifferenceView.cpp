@@ -43,8 +43,9 @@ void DifferenceView::FitAgain() {
 
 void DifferenceView::Mark(double chainage) {
   if (m_mark != chainage) {
+    InvalidateStation(*this, m_mark);
     m_mark = chainage;
-    Invalidate(TRUE);
+    InvalidateStation(*this, m_mark);
   }
 }
 

@@ -1,5 +1,7 @@
 #include "SectionLook.h"
 
+#include <cmath>
+
 namespace desk {
 
 SectionColors SectionColors::Of(bool printing) {
@@ -9,6 +11,19 @@ SectionColors SectionColors::Of(bool printing) {
   }
   return {RGB(255, 255, 255), RGB(32, 32, 32),    RGB(226, 228, 230), RGB(134, 92, 40), RGB(206, 24, 24),
           RGB(150, 92, 40),   RGB(250, 222, 196), RGB(206, 234, 212), RGB(0, 96, 208)};
+}
+
+void InvalidateStation(CGUIBaseView& view, double chainage) {
+  constexpr LONG kHalfWidth = 3;  // pixels, with the smooth edges
+  if (std::isfinite(chainage)) {
+    const LONG at = view.UserToWindow({chainage, 0.0}).x;
+    CRect line = view.GetClientRectangle();
+    if (at > line.left - kHalfWidth && at < line.right + kHalfWidth) {
+      line.left = at - kHalfWidth;
+      line.right = at + kHalfWidth + 1;
+      view.InvalidateRect(&line);
+    }
+  }
 }
 
 PlotTextStyle RulerText(COLORREF colour) {

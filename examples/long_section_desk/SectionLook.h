@@ -27,6 +27,9 @@ inline CPoint MiddleOf(const CRect& rect) {
   return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
 }
 
+/// Has the line through a view repainted that marks a chainage; nothing for one that is not finite.
+void InvalidateStation(CGUIBaseView& view, double chainage);
+
 PlotTextStyle RulerText(COLORREF colour);
 /// The room between the margins (points) of a view's window, in pixels.
 CSize PlaceBetween(const CWnd& view, const CRect& margins);

@@ -89,8 +89,9 @@ void SectionView::SetExaggeration(double times) {
 
 void SectionView::Mark(double chainage) {
   if (m_mark != chainage) {
+    InvalidateStation(*this, m_mark);
     m_mark = chainage;
-    Invalidate(TRUE);
+    InvalidateStation(*this, m_mark);
   }
 }
 
