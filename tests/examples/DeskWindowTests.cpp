@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "PrintDialog.h"
 #include "tests/support/Hand.h"
 #include "tests/support/ShownWindow.h"
 
@@ -148,6 +149,56 @@ TEST_F(Desk, FindsInEveryColumnAndSaysWhenThereIsNothing) {
     told.Click("OK");
   });
   window.Find(L"%s");
+}
+
+TEST_F(Desk, TheFindDialogSearchesBesideTheTable) {
+  ASSERT_TRUE(window.Open(Write("a.csv", "Chainage,Remark\n0,nail\n1,Kerb\n2,kerb\n")));
+  window.ShowWindow(SW_SHOW);
+  {
+    const NextWindow find([](ShownWindow& dialog) {
+      EXPECT_EQ(dialog.Title(), "Find");
+      dialog.Key(VK_TAB);
+      dialog.Type("kerb");
+      dialog.Click("Find Next");
+      dialog.Click("Find Next");
+      dialog.Click("Cancel");
+    });
+    PressKey(window.Section(), 'F', true);
+    CWinApp::PumpPending();
+  }
+  EXPECT_EQ(window.Grid().GetCurrentRow(), 2);
+  window.Find(L"KERB");
+  EXPECT_EQ(window.Grid().GetCurrentRow(), 1);
+}
+
+TEST(PrintDialog, ShowsAtOnceHowManySheetsAChoiceTakes) {
+  const auto sheets = [](const desk::PrintChoice& choice) {
+    return !choice.toScale             ? 1
+           : choice.horizontal < 100.0 ? 0
+                                       : static_cast<int>(10000.0 / choice.horizontal);
+  };
+  desk::PrintDialog dialog({}, sheets, nullptr);
+  const auto text = [&dialog] {
+    return dialog.GetDlgItem(desk::PrintDialog::kSheets)->GetWindowTextString();
+  };
+  const NextWindow next([&](ShownWindow& shown) {
+    EXPECT_EQ(text(), L"1 sheet A3, landscape");
+    CWnd* scale = dialog.GetDlgItem(desk::PrintDialog::kHorizontal);
+    EXPECT_FALSE(scale->IsWindowEnabled());
+    static_cast<CButton*>(dialog.GetDlgItem(desk::PrintDialog::kToScale))->Click();
+    EXPECT_EQ(text(), L"20 sheets A3, landscape");
+    scale->SetFocus();
+    scale->SetWindowText(L"50");
+    EXPECT_NE(text().Find(L"cannot be printed"), -1);
+    EXPECT_FALSE(dialog.GetDlgItem(IDOK)->IsWindowEnabled());
+    scale->SetWindowText(L"2*125");
+    EXPECT_EQ(text(), L"40 sheets A3, landscape");
+    shown.Click("Print...");
+  });
+  EXPECT_EQ(dialog.DoModal(), IDOK);
+  EXPECT_TRUE(dialog.Choice().toScale);
+  EXPECT_EQ(dialog.Choice().horizontal, 250.0);
+  EXPECT_EQ(dialog.Choice().vertical, 50.0);
 }
 
 TEST_F(Desk, AZoomedSectionKeepsItsPlaceWhenTheWindowIsSized) {
