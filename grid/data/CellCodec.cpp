@@ -184,7 +184,6 @@ void CellCodec::ReleasePayload(const CellSlot& slot) {
 
 void CellCodec::Clear() {
   m_looks.Clear();
-  m_pool.Clear();
 }
 
 short CellCodec::DataType(const CellSlot& slot) const {

@@ -44,9 +44,10 @@ struct StoredText {
 /// A text's characters; valid until it changes.
 StoredText WideText(const std::wstring& text);
 
-/// Turns cells into slots and back. Its slots' blocks come from its pool, their looks from its table.
+/// Turns cells into slots and back. Its slots' blocks come from the store's pool, their looks from its table.
 class CellCodec {
  public:
+  explicit CellCodec(CellPool& pool) : m_pool(pool) {}
   /// A slot with what a stored cell keeps of `cell`: mask and set properties. As in every merge, a cell
   /// without extra memory loses its pointer.
   CellSlot Make(CGridCell& cell);
@@ -75,7 +76,6 @@ class CellCodec {
   double NumberValue(const CellSlot& slot) const;
 
   const LookTable& Looks() const { return m_looks; }
-  std::size_t BlocksInUse() const { return m_pool.InUse(); }
   /// Whether the slot is well formed.
   bool Check(const CellSlot& slot) const;
 
@@ -88,7 +88,7 @@ class CellCodec {
   void ReleasePayload(const CellSlot& slot);
   static void ReadText(const StoredText& text, std::wstring& target);
 
-  CellPool m_pool;
+  CellPool& m_pool;
   LookTable m_looks;
 };
 

@@ -38,6 +38,8 @@ class CellSlot {
                                                                  : std::countr_zero(m_payload);
     return 8U - static_cast<std::uint32_t>(zeros) / 8U;
   }
+  /// Whether the payload points to a block of the pool.
+  bool HasBlock() const { return Kind() >= SlotKind::heapText; }
   double Number() const { return std::bit_cast<double>(m_payload); }
   template <typename Target>
   Target* Pointer() const {

@@ -78,13 +78,13 @@ void CellStore::Set(int col, std::int64_t row, CGridCell& cell) {
   if (col > m_columns.ColumnOf(positions.last[index])) positions.last[index] = storage;
   ColumnChunk& chunk = place.leaf->FindOrAdd(storage);
   const CellSlot before = chunk.Find(place.row);
-  chunk.Put(place.row, m_codec.Make(cell));
+  chunk.Put(place.row, m_codec.Make(cell), m_pool);
   if (before.Exists()) m_codec.Release(before);
 }
 
 void CellStore::ReleaseCell(RowLeaf& leaf, int storage, int row) {
   ColumnChunk* const chunk = leaf.Find(storage);
-  if (chunk != nullptr && chunk->Has(row)) m_codec.Release(chunk->Take(row));
+  if (chunk != nullptr && chunk->Has(row)) m_codec.Release(chunk->Take(row, m_pool));
 }
 
 bool CellStore::Delete(int col, std::int64_t row) {
@@ -118,8 +118,8 @@ void CellStore::DeleteRow(std::int64_t row) {
 void CellStore::MoveCell(RowLeaf& leaf, int row, int from, int to) {
   const int source = m_columns.Find(from);
   if (source == ColumnMap::NONE || !leaf.FindCell(source, row).Exists()) return;
-  const CellSlot slot = leaf.Find(source)->Take(row);
-  leaf.FindOrAdd(m_columns.FindOrAdd(to)).Put(row, slot);
+  const CellSlot slot = leaf.Find(source)->Take(row, m_pool);
+  leaf.FindOrAdd(m_columns.FindOrAdd(to)).Put(row, slot, m_pool);
 }
 
 /// The rows with positions of which none is as far left as the negative column `col`.
@@ -150,7 +150,7 @@ void CellStore::InsertCol(int col) {
 
 void CellStore::ReleaseChunk(ColumnChunk& chunk) {
   for (int i = 0; i < chunk.Count(); ++i) m_codec.Release(chunk.At(i));
-  chunk.Clear();
+  chunk.Clear(m_pool);
 }
 
 /// Releases the cells of a storage column that gave up column `col`. Rows that ended there go on to do so.
@@ -184,6 +184,7 @@ void CellStore::Clear() {
   m_rows.Clear();
   m_columns.Clear();
   m_codec.Clear();
+  m_pool.Clear();
   m_firstRow = 0;
   ForgetPlace();
 }
@@ -196,23 +197,27 @@ bool CellStore::LastPosition(std::int64_t row, int& col) {
 }
 
 void CellStore::Rebuild(RowTree&& rows) {
+  for (RowLeaf* leaf = m_rows.First(); leaf != nullptr; leaf = leaf->next) {
+    for (ColumnChunk& chunk : leaf->columns) chunk.Clear(m_pool);
+  }
   m_rows = std::move(rows);
   ForgetPlace();
 }
 
-/// Counts the cells of each look.
-bool CellStore::CheckLeaf(const RowLeaf& leaf, std::vector<std::uint64_t>& looks) const {
+bool CellStore::CheckLeaf(const RowLeaf& leaf, Uses& uses) const {
   for (int row = 0; leaf.HasPositions() && row < static_cast<int>(leaf.count); ++row) {
     const int last = leaf.positions->last[static_cast<std::size_t>(row)];
     if (last != ColumnMap::NONE && m_columns.Find(m_columns.ColumnOf(last)) != last) return false;
   }
   for (std::size_t storage = 0; storage < leaf.columns.size(); ++storage) {
+    uses.blocks += leaf.columns[storage].BlockCount();
     for (int row = 0; row < RowLeaf::ROWS; ++row) {
       const CellSlot slot = leaf.columns[storage].Find(row);
       if (!slot.Exists()) continue;
       const int col = m_columns.ColumnOf(static_cast<int>(storage));
       if (!LeafHasPosition(leaf, row, col) || !m_codec.Check(slot)) return false;
-      ++looks[slot.Look()];
+      ++uses.looks[slot.Look()];
+      uses.blocks += slot.HasBlock() ? 1 : 0;
     }
   }
   return true;
@@ -220,13 +225,14 @@ bool CellStore::CheckLeaf(const RowLeaf& leaf, std::vector<std::uint64_t>& looks
 
 bool CellStore::Check() const {
   if (!m_rows.Check() || !m_columns.Check() || !m_codec.Looks().Check()) return false;
-  std::vector<std::uint64_t> looks(m_codec.Looks().Size(), 0);
+  Uses uses{std::vector<std::uint64_t>(m_codec.Looks().Size(), 0)};
   for (const RowLeaf* leaf = m_rows.First(); leaf != nullptr; leaf = leaf->next) {
     if (leaf->columns.size() > static_cast<std::size_t>(m_columns.StorageCount())) return false;
-    if (!CheckLeaf(*leaf, looks)) return false;
+    if (!CheckLeaf(*leaf, uses)) return false;
   }
-  for (std::size_t id = 0; id < looks.size(); ++id) {
-    if (looks[id] != m_codec.Looks().Count(static_cast<std::uint32_t>(id))) return false;
+  if (uses.blocks != m_pool.InUse()) return false;
+  for (std::size_t id = 0; id < uses.looks.size(); ++id) {
+    if (uses.looks[id] != m_codec.Looks().Count(static_cast<std::uint32_t>(id))) return false;
   }
   return true;
 }

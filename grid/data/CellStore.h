@@ -45,6 +45,7 @@ class CellStore {
   const RowTree& Rows() const { return m_rows; }
   const ColumnMap& Columns() const { return m_columns; }
   const CellCodec& Codec() const { return m_codec; }
+  CellPool& Pool() { return m_pool; }
   /// Puts the rows in the order of `rows`, which names each row that has positions once; runs without
   /// positions go as one.
   void Rebuild(RowTree&& rows);
@@ -69,12 +70,18 @@ class CellStore {
   template <typename Action>
   void ForEachRowRightOf(int col, Action action);
   void MoveCell(RowLeaf& leaf, int row, int from, int to);
-  bool CheckLeaf(const RowLeaf& leaf, std::vector<std::uint64_t>& looks) const;
+  /// What the leaves use, counted anew.
+  struct Uses {
+    std::vector<std::uint64_t> looks;
+    std::size_t blocks = 0;
+  };
+  bool CheckLeaf(const RowLeaf& leaf, Uses& uses) const;
 
-  RowTree m_rows;
+  CellPool m_pool;
+  RowTree m_rows{m_pool};
   std::int64_t m_firstRow = 0;
   ColumnMap m_columns;
-  CellCodec m_codec;
+  CellCodec m_codec{m_pool};
   RowLeaf* m_nearLeaf = nullptr;  // borrowed: the leaf used last, where the next access mostly falls
   std::int64_t m_nearStart = 0;   // the row that it begins with
 };

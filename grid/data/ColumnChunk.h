@@ -2,9 +2,9 @@
 
 #include <bit>
 #include <cstdint>
-#include <memory>
 #include <span>
 
+#include "grid/data/CellPool.h"
 #include "grid/data/CellSlot.h"
 
 namespace coregui {
@@ -22,20 +22,22 @@ class ColumnChunk {
   /// The row's cell, if it has one.
   CellSlot Find(int row) const { return Has(row) ? At(Rank(row)) : CellSlot(); }
   /// Makes `cell` the row's, without releasing the one before.
-  void Put(int row, const CellSlot& cell);
+  void Put(int row, const CellSlot& cell, CellPool& pool);
   /// Gives the rows from 0 on these cells; the chunk has none yet.
-  void Fill(std::span<const CellSlot> rows);
+  void Fill(std::span<const CellSlot> rows, CellPool& pool);
   /// Takes the row's cell out, without releasing it.
-  CellSlot Take(int row);
+  CellSlot Take(int row, CellPool& pool);
   void InsertRow(int row);
   /// The row has no cell any more.
   void EraseRow(int row);
   /// Moves the cells of rows from `from` on to the end of `target`, which gets them from row `at` on.
-  void MoveTail(int from, ColumnChunk& target, int at);
+  void MoveTail(int from, ColumnChunk& target, int at, CellPool& pool);
   int Count() const { return std::popcount(m_present); }
   /// The cells in the order of their rows, 0 to Count() - 1.
   CellSlot At(int rank) const { return {m_payloads[Index(rank)], TagOf(rank)}; }
-  void Clear() { *this = {}; }
+  void Clear(CellPool& pool);
+  /// Blocks of the pool that it holds.
+  std::size_t BlockCount() const { return (m_payloads != nullptr ? 1U : 0U) + (m_tags != nullptr ? 1U : 0U); }
   bool Check(int rows) const;
 
  private:
@@ -47,13 +49,13 @@ class ColumnChunk {
     return before == Below(row) ? row : std::popcount(before);
   }
   std::uint32_t TagOf(int rank) const { return m_tags == nullptr ? m_tag : m_tags[Index(rank)]; }
-  void PutTag(int rank, int count, std::uint32_t tag);
-  void Reserve(int count);
+  void PutTag(int rank, int count, std::uint32_t tag, CellPool& pool);
+  void Reserve(int count, CellPool& pool);
 
   std::uint64_t m_present = 0;
-  std::unique_ptr<std::uint64_t[]> m_payloads;
-  std::unique_ptr<std::uint32_t[]> m_tags;  // null while all cells have the same
-  std::uint32_t m_tag = 0;                  // that one
+  std::uint64_t* m_payloads = nullptr;  // the pool's, as are the tags
+  std::uint32_t* m_tags = nullptr;      // null while all cells have the same
+  std::uint32_t m_tag = 0;              // that one
   int m_capacity = 0;
 };
 

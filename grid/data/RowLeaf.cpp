@@ -54,7 +54,7 @@ void RowLeaf::MoveTail(int from, RowLeaf& target) {
   move(positions->first, target.positions->first);
   move(positions->last, target.positions->last);
   for (std::size_t i = 0; i < columns.size(); ++i) {
-    if (columns[i].Count() != 0) columns[i].MoveTail(from, target.FindOrAdd(static_cast<int>(i)), at);
+    if (columns[i].Count() != 0) columns[i].MoveTail(from, target.FindOrAdd(static_cast<int>(i)), at, pool);
   }
   target.count += count - from;
   count = from;

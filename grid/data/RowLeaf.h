@@ -44,7 +44,8 @@ class RowLeaf final : public RowNode {
     bool HasAny(int row) const { return last[static_cast<std::size_t>(row)] != ColumnMap::NONE; }
   };
 
-  RowLeaf() : RowNode(true) {}
+  /// The cells of all leaves of a tree are in one pool, which outlives them. Borrowed.
+  explicit RowLeaf(CellPool& cellPool) : RowNode(true), pool(cellPool) {}
   bool HasPositions() const { return positions != nullptr; }
   /// Gives a leaf of at most 64 rows its positions, none for each row.
   void MakePositions();
@@ -69,6 +70,7 @@ class RowLeaf final : public RowNode {
   void MoveTail(int from, RowLeaf& target);
   bool Check() const;
 
+  CellPool& pool;
   std::int64_t count = 0;
   std::unique_ptr<Positions> positions;  // null: a run of rows without positions
   std::vector<ColumnChunk> columns;      // by storage column

@@ -231,14 +231,14 @@ std::vector<RowLeaf*> RowSorter::BuildLeaves(const std::vector<std::uint32_t>& o
         rows.Append(item.run);
         continue;
       }
-      auto run = std::make_unique<RowLeaf>();
+      auto run = rows.MakeLeaf();
       run->count = item.run;
       rows.AppendLeaf(std::move(run));
       continue;
     }
     if (leaf != nullptr && leaf->count == RowLeaf::ROWS) finish();
     if (leaf == nullptr) {
-      leaf = std::make_unique<RowLeaf>();
+      leaf = rows.MakeLeaf();
       leaf->MakePositions();
       leaf->columns.reserve(static_cast<std::size_t>(m_store.Columns().StorageCount()));
     }
@@ -271,12 +271,12 @@ void RowSorter::FillColumn(int storage, const std::vector<std::uint32_t>& order,
       stored = stored || rows[row].Exists();
       ++row;
     }
-    if (stored) leaf->FindOrAdd(storage).Fill({rows.data(), count});
+    if (stored) leaf->FindOrAdd(storage).Fill({rows.data(), count}, leaf->pool);
   }
 }
 
 void RowSorter::Rebuild(const std::vector<std::uint32_t>& order) {
-  RowTree rows;
+  RowTree rows(m_store.Pool());
   const std::vector<RowLeaf*> leaves = BuildLeaves(order, rows);
   for (int storage = 0; storage < m_store.Columns().StorageCount(); ++storage)
     FillColumn(storage, order, leaves);

@@ -148,7 +148,7 @@ void RowTree::Append(std::int64_t rows) {
     AddRows(*m_last, rows);
     return;
   }
-  auto run = std::make_unique<RowLeaf>();
+  auto run = MakeLeaf();
   run->count = rows;
   AppendLeaf(std::move(run));
 }
@@ -160,14 +160,14 @@ void RowTree::Prepend(std::int64_t rows) {
     m_first->count += rows;
     AddRows(*m_first, rows);
   } else {
-    auto run = std::make_unique<RowLeaf>();
+    auto run = MakeLeaf();
     run->count = rows;
     InsertBefore(m_first, std::move(run));
   }
 }
 
 RowLeaf* RowTree::CutRun(RowLeaf& leaf, std::int64_t from) {
-  auto rest = std::make_unique<RowLeaf>();
+  auto rest = MakeLeaf();
   rest->count = leaf.count - from;
   leaf.count = from;
   AddRows(leaf, -rest->count);
@@ -184,7 +184,7 @@ RowLeaf* RowTree::MakePositions(RowLeaf* leaf, std::int64_t& inLeaf) {
 }
 
 RowLeaf* RowTree::Split(RowLeaf& leaf, int from) {
-  auto right = std::make_unique<RowLeaf>();
+  auto right = MakeLeaf();
   right->MakePositions();
   const std::int64_t moved = leaf.count - from;
   leaf.MoveTail(from, *right);

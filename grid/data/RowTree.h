@@ -33,6 +33,9 @@ class RowInner final : public RowNode {
 /// cost O(log n); going on to the next leaf costs nothing.
 class RowTree {
  public:
+  /// `pool` keeps the cells. Borrowed.
+  explicit RowTree(CellPool& pool) : m_pool(&pool) {}
+  std::unique_ptr<RowLeaf> MakeLeaf() const { return std::make_unique<RowLeaf>(*m_pool); }
   std::int64_t Count() const { return m_count; }
   RowLeaf* First() const { return m_first; }
   RowLeaf* Last() const { return m_last; }
@@ -65,6 +68,7 @@ class RowTree {
   RowLeaf* CutRun(RowLeaf& leaf, std::int64_t from);
   bool CheckNode(const RowNode& node, std::int64_t& rows, const RowLeaf*& previous) const;
 
+  CellPool* m_pool;
   std::unique_ptr<RowNode> m_root;
   RowLeaf* m_first = nullptr;  // borrowed from the root
   RowLeaf* m_last = nullptr;
