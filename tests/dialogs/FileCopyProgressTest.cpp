@@ -5,36 +5,24 @@
 
 #include <cerrno>
 #include <filesystem>
-#include <fstream>
 #include <functional>
-#include <sstream>
 
 #include "dialogs/CFileCopyProgressDlg.h"
 #include "platform/System.h"
+#include "tests/support/FolderTest.h"
 #include "tests/support/OrdinaryUser.h"
 #include "tests/support/ShownWindow.h"
-#include "tests/support/TestEnvironment.h"
 
 namespace {
 
 namespace fs = std::filesystem;
+using coregui::test::FolderTest;
 using coregui::test::NextWindow;
 using coregui::test::OrdinaryUser;
 using coregui::test::ShownWindow;
 
-class FileCopyProgressTest : public testing::Test {
+class FileCopyProgressTest : public FolderTest {
  protected:
-  FileCopyProgressTest() { fs::create_directories(m_folder); }
-  ~FileCopyProgressTest() override { fs::remove_all(m_folder); }
-  std::string At(const std::string& name) const { return m_folder + "/" + name; }
-  void Write(const char* name, const std::string& bytes) const {
-    std::ofstream(At(name), std::ios::binary) << bytes;
-  }
-  std::string Read(const std::string& path) const {
-    std::ostringstream text;
-    text << std::ifstream(path, std::ios::binary).rdbuf();
-    return text.str();
-  }
   static CString Text(const ShownWindow& window, UINT id) {
     return window.Window()->GetDlgItem(static_cast<int>(id))->GetWindowTextString();
   }
@@ -60,15 +48,10 @@ class FileCopyProgressTest : public testing::Test {
       });
       shown->SendMessage(WM_TIMER, CFileCopyProgressDlg::kCloseTimer);
     });
-    const bool copied = coreCopyFilesWithProgress(CString::FromUtf8(from), CString::FromUtf8(to), L"");
+    const bool copied = coreCopyFilesWithProgress(Wide(from), Wide(to), L"");
     m_box.reset();
     return copied;
   }
-  std::size_t FileCount(const std::string& folder) const {
-    return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
-  }
-
-  std::string m_folder = coregui::test::ScratchFolder() + "/progress";
   std::unique_ptr<NextWindow> m_box;
 };
 
@@ -89,15 +72,15 @@ TEST_F(FileCopyProgressTest, TheBarAndTheAmountFollowTheCopy) {
     const NextWindow next([&](ShownWindow& window) {
       EXPECT_EQ(Text(window, CFileCopyProgressDlg::kAmountId), row.before);
       EXPECT_EQ(Text(window, CFileCopyProgressDlg::kDescriptionId), L"A && B");
-      EXPECT_EQ(Read(At("b")), "old");  // nothing happens before the dialog has been seen
+      EXPECT_EQ(Read("b"), "old");  // nothing happens before the dialog has been seen
       window.Window()->SendMessage(WM_TIMER, CFileCopyProgressDlg::kStartTimer);
       EXPECT_EQ(Text(window, CFileCopyProgressDlg::kAmountId), row.after);
       EXPECT_EQ(Bar(window), 201);
       EXPECT_TRUE(window.IsOpen());
       window.Window()->SendMessage(WM_TIMER, CFileCopyProgressDlg::kCloseTimer);
     });
-    EXPECT_TRUE(coreCopyFilesWithProgress(CString::FromUtf8(At("a")), CString::FromUtf8(At("b")), L"A & B"));
-    EXPECT_EQ(Read(At("b")), bytes);
+    EXPECT_TRUE(coreCopyFilesWithProgress(Wide("a"), Wide("b"), L"A & B"));
+    EXPECT_EQ(Read("b"), bytes);
   }
 }
 
@@ -151,22 +134,22 @@ TEST_F(FileCopyProgressTest, NeitherKeysNorTheFrameEndTheDialog) {
     dialog->SendMessage(WM_TIMER, CFileCopyProgressDlg::kCloseTimer);
     EXPECT_FALSE(window.IsOpen());
   });
-  EXPECT_TRUE(coreCopyFilesWithProgress(CString::FromUtf8(At("a")), CString::FromUtf8(At("b")), L""));
+  EXPECT_TRUE(coreCopyFilesWithProgress(Wide("a"), Wide("b"), L""));
   EXPECT_EQ(pressed, 3);
   EXPECT_EQ(fs::file_size(At("b")), 3'000'000U);
 }
 
 TEST_F(FileCopyProgressTest, AFailureIsShownAndLeavesWhatWasThere) {
-  EXPECT_FALSE(FailingCopy(At("missing"), At("b"), ENOENT));
+  EXPECT_FALSE(FailingCopy("missing", "b", ENOENT));
   Write("a", "x");
-  EXPECT_FALSE(FailingCopy(At("a"), At("a"), EINVAL));
-  EXPECT_EQ(Read(At("a")), "x");
-  EXPECT_FALSE(FailingCopy(At("a"), At("no folder/b"), ENOENT));
+  EXPECT_FALSE(FailingCopy("a", "a", EINVAL));
+  EXPECT_EQ(Read("a"), "x");
+  EXPECT_FALSE(FailingCopy("a", "no folder/b", ENOENT));
   fs::create_symlink(At("a"), At("link"));
-  EXPECT_FALSE(FailingCopy(At("a"), At("link"), EINVAL));
-  EXPECT_FALSE(FailingCopy(At("link"), At("a"), EINVAL));
-  EXPECT_EQ(Read(At("a")), "x");
-  EXPECT_EQ(FileCount(m_folder), 2U);
+  EXPECT_FALSE(FailingCopy("a", "link", EINVAL));
+  EXPECT_FALSE(FailingCopy("link", "a", EINVAL));
+  EXPECT_EQ(Read("a"), "x");
+  EXPECT_EQ(Count(), 2U);
 }
 
 TEST_F(FileCopyProgressTest, ASourceThatChangesBeforeTheCopyIsCopiedAsItIsThen) {
@@ -178,8 +161,8 @@ TEST_F(FileCopyProgressTest, ASourceThatChangesBeforeTheCopyIsCopiedAsItIsThen) 
     EXPECT_EQ(Text(window, CFileCopyProgressDlg::kAmountId), L"15 bytes/15 bytes");
     window.Window()->SendMessage(WM_TIMER, CFileCopyProgressDlg::kCloseTimer);
   });
-  EXPECT_TRUE(coreCopyFilesWithProgress(CString::FromUtf8(At("a")), CString::FromUtf8(At("b")), L""));
-  EXPECT_EQ(Read(At("b")), "fifteen bytes..");
+  EXPECT_TRUE(coreCopyFilesWithProgress(Wide("a"), Wide("b"), L""));
+  EXPECT_EQ(Read("b"), "fifteen bytes..");
 }
 
 TEST_F(FileCopyProgressTest, ADiskThatIsFullFillsUpOrIsReadOnlyKeepsWhatItHas) {
@@ -188,27 +171,26 @@ TEST_F(FileCopyProgressTest, ADiskThatIsFullFillsUpOrIsReadOnlyKeepsWhatItHas) {
   if (::mount("none", disk.c_str(), "tmpfs", 0, "size=3m") != 0) {
     GTEST_SKIP() << "no small file system can be mounted here: " << GetErrorText(GetLastError()).ToUtf8();
   }
-  std::ofstream(disk + "/b") << "old";
+  Write("disk/b", "old");
   Write("a", std::string(5'000'000, 'x'));
-  EXPECT_FALSE(FailingCopy(At("a"), disk + "/b", ENOSPC));
-  EXPECT_EQ(FileCount(disk), 1U);
+  EXPECT_FALSE(FailingCopy("a", "disk/b", ENOSPC));
+  EXPECT_EQ(Count("disk"), 1U);
   Write("a", std::string(2'000'000, 'x'));
   {
-    const Meanwhile someoneElse([&] { std::ofstream(disk + "/c") << std::string(2'000'000, 'y'); });
-    EXPECT_FALSE(FailingCopy(At("a"), disk + "/b", ENOSPC));
-    EXPECT_EQ(FileCount(disk), 2U);
+    const Meanwhile someoneElse([&] { Write("disk/c", std::string(2'000'000, 'y')); });
+    EXPECT_FALSE(FailingCopy("a", "disk/b", ENOSPC));
+    EXPECT_EQ(Count("disk"), 2U);
   }
-  fs::remove(disk + "/c");
+  fs::remove(At("disk/c"));
   ASSERT_EQ(::mount("none", disk.c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, "size=3m"), 0);
-  EXPECT_FALSE(FailingCopy(At("a"), disk + "/b", EROFS));
-  EXPECT_EQ(Read(disk + "/b"), "old");
+  EXPECT_FALSE(FailingCopy("a", "disk/b", EROFS));
+  EXPECT_EQ(Read("disk/b"), "old");
   EXPECT_EQ(::umount(disk.c_str()), 0);
 }
 
 TEST_F(FileCopyProgressTest, WhatMayNotBeWrittenOrReadIsLeft) {
   Write("a", "new");
   const std::string folder = At("folder");
-  const std::string target = folder + "/b";
   struct Row {
     int folder;
     int target;
@@ -218,15 +200,15 @@ TEST_F(FileCopyProgressTest, WhatMayNotBeWrittenOrReadIsLeft) {
   fs::permissions(m_folder, fs::perms(0755));
   for (const Row& row : rows) {
     fs::create_directory(folder);
-    std::ofstream(target) << "old";
+    Write("folder/b", "old");
     fs::permissions(At("a"), fs::perms(row.source));
-    fs::permissions(target, fs::perms(row.target));
+    fs::permissions(At("folder/b"), fs::perms(row.target));
     fs::permissions(folder, fs::perms(row.folder));
-    EXPECT_FALSE(FailingCopy(At("a"), target, EACCES, true));
+    EXPECT_FALSE(FailingCopy("a", "folder/b", EACCES, true));
     fs::permissions(folder, fs::perms::owner_all);
-    EXPECT_EQ(FileCount(folder), 1U);
-    fs::permissions(target, fs::perms::owner_all);
-    EXPECT_EQ(Read(target), "old");
+    EXPECT_EQ(Count("folder"), 1U);
+    fs::permissions(At("folder/b"), fs::perms::owner_all);
+    EXPECT_EQ(Read("folder/b"), "old");
     fs::remove_all(folder);
   }
 }

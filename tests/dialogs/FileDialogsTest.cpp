@@ -3,31 +3,29 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 
 #include "platform/CWnd.h"
 #include "platform/DialogIds.h"
 #include "platform/Profile.h"
+#include "tests/support/FolderTest.h"
 #include "tests/support/ShownWindow.h"
-#include "tests/support/TestEnvironment.h"
 
 namespace {
 
 namespace fs = std::filesystem;
+using coregui::test::FolderTest;
 using coregui::test::NextWindow;
 using coregui::test::NoWindow;
 using coregui::test::ShownWindow;
 
-class FileDialogsTest : public testing::Test {
+class FileDialogsTest : public FolderTest {
  protected:
   FileDialogsTest() {
-    fs::create_directories(m_folder + "/sub");
-    std::ofstream(m_folder + "/survey.csv") << "x";
-    std::ofstream(m_folder + "/other.csv") << "x";
+    fs::create_directory(FolderTest::At("sub"));
+    Write("survey.csv", "x");
+    Write("other.csv", "x");
   }
-  ~FileDialogsTest() override { fs::remove_all(m_folder); }
-  CString At(const char* name) const { return CString::FromUtf8(m_folder + "/" + name); }
-  std::string m_folder = coregui::test::ScratchFolder() + "/files";
+  CString At(const char* name) const { return Wide(name); }
 };
 
 TEST_F(FileDialogsTest, AMissingFileIsFoundBesideTheOneThatNeedsIt) {

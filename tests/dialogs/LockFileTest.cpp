@@ -9,44 +9,34 @@
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include "platform/Profile.h"
 #include "platform/System.h"
+#include "tests/support/FolderTest.h"
 #include "tests/support/LogWatch.h"
 #include "tests/support/OrdinaryUser.h"
 #include "tests/support/ShownWindow.h"
-#include "tests/support/TestEnvironment.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 using coregui::test::ExpectLog;
+using coregui::test::FolderTest;
 using coregui::test::NextWindow;
 using coregui::test::NoWindow;
 using coregui::test::OrdinaryUser;
 using coregui::test::ShownWindow;
 
-class LockFileTest : public testing::Test {
+class LockFileTest : public FolderTest {
  protected:
-  LockFileTest() { fs::create_directories(m_folder); }
-  ~LockFileTest() override {
-    fs::remove_all(m_folder);
-    ::setenv("USERNAME", "tester", 1);
-  }
-  void WriteLock(const std::string& bytes) const { std::ofstream(m_lock, std::ios::binary) << bytes; }
-  std::string Lock() const {
-    std::ostringstream bytes;
-    bytes << std::ifstream(m_lock, std::ios::binary).rdbuf();
-    return bytes.str();
-  }
+  ~LockFileTest() override { ::setenv("USERNAME", "tester", 1); }
+  void WriteLock(const std::string& bytes) const { Write("a survey.lck", bytes); }
+  std::string Lock() const { return Read("a survey.lck"); }
   bool Check(bool checkOnly = true) const { return coreCheckLockStatus(m_data, L"lck", checkOnly, nullptr); }
   static std::string Serial() { return CString::Formatted(L"%X", GetMachineSerial()).ToUtf8(); }
 
-  std::string m_folder = coregui::test::ScratchFolder() + "/lock";
-  std::string m_lock = m_folder + "/a survey.lck";
-  CString m_data = CString::FromUtf8(m_folder + "/a survey.csv");
+  const std::string m_lock = At("a survey.lck");
+  const CString m_data = Wide("a survey.csv");
 };
 
 TEST_F(LockFileTest, ALockIsTakenToTheByteAndGivenBack) {
@@ -147,7 +137,7 @@ TEST_F(LockFileTest, HostileLockFilesAreReadWithinTheLimits) {
 
 TEST_F(LockFileTest, WhatCannotBeMadeOrReadGoesToTheStatusOutput) {
   const NoWindow none;
-  const CString nowhere = CString::FromUtf8(m_folder + "/no folder/a.csv");
+  const CString nowhere = Wide("no folder/a.csv");
   EXPECT_TRUE(coreCheckLockStatus(nowhere, L"lck", true, nullptr));
   ExpectLog(L"... Unable to create lock file");
   EXPECT_FALSE(coreCheckLockStatus(nowhere, L"lck", false, nullptr));
@@ -194,7 +184,7 @@ TEST_F(LockFileTest, InAReadOnlyFolderNoLockIsTakenOrGivenBack) {
     ExpectLog(L"cannot be removed: Permission denied");
     EXPECT_FALSE(coreReleaseLock(m_data, L"lck"));
     ExpectLog(L"... Unable to create lock file");
-    const CString other = CString::FromUtf8(m_folder + "/other.csv");
+    const CString other = Wide("other.csv");
     EXPECT_FALSE(coreCheckLockStatus(other, L"lck", false, nullptr));
   }
   fs::permissions(m_folder, fs::perms::owner_all);

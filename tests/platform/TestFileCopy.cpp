@@ -5,13 +5,11 @@
 #include <cerrno>
 #include <csignal>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <vector>
 
 #include "platform/CString.h"
 #include "platform/FileCopy.h"
-#include "tests/support/TestEnvironment.h"
+#include "tests/support/FolderTest.h"
 
 namespace {
 
@@ -20,36 +18,19 @@ using coregui::CopyAnswer;
 using coregui::CopyProgress;
 using coregui::CopyReason;
 
-class FileCopyTest : public testing::Test {
+class FileCopyTest : public coregui::test::FolderTest {
  protected:
-  FileCopyTest() { fs::create_directories(m_folder); }
-  ~FileCopyTest() override { fs::remove_all(m_folder); }
-  std::string At(const char* name) const { return m_folder + "/" + name; }
-  void Write(const char* name, const std::string& bytes) const {
-    std::ofstream(At(name), std::ios::binary) << bytes;
-  }
-  std::string Read(const char* name) const {
-    std::ostringstream text;
-    text << std::ifstream(At(name), std::ios::binary).rdbuf();
-    return text.str();
-  }
   bool Copy(const char* from, const char* to, const bool* cancel = nullptr) {
     m_calls.clear();
     errno = 0;
     return coregui::CopyFileWithProgress(
-        CString::FromUtf8(At(from)), CString::FromUtf8(At(to)),
+        Wide(from), Wide(to),
         [this](const CopyProgress& p) {
           m_calls.push_back(p);
           return m_calls.size() == m_cancelAt ? CopyAnswer::cancel : CopyAnswer::proceed;
         },
         cancel);
   }
-  std::size_t FileCount() const {
-    return static_cast<std::size_t>(
-        std::distance(fs::directory_iterator(m_folder), fs::directory_iterator()));
-  }
-
-  std::string m_folder = coregui::test::ScratchFolder() + "/copy";
   std::vector<CopyProgress> m_calls;
   std::size_t m_cancelAt = 0;
 };
@@ -94,7 +75,7 @@ TEST_F(FileCopyTest, CancellingLeavesTheOldFile) {
   EXPECT_FALSE(Copy("a", "b", &cancel));
   EXPECT_EQ(errno, ECANCELED);
   EXPECT_EQ(Read("b"), "old");
-  EXPECT_EQ(FileCount(), 2U);
+  EXPECT_EQ(Count(), 2U);
 }
 
 TEST_F(FileCopyTest, AFailedWriteLeavesTheOldFileAndNoTemporaryOne) {
@@ -112,17 +93,17 @@ TEST_F(FileCopyTest, AFailedWriteLeavesTheOldFileAndNoTemporaryOne) {
   EXPECT_FALSE(copied);
   EXPECT_EQ(reason, EFBIG);
   EXPECT_EQ(Read("b"), "old");
-  EXPECT_EQ(FileCount(), 2U);
+  EXPECT_EQ(Count(), 2U);
 }
 
 TEST_F(FileCopyTest, TooLittleRoomIsKnownBeforeAnythingIsWritten) {
   Write("a", "x");
   if (::truncate(At("a").c_str(), off_t{1} << 42) != 0) GTEST_SKIP() << "no sparse files here";
-  ASSERT_LT(coregui::GetFreeDiskSpace(CString::FromUtf8(At("b"))), std::uint64_t{1} << 42U);
+  ASSERT_LT(coregui::GetFreeDiskSpace(Wide("b")), std::uint64_t{1} << 42U);
   EXPECT_FALSE(Copy("a", "b"));
   EXPECT_EQ(errno, ENOSPC);
   EXPECT_TRUE(m_calls.empty());
-  EXPECT_EQ(FileCount(), 1U);
+  EXPECT_EQ(Count(), 1U);
 }
 
 TEST_F(FileCopyTest, OnlyPlainFilesThatDifferAreCopied) {
@@ -143,7 +124,7 @@ TEST_F(FileCopyTest, OnlyPlainFilesThatDifferAreCopied) {
     EXPECT_EQ(errno, row.reason) << row.from << " to " << row.to;
   }
   EXPECT_EQ(Read("a"), "x");
-  EXPECT_EQ(FileCount(), 4U);
+  EXPECT_EQ(Count(), 4U);
 }
 
 TEST_F(FileCopyTest, ANameAsLongAsTheFileSystemTakesIsCopied) {
