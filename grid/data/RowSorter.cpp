@@ -225,15 +225,8 @@ std::vector<RowLeaf*> RowSorter::BuildLeaves(const std::vector<std::uint32_t>& o
   }
   for (const std::uint32_t at : order) {
     if (IsRun(at)) {
-      const Item& item = m_items[at];
       finish();
-      if (rows.Last() != nullptr && !rows.Last()->HasPositions()) {
-        rows.Append(item.run);
-        continue;
-      }
-      auto run = rows.MakeLeaf();
-      run->count = item.run;
-      rows.AppendLeaf(std::move(run));
+      rows.AppendRun(m_items[at].run);
       continue;
     }
     if (leaf != nullptr && leaf->count == RowLeaf::ROWS) finish();

@@ -16,42 +16,6 @@ std::int64_t RowsIn(const RowNode& node) {
 
 }  // namespace
 
-RowNode* RowInner::Descend(std::int64_t& row) const {
-  // Children of equal size are found at once; others are near.
-  const std::int64_t total = starts[At(size)];
-  int at = static_cast<int>(static_cast<double>(row) * size / static_cast<double>(total));
-  at = std::min(at, size - 1);
-  if (starts[At(at)] > row || starts[At(at) + 1] <= row) {
-    const auto end = starts.begin() + size + 1;
-    at = static_cast<int>(std::upper_bound(starts.begin(), end, row) - starts.begin()) - 1;
-  }
-  row -= starts[At(at)];
-  return children[At(at)].get();
-}
-
-void RowInner::Insert(int at, std::unique_ptr<RowNode> child, std::int64_t rows) {
-  child->parent = this;
-  std::move_backward(children.begin() + at, children.begin() + size, children.begin() + size + 1);
-  children[At(at)] = std::move(child);
-  for (int i = size + 1; i > at; --i) starts[At(i)] = starts[At(i) - 1] + rows;
-  ++size;
-  for (int i = at; i < size; ++i) children[At(i)]->place = i;
-}
-
-std::unique_ptr<RowNode> RowInner::Remove(int at) {
-  const std::int64_t rows = RowsOf(at);
-  std::unique_ptr<RowNode> removed = std::move(children[At(at)]);
-  std::move(children.begin() + at + 1, children.begin() + size, children.begin() + at);
-  --size;
-  for (int i = at + 1; i <= size; ++i) starts[At(i)] = starts[At(i) + 1] - rows;
-  for (int i = at; i < size; ++i) children[At(i)]->place = i;
-  return removed;
-}
-
-void RowInner::AddRows(int at, std::int64_t rows) {
-  for (int i = at + 1; i <= size; ++i) starts[At(i)] += rows;
-}
-
 RowLeaf* RowTree::Find(std::int64_t row, std::int64_t& inLeaf) const {
   RowNode* node = m_root.get();
   inLeaf = row;
@@ -101,33 +65,27 @@ void RowTree::InsertNode(RowNode& neighbour, bool after, std::unique_ptr<RowNode
   }
 }
 
-RowLeaf* RowTree::InsertAfter(RowLeaf* leaf, std::unique_ptr<RowLeaf> added) {
+RowLeaf* RowTree::InsertBeside(RowLeaf& leaf, bool after, std::unique_ptr<RowLeaf> added) {
   RowLeaf* const fresh = added.get();
-  fresh->previous = leaf;
-  fresh->next = leaf->next;
+  fresh->previous = after ? &leaf : leaf.previous;
+  fresh->next = after ? leaf.next : &leaf;
+  (fresh->previous != nullptr ? fresh->previous->next : m_first) = fresh;
   (fresh->next != nullptr ? fresh->next->previous : m_last) = fresh;
-  leaf->next = fresh;
   const std::int64_t rows = fresh->count;
-  InsertNode(*leaf, true, std::move(added), rows);
+  InsertNode(leaf, after, std::move(added), rows);
   m_count += rows;
   return fresh;
 }
 
-RowLeaf* RowTree::InsertBefore(RowLeaf* leaf, std::unique_ptr<RowLeaf> added) {
-  RowLeaf* const fresh = added.get();
-  fresh->next = leaf;
-  fresh->previous = leaf->previous;
-  (fresh->previous != nullptr ? fresh->previous->next : m_first) = fresh;
-  leaf->previous = fresh;
-  const std::int64_t rows = fresh->count;
-  InsertNode(*leaf, false, std::move(added), rows);
-  m_count += rows;
-  return fresh;
+std::unique_ptr<RowLeaf> RowTree::MakeRun(std::int64_t rows) const {
+  auto run = MakeLeaf();
+  run->count = rows;
+  return run;
 }
 
 void RowTree::AppendLeaf(std::unique_ptr<RowLeaf> leaf) {
   if (m_root != nullptr) {
-    InsertAfter(m_last, std::move(leaf));
+    InsertBeside(*m_last, true, std::move(leaf));
     return;
   }
   m_count = leaf->count;
@@ -142,15 +100,16 @@ void RowTree::Append(std::int64_t rows) {
     AddRows(*m_last, fit);
     rows -= fit;
   }
-  if (rows == 0) return;
+  if (rows != 0) AppendRun(rows);
+}
+
+void RowTree::AppendRun(std::int64_t rows) {
   if (m_last != nullptr && !m_last->HasPositions()) {
     m_last->count += rows;
     AddRows(*m_last, rows);
-    return;
+  } else {
+    AppendLeaf(MakeRun(rows));
   }
-  auto run = MakeLeaf();
-  run->count = rows;
-  AppendLeaf(std::move(run));
 }
 
 void RowTree::Prepend(std::int64_t rows) {
@@ -160,18 +119,15 @@ void RowTree::Prepend(std::int64_t rows) {
     m_first->count += rows;
     AddRows(*m_first, rows);
   } else {
-    auto run = MakeLeaf();
-    run->count = rows;
-    InsertBefore(m_first, std::move(run));
+    InsertBeside(*m_first, false, MakeRun(rows));
   }
 }
 
 RowLeaf* RowTree::CutRun(RowLeaf& leaf, std::int64_t from) {
-  auto rest = MakeLeaf();
-  rest->count = leaf.count - from;
+  auto rest = MakeRun(leaf.count - from);
   leaf.count = from;
   AddRows(leaf, -rest->count);
-  return InsertAfter(&leaf, std::move(rest));
+  return InsertBeside(leaf, true, std::move(rest));
 }
 
 RowLeaf* RowTree::MakePositions(RowLeaf* leaf, std::int64_t& inLeaf) {
@@ -189,7 +145,7 @@ RowLeaf* RowTree::Split(RowLeaf& leaf, int from) {
   const std::int64_t moved = leaf.count - from;
   leaf.MoveTail(from, *right);
   AddRows(leaf, -moved);
-  return InsertAfter(&leaf, std::move(right));
+  return InsertBeside(leaf, true, std::move(right));
 }
 
 void RowTree::InsertRow(std::int64_t row) {

@@ -1,33 +1,11 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <memory>
 
-#include "grid/data/RowLeaf.h"
+#include "grid/data/RowInner.h"
 
 namespace coregui {
-
-/// An inner node: children and how many rows stand before each.
-class RowInner final : public RowNode {
- public:
-  static constexpr int CHILDREN = 64;
-  RowInner() : RowNode(false) {}
-  /// The child that holds the row; `row` becomes its index in the child.
-  RowNode* Descend(std::int64_t& row) const;
-  void Insert(int at, std::unique_ptr<RowNode> child, std::int64_t rows);
-  std::unique_ptr<RowNode> Remove(int at);
-  void AddRows(int at, std::int64_t rows);
-  std::int64_t RowsOf(int at) const { return starts[At(at) + 1] - starts[At(at)]; }
-
-  int size = 0;
-  std::array<std::int64_t, CHILDREN + 1>
-      starts{};  // rows before each child; starts[size] is the number of rows
-  std::array<std::unique_ptr<RowNode>, CHILDREN> children;
-
- private:
-  static std::size_t At(int at) { return static_cast<std::size_t>(at); }
-};
 
 /// The rows in order, numbered from 0: a B+-tree of leaves with counts. Finding, inserting and erasing a row
 /// cost O(log n); going on to the next leaf costs nothing.
@@ -51,13 +29,15 @@ class RowTree {
   /// Makes the leaf around a row of a leaf without positions have positions; updates the row's index in its
   /// leaf.
   RowLeaf* MakePositions(RowLeaf* leaf, std::int64_t& inLeaf);
+  /// Rows without positions at the end, none of them in a leaf that has some.
+  void AppendRun(std::int64_t rows);
   void AppendLeaf(std::unique_ptr<RowLeaf> leaf);
   void Clear();
   bool Check() const;
 
  private:
-  RowLeaf* InsertAfter(RowLeaf* leaf, std::unique_ptr<RowLeaf> added);
-  RowLeaf* InsertBefore(RowLeaf* leaf, std::unique_ptr<RowLeaf> added);
+  std::unique_ptr<RowLeaf> MakeRun(std::int64_t rows) const;
+  RowLeaf* InsertBeside(RowLeaf& leaf, bool after, std::unique_ptr<RowLeaf> added);
   void InsertNode(RowNode& neighbour, bool after, std::unique_ptr<RowNode> added, std::int64_t rows);
   RowInner* SplitInner(RowInner& inner, int& at);
   void AddRows(RowNode& node, std::int64_t rows);
