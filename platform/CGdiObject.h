@@ -53,8 +53,8 @@ class COREGUI_API CPen : public CGdiObject {
 // Hatch styles.
 inline constexpr int HS_HORIZONTAL = 0;
 inline constexpr int HS_VERTICAL = 1;
-inline constexpr int HS_FDIAGONAL = 2;
-inline constexpr int HS_BDIAGONAL = 3;
+inline constexpr int HS_FDIAGONAL = 2;  ///< falls to the right
+inline constexpr int HS_BDIAGONAL = 3;  ///< rises to the right
 inline constexpr int HS_CROSS = 4;
 inline constexpr int HS_DIAGCROSS = 5;
 

@@ -7,6 +7,7 @@
 #include "views/CPolylineSink.h"
 #include "views/ClipPolygon.h"
 #include "views/DeviceNumbers.h"
+#include "views/HatchPolygon.h"
 #include "views/ReduceSeries.h"
 
 namespace coregui {
@@ -18,7 +19,7 @@ constexpr double kFillRoom = 4096.0;
 /// Smooth lines go through the toolkit point by point up to here; beyond, hard pixels look the same and are
 /// fast.
 constexpr double kSmoothLimit = 1e6;
-constexpr LONG kPaperDpi = 200;
+constexpr double kHatchPixels = 8.0;  // from line to line along a row, as on the screen
 constexpr std::size_t kMostSmoothPoints = 8000;
 
 bool AreDrawable(std::initializer_list<PNT_2D_record> points) {
@@ -56,7 +57,7 @@ void CPlotPrimitives::EndPlot() {
 
 int CPlotPrimitives::PenPixels() const {
   // A pixel of a fine printer would hardly be seen: there it stands for 1/96 inch.
-  const double finer = m_dpi.cy >= kPaperDpi ? m_dpi.cy / 96.0 : 1.0;
+  const double finer = IsPaper() ? m_dpi.cy / 96.0 : 1.0;
   const double pixels = m_pen.unit == PlotUnit::points ? PixelsOfPoints(m_pen.width) : m_pen.width * finer;
   return std::max<int>(1, TruncateToDevice(pixels + 0.5));
 }
@@ -127,14 +128,35 @@ bool CPlotPrimitives::StrokeSmoothly(const PNT_2D_record* points, std::size_t co
   return true;
 }
 
+void CPlotPrimitives::Hatch(const std::vector<PNT_2D_record>& outline) {
+  // Line by line: a device's own hatches are of its dots, which are too fine on paper and on fine screens.
+  const double pixel = IsPaper() ? m_dpi.cy / 96.0 : 1.0;
+  CPolylineSink sink(VisibleForPen());
+  const std::vector<PNT_2D_record> parts = HatchPolygon(outline, m_fill.hatch, kHatchPixels * pixel);
+  for (std::size_t i = 0; i + 1 < parts.size(); i += 2) {
+    sink.Add(Rounded(parts[i]));
+    sink.Add(Rounded(parts[i + 1]));
+    sink.Break();
+  }
+  const PlotPen outlinePen = m_pen;
+  m_pen = {m_fill.colour};
+  StrokeSink(sink);
+  m_pen = outlinePen;
+}
+
 void CPlotPrimitives::FillDevice(const std::vector<PNT_2D_record>& devicePoints) {
   if (m_fill.kind == PlotFill::Kind::none) {
     return;
   }
   const FRect box(m_area.left - kFillRoom, m_area.top - kFillRoom, m_area.right + kFillRoom,
                   m_area.bottom + kFillRoom);
+  const std::vector<PNT_2D_record> outline = ClipPolygon(devicePoints, box);
+  if (m_fill.kind == PlotFill::Kind::hatched) {
+    Hatch(outline);
+    return;
+  }
   std::vector<POINT> pixels;
-  for (const PNT_2D_record& p : ClipPolygon(devicePoints, box)) {
+  for (const PNT_2D_record& p : outline) {
     pixels.push_back(Rounded(p));
   }
   if (pixels.size() < 3) {
@@ -142,10 +164,9 @@ void CPlotPrimitives::FillDevice(const std::vector<PNT_2D_record>& devicePoints)
   }
   CPen none(PS_NULL, 1, 0);
   CBrush solid(m_fill.colour);
-  CBrush hatched(m_fill.hatch, m_fill.colour);
   const int saved = m_dc->SaveDC();
   m_dc->SelectObject(&none);
-  m_dc->SelectObject(m_fill.kind == PlotFill::Kind::solid ? &solid : &hatched);
+  m_dc->SelectObject(&solid);
   m_dc->SetAntiAliasing(m_smooth);
   m_dc->Polygon(pixels.data(), static_cast<int>(pixels.size()));
   m_dc->RestoreDC(saved);

@@ -91,9 +91,12 @@ class COREGUI_API CPlotPrimitives {
   void SelectPen();
   void StrokeSink(const CPolylineSink& sink);
   void StrokeDevice(const std::vector<PNT_2D_record>& devicePoints);
+  /// Dots too fine to be seen one by one.
+  bool IsPaper() const { return m_dpi.cy >= 200; }
   bool StrokeSmoothly(const PNT_2D_record* points, std::size_t count);
   /// The filled head of an arrow from `from` to `tip`, in device pixels.
   void DrawHead(PNT_2D_record const& from, PNT_2D_record const& tip, double pixels);
+  void Hatch(const std::vector<PNT_2D_record>& outline);
   void FillDevice(const std::vector<PNT_2D_record>& devicePoints);
   std::vector<PNT_2D_record> ToDevice(const std::vector<PNT_2D_record>& points) const;
   std::vector<PNT_2D_record> CurvePoints(PNT_2D_record const& centre, PNT_2D_record const& radii,

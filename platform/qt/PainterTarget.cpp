@@ -118,10 +118,7 @@ QBrush PainterTarget::BrushOf(const CBrush& brush) const {
     case CBrush::Kind::hatched:
       break;
   }
-  // The toolkit's forward diagonal rises to the right, as HS_BDIAGONAL does; they change places.
-  const int index =
-      brush.GetHatch() == HS_FDIAGONAL ? 3 : (brush.GetHatch() == HS_BDIAGONAL ? 2 : brush.GetHatch());
-  QBrush result(QColor::fromRgb(Opaque(brush.GetColor())), hatches[std::clamp(index, 0, 5)]);
+  QBrush result(QColor::fromRgb(Opaque(brush.GetColor())), hatches[std::clamp(brush.GetHatch(), 0, 5)]);
   result.setTransform(QTransform::fromScale(Scale(), Scale()));
   return result;
 }

@@ -120,6 +120,30 @@ TEST_P(Drawing, Polyline_HasTheDotsOfItsSegments_UpAndDownInAColumnToo) {
   }
 }
 
+TEST_P(Drawing, DiagonalHatches_FallAndRiseToTheRight) {
+  CPen none(PS_NULL, 1, 0);
+  dc.SelectObject(&none);
+  for (const int hatch : {HS_FDIAGONAL, HS_BDIAGONAL}) {
+    dc.FillSolidRect(CRect(0, 0, 60, 40), white);
+    CBrush brush(hatch, red);
+    dc.SelectObject(&brush);
+    const POINT all[] = {{0, 0}, {60, 0}, {60, 40}, {0, 40}};
+    dc.Polygon(all, 4);
+    const int down = hatch == HS_FDIAGONAL ? 1 : -1;
+    int along = 0;
+    int against = 0;
+    for (int y = 8; y < 32; ++y) {
+      for (int x = 8; x < 52; ++x) {
+        const bool ink = Dot(x, y) != 0xFFFFFF;
+        along += ink && Dot(x + 1, y + down) != 0xFFFFFF ? 1 : 0;
+        against += ink && Dot(x + 1, y - down) != 0xFFFFFF ? 1 : 0;
+      }
+    }
+    EXPECT_GT(along, against + 50) << hatch;
+    dc.SelectStockObject(StockObject::nullBrush);
+  }
+}
+
 TEST_P(Drawing, Dashes_GoOnFromPartToPart) {
   for (const int style : {PS_DASH, PS_DOT, PS_DASHDOTDOT}) {
     CPen pen(style, 1, red);

@@ -6,6 +6,7 @@
 #include "platform/CBitmap.h"
 #include "views/CPlotSheet.h"
 #include "views/CViewMapping.h"
+#include "views/HatchPolygon.h"
 
 namespace {
 
@@ -52,8 +53,35 @@ TEST_F(PlotPrimitives, DrawInWorldUnitsWithPensInPixelsAndPoints) {
   sheet.SetPlotFill({PlotFill::Kind::hatched, RGB(0, 0, 255), HS_CROSS});
   sheet.PlotRectangle(FRect(10, 90, 30, 80));
   EXPECT_EQ(Log(),
-            L"Polygon 10,10 30,10 30,20 10,20 nopen hatch4 #0000FF\n"
+            L"Polyline 30,16 10,16 #0000FF\nPolyline 16,10 16,20 #0000FF\nPolyline 24,10 24,20 #0000FF\n"
             L"Polyline 10,10 30,10 30,20 10,20 10,10 #000000");
+}
+
+TEST_F(PlotPrimitives, HatchesOnPaperAreLinesAsFarApartAsOnTheScreen) {
+  sheet.EndPlot();
+  sheet.BeginPlot(dc, CRect(0, 0, 200, 100), CSize(288, 288));  // three dots to a pixel
+  struct Row {
+    int hatch;
+    const wchar_t* lines;
+  };
+  // A step with a notch, 8 pixels are 24 dots; the notch parts the lines through it.
+  const Row rows[] = {{HS_HORIZONTAL,
+                       L"Polyline 90,24 70,24 #0000FF w3\nPolyline 40,24 10,24 #0000FF w3\n"
+                       L"Polyline 90,48 10,48 #0000FF w3"},
+                      {HS_VERTICAL,
+                       L"Polyline 24,20 24,60 #0000FF w3\nPolyline 48,40 48,60 #0000FF w3\n"
+                       L"Polyline 72,20 72,60 #0000FF w3"}};
+  for (const Row& row : rows) {
+    sheet.SetPlotFill({PlotFill::Kind::hatched, RGB(0, 0, 255), row.hatch});
+    sheet.PlotPolygon({{10, 80}, {40, 80}, {40, 60}, {70, 60}, {70, 80}, {90, 80}, {90, 40}, {10, 40}});
+    const std::wstring log = Log();
+    EXPECT_EQ(log.substr(0, log.rfind(L'\n')), row.lines);
+  }
+  const std::vector<PNT_2D_record> square = {{0, 0}, {30, 0}, {30, 30}, {0, 30}};
+  const std::vector<PNT_2D_record> falling = coregui::HatchPolygon(square, HS_FDIAGONAL, 20);
+  ASSERT_EQ(falling.size(), 6U);
+  EXPECT_EQ(falling[2].x, falling[2].y) << "through the origin, down to the right";
+  EXPECT_TRUE(coregui::HatchPolygon(square, HS_CROSS, 0).empty());
 }
 
 TEST_F(PlotPrimitives, WhatIsNotFiniteOrOutOfSightDrawsNothing) {
