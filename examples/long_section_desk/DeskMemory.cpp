@@ -34,6 +34,13 @@ CString SurveyEntry(std::size_t index) {
   return CString::Formatted(L"Survey%d", static_cast<int>(index) + 1);
 }
 
+/// The first of them; the other entries are taken away.
+void WriteSurveys(const std::vector<std::wstring>& surveys) {
+  for (std::size_t i = 0; i < kMostSurveys; ++i) {
+    Profile().WriteString(kSurveys, SurveyEntry(i), i < surveys.size() ? surveys[i].c_str() : nullptr);
+  }
+}
+
 }  // namespace
 
 std::optional<DeskPlace> RecallPlace() {
@@ -106,10 +113,13 @@ void KeepSurvey(const std::wstring& path) {
   }
   std::erase(surveys, path);
   surveys.insert(surveys.begin(), path);
-  surveys.resize(std::min(surveys.size(), kMostSurveys));
-  for (std::size_t i = 0; i < surveys.size(); ++i) {
-    Profile().WriteString(kSurveys, SurveyEntry(i), surveys[i].c_str());
-  }
+  WriteSurveys(surveys);
+}
+
+void ForgetSurvey(const std::wstring& path) {
+  std::vector<std::wstring> surveys = RecallSurveys();
+  std::erase(surveys, path);
+  WriteSurveys(surveys);
 }
 
 }  // namespace desk

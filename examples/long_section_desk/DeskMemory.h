@@ -31,5 +31,6 @@ void KeepPrintChoice(const PrintChoice& choice);
 std::vector<std::wstring> RecallSurveys();
 /// Puts a survey in front of the others.
 void KeepSurvey(const std::wstring& path);
+void ForgetSurvey(const std::wstring& path);
 
 }  // namespace desk

@@ -56,13 +56,12 @@ bool DeskWindow::Open(const std::wstring& path) {
   m_opening = FileName(whole);
   m_report = SurveyReport();
   m_report.error = SurveyFault(whole);
-  // The lock that we hold stays when the file is read again; all others are asked for anew.
-  const bool keepLock = m_lock.IsFor(whole) && m_lock.GetState() == SurveyLock::State::held;
   SurveyLock lock;
+  // A file that is read again keeps its lock; another one gets it only when it can be shown.
+  const bool sameLock = m_lock.IsFor(whole);
   if (m_report.error.empty()) {
-    if (!keepLock) {
-      m_unattended ? lock.Look(whole) : lock.Take(whole, this);
-    }
+    SurveyLock& taken = sameLock ? m_lock : lock;
+    m_unattended ? taken.Look(whole) : taken.Take(whole, this);
     m_report = Read(whole);
   }
   if (!m_report.error.empty()) {
@@ -71,7 +70,7 @@ bool DeskWindow::Open(const std::wstring& path) {
     return false;
   }
   m_path = whole;
-  if (!keepLock) {
+  if (!sameLock) {
     m_lock = std::move(lock);
   }
   m_status.Show(L"Showing " + m_report.RowsText() + L" of " + m_opening);
@@ -169,7 +168,10 @@ void DeskWindow::OpenRecent() {
   }
   const int chosen = menu.TrackPopupMenu(TPM_RETURNCMD, at.x, at.y, this);
   if (chosen >= static_cast<int>(kFirstRecent)) {
-    Open(surveys[static_cast<std::size_t>(chosen) - kFirstRecent]);
+    const std::wstring& survey = surveys[static_cast<std::size_t>(chosen) - kFirstRecent];
+    if (!Open(survey) && !coreFileExist(survey.c_str())) {
+      ForgetSurvey(survey);
+    }
   }
 }
 

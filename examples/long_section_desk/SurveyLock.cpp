@@ -32,7 +32,9 @@ SurveyLock& SurveyLock::operator=(SurveyLock&& other) noexcept {
 }
 
 void SurveyLock::Take(const std::wstring& survey, CWnd* owner) {
-  Release();
+  if (!IsFor(survey)) {
+    Release();
+  }
   m_survey = survey;
   m_state = State::unavailable;
   if (CanHaveLock(survey)) {

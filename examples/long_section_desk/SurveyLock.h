@@ -27,8 +27,8 @@ class SurveyLock {
   SurveyLock(SurveyLock&& other) noexcept { *this = std::move(other); }
   SurveyLock& operator=(SurveyLock&& other) noexcept;
 
-  /// Takes the lock of a survey, after giving up the one before. Somebody else's is told in a message box
-  /// with `owner`.
+  /// Takes the lock of a survey, after giving up that of another one; the same again sees whether it still is
+  /// ours. Somebody else's is told in a message box with `owner`.
   void Take(const std::wstring& survey, CWnd* owner);
   /// Only asks, and shows and makes nothing: for runs without a person.
   void Look(const std::wstring& survey);

@@ -90,8 +90,15 @@ TEST_F(DeskFiles, WhatSomebodyElseHoldsIsOpenedForLookingOnly) {
   fs::remove(folder / "a.lck");
   ASSERT_TRUE(window.Open(path));
   EXPECT_EQ(window.StateText(), L"locked for you");
+  // Somebody who took the lock away from us keeps it.
+  Write("a.lck", "joe,2\n");
+  {
+    const NextWindow box([](ShownWindow& told) { told.Click("OK"); });
+    ASSERT_TRUE(window.Open(path));
+  }
+  EXPECT_EQ(window.StateText(), L"read-only: in use by joe");
   EXPECT_TRUE(window.Open(Write("b.csv")));
-  EXPECT_FALSE(Has("a.lck"));
+  EXPECT_EQ(Read("a.lck"), "joe,2\n");
 }
 
 TEST_F(DeskFiles, ALockThatCannotBeMadeOrTakenIsNoObstacle) {
@@ -207,6 +214,9 @@ TEST_F(DeskFiles, RemembersSurveysSharesAndPlace) {
   EXPECT_EQ(surveys[0], (folder / "s5.csv").wstring());
   EXPECT_EQ(surveys[1], (folder / "s10.csv").wstring());
   EXPECT_EQ(surveys[8], (folder / "s2.csv").wstring());
+  desk::ForgetSurvey(surveys[1]);
+  EXPECT_EQ(desk::RecallSurveys().size(), 8U);
+  EXPECT_EQ(desk::RecallSurveys()[1], surveys[2]);
 
   desk::DeskLayout layout;
   layout.gridShare = 0.3333;
