@@ -101,8 +101,8 @@ void CGridAxis::KeepDragInView() {
   if (drag < m_locked) {
     return;
   }
-  // A column that would leave the view unfilled does not move it: no first entry is behind MaxFirst().
-  m_first = drag < m_first ? drag : std::max(m_first, std::min(FirstThatShows(drag), MaxFirst()));
+  // What shows an entry is never behind what shows the last one: the view stays filled.
+  m_first = drag < m_first ? drag : std::max(m_first, FirstThatShows(drag));
 }
 
 bool CGridAxis::Check() const {

@@ -61,9 +61,10 @@ void CGridMoveSelection::FollowInPlace(const CellPlace& cell) {
   if (info.view.multiSelectMode == 0 || !cell.IsCell()) {
     return;
   }
+  const MouseEvent event = info.view.mouseEvent;
   if (IsHeld(VK_SHIFT, MK_SHIFT)) {
     info.selection->EndBlock(cell.col, cell.row);
-  } else if (info.view.mouseEvent != MouseEvent::none) {
+  } else if (event == MouseEvent::leftDown || event == MouseEvent::rightDown) {
     Follow(cell);
   } else {
     return;

@@ -35,7 +35,6 @@ void CGridScrollBar::OnScroll(int code) {
   }
   if (alive && code != SB_THUMBTRACK) {
     m_tip.Hide();
-    ShowPosition();  // a refused move puts the thumb back
   }
 }
 

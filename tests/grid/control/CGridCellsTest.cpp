@@ -186,6 +186,11 @@ TEST(CGridSourceTable, TheDefaultSourceTakesEveryColumnBack) {
   CGridCell cell;
   EXPECT_EQ(second.GetCell(7, 0, &cell), 0) << "stored in the column's source, at its data column";
   EXPECT_EQ(grid.Text(1, 0), "routed");
+  EXPECT_EQ(grid.InsertCol(1), 0);
+  grid.QuickSetText(1, 0, L"new");
+  EXPECT_EQ(grid.Text(1, 0) + grid.Text(2, 0), "newrouted") << grid;
+  EXPECT_EQ(second.GetCell(grid.GetColTranslation(1), 0, &cell), 0)
+      << "a new column goes beside its neighbour";
 
   EXPECT_EQ(grid.SetDefDataSource(9), 1);
   EXPECT_EQ(grid.SetDefDataSource(-1), 1);
@@ -193,6 +198,9 @@ TEST(CGridSourceTable, TheDefaultSourceTakesEveryColumnBack) {
   EXPECT_EQ(grid.Text(1, 0), "") << grid;
   grid.QuickSetText(-1, 0, L"heading");
   EXPECT_EQ(first.GetCell(-1, 0, &cell), 0) << "heading columns go to the default source untranslated";
+  EXPECT_EQ(grid.RemoveDataSource(one), 0);
+  EXPECT_EQ(grid.GetDefDataSource(), 0);
+  EXPECT_EQ(grid.Text(-1, 0), "") << "the sheet's own memory again";
   EXPECT_EQ(grid.SetDefDataSource(0), 0);
   EXPECT_EQ(grid.GetDataSource(0), grid.GetDataSource(grid.GetDefDataSource()));
 }

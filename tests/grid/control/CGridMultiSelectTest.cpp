@@ -155,6 +155,7 @@ TEST(CGridMultiSelect, EnumeratesRowByRowAndTheCurrentCellWhenEmpty) {
 TEST(CGridMultiSelect, ClicksBeginExtendAndKeepBlocksByTheirKeys) {
   CGridMultiSelect selection;
   selection.OnLClick(1, 1, 0);
+  EXPECT_EQ(selection.IsSelected(2, 2), 0);
   selection.OnLClick(3, 3, MK_SHIFT);
   EXPECT_EQ(selection.IsSelected(2, 2), 1);
   selection.OnRClick(2, 2, 0);

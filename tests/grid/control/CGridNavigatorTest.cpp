@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "grid/celltypes/CGridCellType.h"
+#include "grid/data/CGridCell.h"
 #include "grid/data/CGridMem.h"
 #include "platform/Keys.h"
 #include "platform/System.h"
@@ -111,6 +113,70 @@ TEST(CGridNavigator, MoveCodesStepPageAndEndAlikeOnBothAxes) {
   }
 }
 
+TEST(CGridNavigator, TheViewMovesByTheSameCodes) {
+  struct Row {
+    const char* name;
+    int height;
+    int code;
+    long from;
+    long to;
+  };
+  for (const Row& r :
+       {Row{"back", 100, 0, 5, 4}, Row{"forward", 100, 1, 5, 6}, Row{"forward at the end", 100, 1, 30, 30},
+        Row{"page back", 100, 2, 20, 11}, Row{"page forward", 100, 3, 11, 20}, Row{"first", 100, 4, 9, 0},
+        Row{"last", 100, 5, 9, 30}, Row{"page back in a view of less than a row", 6, 2, 5, 4},
+        Row{"page forward in a view of less than a row", 6, 3, 5, 6}}) {
+    LoggingGrid grid(40, 40, r.height * 5, r.height);
+    grid.SetTopRow(r.from);
+    grid.SetLeftCol(static_cast<int>(r.from));
+    EXPECT_EQ(grid.MoveTopRow(r.code), 0) << r.name;
+    EXPECT_EQ(grid.MoveLeftCol(r.code), 0) << r.name;
+    EXPECT_EQ(grid.GetTopRow(), r.to) << r.name;
+    EXPECT_EQ(grid.GetLeftCol(), r.to) << r.name;
+  }
+}
+
+TEST(CGridNavigator, SourcesAndCellTypesHearOfMovesToo) {
+  class Source : public CGridMem {
+   public:
+    explicit Source(LoggingGrid& grid) : m_grid(grid) {}
+    void OnRowChange(long oldRow, long newRow) override { Note("row", oldRow, newRow); }
+    void OnColChange(int oldCol, int newCol) override { Note("col", oldCol, newCol); }
+
+   private:
+    void Note(const char* what, long from, long to) {
+      m_grid.log.push_back(std::string("source ") + what + " " + std::to_string(from) + " " +
+                           std::to_string(to));
+    }
+    LoggingGrid& m_grid;
+  };
+  class Type : public CGridCellType {
+   public:
+    void OnSetFocus(int col, long row, CGridCell*) override { Note("enter", col, row); }
+    void OnKillFocus(int col, long row, CGridCell*) override { Note("leave", col, row); }
+    void OnScrolled(int col, long row, CGridCell*) override { Note("scrolled", col, row); }
+    LoggingGrid* grid = nullptr;
+
+   private:
+    void Note(const char* what, int col, long row) {
+      grid->log.push_back(std::string(what) + " " + std::to_string(col) + "," + std::to_string(row));
+    }
+  } type;
+  LoggingGrid grid(20, 40, 1000, 100);
+  type.grid = &grid;
+  const int id = grid.AddCellType(&type);
+  Source source(grid);
+  grid.SetDefDataSource(grid.AddDataSource(&source));
+  grid.SetColTranslation(3, 13);
+  grid.QuickSetCellType(0, 0, id);
+  grid.QuickSetCellType(3, 30, id);
+  grid.log.clear();
+  grid.GotoCell(3, 30);
+  EXPECT_EQ(grid.TakeLog(),
+            "CanMove 0 0 3 30; CanViewMove 0 0 3 30; leave 0,0; enter 3,30; scrolled 3,30; source col 0 13; "
+            "ColChange 0 3; source row 0 30; RowChange 0 30; CellChange 0 3 0 30; TopRowChange 0 21");
+}
+
 TEST(CGridNavigator, StepsPassOverHiddenRowsAndColumns) {
   LoggingGrid grid(6, 6, 500, 100);
   grid.SetRowHeight(1, 0);
@@ -133,8 +199,9 @@ TEST(CGridNavigator, TheViewStaysBetweenTheLockedRowsAndTheLastPage) {
   row = 99;
   grid.VerifyTopRow(&row);
   EXPECT_EQ(row, 33) << "7 rows of 10 pixels fill what 3 locked ones leave of 100";
-  EXPECT_EQ(grid.AdjustTopRow(0), 0);
   grid.log.clear();
+  EXPECT_EQ(grid.AdjustTopRow(0), 0);
+  EXPECT_EQ(grid.TakeLog(), "") << "nobody is asked";
   EXPECT_EQ(grid.AdjustTopRow(5), 0);
   EXPECT_EQ(grid.TakeLog(), "CanViewMove 0 3 0 8; TopRowChange 3 8");
   grid.refused = {"CanViewMove"};
@@ -201,7 +268,17 @@ TEST(CGridNavigator, PlainMovesRestartTheSelectionAndShiftExtendsIt) {
   EXPECT_NE(grid.IsSelected(2, 2), 0) << grid;
   EXPECT_NE(grid.IsSelected(3, 3), 0) << grid;
   SetKeyState(VK_SHIFT, false);
-  grid.MoveCurrentRow(1);
+  SetKeyState(VK_CONTROL, true);
+  grid.MoveCurrentRow(5);
+  SetKeyState(VK_CONTROL, false);
+  EXPECT_NE(grid.IsSelected(2, 2), 0) << "Ctrl keeps what is selected: " << grid;
+  EXPECT_NE(grid.IsSelected(3, 9), 0) << grid;
+  grid.MoveCurrentRow(0);
   EXPECT_EQ(grid.IsSelected(2, 2), 0) << grid;
-  EXPECT_NE(grid.IsSelected(3, 4), 0) << grid;
+  EXPECT_NE(grid.IsSelected(3, 8), 0) << grid;
+  grid.SelectRange(3, 0, 3, 1);
+  SetKeyState(VK_SHIFT, true);
+  EXPECT_EQ(grid.GotoCell(3, 8), 0);
+  SetKeyState(VK_SHIFT, false);
+  EXPECT_NE(grid.IsSelected(3, 5), 0) << "extended to the current cell: " << grid;
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "grid/control/CGridInfo.h"
 #include "tests/grid/control/LoggingGrid.h"
 
 using coregui::test::LoggingGrid;
@@ -32,11 +33,18 @@ TEST(CGridSizing, FewerRowsOrColumnsBringPositionLocksAndViewBackIn) {
   EXPECT_EQ(grid.GetLockedRows(), 4);
   EXPECT_EQ(grid.GetCurrentRow(), 4);
   EXPECT_EQ(grid.GetTopRow(), 4);
+  EXPECT_EQ(grid.DeleteRow(0), 0);
+  EXPECT_EQ(grid.GetLockedRows(), 3) << "one row at least can be scrolled";
+  EXPECT_EQ(grid.InsertRow(0), 0);
+  EXPECT_EQ(grid.LockRows(4), 0);
   EXPECT_EQ(grid.SetNumberCols(2), 0);
   EXPECT_EQ(grid.GetLockedColumns(), 1);
   EXPECT_EQ(grid.GetCurrentCol(), 1);
   EXPECT_EQ(grid.GetLeftCol(), 1);
-  EXPECT_EQ(grid.TakeLog(), "TopRowChange 31 4; LeftColChange 14 1");
+  EXPECT_EQ(grid.TakeLog(), "TopRowChange 31 4; TopRowChange 4 3; TopRowChange 3 4; LeftColChange 14 1");
+  grid.GotoRow(3);
+  grid.SetNumberRows(3);
+  EXPECT_EQ(grid.GetInfo().rows.lastCurrent, 2) << "there is no row 4 to repaint";
   grid.SetNumberRows(0);
   EXPECT_EQ(grid.GetCurrentRow(), -1);
   EXPECT_EQ(grid.SetNumberRows(3), 0);

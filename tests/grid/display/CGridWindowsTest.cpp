@@ -46,8 +46,12 @@ class WindowedGrid : public CGridCtrl {
     }
   }
 
+  int OnCanViewMove(int, long, int, long) override { return refused ? 0 : 1; }
+  int OnVScrollHint(long, CString*) override { return refused ? 0 : 1; }
+
   std::string log;
   bool destroyOnClick = false;
+  bool refused = false;  ///< moves of the view and tips
 
  private:
   CWnd m_frame;
@@ -116,6 +120,49 @@ TEST(CGridCtrl, DraggingTheThumbNamesTheRowThatTheViewWouldStartWith) {
     EXPECT_EQ(grid.GetTopRow(), named - 1);
     EXPECT_EQ(bar.GetScrollPos(), named - 1);
     EXPECT_FALSE(bar.GetTip().IsWindowVisible());
+    grid.refused = true;
+    coregui::test::Drag(bar, {8, 90}, {8, 30},
+                        [&] { EXPECT_FALSE(bar.GetTip().IsWindowVisible()) << "the control wants no tip"; });
+    EXPECT_EQ(grid.GetTopRow(), named - 1);
+    EXPECT_EQ(bar.GetScrollPos(), named - 1) << "a refused move puts the thumb back";
+  }
+}
+
+TEST(CGridCtrl, ClicksAndDragsSelectByTheirKeys) {
+  struct Gesture {
+    const char* name;
+    UINT message;
+    UINT flags;
+    int col;
+    long row;
+    const char* selected;
+  };
+  const Gesture gestures[] = {
+      {"a click", WM_LBUTTONDOWN, MK_LBUTTON, 1, 2, "1,2 "},
+      {"a drag", WM_MOUSEMOVE, MK_LBUTTON, 2, 3, "1,2 2,2 1,3 2,3 "},
+      {"its end", WM_LBUTTONUP, 0, 2, 3, "1,2 2,2 1,3 2,3 "},
+      {"a right click inside", WM_RBUTTONDOWN, MK_RBUTTON, 1, 3, "1,2 2,2 1,3 2,3 "},
+      {"with Ctrl", WM_LBUTTONDOWN, MK_LBUTTON | MK_CONTROL, 0, 5, "1,2 2,2 1,3 2,3 0,5 "},
+      {"with Shift", WM_LBUTTONDOWN, MK_LBUTTON | MK_SHIFT, 0, 6, "1,2 2,2 1,3 2,3 0,5 0,6 "},
+      {"Shift on the current cell", WM_LBUTTONDOWN, MK_LBUTTON | MK_SHIFT, 0, 6, "1,2 2,2 1,3 2,3 0,5 0,6 "},
+      {"a click on the current cell", WM_LBUTTONDOWN, MK_LBUTTON, 0, 6, "0,6 "},
+      {"a right click outside", WM_RBUTTONDOWN, MK_RBUTTON, 3, 1, "3,1 "},
+  };
+  for (const int locked : {0, 1}) {
+    WindowedGrid grid;
+    grid.SetMultiSelectMode(1);
+    grid.LockColumns(locked);
+    for (const Gesture& g : gestures) {
+      grid.GetGridWnd()->SendMessage(g.message, g.flags, MAKELPARAM(g.col * 50 + 5, g.row * 10 + 5));
+      std::string selected;
+      int col = 0;
+      long row = 0;
+      for (int more = grid.EnumFirstSelected(&col, &row); more == 0;
+           more = grid.EnumNextSelected(&col, &row)) {
+        selected += std::to_string(col) + "," + std::to_string(row) + " ";
+      }
+      EXPECT_EQ(selected, g.selected) << g.name << ", locked columns: " << locked << grid;
+    }
   }
 }
 
@@ -178,6 +225,10 @@ TEST(CGridCtrl, BestFitMakesRoomForHeadingsAndContents) {
   EXPECT_EQ(grid.GetColWidth(3), 0) << "a hidden column stays hidden among others";
   EXPECT_EQ(grid.BestFit(3, 3), 0);
   EXPECT_GT(grid.GetColWidth(3), 0) << "and is shown when it alone is meant";
+  grid.JoinCells(0, 70, 3, 70);
+  grid.QuickSetText(0, 70, L"a text that has the room of four columns");
+  EXPECT_EQ(grid.BestFit(0, 0), 0);
+  EXPECT_LT(grid.GetColWidth(0), 50) << "joined cells count for nothing";
   WindowedGrid sized(true);
   EXPECT_GT(sized.GetColWidth(1), 100) << "the initial sizes are asked for before the grid is shown";
   CGridCtrl never;
