@@ -223,6 +223,9 @@ int CGridCtrl::RemoveCellType(int id) {
   return removed == nullptr ? 1 : 0;
 }
 
+bool CGridCtrl::HasOwnCellTypes() const {
+  return m_rooms->types.Count() > CGridParts::builtInTypes;
+}
 coregui::CGridCellDelegate* CGridCtrl::GetCellDelegate(int id) {
   return m_rooms->types.Get(id);
 }

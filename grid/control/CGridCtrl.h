@@ -304,6 +304,8 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
   CGridCellType* GetCellType(int col, long row);
   int GetCellType(CGridCellType* type);
   int RemoveCellType(int id);
+  /// Whether the application has registered types of its own beside the four built-in ones.
+  bool HasOwnCellTypes() const;
   /// The same types as those who show cells see them. Never null.
   coregui::CGridCellDelegate* GetCellDelegate(int id);
   coregui::CGridCellDelegate* GetCellDelegate(int col, long row);

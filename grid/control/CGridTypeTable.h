@@ -27,6 +27,7 @@ class CGridTypeTable {
   CGridCellDelegate* Of(int col, long row);
   /// The ID of a registered type, -1 when it is not.
   int IdOf(const CGridCellDelegate* type) const { return m_types.GetPointerIndex(type); }
+  int Count() const { return m_types.GetCount(); }
   /// Colours, fonts or scale of the system have changed: every type is told.
   void TellSystemChange();
 

@@ -147,14 +147,14 @@ bool CGridPainter::DrawCells(Pass& pass, long row, int height) {
 }
 
 /// A cell that only the drawing of its left neighbour hints. Nothing spills over a text, so what shows its
-/// own looks as it did and only hands the hint on.
+/// own looks as it did and only hands the hint on: to types of the application's, as only they could tell.
 bool CGridPainter::DrawNeighbour(Pass& pass, CGridCellPainter::Cell cell, bool* handsOn) {
   *handsOn = false;
   const CGridCellPainter::Fetched fetched = m_cells.Fetch(cell, pass.alive);
   if (fetched != CGridCellPainter::Fetched::draw) return fetched != CGridCellPainter::Fetched::gone;
   if (m_requested.empty() && !cell.joined && m_cells.ShowsOwnText() &&
       !m_hints.ShowsSpill(cell.col, cell.row)) {
-    *handsOn = m_cells.MayOverlap();
+    *handsOn = m_control.HasOwnCellTypes() && m_cells.MayOverlap();
     return true;
   }
   return DrawFetched(pass, cell);
