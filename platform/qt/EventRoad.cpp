@@ -75,12 +75,29 @@ CWnd* OurWindowOf(const QWidget* widget) {
   return window == nullptr ? nullptr : &window->Window();
 }
 
+bool MovesFocus(int key) {
+  constexpr int kKeys[] = {Qt::Key_Tab,   Qt::Key_Backtab, Qt::Key_Left,
+                           Qt::Key_Right, Qt::Key_Up,      Qt::Key_Down};
+  return std::find(std::begin(kKeys), std::end(kKeys), key) != std::end(kKeys);
+}
+
+/// A window shows where its focus stands from the first key on that can move it, until the mouse is pressed.
+/// The toolkit does so for its own Tab key only, not for that of our dialogs.
+void NoteFocusMark(QWidget& receiver, const QEvent& event) {
+  if (event.type() == QEvent::MouseButtonPress) {
+    receiver.window()->setAttribute(Qt::WA_KeyboardFocusChange, false);
+  } else if (event.type() == QEvent::KeyPress && MovesFocus(static_cast<const QKeyEvent&>(event).key())) {
+    receiver.window()->setAttribute(Qt::WA_KeyboardFocusChange);
+  }
+}
+
 }  // namespace
 
 EventRoad::EventRoad(QtWindow& window, QWidget& receiver, QEvent& event)
     : m_window(&window), m_receiver(receiver), m_event(event) {}
 
 bool EventRoad::Travel() {
+  NoteFocusMark(m_receiver, m_event);
   switch (m_event.type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:

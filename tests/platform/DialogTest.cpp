@@ -157,13 +157,18 @@ TEST(Dialog, TabGoesRoundTheStopsInTheOrderOfCreation) {
     QTest::keyClick(WidgetOf(CWnd::GetFocus()), key, modifiers);
     return CWnd::GetFocus()->GetDlgCtrlID();
   };
+  const auto marksFocus = [&] { return WidgetOf(&dialog)->testAttribute(Qt::WA_KeyboardFocusChange); };
+  EXPECT_FALSE(marksFocus());
   EXPECT_EQ(press(Qt::Key_Tab), 13);
+  EXPECT_TRUE(marksFocus());
   EXPECT_EQ(press(Qt::Key_Tab), IDOK);
   EXPECT_EQ(press(Qt::Key_Tab), 10);
   EXPECT_EQ(press(Qt::Key_Backtab, Qt::ShiftModifier), IDOK);
   dialog.panel.EnableWindow(FALSE);
   EXPECT_EQ(press(Qt::Key_Backtab, Qt::ShiftModifier), 10);
   EXPECT_EQ(press(Qt::Key_Down), 11) << "the arrows need no tab stop";
+  QTest::mouseClick(WidgetOf(&dialog.first), Qt::LeftButton);
+  EXPECT_FALSE(marksFocus());
   dialog.EndDialog(IDOK);
   EXPECT_FALSE(dialog.HasWindow());
 }
