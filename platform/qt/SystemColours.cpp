@@ -2,6 +2,7 @@
 #include <QEvent>
 #include <QPalette>
 #include <array>
+#include <initializer_list>
 #include <optional>
 
 #include "platform/System.h"
@@ -122,24 +123,26 @@ bool IsDark(const QPalette& palette) {
   return palette.color(QPalette::Base).lightness() < 128;
 }
 
-/// The style draws the edge of a check box in a darker shade of the window's colour, which cannot be seen on
-/// dark ground: those that have one take it from a light grey there. The next palette of the application
-/// takes this back.
-void ShowCheckBoxesOnDark() {
-  const QColor edge(150, 150, 150);
+void SetRole(QPalette::ColorRole role, const QColor& colour, std::initializer_list<const char*> widgets) {
   QPalette palette = QApplication::palette();
   palette.setResolveMask(0);
-  palette.setColor(QPalette::Window, edge);
-  for (const char* widgets : {"QCheckBox", "QRadioButton"}) {
-    QApplication::setPalette(palette, widgets);
-  }
+  palette.setColor(role, colour);
+  for (const char* widget : widgets) QApplication::setPalette(palette, widget);
+}
+
+/// The style draws the edge of a check box and the mark of the focus in darker shades of the window's and the
+/// selection's colour, which cannot be seen on dark ground: there they are shades of lighter ones. The next
+/// palette of the application takes this back.
+void ShowEdgesOnDark() {
+  SetRole(QPalette::Window, QColor(150, 150, 150), {"QCheckBox", "QRadioButton"});
+  SetRole(QPalette::Highlight, QColor(90, 170, 255), {"QPushButton", "QComboBox", "QSlider"});
 }
 
 /// Gives the application a palette; keeps the one to come back to, if any.
 void SwitchTo(Theme& theme, const QPalette& palette, const std::optional<QPalette>& original) {
   theme.choosing = true;
   QApplication::setPalette(palette);
-  if (IsDark(palette)) ShowCheckBoxesOnDark();
+  if (IsDark(palette)) ShowEdgesOnDark();
   theme.choosing = false;
   theme.original = original;
 }
