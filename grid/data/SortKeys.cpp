@@ -27,8 +27,13 @@ int CompareTexts(const StoredText& a, const StoredText& b) {
 }
 
 /// The first 8 characters, for texts of one byte each.
-std::uint64_t NarrowKey(const StoredText& text) {
+std::uint64_t NarrowKey(const CellCodec& codec, const CellSlot& cell) {
   std::uint64_t key = 0;
+  if (cell.Kind() == SlotKind::inlineText) {
+    for (unsigned i = 0; i < 8; ++i) key |= static_cast<std::uint64_t>(cell.Characters()[i]) << (56 - 8 * i);
+    return key;
+  }
+  const StoredText text = codec.TextField(cell);
   const std::uint32_t used = std::min<std::uint32_t>(text.length, 8);
   for (std::uint32_t i = 0; i < used; ++i) key |= static_cast<std::uint64_t>(text.At(i)) << (56 - 8 * i);
   return key;
@@ -180,8 +185,7 @@ void SortByColumn(const CellCodec& codec, const KeyCells& cells, bool descending
     if (byNumber) {
       key = NumberKey(codec.NumberValue(cell));
     } else {
-      const StoredText text = codec.TextField(cell);
-      key = form.narrow ? NarrowKey(text) : WideKey(text);
+      key = form.narrow ? NarrowKey(codec, cell) : WideKey(codec.TextField(cell));
     }
     entries.push_back({descending ? ~key : key, row});
   }
