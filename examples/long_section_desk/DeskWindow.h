@@ -134,6 +134,7 @@ class DeskWindow : public CWnd, private SurveySink {
   LRESULT HandleCommand(WPARAM wParam, LPARAM lParam);
   LRESULT HandleFind(WPARAM wParam, LPARAM lParam);
 
+  SectionData m_data;  ///< the views draw from it, so it outlives them
   CommandBar m_commands;
   SurveyGrid m_grid;
   SectionView m_section;
@@ -143,7 +144,6 @@ class DeskWindow : public CWnd, private SurveySink {
   StatusLine m_status;
   TableFinder m_finder;
   DeskLayout m_layout;
-  SectionData m_data;
   SurveyLock m_lock;
   std::wstring m_path;     ///< of the survey shown; empty when none is
   std::wstring m_opening;  ///< name of the file that is being read

@@ -265,7 +265,7 @@ void DeskWindow::FindAgain(bool back) {
 }
 
 void DeskWindow::AskChainage() {
-  const std::vector<PNT_2D_record>& points = m_data.ground;
+  const std::vector<PNT_2D_record>& points = m_data.ground.GetPoints();
   const long now = m_data.PointOfRow(m_grid.GetCurrentRow());
   double chainage = points[static_cast<std::size_t>(std::max(now, 0L))].x;
   if (coreGetDoubleValue(this, L"Go to", L"Chainage in metres", chainage, points.front().x, points.back().x,

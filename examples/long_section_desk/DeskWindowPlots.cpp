@@ -8,9 +8,9 @@
 namespace desk {
 
 void DeskWindow::ShowSection() {
-  m_data = TakeSection(m_grid);
-  m_layout.hasPlots = !m_data.IsEmpty();
-  m_layout.hasDifference = !m_data.difference.empty();
+  SectionData data = TakeSection(m_grid);
+  m_layout.hasPlots = !data.IsEmpty();
+  m_layout.hasDifference = data.HasDesign();
   for (CWnd* pane : std::initializer_list<CWnd*>{&m_bar, &m_section}) {
     pane->ShowWindow(m_layout.hasPlots ? SW_SHOW : SW_HIDE);
   }
@@ -18,6 +18,7 @@ void DeskWindow::ShowSection() {
     pane->ShowWindow(m_layout.hasPlots && m_layout.hasDifference ? SW_SHOW : SW_HIDE);
   }
   ArrangePanes();
+  m_data = std::move(data);  // once the panes have their places
   m_section.SetTitle(coreExtractFileName(m_path.c_str()));
   if (m_layout.hasPlots) {
     m_section.SetDecimals(m_grid.Dialect().decimals[static_cast<std::size_t>(m_data.columns.chainage)],
@@ -69,7 +70,7 @@ void DeskWindow::FollowPointer(double chainage, const double* level) {
 void DeskWindow::FollowRow(long row) {
   const long point = m_following ? -1 : m_data.PointOfRow(row);
   if (point >= 0) {
-    MarkChainage(m_data.ground[static_cast<std::size_t>(point)].x);
+    MarkChainage(m_data.ground.GetPoints()[static_cast<std::size_t>(point)].x);
     m_section.ShowMark();
     ShowStation(point, nullptr);
   }
@@ -99,7 +100,7 @@ void DeskWindow::GoToPoint(long point) {
   m_following = true;
   m_grid.GotoRow(m_data.rows[static_cast<std::size_t>(point)]);
   m_following = false;
-  MarkChainage(m_data.ground[static_cast<std::size_t>(point)].x);
+  MarkChainage(m_data.ground.GetPoints()[static_cast<std::size_t>(point)].x);
 }
 
 void DeskWindow::MarkChainage(double chainage) {
@@ -109,17 +110,17 @@ void DeskWindow::MarkChainage(double chainage) {
 
 void DeskWindow::ShowStation(long point, const double* pointerLevel) {
   const auto index = static_cast<std::size_t>(point);
-  CString text = CString(L"Station ") +
-                 coregui::FormatPlotNumber(m_data.ground[index].x, 0.001, PlotNumberFormat::chainage, 3);
+  CString text = CString(L"Station ") + coregui::FormatPlotNumber(m_data.ground.GetPoints()[index].x, 0.001,
+                                                                  PlotNumberFormat::chainage, 3);
   const auto append = [&text](const wchar_t* name, double value) {
     if (std::isfinite(value)) {
       text += CString::Formatted(L"   %s %.3f", name, value);
     }
   };
-  append(L"ground", m_data.ground[index].y);
-  if (!m_data.design.empty()) {
-    append(L"design", m_data.design[index].y);
-    const double difference = m_data.difference[index].y;
+  append(L"ground", m_data.ground.GetPoints()[index].y);
+  if (m_data.HasDesign()) {
+    append(L"design", m_data.design.GetPoints()[index].y);
+    const double difference = m_data.difference.GetPoints()[index].y;
     append(difference < 0.0 ? L"fill" : L"cut", std::abs(difference));
   }
   if (pointerLevel != nullptr) {

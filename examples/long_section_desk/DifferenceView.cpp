@@ -23,16 +23,15 @@ DifferenceView::DifferenceView(CWnd* parent, SectionView& master)
 }
 
 void DifferenceView::Show(const SectionData& data) {
-  m_difference = CPlotSeries(data.difference);
+  m_data = &data;
   m_extents = data.differenceExtents;
   m_extents.Expand({m_extents.GetLeft(), 0.0});
   m_mark = kNothing;
-  m_hasData = !data.difference.empty();
 }
 
 void DifferenceView::FitAgain() {
   SetBackgroundColour(SectionColors::Of(false).paper);
-  if (m_hasData && HasWindow() && !GetClientRectangle().IsRectEmpty()) {
+  if (HasData() && HasWindow() && !GetClientRectangle().IsRectEmpty()) {
     InitView(m_extents, 1.0);
     FitToRect(GetClientRectangle());
     SyncToView(&m_master);
@@ -93,7 +92,7 @@ LPARAM DifferenceView::ToMasterScreen(LPARAM screen) const {
 /// A slave takes its master's scale for both axes; the ratio that keeps the whole difference in sight follows
 /// it.
 void DifferenceView::KeepHeight() {
-  if (m_hasData && GetScale() != m_ratioFor) {
+  if (HasData() && GetScale() != m_ratioFor) {
     m_ratioFor = GetScale();
     SetVertRatio(m_ratioFor * PlaceBetween(*this, DifferenceMargins()).cy / m_extents.Height());
   }
@@ -102,7 +101,7 @@ void DifferenceView::KeepHeight() {
 /// Areas between the line and zero, from one place a pixel: the line drawn over them shows what lies between.
 void DifferenceView::DrawFills(const SectionColors& colors) {
   const CRect area = GetDrawingArea();
-  const std::vector<PNT_2D_record>& points = m_difference.GetPoints();
+  const std::vector<PNT_2D_record>& points = m_data->difference.GetPoints();
   std::vector<PNT_2D_record> cut;
   std::vector<PNT_2D_record> fill;
   const auto flush = [&] {
@@ -140,7 +139,7 @@ void DifferenceView::DrawFills(const SectionColors& colors) {
 
 void DifferenceView::OnDraw(CDC* dc) {
   CGUIBaseViewWnd::OnDraw(dc);
-  if (!m_hasData) {
+  if (!HasData()) {
     return;
   }
   const SectionColors colors = SectionColors::Of(IsPrinting());
@@ -149,7 +148,7 @@ void DifferenceView::OnDraw(CDC* dc) {
   SetPlotPen({colors.text});
   PlotLine({m_extents.GetLeft(), 0.0}, {m_extents.GetRight(), 0.0});
   SetPlotPen({colors.difference, 1.0, PlotUnit::points});
-  PlotPolyline(m_difference);
+  PlotPolyline(m_data->difference);
   if (std::isfinite(m_mark)) {
     SetPlotPen({colors.mark, 1.5});
     PlotLine({m_mark, m_extents.GetTop() + 1e4}, {m_mark, m_extents.GetBottom() - 1e4});

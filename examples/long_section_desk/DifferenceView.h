@@ -14,6 +14,7 @@ class DifferenceView : public CGUIBaseViewWnd {
  public:
   /// `master` is borrowed and must outlive this view.
   DifferenceView(CWnd* parent, SectionView& master);
+  /// Shows the data (borrowed; they may change in place, for Show to be called again).
   void Show(const SectionData& data);
   /// Fits the vertical mapping again; the horizontal one is the master's.
   void FitAgain();
@@ -23,17 +24,17 @@ class DifferenceView : public CGUIBaseViewWnd {
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
+  bool HasData() const { return m_data != nullptr && m_data->HasDesign(); }
   void KeepHeight();
   void DrawFills(const SectionColors& colors);
   LPARAM ToMasterScreen(LPARAM screen) const;
   LPARAM ToMasterClient(LPARAM client) const;
 
   SectionView& m_master;
-  CPlotSeries m_difference;
+  const SectionData* m_data = nullptr;  ///< borrowed from who shows them; null before
   FRect m_extents;
   double m_mark;
   double m_ratioFor = 0.0;  ///< the scale that the vertical ratio was set for
-  bool m_hasData = false;
 };
 
 }  // namespace desk

@@ -99,37 +99,46 @@ SectionData TakeSection(SurveyGrid& grid) {
   }
   std::sort(order.begin(), order.end());
   data.points.assign(static_cast<std::size_t>(rows), -1);
+  data.rows.reserve(order.size());
+  std::vector<PNT_2D_record> grounds;
+  std::vector<PNT_2D_record> designs;
+  std::vector<PNT_2D_record> differences;
+  grounds.reserve(order.size());
   for (const auto& [chainage, row] : order) {
     data.points[static_cast<std::size_t>(row)] = static_cast<long>(data.rows.size());
     const double ground = number(data.columns.ground, row);
     data.rows.push_back(row);
-    data.ground.push_back({chainage, ground});
+    grounds.push_back({chainage, ground});
     if (data.columns.design >= 0) {
       const double design = number(data.columns.design, row);
-      data.design.push_back({chainage, design});
-      data.difference.push_back({chainage, ground - design});
+      designs.push_back({chainage, design});
+      differences.push_back({chainage, ground - design});
     }
   }
-  data.extents = BoundsOf({&data.ground, &data.design});
-  data.differenceExtents = BoundsOf({&data.difference});
+  data.extents = BoundsOf({&grounds, &designs});
+  data.differenceExtents = BoundsOf({&differences});
   data.differenceExtents.SetLeft(data.extents.GetLeft());
   data.differenceExtents.SetRight(data.extents.GetRight());
+  data.ground = CPlotSeries(std::move(grounds));
+  data.design = CPlotSeries(std::move(designs));
+  data.difference = CPlotSeries(std::move(differences));
   return data;
 }
 
 long SectionData::NearestPoint(double chainage) const {
-  if (ground.empty() || !std::isfinite(chainage)) {
+  const std::vector<PNT_2D_record>& all = ground.GetPoints();
+  if (all.empty() || !std::isfinite(chainage)) {
     return -1;
   }
   const auto after =
-      std::lower_bound(ground.begin(), ground.end(), chainage,
+      std::lower_bound(all.begin(), all.end(), chainage,
                        [](const PNT_2D_record& point, double value) { return point.x < value; });
-  if (after == ground.begin()) {
+  if (after == all.begin()) {
     return 0;
   }
   const auto before = after - 1;
-  const bool takeBefore = after == ground.end() || chainage - before->x <= after->x - chainage;
-  return static_cast<long>((takeBefore ? before : after) - ground.begin());
+  const bool takeBefore = after == all.end() || chainage - before->x <= after->x - chainage;
+  return static_cast<long>((takeBefore ? before : after) - all.begin());
 }
 
 long SectionData::PointOfRow(long row) const {

@@ -22,15 +22,16 @@ SectionColumns FindSectionColumns(const std::vector<std::wstring>& headings,
 /// The long-section of a survey, in the order of its chainages, whatever the order of the table's rows.
 struct SectionData {
   SectionColumns columns;
-  std::vector<long> rows;                 ///< for each point the row of the table
-  std::vector<PNT_2D_record> ground;      ///< y is NaN, a gap, where a level is missing
-  std::vector<PNT_2D_record> design;      ///< empty where the table has none
-  std::vector<PNT_2D_record> difference;  ///< ground less design
-  FRect extents;                          ///< around ground and design
+  std::vector<long> rows;  ///< for each point the row of the table
+  CPlotSeries ground;      ///< y is NaN, a gap, where a level is missing
+  CPlotSeries design;      ///< empty where the table has none
+  CPlotSeries difference;  ///< ground less design
+  FRect extents;           ///< around ground and design
   FRect differenceExtents;
   std::vector<long> points;  ///< for each row of the table its point, or -1
 
-  bool IsEmpty() const { return ground.empty(); }
+  bool IsEmpty() const { return ground.GetCount() == 0; }
+  bool HasDesign() const { return design.GetCount() > 0; }
   /// The index of the point whose chainage is nearest; -1 when there is none.
   long NearestPoint(double chainage) const;
   /// The index of a table's row; -1 for one that has no chainage.

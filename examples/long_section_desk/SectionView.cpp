@@ -43,11 +43,9 @@ SectionView::SectionView(CWnd* parent) : CGUIBaseViewWnd(10.0, parent), m_mark(k
 }
 
 void SectionView::Show(const SectionData& data) {
-  m_ground = CPlotSeries(data.ground);
-  m_design = CPlotSeries(data.design);
+  m_data = &data;
   m_extents = data.extents;
   m_mark = kNothing;
-  m_hasData = !data.IsEmpty();
   m_exaggeration = RoundExaggeration(m_extents, PlaceBetween(*this, Margins(true)));
   m_size = CSize();  // whatever was zoomed before is gone
   FitAgain();
@@ -56,7 +54,7 @@ void SectionView::Show(const SectionData& data) {
 void SectionView::FitAgain() {
   SetBackgroundColour(SectionColors::Of(false).paper);
   const CSize size = GetClientRectangle().Size();
-  if (!m_hasData || !HasWindow() || size.cx < 1 || size.cy < 1) {
+  if (!HasData() || !HasWindow() || size.cx < 1 || size.cy < 1) {
     return;
   }
   const coregui::CViewMapping::Scale before = GetMapping().now;
@@ -166,7 +164,10 @@ CRect SectionView::Drawing() const {
 }
 
 double SectionView::GroundAt(double chainage) const {
-  const std::vector<PNT_2D_record>& points = m_ground.GetPoints();
+  if (!HasData()) {
+    return kNothing;
+  }
+  const std::vector<PNT_2D_record>& points = m_data->ground.GetPoints();
   const auto at = std::lower_bound(points.begin(), points.end(), chainage,
                                    [](const PNT_2D_record& point, double x) { return point.x < x; });
   return at == points.end() ? kNothing : at->y;
@@ -180,7 +181,7 @@ CPoint SectionView::OnLine(LONG x) const {
 }
 
 void SectionView::ShowMark() {
-  if (!std::isfinite(m_mark) || !m_hasData) {
+  if (!std::isfinite(m_mark) || !HasData()) {
     return;
   }
   const CRect area = Drawing();

@@ -20,7 +20,7 @@ enum class StationStep { back, forward, first, last };
 class SectionView : public CGUIBaseViewWnd {
  public:
   explicit SectionView(CWnd* parent);
-  /// Takes the data over and shows all of it.
+  /// Shows all of the data (borrowed; they may change in place, for Show to be called again).
   void Show(const SectionData& data);
   /// Fits again after the window's size has changed; a view that is zoomed keeps its middle and its scale.
   void FitAgain();
@@ -37,7 +37,7 @@ class SectionView : public CGUIBaseViewWnd {
     m_levelDecimals = level;
   }
   void SetTitle(const CString& title) { m_title = title; }
-  bool HasData() const { return m_hasData; }
+  bool HasData() const { return m_data != nullptr && !m_data->IsEmpty(); }
   /// Called for the keys that go to another station.
   void SetStepHook(std::function<void(StationStep)> hook) { m_stepHook = std::move(hook); }
   /// Called when the view gets or loses the focus.
@@ -70,6 +70,7 @@ class SectionView : public CGUIBaseViewWnd {
   CRect Margins(bool forWindow) const;
   CRect PrintMargins() const;
   std::vector<coregui::CViewMapping> Plan(const PrintChoice& choice, CSize page, CSize dotsPerInch) const;
+  bool HasDesign() const { return m_data != nullptr && m_data->HasDesign(); }
   CRect Drawing() const;
   double GroundAt(double chainage) const;
   bool HandleKey(UINT key);
@@ -81,8 +82,7 @@ class SectionView : public CGUIBaseViewWnd {
   void DrawLevels(const SectionColors& colors);
   void DrawMark(const SectionColors& colors);
 
-  CPlotSeries m_ground;
-  CPlotSeries m_design;
+  const SectionData* m_data = nullptr;  ///< borrowed from who shows them; null before
   FRect m_extents;
   CSize m_size;  ///< of the client area at the last fit; empty: nothing was shown yet
   CString m_title;
@@ -93,7 +93,6 @@ class SectionView : public CGUIBaseViewWnd {
   int m_chainageDecimals = 3;
   int m_levelDecimals = 3;
   double m_mark;
-  bool m_hasData = false;
 };
 
 }  // namespace desk

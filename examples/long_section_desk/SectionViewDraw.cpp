@@ -22,7 +22,7 @@ constexpr double kDesignPen = 1.25;
 
 /// The table has the rows that leave the drawing most of a window's height; paper has room for all.
 int SectionView::TableRows(bool forWindow) const {
-  int rows = m_design.GetCount() == 0 ? 2 : 4;
+  int rows = HasDesign() ? 4 : 2;
   const double height = forWindow ? GetClientRectangle().Height() * 72.0 / GetDpi() : HUGE_VAL;
   while (rows > 0 && rows * kRowHeight > kMostOfTable * height) {
     --rows;
@@ -37,7 +37,7 @@ CRect SectionView::Margins(bool forWindow) const {
 
 void SectionView::OnDraw(CDC* dc) {
   CGUIBaseViewWnd::OnDraw(dc);
-  if (!m_hasData) {
+  if (!HasData()) {
     return;
   }
   const SectionColors colors = SectionColors::Of(IsPrinting());
@@ -90,7 +90,7 @@ void SectionView::DrawLegend(const SectionColors& colors) {
     double width;
   };
   std::vector<Entry> entries = {{L"Ground", colors.ground, kGroundPen}};
-  if (m_design.GetCount() > 0) {
+  if (HasDesign()) {
     entries.push_back({L"Design", colors.design, kDesignPen});
   }
   const auto pixels = [this](double points) { return static_cast<LONG>(PixelsOfPoints(points)); };
@@ -120,7 +120,7 @@ void SectionView::DrawTable(const SectionColors& colors) {
   const double left = GetPlotMapping().WindowToUser(area.TopLeft()).x;
   const double right = GetPlotMapping().WindowToUser(area.BottomRight()).x;
   const double step = (right - left) / std::max(1.0, area.Width() / PixelsOfPoints(kTextPitch));
-  const std::vector<PNT_2D_record>& points = m_ground.GetPoints();
+  const std::vector<PNT_2D_record>& points = m_data->ground.GetPoints();
   std::vector<PNT_2D_record> ground;
   std::vector<PNT_2D_record> design;
   for (auto at = points.begin(); step > 0.0;) {
@@ -131,13 +131,13 @@ void SectionView::DrawTable(const SectionColors& colors) {
       break;
     }
     ground.push_back(*at);
-    if (m_design.GetCount() > 0) {
-      design.push_back(m_design.GetPoints()[static_cast<std::size_t>(at - points.begin())]);
+    if (HasDesign()) {
+      design.push_back(m_data->design.GetPoints()[static_cast<std::size_t>(at - points.begin())]);
     }
   }
   std::vector<PlotTableRow> rows = {coregui::MakeStationRow(L"Station", ground, m_chainageDecimals),
                                     coregui::MakeLevelRow(L"Ground level", ground, m_levelDecimals)};
-  if (m_design.GetCount() > 0) {
+  if (HasDesign()) {
     rows.push_back(coregui::MakeLevelRow(L"Design level", design, m_levelDecimals));
     rows.push_back(coregui::MakeDifferenceRow(L"Difference", ground, design, m_levelDecimals));
   }
@@ -158,9 +158,9 @@ void SectionView::DrawLevels(const SectionColors& colors) {
   PlotGrid(coregui::ChooseTicks(from.x, to.x, area.Width(), PixelsOfPoints(36), 0).step,
            coregui::ChooseTicks(from.y, to.y, area.Height(), PixelsOfPoints(18), 0).step);
   SetPlotPen({colors.ground, kGroundPen, PlotUnit::points});
-  PlotPolyline(m_ground);
+  PlotPolyline(m_data->ground);
   SetPlotPen({colors.design, kDesignPen, PlotUnit::points});
-  PlotPolyline(m_design);
+  PlotPolyline(m_data->design);
   ClipToDrawing(false);
 }
 

@@ -35,11 +35,14 @@ CRect SectionView::PrintMargins() const {
 
 std::vector<coregui::CViewMapping> SectionView::Plan(const PrintChoice& choice, CSize page,
                                                      CSize dotsPerInch) const {
+  if (!HasData()) {
+    return {};
+  }
   coregui::CViewMapping view = GetMapping();
   view.margins = PrintMargins();
   const CSize inside = InsideEdges(page, dotsPerInch);
   if (choice.toScale) {
-    return PlanSheets(view, choice.Scale(), inside, dotsPerInch, {&m_ground, &m_design});
+    return PlanSheets(view, choice.Scale(), inside, dotsPerInch, {&m_data->ground, &m_data->design});
   }
   view.now.dpiX = dotsPerInch.cx;
   view.now.dpiY = dotsPerInch.cy;

@@ -239,7 +239,7 @@ TEST_F(Desk, TheSectionRunsAlongTheChainageWhateverTheOrderOfRows) {
   ASSERT_TRUE(window.Open(Write("a.csv", "Level,Chainage\n103,30\n101,10\n,20\n104,\n")));
   const desk::SectionData data = desk::TakeSection(window.Grid());
   EXPECT_EQ(data.rows, std::vector<long>({1, 2, 0}));
-  EXPECT_TRUE(std::isnan(data.ground[1].y));
+  EXPECT_TRUE(std::isnan(data.ground.GetPoints()[1].y));
   EXPECT_EQ(data.NearestPoint(-5.0), 0);
   EXPECT_EQ(data.NearestPoint(24.0), 1);
   EXPECT_EQ(data.NearestPoint(26.0), 2);
