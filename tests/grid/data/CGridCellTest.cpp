@@ -152,6 +152,9 @@ TEST_F(CGridCellTest, AppendedAndOwnTextsAreTaken) {
   cell.SetText(cell.GetText() + 2);
   EXPECT_STREQ(L"cdef", cell.GetText());
   cell.SetNumber(5);
+  EXPECT_EQ(0, cell.AppendText(L"7"));
+  EXPECT_STREQ(L"7", cell.GetText()) << "a number has a text once it was asked for";
+  cell.SetNumber(5);
   cell.GetText();
   EXPECT_EQ(0, cell.AppendText(L"0"));
   EXPECT_STREQ(L"50", cell.GetText());

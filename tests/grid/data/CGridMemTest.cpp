@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <limits>
 #include <random>
 
 #include "grid/data/CGridCell.h"
@@ -47,6 +48,9 @@ TEST(CGridMem, AWriteMakesTheRowsAndPositionsBeforeIt) {
   EXPECT_EQ(0, store.InsertRow(3));
   EXPECT_EQ("x", Text(store, 5, 4));
   EXPECT_EQ(0, store.DeleteRow(99));
+  CGridCell cell;
+  EXPECT_EQ(1, store.SetCell(0, std::numeric_limits<long>::max(), &cell)) << "rows have 32 bits";
+  EXPECT_EQ(4, store.GetNumRows());
 }
 
 TEST(CGridMem, ACellWithNoPropertyIsStoredAndAllPropertiesComeBack) {
@@ -81,6 +85,47 @@ TEST(CGridMem, ACellWithNoPropertyIsStoredAndAllPropertiesComeBack) {
   read.LoadInitialState();
   EXPECT_EQ(CELLDATA_NUMBER, read.GetDataType());
   EXPECT_TRUE(store.Check());
+}
+
+/// Texts of each length that is kept in another way, numbers, and cells that change from one to the other.
+TEST(CGridMem, AManySidedTableComesBackWholeAndItsMemoryIsUsedAgain) {
+  constexpr long ROWS = 30'000;
+  constexpr int COLS = 6;
+  const auto fill = [](CGridCell& cell, int col, long row) {
+    const long kind = row % 1000 == 7 ? col : col % 2;
+    if (kind == 0) return cell.SetNumber(static_cast<double>(row) / 4);
+    CString text;
+    text.Format(L"%ld", row);
+    if (kind > 1) text += CString(kind == 2 ? L'\x20AC' : L'x', kind == 3 ? 600 : 9);
+    return cell.SetText(text);
+  };
+  CGridMem store;
+  for (int round = 0; round < 2; ++round) {
+    for (long row = 0; row < ROWS; ++row) {
+      for (int col = 0; col < COLS; ++col) {
+        CGridCell cell;
+        fill(cell, row % 500 == 3 ? col + 1 : col, row);  // written over below
+        store.SetCell(col, row, &cell);
+      }
+    }
+    for (long row = 3; row < ROWS; row += 500) {
+      for (int col = 0; col < COLS; ++col) {
+        CGridCell cell;
+        fill(cell, col, row);
+        store.SetCell(col, row, &cell);
+      }
+    }
+    ASSERT_TRUE(store.Check());
+    for (long row = 0; row < ROWS; ++row) {
+      for (int col = 0; col < COLS; ++col) {
+        CGridCell wanted;
+        fill(wanted, col, row);
+        ASSERT_EQ(CString(wanted.GetText()).ToUtf8(), Text(store, col, row)) << col << ", " << row;
+      }
+    }
+    store.Empty();
+    ASSERT_TRUE(store.Check());
+  }
 }
 
 TEST(CGridMem, ATextKeepsTheNumberThatAReusedCellStillHolds) {
