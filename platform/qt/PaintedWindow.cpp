@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <cmath>
+#include <utility>
 
 #include "platform/CDC.h"
 #include "platform/CWnd.h"
@@ -97,6 +99,9 @@ void PaintedWindow::FitSurface(CSize size, double scale) {
   const bool rescaled = scale != m_surface->Scale();
   m_surface->Resize(size, scale);
   if (rescaled) {
+    // Between dots, the toolkit's parts of the screen for windows that touch leave a dot to neither: the
+    // parent is painted below.
+    GetWidget()->setAttribute(Qt::WA_OpaquePaintEvent, scale == std::floor(scale));
     m_target = std::make_shared<RasterTarget>(m_surface);
     Window().Invalidate();
   }

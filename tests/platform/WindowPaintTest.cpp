@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <cmath>
 #include <cstdlib>
+#include <list>
 #include <random>
 #include <string>
 
@@ -48,7 +49,6 @@ class Striped : public CWnd {
   int erases = 0;
   int first = 0;  ///< the row that is at the top
   CRect painted;
-  bool nested = false;
 
  private:
   void HandlePaint() {
@@ -57,11 +57,6 @@ class Striped : public CWnd {
     painted = dc.GetPaintRect();
     for (int row = 0; row < 20; ++row) {
       dc.FillSolidRect(CRect(0, row * 10, 300, row * 10 + 10), ColourOf(first + row));
-    }
-    if (nested) {
-      CClientDC whole(this);
-      whole.FillSolidRect(CRect(90, 90, 100, 100), kBlue);
-      dc.FillSolidRect(CRect(0, 0, 5, 5), kRed);
     }
   }
   BOOL HandleErase(CDC* /*dc*/) { return ++erases, TRUE; }
@@ -113,15 +108,6 @@ TEST_F(WindowPaint, IsClippedToTheUpdateRegionAndAtOnceOnDemand) {
   EXPECT_EQ(window.At(30, 30), Striped::ColourOf(3)) << "between the two";
   window.UpdateWindow();
   EXPECT_EQ(window.paints, 1) << "nothing is invalid";
-}
-
-TEST_F(WindowPaint, NestedContextsShareTheSurface) {
-  window.nested = true;
-  const RECT part{0, 0, 50, 50};
-  window.InvalidateRect(&part);
-  window.UpdateWindow();
-  EXPECT_EQ(window.At(2, 2), kRed);
-  EXPECT_EQ(window.At(95, 95), kBlue) << "a client context is not held to the update region";
 }
 
 TEST_F(WindowPaint, HeldBackWhileRedrawIsOffOrTheWindowIsHidden) {
@@ -239,6 +225,52 @@ TEST_F(WindowShown, EveryDotOfASurfaceIsThatOfTheScreenAfterAnyDrawing) {
     }
     if (any(0, 2) == 0) continue;  // the next drawing comes before this one is shown
     ASSERT_EQ(WrongDots(), 0) << "step " << step;
+  }
+}
+
+/// Between two dots of the screen, windows that touch leave none to nobody.
+TEST(WindowSeams, NoDotBetweenWindowsStaysUnpainted) {
+  class Red : public CWnd {
+   public:
+    ~Red() override { DestroyWindow(); }
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+      if (message != WM_ERASEBKGND) return CWnd::WindowProc(message, wParam, lParam);
+      CDC* const dc = reinterpret_cast<CDC*>(wParam);
+      dc->FillSolidRect(GetClientRectangle(), kBlue);
+      dc->FillSolidRect(CRect(0, 0, 1, 1), kRed);  // no surface of one colour
+      dc->FillSolidRect(GetClientRectangle(), kRed);
+      return 1;
+    }
+  };
+  Red window;
+  ASSERT_TRUE(window.Create(L"", L"", WS_POPUP | WS_VISIBLE, CRect(0, 0, 200, 200), nullptr, 0));
+  std::list<Red> children;
+  for (int top = 0; top < 200; top += 11) {
+    for (int left = 0; left < 200; left += 13) {
+      // Some touch, some leave a strip of the parent between them.
+      const CRect place(left, top, std::min(left + 13 - left % 3, 200), std::min(top + 11 - top % 3, 200));
+      ASSERT_TRUE(children.emplace_back().Create(L"", L"", WS_CHILD | WS_VISIBLE, place, &window, 0));
+    }
+  }
+  const auto wrong = [&window] {
+    CWinApp::PumpPending();
+    const auto* screen = dynamic_cast<QImage*>(WidgetOf(&window)->backingStore()->paintDevice());
+    int count = 0;
+    for (int y = 0; y < screen->height(); ++y) {
+      for (int x = 0; x < screen->width(); ++x) count += screen->pixelColor(x, y) == Qt::red ? 0 : 1;
+    }
+    return count;
+  };
+  EXPECT_EQ(wrong(), 0);
+  // As when a person sizes the window and its panes follow.
+  for (const int by : {1, 3, 4, 10}) {
+    window.MoveWindow(0, 0, 200 + by, 200 + by);
+    for (Red& child : children) {
+      CRect place = child.State().look.rect;
+      place.OffsetRect(by, by);
+      child.MoveWindow(place);
+    }
+    EXPECT_EQ(wrong(), 0) << "moved by " << by;
   }
 }
 
