@@ -5,10 +5,9 @@
 #include "grid/celltypes/AbuttingLine.h"
 #include "grid/celltypes/BorderPlan.h"
 #include "grid/celltypes/CellStyleBits.h"
+#include "grid/celltypes/FontInUse.h"
 #include "grid/celltypes/TextPlaces.h"
 #include "grid/control/CGridCtrl.h"
-#include "grid/control/CGridDrawHint.h"
-#include "grid/control/CGridInfo.h"
 #include "grid/control/DarkInk.h"
 #include "platform/CDC.h"
 #include "platform/System.h"
@@ -19,8 +18,6 @@ using namespace coregui;
 
 constexpr COLORREF kGreyedText = 0x8C8C8C;
 constexpr int kHighlightsCurrent = 2;  // of the current-cell mode
-// A text that starts further left is not looked for: it would need some six hundred characters to reach.
-constexpr int kLongestSpill = 4096;
 
 /// The size of a line as far as its placing needs it: measuring is what costs.
 CSize MeasureLine(const CDC& dc, const wchar_t* text, int length, int alignment) {
@@ -30,24 +27,6 @@ CSize MeasureLine(const CDC& dc, const wchar_t* text, int length, int alignment)
   dc.GetTextMetrics(&metrics);
   return {0, metrics.tmHeight};
 }
-
-/// Selects a cell's font while it lives; none when the cell has none.
-class FontInUse {
- public:
-  FontInUse(CDC& dc, CFont* font) : m_dc(dc), m_used(font != nullptr) {
-    if (m_used) m_before = dc.SelectObject(font);
-  }
-  ~FontInUse() {
-    if (m_used) m_dc.SelectObject(m_before);
-  }
-  FontInUse(const FontInUse&) = delete;
-  FontInUse& operator=(const FontInUse&) = delete;
-
- private:
-  CDC& m_dc;
-  bool m_used;
-  CFont* m_before = nullptr;
-};
 
 void DrawLines(CDC* dc, const BorderPlan& plan, CPen* cellPen, CPen* gridPen) {
   CPen light(PS_SOLID, 1, GetSysColor(COLOR_BTNHIGHLIGHT));
@@ -66,16 +45,6 @@ void DrawLines(CDC* dc, const BorderPlan& plan, CPen* cellPen, CPen* gridPen) {
   dc->SelectObject(before);
 }
 
-bool HasText(CGridCell& cell) {
-  const wchar_t* const text = cell.GetText();
-  return text != nullptr && *text != L'\0';
-}
-
-int BitmapWidth(const CGridCell& cell) {
-  const CBitmap* const bitmap = cell.GetBitmap();
-  return bitmap != nullptr ? static_cast<int>(bitmap->GetSize().cx) : 0;
-}
-
 }  // namespace
 
 // --- Drawing
@@ -83,7 +52,9 @@ int BitmapWidth(const CGridCell& cell) {
 void CGridCellType::OnDraw(CDC* dc, RECT* rect, int col, long row, CGridCell* cell, int selected,
                            int current) {
   if (MayOverlap(col, row, cell)) {
-    if (HasText(*cell)) {
+    const wchar_t* const text = cell->GetText();
+    const bool empty = text == nullptr || *text == L'\0';
+    if (!empty) {
       HintRightNeighbour(col, row);
     } else if (DrawSpilledText(dc, rect, col, row, cell, selected, current)) {
       HintRightNeighbour(col, row);
@@ -93,38 +64,6 @@ void CGridCellType::OnDraw(CDC* dc, RECT* rect, int col, long row, CGridCell* ce
   RECT inner;
   DrawBorder(dc, rect, &inner, cell);
   DrawText(dc, &inner, 0, col, row, cell, selected, current);
-}
-
-bool CGridCellType::MayOverlap(int col, long row, CGridCell* cell) const {
-  return m_control != nullptr && col >= 0 && row >= 0 && m_control->GetCellOverLap() != 0 &&
-         CanOverLap(cell) != 0;
-}
-
-bool CGridCellType::DrawSpilledText(CDC* dc, RECT* rect, int col, long row, CGridCell* cell, int selected,
-                                    int current) {
-  if (cell->GetBitmap() != nullptr) return false;
-  int startCol = 0;
-  const int offset = GetCellOverlapInfo(dc, col, row, &startCol, &m_spilling);
-  if (offset == 0) return false;
-  RECT inner;
-  DrawBorder(dc, rect, &inner, cell);
-  const int saved = dc->SaveDC();
-  dc->IntersectClipRect(inner);  // a bitmap before the text lies outside
-  DrawText(dc, &inner, offset - (inner.left - rect->left), startCol, row, &m_spilling, selected, current);
-  dc->RestoreDC(saved);
-  if (CGridDrawHint* const hints = m_control->GetDrawHints(); hints != nullptr) hints->NoteSpill(col, row);
-  return true;
-}
-
-/// A text may go on, or may have gone on before, in the next cell in view.
-void CGridCellType::HintRightNeighbour(int col, long row) {
-  CGridDrawHint* const hints = m_control->GetDrawHints();
-  if (hints == nullptr) return;
-  int next = col + 1;
-  while (next < m_control->GetNumberCols() && m_control->GetColWidth(next) == 0) ++next;
-  if (next < m_control->GetNumberCols() && hints->IsInvalid(next, row) == 0) {
-    hints->AddHint(col + 1, row, next, row);
-  }
 }
 
 void CGridCellType::DrawBorder(CDC* dc, RECT* rect, RECT* inner, CGridCell* cell) {
@@ -227,53 +166,6 @@ const wchar_t* CGridCellType::GetShownText(CGridCell* cell) const {
   return text != nullptr ? text : L"";
 }
 
-// --- Overlap
-
-int CGridCellType::CanOverLap(CGridCell* cell) const {
-  if (cell->IsPropertySet(CELLPROP_CELLTYPEEX | CELLPROP_JOIN) != 0 ||
-      cell->IsPropertySet(CELLPROP_ALIGNMENT) == 0) {
-    return 0;
-  }
-  return (cell->GetAlignment() & kAlignLeft) != 0 ? m_canOverlap : 0;
-}
-
-int CGridCellType::GetCellOverlapInfo(CDC* dc, int col, long row, int* startCol, CGridCell* startCell) {
-  if (m_control == nullptr) return 0;
-  const CGridColumns& columns = m_control->GetInfo().columns;
-  // What is locked ends where the scrolled columns begin: no text reaches across.
-  const long first = col >= columns.Locked() && columns.First() > columns.Locked() ? columns.Locked() : 0;
-  int distance = 0;
-  for (int left = col - 1; left >= first; --left) {
-    const int width = m_control->GetColWidth(left);
-    distance += width;
-    if (distance > kLongestSpill) return 0;
-    if (width == 0) continue;
-    m_control->GetCellIndirect(left, row, startCell);
-    const CGridCellType* const type = m_control->GetCellType(startCell->GetCellType());
-    if (type == nullptr || type->CanOverLap(startCell) == 0) return 0;
-    if (!HasText(*startCell)) {
-      if (startCell->GetBitmap() != nullptr) return 0;
-      continue;  // the text may pass over it
-    }
-    const int indent = LeftBorderWidth(*startCell);
-    const wchar_t* const text = startCell->GetText();
-    const FontInUse font(*dc, startCell->GetFont());
-    const int textWidth = dc->GetTextExtent(text, static_cast<int>(std::wcslen(text))).cx;
-    const int used = indent + m_control->GetMargin() + BitmapWidth(*startCell);
-    if (!TextReaches(distance, used, textWidth)) return 0;
-    *startCol = left;
-    return indent - distance;
-  }
-  return 0;
-}
-
-int CGridCellType::LeftBorderWidth(const CGridCell& cell) const {
-  constexpr CRect kRoomy(0, 0, 100, 100);
-  return cell.IsPropertySet(CELLPROP_BORDER) != 0
-             ? BorderPlan(kRoomy, cell.GetBorder(), false, m_control->Get3DHeight()).Inner().left
-             : 0;
-}
-
 // --- Measuring
 
 void CGridCellType::GetBestSize(CDC* dc, CSize* size, CGridCell* cell) {
@@ -322,41 +214,4 @@ int CGridCellType::SetTextEditMode(int on) {
 void CGridCellType::Attach(CGridCtrl* control, int id) {
   m_control = control;
   m_id = id;
-}
-
-// --- Device-independent bitmap rules
-
-int CGridCellType::DIBNumColors(int bitsPerPixel, int used) {
-  if (used != 0) return used;
-  return bitsPerPixel == 1 || bitsPerPixel == 4 || bitsPerPixel == 8 ? 1 << bitsPerPixel : 0;
-}
-
-int CGridCellType::PaletteSize(int headerSize, int bitsPerPixel, int used) {
-  constexpr int kOlderHeader = 12;
-  return DIBNumColors(bitsPerPixel, used) * (headerSize == kOlderHeader ? 3 : 4);
-}
-
-std::vector<BYTE> CGridCellType::BitmapToDIB(const CBitmap& bitmap) {
-  constexpr int kHeader = 40;
-  constexpr int kBytes = 4;
-  const CSize size = bitmap.GetSize();
-  if (size.cx <= 0 || size.cy <= 0) return {};
-  std::vector<BYTE> dib;
-  dib.reserve(kHeader + static_cast<std::size_t>(size.cx) * static_cast<std::size_t>(size.cy) * kBytes);
-  const auto put = [&dib](DWORD value, int bytes) {
-    for (int i = 0; i < bytes; ++i) dib.push_back(static_cast<BYTE>(value >> (8 * i)));
-  };
-  put(kHeader, 4);
-  put(static_cast<DWORD>(size.cx), 4);
-  put(static_cast<DWORD>(size.cy), 4);
-  put(1, 2);                              // planes
-  put(8 * kBytes, 2);                     // bits per pixel
-  for (int i = 0; i < 6; ++i) put(0, 4);  // uncompressed; sizes and colours follow from the rest
-  for (int y = size.cy - 1; y >= 0; --y) {
-    for (int x = 0; x < size.cx; ++x) {
-      const COLORREF dot = bitmap.GetPixel(x, y);
-      put(static_cast<DWORD>(GetBValue(dot) | GetGValue(dot) << 8 | GetRValue(dot) << 16), kBytes);
-    }
-  }
-  return dib;
 }

@@ -62,7 +62,8 @@ class COREGUI_API CGridDrawHint : public CObject {
   struct Cell {
     long row;
     int col;
-    auto operator<=>(const Cell&) const = default;
+    bool operator==(const Cell&) const = default;
+    bool operator<(const Cell& other) const { return row != other.row ? row < other.row : col < other.col; }
   };
   std::vector<Range> m_invalid;
   std::vector<Cell> m_valid;

@@ -26,18 +26,20 @@ TEST_F(GridHandTest, EveryPartReportsEveryClickWithItsCell) {
        {Row{Body(), {60, 30}, "", "1,1", "1"}, Row{Body(), {60, 30}, "", "1,1", "1"},
         Row{Top(), {75, 10}, "TH", "1,-2", "2"}, Row{Top(), {75, 30}, "TH", "1,-1", "2"},
         Row{Side(), {10, 30}, "SH", "-1,1", "3"}, Row{Corner(), {10, 10}, "CB", "-1,-1", "4"}}) {
-    const std::string what = row.name;
-    const std::string cell = row.cell;
+    const auto note = [&row](const char* button, const char* step) {
+      return std::string(row.name).append(button).append(" ").append(row.cell).append(step).append("; ");
+    };
     StepMouse(row.part, MouseStep::press, row.at);
     StepMouse(row.part, MouseStep::release, row.at);
-    EXPECT_EQ(grid.TakeNotes(), what + "L " + cell + " down; " + what + "L " + cell + " up; ");
+    EXPECT_EQ(grid.TakeNotes(), note("L", " down").append(note("L", " up")));
     StepMouse(row.part, MouseStep::press, row.at, true);
     StepMouse(row.part, MouseStep::release, row.at, true);
-    EXPECT_EQ(grid.TakeNotes(), what + "R " + cell + " down; menu " + cell + " in " + row.section + "; " +
-                                    what + "R " + cell + " up; ");
+    const std::string menu =
+        std::string("menu ").append(row.cell).append(" in ").append(row.section).append("; ");
+    EXPECT_EQ(grid.TakeNotes(), note("R", " down").append(menu).append(note("R", " up")));
     StepMouse(row.part, MouseStep::doubleClick, row.at);
     StepMouse(row.part, MouseStep::release, row.at);
-    EXPECT_EQ(grid.TakeNotes(), what + "D " + cell + "; ");
+    EXPECT_EQ(grid.TakeNotes(), note("D", ""));
     EXPECT_EQ(CWnd::GetFocus(), &Body());
     EXPECT_EQ(CWnd::GetCapture(), nullptr);
   }
