@@ -2,9 +2,15 @@
 
 #include <QCheckBox>
 #include <QCloseEvent>
+#include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <algorithm>
+#include <limits>
 #include <memory>
 
 #include "platform/Toolkit.h"
@@ -94,6 +100,34 @@ void AddButtons(Box& box, const std::vector<MessageBoxButton>& buttons, UINT sty
   }
 }
 
+/// A text that leaves no room for the buttons on the screen is scrolled.
+void ScrollLongText(QMessageBox& box) {
+  auto* label = box.findChild<QLabel*>("qt_msgbox_label");
+  auto* grid = qobject_cast<QGridLayout*>(box.layout());
+  if (label == nullptr || grid == nullptr) return;
+  const QSize most = box.screen()->availableSize() * 0.5;
+  const QRect limits(0, 0, most.width(), std::numeric_limits<int>::max() / 2);
+  const QSize needed = label->fontMetrics().boundingRect(limits, Qt::TextWordWrap, label->text()).size();
+  if (needed.height() <= most.height()) return;
+  auto text = std::make_unique<QLabel>(label->text());
+  text->setTextFormat(Qt::PlainText);
+  text->setWordWrap(true);
+  text->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+  auto area = std::make_unique<QScrollArea>();
+  area->setFrameShape(QFrame::NoFrame);
+  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  area->setWidgetResizable(true);
+  area->setMinimumSize(needed.width() + area->verticalScrollBar()->sizeHint().width(), most.height());
+  area->setWidget(text.release());
+  int row = 0;
+  int column = 0;
+  int rows = 1;
+  int columns = 1;
+  grid->getItemPosition(grid->indexOf(label), &row, &column, &rows, &columns);
+  label->hide();
+  grid->addWidget(area.release(), row, column, rows, columns);
+}
+
 }  // namespace
 
 int ShowMessageBox(const MessageBoxParams& params) {
@@ -113,6 +147,7 @@ int ShowMessageBox(const MessageBoxParams& params) {
     check->setChecked(params.checked != nullptr && *params.checked != 0);
     box.setCheckBox(check.release());
   }
+  ScrollLongText(box);
   CWnd::ReleaseCapture();
   box.exec();
   if (params.checked != nullptr && box.checkBox() != nullptr)

@@ -5,6 +5,9 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
@@ -112,6 +115,28 @@ TEST(MessageBox, AtMostFourButtonsOfTheCallers) {
     ButtonsOf(box)[2]->click();
   });
   EXPECT_EQ(ShowMessageBox(params), 102);
+}
+
+TEST(MessageBox, ALongTextIsScrolledAndLeavesTheButtonsOnTheScreen) {
+  MessageBoxParams params;
+  params.style = MB_YESNO | MB_ICONSTOP;
+  for (const int lines : {3, 400}) {
+    params.text = L"First";
+    for (int i = 0; i < lines; ++i) params.text.AppendFormat(L"\nRow %d is not a number", i);
+    WhenShown<QMessageBox>([&](QMessageBox& box) {
+      EXPECT_LE(box.height(), box.screen()->availableSize().height());
+      EXPECT_EQ(box.text().count('\n'), lines);
+      for (const QAbstractButton* button : box.buttons()) {
+        const QRect place(button->mapTo(&box, QPoint()), button->size());
+        EXPECT_TRUE(box.rect().contains(place));
+      }
+      const auto* area = box.findChild<QScrollArea*>();
+      const int scrolls = area == nullptr ? 0 : area->verticalScrollBar()->maximum();
+      EXPECT_EQ(scrolls > 1000, lines > 3) << scrolls;
+      ButtonsOf(box).last()->click();
+    });
+    EXPECT_EQ(ShowMessageBox(params), IDNO);
+  }
 }
 
 TEST(Menu, AnswersTheChosenCommand) {
