@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numeric>
 #include <string_view>
 
 #include "SurveyGrid.h"
@@ -39,6 +40,40 @@ FRect BoundsOf(const std::vector<const std::vector<PNT_2D_record>*>& lines) {
     bounds.SetRight(bounds.GetRight() + 1.0);
   }
   return bounds;
+}
+
+/// Nothing for a column that the table does not have.
+template <class Value>
+void Reorder(std::vector<Value>& values, const std::vector<std::size_t>& order) {
+  if (!values.empty()) {
+    std::vector<Value> ordered;
+    ordered.reserve(order.size());
+    for (const std::size_t at : order) {
+      ordered.push_back(values[at]);
+    }
+    values = std::move(ordered);
+  }
+}
+
+/// What follows from the levels in their order; `rows` is how many the table has.
+void FillSection(SectionData& data, long rows, std::vector<PNT_2D_record> grounds,
+                 std::vector<PNT_2D_record> designs) {
+  data.points.assign(static_cast<std::size_t>(rows), -1);
+  for (std::size_t point = 0; point < data.rows.size(); ++point) {
+    data.points[static_cast<std::size_t>(data.rows[point])] = static_cast<long>(point);
+  }
+  std::vector<PNT_2D_record> differences;
+  differences.reserve(designs.size());
+  for (std::size_t point = 0; point < designs.size(); ++point) {
+    differences.push_back({grounds[point].x, grounds[point].y - designs[point].y});
+  }
+  data.extents = BoundsOf({&grounds, &designs});
+  data.differenceExtents = BoundsOf({&differences});
+  data.differenceExtents.SetLeft(data.extents.GetLeft());
+  data.differenceExtents.SetRight(data.extents.GetRight());
+  data.ground = CPlotSeries(std::move(grounds));
+  data.design = CPlotSeries(std::move(designs));
+  data.difference = CPlotSeries(std::move(differences));
 }
 
 }  // namespace
@@ -91,37 +126,28 @@ SectionData TakeSection(SurveyGrid& grid) {
     double value = 0.0;
     return col >= 0 && grid.NumberAt(col, row, value) ? value : kNothing;
   };
-  std::vector<std::pair<double, long>> order;
-  for (long row = 0; row < rows; ++row) {
-    if (const double chainage = number(data.columns.chainage, row); std::isfinite(chainage)) {
-      order.emplace_back(chainage, row);
-    }
-  }
-  std::sort(order.begin(), order.end());
-  data.points.assign(static_cast<std::size_t>(rows), -1);
-  data.rows.reserve(order.size());
   std::vector<PNT_2D_record> grounds;
   std::vector<PNT_2D_record> designs;
-  std::vector<PNT_2D_record> differences;
-  grounds.reserve(order.size());
-  for (const auto& [chainage, row] : order) {
-    data.points[static_cast<std::size_t>(row)] = static_cast<long>(data.rows.size());
-    const double ground = number(data.columns.ground, row);
-    data.rows.push_back(row);
-    grounds.push_back({chainage, ground});
-    if (data.columns.design >= 0) {
-      const double design = number(data.columns.design, row);
-      designs.push_back({chainage, design});
-      differences.push_back({chainage, ground - design});
+  for (long row = 0; row < rows; ++row) {
+    if (const double chainage = number(data.columns.chainage, row); std::isfinite(chainage)) {
+      data.rows.push_back(row);
+      grounds.push_back({chainage, number(data.columns.ground, row)});
+      if (data.columns.design >= 0) {
+        designs.push_back({chainage, number(data.columns.design, row)});
+      }
     }
   }
-  data.extents = BoundsOf({&grounds, &designs});
-  data.differenceExtents = BoundsOf({&differences});
-  data.differenceExtents.SetLeft(data.extents.GetLeft());
-  data.differenceExtents.SetRight(data.extents.GetRight());
-  data.ground = CPlotSeries(std::move(grounds));
-  data.design = CPlotSeries(std::move(designs));
-  data.difference = CPlotSeries(std::move(differences));
+  const auto before = [](const PNT_2D_record& a, const PNT_2D_record& b) { return a.x < b.x; };
+  if (!std::is_sorted(grounds.begin(), grounds.end(), before)) {
+    std::vector<std::size_t> order(grounds.size());
+    std::iota(order.begin(), order.end(), 0U);
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t a, std::size_t b) { return before(grounds[a], grounds[b]); });
+    Reorder(data.rows, order);
+    Reorder(grounds, order);
+    Reorder(designs, order);
+  }
+  FillSection(data, rows, std::move(grounds), std::move(designs));
   return data;
 }
 

@@ -96,9 +96,8 @@ void SurveyGrid::EndTable(std::uint64_t rows) {
 }
 
 bool SurveyGrid::NumberAt(int col, long row, double& value) {
-  CGridCell cell;
-  return GetCell(col, row, &cell) == 0 && cell.GetDataType() == CELLDATA_NUMBER &&
-         cell.GetNumber(&value) == 0;
+  return GetCell(col, row, &m_cell) == 0 && m_cell.GetDataType() == CELLDATA_NUMBER &&
+         m_cell.GetNumber(&value) == 0;
 }
 
 void SurveyGrid::OnGetCell(int col, long row, CGridCell* cell) {

@@ -56,7 +56,7 @@ class SurveyGrid : public CGridCtrl {
   std::function<void()> m_orderHook;
   std::function<void()> m_focusHook;
   std::vector<Longest> m_longest;  ///< for each column
-  CGridCell m_cell;                ///< reused for every stored cell
+  CGridCell m_cell;                ///< reused for every cell stored or asked for a number
 };
 
 }  // namespace desk
