@@ -26,7 +26,7 @@ struct Operation {
 };
 
 const Operation operations[] = {
-    {"SetNumberRows", [](CGridCtrl& g, const Step& s) { g.SetNumberRows(s.a * 4); }},
+    {"SetNumberRows", [](CGridCtrl& g, const Step& s) { g.SetNumberRows(s.a * 4L); }},
     {"SetNumberCols", [](CGridCtrl& g, const Step& s) { g.SetNumberCols(s.a); }},
     {"InsertRow", [](CGridCtrl& g, const Step& s) { g.InsertRow(s.a); }},
     {"DeleteRow", [](CGridCtrl& g, const Step& s) { g.DeleteRow(s.a); }},
@@ -81,7 +81,7 @@ std::string FaultAfter(const std::vector<Step>& steps) {
   grid.AddDataSource(&other);
   for (const Step& step : steps) {
     operations[step.operation].run(grid, step);
-    if (const std::string fault = FaultOf(grid); !fault.empty()) return fault;
+    if (std::string fault = FaultOf(grid); !fault.empty()) return fault;
   }
   return {};
 }
