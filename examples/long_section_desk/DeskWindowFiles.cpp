@@ -64,6 +64,10 @@ bool DeskWindow::Open(const std::wstring& path) {
     m_unattended ? taken.Look(whole) : taken.Take(whole, this);
     m_report = Read(whole);
   }
+  if (m_closeAfter) {
+    PostMessage(WM_CLOSE);  // what was read is not shown any more
+    return false;
+  }
   if (!m_report.error.empty()) {
     ShowTitle();
     Tell(whole + L": " + m_report.error);
@@ -81,9 +85,6 @@ bool DeskWindow::Open(const std::wstring& path) {
   ShowTitle();
   if (!m_unattended) {
     KeepSurvey(whole);
-  }
-  if (m_closeAfter) {
-    PostMessage(WM_CLOSE);
   }
   return true;
 }

@@ -119,6 +119,25 @@ TEST_F(DeskFiles, ALockThatCannotBeMadeOrTakenIsNoObstacle) {
   EXPECT_EQ(window.StateText(), L"read-only: no lock can be made here");
 }
 
+TEST_F(DeskFiles, EscAndTheCloseButtonStopTheReading) {
+  std::string road = "Chainage,Level\n";
+  for (int i = 0; i < 100000; ++i) {
+    road += std::to_string(i) + ",1.5\n";
+  }
+  const std::wstring path = Write("a.csv", road);
+  // Delivered when the reading lets the windows live.
+  window.PostMessage(WM_KEYDOWN, VK_ESCAPE);
+  ASSERT_TRUE(window.Open(path));
+  EXPECT_TRUE(window.Report().cutShort);
+  EXPECT_LT(window.Grid().GetNumberRows(), 100000);
+  window.PostMessage(WM_CLOSE);
+  EXPECT_FALSE(window.Open(path));
+  EXPECT_TRUE(window.HasWindow());
+  CWinApp::PumpPending();
+  EXPECT_FALSE(window.HasWindow());
+  EXPECT_FALSE(Has("a.lck"));
+}
+
 TEST_F(DeskFiles, NamesMayHaveAnyLettersInAnyLocale) {
   const std::string before = std::setlocale(LC_ALL, nullptr);
   std::setlocale(LC_ALL, "C");
