@@ -41,7 +41,7 @@ BOOL CFileCopyProgressDlg::OnInitDialog() {
   CCADBaseDialog::OnInitDialog();
   constexpr DWORD kShown = WS_CHILD | WS_VISIBLE;
   coregui::DialogLayout layout(kWidth);
-  m_description.Create(L"", kShown, layout.Row(kTextHeight), this, kDescriptionId);
+  m_description.Create(L"", kShown, layout.TextRow(*this, description, kTextHeight), this, kDescriptionId);
   CString shown = description;
   shown.Replace(L"&", L"&&");  // a file's name has no access key
   m_description.SetWindowText(shown);

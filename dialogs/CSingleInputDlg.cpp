@@ -1,8 +1,5 @@
 #include "dialogs/CSingleInputDlg.h"
 
-#include <algorithm>
-
-#include "platform/CDC.h"
 #include "platform/DialogLayout.h"
 #include "platform/System.h"
 
@@ -11,16 +8,6 @@ namespace {
 constexpr int kWidth = 300;
 constexpr int kEditHeight = 24;
 constexpr int kLineHeight = 16;
-constexpr int kMostPromptLines = 20;
-
-/// The height, for 96 dots per inch, that a text wants when it is wrapped at the dialog's width.
-int HeightOf(CWnd& window, const CString& text) {
-  CClientDC dc(&window);
-  CRect rect(0, 0, ScaleByDpi(kWidth), 0);
-  dc.DrawText(text, text.GetLength(), &rect, DT_CALCRECT | DT_WORDBREAK);
-  const int height = rect.Height() * kLineHeight / std::max(1, ScaleByDpi(kLineHeight)) + 2;
-  return std::clamp(height, kLineHeight, kMostPromptLines * kLineHeight);
-}
 
 /// Runs the dialog of a value with what all kinds share.
 bool Ask(CSingleInputDlg& dialog, const wchar_t* caption, const wchar_t* prompt) {
@@ -52,7 +39,7 @@ void CSingleInputDlg::MakeControls() {
   coregui::DialogLayout layout(kWidth);
   constexpr DWORD kShown = WS_CHILD | WS_VISIBLE;
   constexpr DWORD kStop = kShown | WS_TABSTOP;
-  m_prompt.Create(prompt, kShown, layout.Row(HeightOf(*this, prompt)), this, kPromptId);
+  m_prompt.Create(prompt, kShown, layout.TextRow(*this, prompt, kLineHeight), this, kPromptId);
   Edit().Create(kStop | WS_BORDER | ES_AUTOHSCROLL, layout.Row(kEditHeight), this, kEditId);
   CString name = prompt;
   name.Remove(L'&');

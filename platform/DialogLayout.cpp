@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
+#include "platform/CDC.h"
 #include "platform/System.h"
 
 namespace coregui {
@@ -24,6 +25,19 @@ DialogLayout::DialogLayout(int width) : m_width(width), m_top(kMargin) {}
 
 CRect DialogLayout::Row(int height) {
   return Columns(height, {0}).front();
+}
+
+CRect DialogLayout::TextRow(CWnd& window, const CString& text, int least) {
+  constexpr int kLine = 16;
+  constexpr int kMostLines = 20;
+  const int width = std::max(1, ScaleByDpi(m_width));
+  CClientDC dc(&window);
+  CRect wanted(0, 0, width, 0);
+  dc.DrawText(text, text.GetLength(), &wanted, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+  // A path has no blanks and is measured in one line, yet wrapped behind its separators.
+  const int lines = (wanted.Width() + width - 1) / width;
+  const int height = wanted.Height() * std::max(1, lines) * kLine / std::max(1, ScaleByDpi(kLine)) + 2;
+  return Row(std::clamp(height, least, std::max(least, kMostLines * kLine)));
 }
 
 std::vector<CRect> DialogLayout::Columns(int height, std::initializer_list<int> widths) {

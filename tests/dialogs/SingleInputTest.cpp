@@ -113,20 +113,23 @@ TEST(SingleInput, TheLowestWholeNumberIsInTheRangeOnlyWhenAskedForIsKept) {
 
 TEST(SingleInput, ALongPromptIsWrappedAboveTheField) {
   CString value;
-  const NextWindow next([&](ShownWindow& window) {
-    CRect prompt;
-    CRect edit;
-    window.Window()->GetDlgItem(CSingleInputDlg::kPromptId)->GetWindowRect(&prompt);
-    Edit(window).GetWindowRect(&edit);
-    EXPECT_GT(prompt.Height(), 2 * 14);
-    EXPECT_LE(prompt.bottom, edit.top);
-    window.Key(VK_ESCAPE);
-  });
-  EXPECT_FALSE(coreGetStringValue(
-      nullptr, L"Alignment",
+  CString path = L"/projects";
+  for (int i = 0; i < 12; ++i) path += L"/northern-bypass";
+  const CString sentence =
       L"The name of the new alignment, as it is to appear in every long-section, cross-section "
-      L"and table of this survey, in the language of the client",
-      value));
+      L"and table of this survey, in the language of the client";
+  for (const CString& prompt : {sentence, path}) {
+    const NextWindow next([&](ShownWindow& window) {
+      CRect shown;
+      CRect edit;
+      window.Window()->GetDlgItem(CSingleInputDlg::kPromptId)->GetWindowRect(&shown);
+      Edit(window).GetWindowRect(&edit);
+      EXPECT_GT(shown.Height(), 2 * 14);
+      EXPECT_LE(shown.bottom, edit.top);
+      window.Key(VK_ESCAPE);
+    });
+    EXPECT_FALSE(coreGetStringValue(nullptr, L"Alignment", prompt, value));
+  }
 }
 
 }  // namespace
