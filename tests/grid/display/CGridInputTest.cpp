@@ -81,13 +81,6 @@ TEST_F(CGridInputTest, ATypeThatTakesTheButtonGetsTheMovesAndTheRelease) {
   EXPECT_EQ(grid.type.log.back(), "type move 0,0") << "free again";
 }
 
-TEST_F(CGridInputTest, TheRightButtonMovesTooButTakesNoCapture) {
-  mouse.RightDown(MK_RBUTTON, {110, 5});
-  mouse.RightUp(0, {110, 5});
-  EXPECT_EQ(grid.Current(), "2,0");
-  EXPECT_THAT(grid.log, ElementsAre("right down 2,0", "right up 2,0"));
-}
-
 TEST(CGridMouse, AGridMayBeDestroyedByItsClick) {
   auto grid = std::make_unique<FakeGrid>();
   auto window = std::make_unique<CWnd>();
@@ -99,14 +92,6 @@ TEST(CGridMouse, AGridMayBeDestroyedByItsClick) {
 }
 
 // --- Dragging
-
-TEST_F(CGridInputTest, ADragGoesToTheCellUnderThePointer) {
-  Press({10, 5});
-  mouse.Move(MK_LBUTTON, {110, 45});
-  EXPECT_EQ(grid.Current(), "2,2");
-  mouse.Move(0, {10, 5});
-  EXPECT_EQ(grid.Current(), "2,2") << "without the button it only moves";
-}
 
 TEST_F(CGridInputTest, OverAPartlyShownRowADragWaitsWhenThatIsOff) {
   grid.EnableScrollOnPartialCells(0);

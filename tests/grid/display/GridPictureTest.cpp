@@ -49,9 +49,32 @@ TEST_F(GridPictureTest, ASelectionShowsAtOnceAndIsTakenBackAtOnce) {
   EXPECT_EQ(corner(1, 9), GetSysColor(COLOR_HIGHLIGHT));
   EXPECT_EQ(corner(2, 10), GetSysColor(COLOR_HIGHLIGHT));
   EXPECT_EQ(corner(3, 10), GetSysColor(COLOR_WINDOW));
+  grid.SelectRange(5, 2, 7, 2);
+  EXPECT_EQ(corner(6, 2), GetSysColor(COLOR_WINDOW)) << "a greyed cell keeps its colour";
+  EXPECT_EQ(corner(7, 2), GetSysColor(COLOR_HIGHLIGHT));
   grid.ClearSelections();
   EXPECT_EQ(corner(1, 9), GetSysColor(COLOR_WINDOW));
   EXPECT_EQ(corner(2, 10), GetSysColor(COLOR_WINDOW));
+}
+
+TEST_F(GridPictureTest, NoDotBetweenCellsOrInWideBordersIsLeftOut) {
+  Open();
+  grid.SetHighlightRow(0);
+  grid.SelectRange(0, 11, 3, 13);
+  CWnd& body = *grid.GetGridWnd();
+  constexpr COLORREF kPink = RGB(255, 0, 255);
+  CClientDC dc(&body);
+  dc.FillSolidRect(body.GetClientRectangle(), kPink);
+  body.RedrawWindow();
+  const std::vector<DWORD> dots = Dots();
+  EXPECT_EQ(std::count(dots.begin(), dots.end(), kPink), 0);
+  const double scale = dc.GetScaleFactor();
+  const CRect cell = Cell(3, 1);  // three pixels wide all around
+  const long row =
+      std::lround((cell.top + 10) * scale) * std::lround(body.GetClientRectangle().Width() * scale);
+  for (long x = std::lround(cell.left * scale); x < std::lround((cell.left + 3) * scale); ++x) {
+    EXPECT_EQ(dots[static_cast<std::size_t>(row + x)], 0xC81E1EU) << x;
+  }
 }
 
 TEST_F(GridPictureTest, PrintingTakesNothingFromTheScreen) {
