@@ -65,6 +65,7 @@ class ShowcaseGrid : public CGridCtrl {
     QuickSetCellTypeEx(4, 2, 8);
     m_picture.CreateFromPixels(2, 2, {0xFFFF0000, 0xFF00FF00, 0xFF0000FF, 0xFFFFFF00});
     std::vector<DWORD> dots;
+    dots.reserve(16 * 16);
     for (int i = 0; i < 16 * 16; ++i) dots.push_back(i / 16 < 8 ? 0xFFCC4422U : 0xFF2244CCU);
     m_picture.CreateFromPixels(16, 16, dots);
     QuickSetText(5, 2, L"bitmap");
