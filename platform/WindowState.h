@@ -39,10 +39,10 @@ class WindowState {
     CString accessibleName;
     DWORD style = 0;
     DWORD exStyle = 0;
-    CRect rect;             ///< in the parent's client coordinates; top level: on the screen, without the frame
-    LONG border = 0;        ///< how far inside its rectangle the client area of a painted window lies
-    WPARAM sizeCode = 0;    ///< SIZE_RESTORED ...: what WM_SIZE says
-    CFont* font = nullptr;  ///< borrowed
+    CRect rect;           ///< in the parent's client coordinates; top level: on the screen, without the frame
+    LONG border = 0;      ///< how far inside its rectangle the client area of a painted window lies
+    WPARAM sizeCode = 0;  ///< SIZE_RESTORED ...: what WM_SIZE says
+    CFont* font = nullptr;     ///< borrowed
     HCURSOR cursor = nullptr;  ///< of the class: shown unless WM_SETCURSOR is answered
   } look;
 

@@ -23,7 +23,7 @@ class CScrollBarWindow : public coregui::ControlWindow {
   }
 
   /// Range, page and position of the toolkit's bar; the thumb stays where a person holds it.
-  void Show(const SCROLLINFO& info) {
+  void Reflect(const SCROLLINFO& info) {
     const int page = static_cast<int>(std::min<std::uint32_t>(info.nPage, INT32_MAX));
     const std::int64_t last = std::int64_t{info.nMax} - std::max(page - 1, 0);
     Bar().setRange(info.nMin, static_cast<int>(std::max<std::int64_t>(last, info.nMin)));
@@ -101,7 +101,7 @@ class CScrollBarWindow : public coregui::ControlWindow {
     if (self) Tell(SB_ENDSCROLL, 0);
     if (!self || GetWidget() == nullptr) return;
     m_bar.m_info.nTrackPos = m_bar.m_info.nPos;
-    Show(m_bar.m_info);
+    Reflect(m_bar.m_info);
     Bar().setSliderPosition(m_bar.m_info.nPos);
   }
 
@@ -119,7 +119,7 @@ BOOL CScrollBar::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
 std::unique_ptr<coregui::NativeWindow> CScrollBar::MakeNative(const CREATESTRUCT& create) {
   coregui::EnsureApplication();
   auto native = std::make_unique<CScrollBarWindow>(*this, create);
-  native->Show(m_info);
+  native->Reflect(m_info);
   return native;
 }
 
@@ -129,7 +129,7 @@ void CScrollBar::Apply() {
   const std::int64_t last = std::max<std::int64_t>(m_info.nMax - page + 1, m_info.nMin);
   m_info.nPos = static_cast<int>(std::clamp<std::int64_t>(m_info.nPos, m_info.nMin, last));
   auto* native = coregui::NativeOf<CScrollBarWindow>(*this);
-  if (native != nullptr) native->Show(m_info);
+  if (native != nullptr) native->Reflect(m_info);
 }
 
 void CScrollBar::SetScrollInfo(const SCROLLINFO& info, BOOL /*redraw*/) {
