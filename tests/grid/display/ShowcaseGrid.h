@@ -63,10 +63,8 @@ class ShowcaseGrid : public CGridCtrl {
     QuickSetText(4, 2, L"text");
     QuickSetLabelText(4, 2, L"label");
     QuickSetCellTypeEx(4, 2, 8);
-    m_picture.CreateFromPixels(2, 2, {0xFFFF0000, 0xFF00FF00, 0xFF0000FF, 0xFFFFFF00});
-    std::vector<DWORD> dots;
-    dots.reserve(16 * 16);
-    for (int i = 0; i < 16 * 16; ++i) dots.push_back(i / 16 < 8 ? 0xFFCC4422U : 0xFF2244CCU);
+    std::vector<DWORD> dots(256, 0xFFCC4422U);  // 16 × 16, the lower half in another colour
+    std::fill(dots.begin() + 128, dots.end(), 0xFF2244CCU);
     m_picture.CreateFromPixels(16, 16, dots);
     QuickSetText(5, 2, L"bitmap");
     QuickSetBitmap(5, 2, &m_picture);
