@@ -104,11 +104,12 @@ bool CPlotSeries::GetBounds(FRect* bounds) const {
   return true;
 }
 
-CPlotSeries::Bounds CPlotSeries::GetRangeY(std::size_t first, std::size_t last) const {
+CPlotSeries::Bounds CPlotSeries::GetRange(double PNT_2D_record::*axis, std::vector<Bounds> Level::*bounds,
+                                          std::size_t first, std::size_t last) const {
   Bounds range = kNothing;
   const auto includePoints = [&](std::size_t from, std::size_t to) {
     for (; from < to; ++from) {
-      Include(range, m_points[from].y, m_points[from].y);
+      Include(range, m_points[from].*axis, m_points[from].*axis);
     }
   };
   // From both ends inwards: points up to a leaf, nodes up to a node of the level above, and so on.
@@ -121,9 +122,10 @@ CPlotSeries::Bounds CPlotSeries::GetRangeY(std::size_t first, std::size_t last) 
   includePoints(first, from * kLeafSize);
   includePoints(to * kLeafSize, last);
   for (std::size_t level = 0; from < to; ++level) {
-    const auto includeNodes = [&, y = m_levels[level].y.data()](std::size_t begin, std::size_t end) {
+    const auto includeNodes = [&, nodes = (m_levels[level].*bounds).data()](std::size_t begin,
+                                                                            std::size_t end) {
       for (; begin < end; ++begin) {
-        Include(range, y[begin].lowest, y[begin].highest);
+        Include(range, nodes[begin].lowest, nodes[begin].highest);
       }
     };
     const std::size_t innerFrom = (from + kFanOut - 1) / kFanOut;

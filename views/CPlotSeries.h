@@ -44,8 +44,14 @@ class COREGUI_API CPlotSeries {
   /// Only where x is not monotone.
   const Bounds& GetBoundsX(std::size_t level, std::size_t node) const { return m_levels[level].x[node]; }
 
-  /// The lowest and highest y of the points from `first` to before `last`; they must be drawable.
-  Bounds GetRangeY(std::size_t first, std::size_t last) const;
+  /// The lowest and highest y of the points from `first` to before `last`; they must be drawable. Likewise of
+  /// x, only where x is not monotone.
+  Bounds GetRangeY(std::size_t first, std::size_t last) const {
+    return GetRange(&PNT_2D_record::y, &Level::y, first, last);
+  }
+  Bounds GetRangeX(std::size_t first, std::size_t last) const {
+    return GetRange(&PNT_2D_record::x, &Level::x, first, last);
+  }
   /// Asks the processor for what GetRangeY will read around a point, so that it need not wait for memory.
   void PrefetchAround(std::size_t point) const;
 
@@ -58,6 +64,8 @@ class COREGUI_API CPlotSeries {
     std::vector<std::uint8_t> gaps;  ///< 1: a gap is among the node's points
   };
 
+  Bounds GetRange(double PNT_2D_record::*axis, std::vector<Bounds> Level::*bounds, std::size_t first,
+                  std::size_t last) const;
   void FindOrder();
   void BuildLeaves();
   void BuildLevelAbove();

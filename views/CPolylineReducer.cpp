@@ -13,10 +13,14 @@ void CPolylineReducer::Start(CPoint p) {
 
 void CPolylineReducer::Flush() {
   m_sink.Add(m_first);
-  // The extreme that is nearer to the first point than to the last one: the shortest way.
-  const bool rises = m_first.y <= m_last;
-  m_sink.Add({m_first.x, rises ? m_lowest : m_highest});
-  m_sink.Add({m_first.x, rises ? m_highest : m_lowest});
+  if (m_rows.IsEmpty()) {
+    return;  // all on one pixel
+  }
+  // The shortest way, but never straight from an extreme to the last point on it: the pixel that a line ends
+  // on is not filled, and the extreme's is.
+  const bool lowestFirst = m_last == m_rows.lowest || (m_last != m_rows.highest && m_first.y <= m_last);
+  m_sink.Add({m_first.x, lowestFirst ? m_rows.lowest : m_rows.highest});
+  m_sink.Add({m_first.x, lowestFirst ? m_rows.highest : m_rows.lowest});
   m_sink.Add({m_first.x, m_last});
 }
 
@@ -33,7 +37,8 @@ bool CPolylineReducer::IsCovered(CRect const& rows) {
 
 void CPolylineReducer::Finish(CPoint last) {
   const bool inside = m_oneColumn && last.x == m_first.x;
-  const CRect rows(m_first.x, std::min(m_lowest, last.y), m_first.x, std::max(m_highest, last.y));
+  const CRect rows(m_first.x, std::min({m_rows.lowest, m_last, last.y}), m_first.x,
+                   std::max({m_rows.highest, m_last, last.y}));
   if (!inside || !IsCovered(rows)) {
     Flush();
     m_sink.Add(last);

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <algorithm>
+#include <limits>
+
 #include "views/CPolylineSink.h"
 
 namespace coregui {
@@ -16,16 +19,22 @@ class COREGUI_API CPolylineReducer {
  public:
   explicit CPolylineReducer(CPolylineSink& sink) : m_sink(sink) {}
 
-  void Add(CPoint p) { AddRun(p, p.y, p.y, p.y); }
-  /// Consecutive points in one column at once: the first, the rows that they reach, the last one's row.
-  void AddRun(CPoint first, LONG lowest, LONG highest, LONG last) {
-    if (m_open && first.x == m_first.x) {
-      m_lowest = std::min(m_lowest, lowest);
-      m_highest = std::max(m_highest, highest);
-    } else {
+  void Add(CPoint p) { AddRun(p, kNoRow, p.y); }
+  /// Consecutive points in one column at once: the first; the rows of those before the last stretch that
+  /// stays on the last one's pixel (kNoRow when there are none); the last one's row.
+  struct Rows {
+    LONG lowest;
+    LONG highest;
+    bool IsEmpty() const { return lowest > highest; }
+  };
+  static constexpr Rows kNoRow{std::numeric_limits<LONG>::max(), std::numeric_limits<LONG>::min()};
+  void AddRun(CPoint first, Rows rows, LONG last) {
+    if (!m_open || first.x != m_first.x) {
       Start(first);
-      m_lowest = lowest;
-      m_highest = highest;
+      m_rows = rows;
+    } else if (!rows.IsEmpty() || last != m_last) {  // it leaves the pixel where it stood
+      m_rows.lowest = std::min({m_rows.lowest, m_last, rows.lowest});
+      m_rows.highest = std::max({m_rows.highest, m_last, rows.highest});
     }
     m_last = last;
   }
@@ -42,8 +51,7 @@ class COREGUI_API CPolylineReducer {
   bool m_open = false;
   bool m_oneColumn = true;  ///< the polyline at hand has not left its first column
   CPoint m_first;
-  LONG m_lowest = 0;
-  LONG m_highest = 0;
+  Rows m_rows = kNoRow;  ///< that are filled: a line leaves out the pixel that it ends on
   LONG m_last = 0;
   CRect m_covered;  ///< rows between `top` and `bottom` of column `left`, drawn by overlapping polylines
 };

@@ -30,9 +30,33 @@ class ColumnWalker {
         m_reducer.Add(first);  // where the line leaves; nothing behind it can be seen
         return;
       }
-      const std::size_t looked = m_length < kFew ? AddFew(at, end, first.x) : kFew;
-      at = looked < kFew ? at + looked : AddColumn(at, end, first);
+      const std::size_t looked = m_length < kFew ? AddFew(at, end, first.x) : 0;
+      at = looked > 0 && looked < kFew ? at + looked : AddColumn(at, looked, end, first.x);
     }
+  }
+
+  /// The end of the points before the last stretch that stays on the pixel `last`; `begin` when there are
+  /// none. Where x turns back too.
+  std::size_t EndOfMoving(std::size_t begin, std::size_t end, CPoint last) const {
+    std::size_t i = end;
+    while (i > begin) {
+      std::size_t skip = 0;
+      for (std::size_t level = 0; level < m_series.GetLevels(); ++level) {
+        const std::size_t size = CPlotSeries::GetNodeSize(level);
+        if (i % size != 0 || i - begin < size || !StaysOn(level, i / size - 1, last)) {
+          break;
+        }
+        skip = size;
+      }
+      if (skip == 0) {
+        if (PixelOf(i - 1) != last) {
+          return i;
+        }
+        skip = 1;
+      }
+      i -= skip;
+    }
+    return begin;
   }
 
  private:
@@ -65,16 +89,43 @@ class ColumnWalker {
     return m_length;
   }
 
-  /// Adds all of a column's points and returns the next one.
-  std::size_t AddColumn(std::size_t at, std::size_t end, CPoint first) {
-    const std::size_t next = EndOfColumn(at, end, first.x);
+  /// Adds a column's points but for so many that were added already; returns the next one.
+  std::size_t AddColumn(std::size_t at, std::size_t added, std::size_t end, LONG column) {
+    const std::size_t next = EndOfColumn(at, end, column);
     m_length = next - at;
     m_series.PrefetchAround(next + kAhead * m_length);
-    const CPlotSeries::Bounds y = m_series.GetRangeY(at, next);
-    const LONG a = m_mapping.UserToWindow({m_points[at].x, y.lowest}).y;
-    const LONG b = m_mapping.UserToWindow({m_points[at].x, y.highest}).y;
-    m_reducer.AddRun(first, std::min(a, b), std::max(a, b), PixelOf(next - 1).y);
+    if (added < m_length) {
+      const CPoint last = PixelOf(next - 1);
+      m_reducer.AddRun(PixelOf(at + added), RowsBeforeStay(at + added, next, last), last.y);
+    }
     return next;
+  }
+
+  CPolylineReducer::Rows RowsBeforeStay(std::size_t begin, std::size_t end, CPoint last) const {
+    const CPolylineReducer::Rows rows = RowsOf(begin, end);
+    if (rows.lowest < last.y && last.y < rows.highest) {
+      return rows;  // wherever the stay begins
+    }
+    const std::size_t stay = EndOfMoving(begin, end, last);
+    return stay == begin ? CPolylineReducer::kNoRow : RowsOf(begin, stay);
+  }
+
+  CPolylineReducer::Rows RowsOf(std::size_t begin, std::size_t end) const {
+    const CPlotSeries::Bounds y = m_series.GetRangeY(begin, end);
+    const LONG a = m_mapping.UserToWindow({m_points[begin].x, y.lowest}).y;
+    const LONG b = m_mapping.UserToWindow({m_points[begin].x, y.highest}).y;
+    return {std::min(a, b), std::max(a, b)};
+  }
+
+  bool StaysOn(std::size_t level, std::size_t node, CPoint pixel) const {
+    const std::size_t first = node * CPlotSeries::GetNodeSize(level);
+    const std::size_t last = std::min(first + CPlotSeries::GetNodeSize(level), m_series.GetCount()) - 1;
+    const CPlotSeries::Bounds y = m_series.GetBoundsY(level, node);
+    const CPlotSeries::Bounds x = m_series.IsMonotone()
+                                      ? CPlotSeries::Bounds{m_points[first].x, m_points[last].x}
+                                      : m_series.GetBoundsX(level, node);
+    return m_mapping.UserToWindow({x.lowest, y.lowest}) == pixel &&
+           m_mapping.UserToWindow({x.highest, y.highest}) == pixel;
   }
 
   /// The first point after `at` in another column. Columns are mostly about as long as the one before, so the

@@ -26,7 +26,7 @@ class SeriesWalker {
   /// Draws the points from `begin` to before `end`, among which is no gap.
   void Draw(std::size_t begin, std::size_t end) {
     const CPoint last = PixelOf(end - 1);
-    const std::size_t lastMoving = EndOfMoving(begin, end, last);
+    const std::size_t lastMoving = m_columns.EndOfMoving(begin, end, last);
     if (lastMoving == begin) {
       return;  // all on one pixel: nothing to draw
     }
@@ -73,14 +73,29 @@ class SeriesWalker {
         return;
       }
       if (node.whole && (low.x == high.x || low.y == high.y)) {
-        m_reducer.Add(PixelOf(node.first));
-        m_reducer.Add(low);
-        m_reducer.Add(high);
-        m_reducer.Add(PixelOf(node.last));
+        AddNode(node);
         return;
       }
     }
     Open(level, node);
+  }
+
+  /// A node in one column or row: the first point, what is reached before the last stretch that stays on one
+  /// pixel, the last point. In copy mode the way between them does not matter.
+  void AddNode(const Node& node) {
+    const CPoint last = PixelOf(node.last);
+    m_reducer.Add(PixelOf(node.first));
+    const std::size_t stay = m_columns.EndOfMoving(node.first, node.last + 1, last);
+    if (stay > node.first) {
+      const CPlotSeries::Bounds x = m_series.GetRangeX(node.first, stay);
+      const CPlotSeries::Bounds y = m_series.GetRangeY(node.first, stay);
+      const CPoint low = m_mapping.UserToWindow({x.lowest, y.lowest});
+      const CPoint high = m_mapping.UserToWindow({x.highest, y.highest});
+      // Not straight from an extreme to the last point on it, whose pixel the line leaves out.
+      m_reducer.Add(last == high ? high : low);
+      m_reducer.Add(last == high ? low : high);
+    }
+    m_reducer.Add(last);
   }
 
   void Open(std::size_t level, const Node& node) {
@@ -100,36 +115,6 @@ class SeriesWalker {
     return (a.x < m_visible.left && b.x < m_visible.left) ||
            (a.x > m_visible.right && b.x > m_visible.right) || (a.y < m_visible.top && b.y < m_visible.top) ||
            (a.y > m_visible.bottom && b.y > m_visible.bottom);
-  }
-
-  /// The end of the points before the last stretch that stays on the pixel `last`; `begin` when there are
-  /// none.
-  std::size_t EndOfMoving(std::size_t begin, std::size_t end, CPoint last) const {
-    std::size_t i = end;
-    while (i > begin) {
-      std::size_t skip = 0;
-      for (std::size_t level = 0; level < m_series.GetLevels(); ++level) {
-        const std::size_t size = CPlotSeries::GetNodeSize(level);
-        if (i % size != 0 || i - begin < size || !StaysOn(level, i / size - 1, last)) {
-          break;
-        }
-        skip = size;
-      }
-      if (skip == 0) {
-        if (PixelOf(i - 1) != last) {
-          return i;
-        }
-        skip = 1;
-      }
-      i -= skip;
-    }
-    return begin;
-  }
-
-  bool StaysOn(std::size_t level, std::size_t index, CPoint pixel) const {
-    const Node node = NodeAt(level, index, 0, m_series.GetCount());
-    return m_mapping.UserToWindow({node.x.lowest, node.y.lowest}) == pixel &&
-           m_mapping.UserToWindow({node.x.highest, node.y.highest}) == pixel;
   }
 
   const CPlotSeries& m_series;

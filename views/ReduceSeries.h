@@ -11,8 +11,8 @@ namespace coregui {
 /// plus a few nodes per level of the series' pyramid. Where x turns back, stretches that neither stay in one
 /// pixel column or row nor lie beyond one side of the visible rectangle are drawn point by point.
 ///
-/// The picture is the same to the pixel for pens one pixel wide, and for wider ones with round joins, in copy
-/// mode.
+/// The picture is the same dot for dot for solid pens one pixel wide, and for wider ones with round joins
+/// where a pixel is a dot, in copy mode. A line that is all on one pixel gives nothing.
 COREGUI_API void ReduceSeries(const CPlotSeries& series, const CPlotMapping& mapping, CPolylineSink& sink);
 
 /// The points of a series whose x is monotone that a visible rectangle needs: those inside and one more on
