@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/CDC.h"
+#include "tests/support/ShownWindow.h"
 #include "tests/views/ViewFixture.h"
 
 namespace {
@@ -273,13 +274,17 @@ TEST_F(PlotView, AHookMayDestroyTheViewAtEveryEvent) {
   EXPECT_FALSE(coregui::CZoomBox::Shared().IsInProgress());
 }
 
-TEST_F(PlotView, AHookMayChangeTheMappingAndReenter) {
+TEST_F(PlotView, AHookMayChangeTheMappingAndOpenAModalBox) {
+  const coregui::test::NextWindow next([this](coregui::test::ShownWindow& box) {
+    view->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(150, 20));
+    box.Key(VK_RETURN);
+  });
   Hook::onEvent = [this](EVENT_TYPE event) {
     if (event == EVENT_MOVE) {
       Hook::onEvent = nullptr;
       view->SetVertMode(CGUIBaseView::VERT_FILL);
       view->InitView(FRect(0, 1, 1, 0), 3.0);
-      view->Move({150, 20});  // what a modal box's loop would deliver
+      view->MessageBox(L"Delete this point?");
     }
   };
   view->Move({60, 9});

@@ -44,59 +44,52 @@ class RecordingHost : public coregui::CZoomBoxHost {
   std::string m_log;
 };
 
-TEST(ZoomBox, PressDragReleaseZooms) {
-  CZoomBox box;
-  RecordingHost host;
-  box.Move(host, {1, 1});
-  EXPECT_EQ(host.Taken(), "");
-  box.Click(host, {10, 20});
-  EXPECT_EQ(host.Taken(), "capture; 14");
-  box.Move(host, {30, 50});
-  EXPECT_EQ(host.Taken(), "draw 10,20 10,20; draw 10,20 30,50");
-  box.Move(host, {31, 51});
-  EXPECT_EQ(host.Taken(), "draw 10,20 30,50; draw 10,20 31,51");
-  box.Click(host, {99, 99});
-  EXPECT_EQ(host.Taken(), "release; leave; zoom 10,20 31,51; 15") << "the last corner counts, not the click";
-  EXPECT_FALSE(box.IsInProgress());
-}
-
-TEST(ZoomBox, OutlineLeftOnFinishIsKept) {
-  CZoomBox box;
-  RecordingHost host;
-  box.Click(host, {0, 0});
-  box.Move(host, {5, 5});
-  host.Taken();
-  box.Key(host, 'x');
-  EXPECT_EQ(host.Taken(), "");
-  box.Key(host, ' ');
-  EXPECT_EQ(host.Taken(), "release; leave; zoom 0,0 5,5; 15");
-  box.Key(host, ' ');
-  EXPECT_EQ(host.Taken(), "") << "no box, nothing to finish";
-}
-
-TEST(ZoomBox, ADegenerateBoxDoesNotZoomButTells) {
-  for (const CPoint corner : {CPoint(10, 99), CPoint(99, 20), CPoint(10, 20)}) {
+TEST(ZoomBox, TellsItsHostWhatToDo) {
+  struct Step {
+    char event;  ///< 'm'ove, 'c'lick, 'k'ey, Space 's', 'x': cancel
+    CPoint at;
+  };
+  struct Row {
+    std::vector<Step> before;
+    Step step;
+    const char* log;
+  };
+  const std::vector<Step> none;
+  const std::vector<Step> started = {{'c', {10, 20}}};
+  const std::vector<Step> stretched = {{'c', {10, 20}}, {'m', {30, 50}}};
+  const Row rows[] = {
+      {none, {'m', {1, 1}}, ""},
+      {none, {'s', {}}, ""},
+      {none, {'x', {}}, "leave; 5"},
+      {none, {'c', {10, 20}}, "capture; 14"},
+      {started, {'m', {30, 50}}, "draw 10,20 10,20; draw 10,20 30,50"},
+      {stretched, {'m', {31, 51}}, "draw 10,20 30,50; draw 10,20 31,51"},
+      {stretched, {'k', {}}, ""},
+      // Kept: the outline is left on finish. The last corner counts, not the click.
+      {stretched, {'c', {99, 99}}, "release; leave; zoom 10,20 30,50; 15"},
+      {stretched, {'s', {}}, "release; leave; zoom 10,20 30,50; 15"},
+      {stretched, {'x', {}}, "leave; draw 10,20 30,50; release; 5"},
+      {{{'c', {10, 20}}, {'m', {10, 99}}}, {'c', {10, 99}}, "release; leave; 15"},
+      {{{'c', {10, 20}}, {'m', {99, 20}}}, {'c', {99, 20}}, "release; leave; 15"},
+  };
+  for (const Row& row : rows) {
     CZoomBox box;
     RecordingHost host;
-    box.Click(host, {10, 20});
-    box.Move(host, corner);
+    const auto run = [&](const Step& step) {
+      if (step.event == 'm') box.Move(host, step.at);
+      if (step.event == 'c') box.Click(host, step.at);
+      if (step.event == 'k') box.Key(host, 'x');
+      if (step.event == 's') box.Key(host, ' ');
+      if (step.event == 'x') box.Cancel(host);
+    };
+    for (const Step& step : row.before) run(step);
     host.Taken();
-    box.Click(host, corner);
-    EXPECT_EQ(host.Taken(), "release; leave; 15") << Text(corner);
+    run(row.step);
+    EXPECT_EQ(host.Taken(), row.log) << row.before.size() << row.step.event;
+    const bool goes =
+        row.step.event == 'c' ? row.before.empty() : row.step.event != 's' && row.step.event != 'x';
+    EXPECT_EQ(box.IsInProgress(), goes && (row.step.event == 'c' || !row.before.empty())) << row.step.event;
   }
-}
-
-TEST(ZoomBox, CancelErasesTheOutlineAndAlwaysTells) {
-  CZoomBox box;
-  RecordingHost host;
-  box.Cancel(host);
-  EXPECT_EQ(host.Taken(), "leave; 5");
-  box.Click(host, {1, 2});
-  box.Move(host, {3, 4});
-  host.Taken();
-  box.Cancel(host);
-  EXPECT_EQ(host.Taken(), "leave; draw 1,2 3,4; release; 5");
-  EXPECT_FALSE(box.IsInProgress());
 }
 
 TEST(ZoomBox, ViewsShareOneBoxAndADestroyedOneLeavesNone) {

@@ -30,26 +30,21 @@ CViewMapping MappingOf(FRect const& extents, VertMode mode, CRect const& client,
 
 const FRect kWide(0, 10, 100, 0);
 
-TEST(ViewMapping, WideExtentsAreCentredVertically) {
-  const CViewMapping mapping = MappingOf(kWide, VertMode::keepRatio, CRect(0, 0, 200, 100));
-  EXPECT_EQ(mapping.now.scale, 0.5);
-  EXPECT_EQ(mapping.now.fitScale, 0.5);
-  EXPECT_EQ(mapping.now.vertRatio, 1.0);
-  EXPECT_EQ(mapping.now.offsetX, 0);
-  EXPECT_EQ(mapping.now.offsetY, -40);
-  EXPECT_EQ(mapping.UserToWindow({0, 10}), CPoint(0, 40));
-  EXPECT_EQ(mapping.UserToWindow({100, 0}), CPoint(200, 60));
-  EXPECT_EQ(mapping.WindowToUser({100, 50}).x, 50);
-  EXPECT_EQ(mapping.WindowToUser({100, 50}).y, 5);
-}
-
-TEST(ViewMapping, TallExtentsAreCentredHorizontally) {
+TEST(ViewMapping, ExtentsThatAreWiderOrTallerAreCentred) {
+  const CViewMapping wide = MappingOf(kWide, VertMode::keepRatio, CRect(0, 0, 200, 100));
+  EXPECT_EQ(wide.now.scale, 0.5);
+  EXPECT_EQ(wide.now.fitScale, 0.5);
+  EXPECT_EQ(wide.now.offsetX, 0);
+  EXPECT_EQ(wide.now.offsetY, -40);
+  EXPECT_EQ(wide.UserToWindow({0, 10}), CPoint(0, 40));
+  EXPECT_EQ(wide.UserToWindow({100, 0}), CPoint(200, 60));
+  EXPECT_EQ(wide.WindowToUser({100, 50}).y, 5);
   // 10 wide, 100 high in 200 x 100: the height needs 1 unit per pixel; wp = T(10 / (96/72) + 0.5) = 8 points,
   // U = 8 * 96 / 72 = 10 pixels, so (200 - 10) / 2 = 95 pixels stay free on each side.
-  const CViewMapping mapping = MappingOf(FRect(0, 100, 10, 0), VertMode::keepRatio, CRect(0, 0, 200, 100));
-  EXPECT_EQ(mapping.now.scale, 1.0);
-  EXPECT_EQ(mapping.now.offsetX, -95);
-  EXPECT_EQ(mapping.now.offsetY, 0);
+  const CViewMapping tall = MappingOf(FRect(0, 100, 10, 0), VertMode::keepRatio, CRect(0, 0, 200, 100));
+  EXPECT_EQ(tall.now.scale, 1.0);
+  EXPECT_EQ(tall.now.offsetX, -95);
+  EXPECT_EQ(tall.now.offsetY, 0);
 }
 
 TEST(ViewMapping, MarginsAreAddedInPointsBeforeTheyBecomePixels) {
