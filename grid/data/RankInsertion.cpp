@@ -49,23 +49,32 @@ std::uint32_t RankInsertion::FindPlace(std::uint32_t start) {
   }
 }
 
-/// Inserts the row that was taken; tells whether it went to the end.
-bool RankInsertion::InsertOne(std::uint32_t row) {
+/// Inserts the row that was taken; tells where.
+std::uint32_t RankInsertion::InsertOne(std::uint32_t row) {
   const std::uint32_t place = FindPlace(ChooseStart());
-  const bool appended = place == m_run.Size();
   m_run.Insert(place, {row, 1}, m_own);
   // The hint stays on its row.
   if (place <= m_hint.position) ++m_hint.position;
-  return appended;
+  return place;
+}
+
+/// Whether the rows from the position on turn the scan, as many as a leap passes, or all up to the end.
+bool RankInsertion::TurnsAllBehind(std::uint32_t position) const {
+  const std::uint64_t known =
+      std::min<std::uint64_t>(static_cast<std::uint64_t>(position) + LEAP, m_run.Size());
+  for (std::uint32_t at = position; at < known; ++at) {
+    if (m_run.FindAbove(at, m_limits) != at) return false;
+  }
+  return true;
 }
 
 /// How many of `count` rows take the same place, known without their steps: 0 when it is not known.
 ///
 /// The hint stands among rows like the new ones, with one behind it at least. Each scan then starts at the
-/// hint, which advances by every second row. Where no row behind turns the scan, the place is the end of all,
-/// as long as the hint stays among its like. Where the next other rows turn it, as many as a leap passes, or
-/// all up to the end, every leap ends among them, and the place is before them; the like rows grow by that
-/// faster than the hint advances.
+/// hint, which advances by every second row. Where the next rows that turn the scan are as many as a leap
+/// passes, or all up to the end, or where there are none, every leap ends there, and the place is before
+/// them, as long as the hint stays among its like. It does for ever when they grow there, faster than it
+/// advances.
 std::uint32_t RankInsertion::FindLikeSteps(std::uint32_t row, std::uint32_t count,
                                            std::uint32_t& place) const {
   if (m_hint.row != row) return 0;
@@ -73,26 +82,53 @@ std::uint32_t RankInsertion::FindLikeSteps(std::uint32_t row, std::uint32_t coun
   if (like == 1) return 0;
   const std::uint32_t end = m_hint.position + like;
   place = m_run.FindAbove(end, m_limits);
-  if (place == m_run.Size() && place != end) {
-    const std::int64_t within = static_cast<std::int64_t>(like - 1) * PATIENCE - m_hint.count;
-    return static_cast<std::uint32_t>(std::clamp<std::int64_t>(within, 0, count));
-  }
-  if (place != end) return 0;
-  const std::uint64_t known = std::min<std::uint64_t>(static_cast<std::uint64_t>(end) + LEAP, m_run.Size());
-  for (std::uint32_t at = end; at < known; ++at) {
-    if (m_run.FindAbove(at, m_limits) != at) return 0;
-  }
-  return count;
+  if (!TurnsAllBehind(place)) return 0;
+  if (place == end) return count;
+  const std::int64_t within = static_cast<std::int64_t>(like - 1) * PATIENCE - m_hint.count;
+  return static_cast<std::uint32_t>(std::clamp<std::int64_t>(within, 0, count));
 }
 
-/// Whether all further like rows go to the end: four did, and the scan of the next one begins as that of the
-/// first of them did. What it lands on has not changed, and behind that come only rows like it.
-bool RankInsertion::Recurs(Cycle& cycle, bool appended) const {
-  cycle.onlyAppends = cycle.onlyAppends && appended;
-  if (++cycle.steps < 2 * PATIENCE) return false;
-  const bool recurs = cycle.onlyAppends && cycle.begin == m_hint;
-  cycle = {m_hint};
-  return recurs;
+/// Goes on as the last CYCLE like rows did, where that is certain, and tells for how many rows.
+///
+/// The scans began at the same rows. Then all rows went to the end: what the scans landed on has not changed,
+/// and behind it come only rows like them. Or all went before the same row, where every leap ends.
+std::uint32_t RankInsertion::RepeatCycle(const Cycle& cycle, std::uint32_t row, std::uint32_t count) {
+  const std::uint32_t cycles = count / CYCLE;
+  const std::uint32_t next = m_run.FindAbove(m_hint.position, m_limits);
+  std::uint32_t place = m_run.Size();
+  const bool advanced = m_hint.row == row && cycle.begin.row == row && m_hint.count == cycle.begin.count &&
+                        m_hint.position == cycle.begin.position + CYCLE / PATIENCE;
+  const bool halfBefore =
+      cycle.appends == CYCLE / 2 && cycle.inner[0] + 2 == next && cycle.inner[1] + 1 == next;
+  // Near the end a scan stops for want of rows to leap over, and there come more.
+  if (advanced && halfBefore && m_run.Size() - next > 2 * LEAP) {
+    return RepeatAdvance(row, cycles, next);
+  }
+  if (cycle.begin != m_hint || cycles == 0) return 0;
+  if (cycle.appends == 0) {
+    place = cycle.inner[0] + CYCLE;
+    for (std::uint32_t i = 0; i < CYCLE; ++i) {
+      if (cycle.inner[i] != cycle.inner[0] + i) return 0;
+    }
+    if (!TurnsAllBehind(place)) return 0;
+  } else if (cycle.appends != CYCLE) {
+    return 0;
+  }
+  m_run.Insert(place, {row, cycles * static_cast<std::uint32_t>(CYCLE)}, m_own);
+  return cycles * CYCLE;
+}
+
+/// The hint advances among rows like the new ones. Of two scans that begin there one leaps onto the row
+/// `next` that turns it, and puts the new row before; the other passes all. So hint and row advance together,
+/// and the leaps land the same way again, as long as the hint stays among its like.
+std::uint32_t RankInsertion::RepeatAdvance(std::uint32_t row, std::uint32_t cycles, std::uint32_t next) {
+  const std::uint32_t like = m_run.EntryAt(m_hint.position).count;
+  if (m_hint.position + like != next) cycles = std::min(cycles, (like - 1) / 2);
+  if (cycles == 0) return 0;
+  m_run.Insert(next, {row, 2 * cycles}, m_own);
+  m_run.Insert(m_run.Size(), {row, 2 * cycles}, m_own);
+  m_hint.position += 2 * cycles;
+  return cycles * CYCLE;
 }
 
 void RankInsertion::InsertMany(std::uint32_t row, std::uint32_t count) {
@@ -108,11 +144,16 @@ void RankInsertion::InsertMany(std::uint32_t row, std::uint32_t count) {
       cycle = {m_hint};
       continue;
     }
+    const std::uint32_t end = m_run.Size();
     --count;
-    if (!Recurs(cycle, InsertOne(row))) continue;
-    const std::uint32_t whole = count / (2 * PATIENCE) * (2 * PATIENCE);
-    if (whole != 0) m_run.Insert(m_run.Size(), {row, whole}, m_own);
-    count -= whole;
+    if (const std::uint32_t at = InsertOne(row); at == end) {
+      ++cycle.appends;
+    } else {
+      cycle.inner[cycle.steps - cycle.appends] = at;
+    }
+    if (++cycle.steps < CYCLE) continue;
+    count -= RepeatCycle(cycle, row, count);
+    cycle = {m_hint};
   }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -33,20 +34,24 @@ class RankInsertion {
     int count = 0;
     friend bool operator==(const Hint&, const Hint&) = default;
   };
-  /// The steps of four like rows.
+  static constexpr std::size_t CYCLE = 2 * std::size_t{PATIENCE};
+  /// The steps of some like rows.
   struct Cycle {
     Hint begin;
-    int steps = 0;
-    bool onlyAppends = true;
+    std::size_t steps = 0;
+    std::size_t appends = 0;
+    std::array<std::uint32_t, CYCLE> inner{};  // the places of the others
   };
 
   std::uint32_t ChooseStart();
   void MoveHint(std::uint32_t position);
   std::uint32_t FindPlace(std::uint32_t start);
-  bool InsertOne(std::uint32_t row);
+  std::uint32_t InsertOne(std::uint32_t row);
   void InsertMany(std::uint32_t row, std::uint32_t count);
+  bool TurnsAllBehind(std::uint32_t position) const;
   std::uint32_t FindLikeSteps(std::uint32_t row, std::uint32_t count, std::uint32_t& place) const;
-  bool Recurs(Cycle& cycle, bool appended) const;
+  std::uint32_t RepeatCycle(const Cycle& cycle, std::uint32_t row, std::uint32_t count);
+  std::uint32_t RepeatAdvance(std::uint32_t row, std::uint32_t cycles, std::uint32_t next);
 
   const SortRanks& m_ranks;
   KeyCompare& m_compare;

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 #include <limits>
 #include <random>
 
@@ -86,13 +88,20 @@ TEST(RankInsertion, GivesTheOrderThatTheStepsGive) {
 
 /// Rows that are counted must come as if each had been inserted.
 TEST(RankInsertion, GivesRunsOfEmptyRowsThePlacesThatTheStepsGive) {
-  std::mt19937 random(13);
+  std::mt19937 random(20);
   const auto below = [&random](unsigned high) { return static_cast<std::uint32_t>(random() % high); };
   for (int round = 0; round < 600; ++round) {
-    const Mix mix{"", static_cast<int>(below(40)), static_cast<int>(below(101)),
-                  1 + static_cast<int>(below(300)), 1 + static_cast<int>(below(30))};
-    const std::uint32_t rows = 1 + below(round % 3 == 0 ? 400 : 8);
+    // A third of them: some numbers around 0, each far from the one before.
+    const bool farApart = round % 3 == 1;
+    const Mix mix = farApart ? Mix{"", 0, 0, 3, 1}
+                             : Mix{"", static_cast<int>(below(40)), static_cast<int>(below(101)),
+                                   1 + static_cast<int>(below(300)), 1 + static_cast<int>(below(30))};
+    const std::uint32_t rows = farApart ? 3 + below(4) : 1 + below(round % 3 == 0 ? 400 : 8);
     std::vector<KeyColumn> keys = RandomKeys(mix, 1 + below(2), rows, random);
+    if (below(3) == 0) {
+      // Depths below a level: an empty row counts as the level itself.
+      for (SortKey& key : keys[0]) key.number = -std::fabs(key.number);
+    }
     for (KeyColumn& column : keys) column.emplace_back();  // the empty rows' name is `rows`
     std::vector<coregui::RankedRows> counted;
     std::vector<KeyColumn> single(keys.size());
@@ -104,7 +113,8 @@ TEST(RankInsertion, GivesRunsOfEmptyRowsThePlacesThatTheStepsGive) {
         single[key].insert(single[key].end(), count, keys[key][row]);
     };
     for (std::uint32_t row = 0; row < rows; ++row) {
-      if (below(std::min(rows, 40U)) < 2) add(rows, below(2) == 0 ? below(9) + 1 : below(1500) + 1);
+      const bool run = farApart || below(rows > 40 ? 20 : 2) == 0;
+      if (run) add(rows, 1 + below(std::array{9U, 150U, 900U}[farApart ? 2 : below(3)]));
       add(row, 1);
     }
     const bool descending = below(2) != 0;
