@@ -189,6 +189,9 @@ TEST_F(PlotView, EscapeAndTheRightButtonCancelTheBoxAndRestoreThePixels) {
 }
 
 TEST_F(PlotView, TheMiddleButtonPansAndKeepsThePicture) {
+  view->SetOptions({.crossHair = true});
+  view->SetCurrentPos({40, 5});
+  Hook::Taken();
   view->AddLayer(0, [](CGUIBaseView& plot) { plot.PlotLine({10, 2}, {90, 8}); });
   view->UpdateWindow();
   parent.changes = 0;
