@@ -156,6 +156,7 @@ void CPlotPrimitives::FillDevice(const std::vector<PNT_2D_record>& devicePoints)
     return;
   }
   std::vector<POINT> pixels;
+  pixels.reserve(outline.size());
   for (const PNT_2D_record& p : outline) {
     pixels.push_back(Rounded(p));
   }

@@ -177,8 +177,8 @@ TEST(ReduceSeries, ThePictureIsThatOfEveryPoint) {
           dc.PolyPolyline(sink.GetPoints().data(), sink.GetCounts().data(),
                           static_cast<int>(sink.GetCounts().size()));
         });
-        EXPECT_EQ(reduced, Picture(like, width, [&](CDC& dc) { DrawEveryPoint(dc, points, mapping); }))
-            << name << ", " << view << ", " << width;
+        const auto every = [&data = points, &at = mapping](CDC& dc) { DrawEveryPoint(dc, data, at); };
+        EXPECT_EQ(reduced, Picture(like, width, every)) << name << ", " << view << ", " << width;
       }
     }
   }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -188,9 +189,10 @@ TEST(ViewHistory, StepsOfATouchpadAreOneGestureUntilAPauseOrAnother) {
     ++now.offsetX;
   }
   now.fitScale = 7;  // the window was sized since
-  for (auto place = noted.rbegin(); place != noted.rend(); ++place) {
+  std::reverse(noted.begin(), noted.end());
+  for (const LONG place : noted) {
     ASSERT_TRUE(history.GoBack(now));
-    EXPECT_EQ(now.offsetX, *place);
+    EXPECT_EQ(now.offsetX, place);
     EXPECT_EQ(now.fitScale, 7);
   }
   EXPECT_FALSE(history.GoBack(now));
