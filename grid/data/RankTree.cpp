@@ -56,8 +56,7 @@ std::uint32_t RankTree::FirstAbove(std::uint32_t node, std::uint32_t from,
 std::uint32_t RankTree::FindIn(std::uint32_t node, int level, std::uint32_t from,
                                const std::vector<int>& limits) const {
   const Node& here = m_nodes[node];
-  if (from >= here.Rows()) return NONE;
-  std::uint32_t at = here.Find(from);
+  std::uint32_t at = from == 0 ? 0 : here.Find(from);
   if (level == 0) {
     const std::uint32_t found = FirstAbove(node, at, limits);
     if (found == here.size) return NONE;
@@ -73,7 +72,7 @@ std::uint32_t RankTree::FindIn(std::uint32_t node, int level, std::uint32_t from
 }
 
 std::uint32_t RankTree::FindAbove(std::uint32_t from, const std::vector<int>& limits) const {
-  const std::uint32_t found = FindIn(m_root, m_height, from, limits);
+  const std::uint32_t found = from < m_size ? FindIn(m_root, m_height, from, limits) : NONE;
   return found == NONE ? m_size : found;
 }
 
