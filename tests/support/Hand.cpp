@@ -14,40 +14,10 @@
 #include "platform/CToolTipCtrl.h"
 #include "platform/WindowRef.h"
 #include "platform/qt/interop.h"
+#include "tests/support/ToolkitKey.h"
 
 namespace coregui::test {
 namespace {
-
-int ToQtKey(UINT key) {
-  switch (key) {
-    case VK_RETURN:
-      return Qt::Key_Return;
-    case VK_ESCAPE:
-      return Qt::Key_Escape;
-    case VK_BACK:
-      return Qt::Key_Backspace;
-    case VK_TAB:
-      return Qt::Key_Tab;
-    case VK_UP:
-      return Qt::Key_Up;
-    case VK_DOWN:
-      return Qt::Key_Down;
-    case VK_LEFT:
-      return Qt::Key_Left;
-    case VK_RIGHT:
-      return Qt::Key_Right;
-    case VK_HOME:
-      return Qt::Key_Home;
-    case VK_END:
-      return Qt::Key_End;
-    case VK_INSERT:
-      return Qt::Key_Insert;
-    case VK_SPACE:
-      return Qt::Key_Space;
-    default:
-      return static_cast<int>(key);  // letters and digits
-  }
-}
 
 QString TextOf(UINT key, bool control) {
   if (key == VK_RETURN) return "\r";
@@ -136,7 +106,7 @@ void PressKey(CWnd& window, UINT key, bool control, bool shift) {
   Qt::KeyboardModifiers modifiers;
   modifiers.setFlag(Qt::ControlModifier, control);
   modifiers.setFlag(Qt::ShiftModifier, shift);
-  GiveKey(window, ToQtKey(key), modifiers, TextOf(key, control));
+  GiveKey(window, ToolkitKey(key), modifiers, TextOf(key, control));
 }
 
 void TypeKeys(CWnd& window, const wchar_t* text) {

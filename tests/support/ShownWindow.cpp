@@ -21,6 +21,7 @@
 #include "platform/CWnd.h"
 #include "platform/Keys.h"
 #include "platform/qt/interop.h"
+#include "tests/support/ToolkitKey.h"
 
 namespace coregui::test {
 namespace {
@@ -29,31 +30,7 @@ std::string Plain(QString text) {
   return text.remove('&').toStdString();
 }
 
-Qt::Key ToolkitKey(UINT key) {
-  switch (key) {
-    case VK_RETURN:
-      return Qt::Key_Return;
-    case VK_ESCAPE:
-      return Qt::Key_Escape;
-    case VK_TAB:
-      return Qt::Key_Tab;
-    case VK_UP:
-      return Qt::Key_Up;
-    case VK_DOWN:
-      return Qt::Key_Down;
-    case VK_PRIOR:
-      return Qt::Key_PageUp;
-    case VK_NEXT:
-      return Qt::Key_PageDown;
-    case VK_SPACE:
-      return Qt::Key_Space;
-    default:
-      ADD_FAILURE() << "no such key here: " << key;
-      return Qt::Key_unknown;
-  }
-}
-
-void Send(QWidget& window, Qt::Key key, const QString& text = {}) {
+void Send(QWidget& window, int key, const QString& text = {}) {
   for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
     QWidget* focus = window.focusWidget();
     QKeyEvent event(type, key, Qt::NoModifier, text);

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <vector>
 
 namespace coregui {
 namespace {
@@ -29,18 +28,6 @@ TEST(Ballistics, OnlyTheFactorRightOfTheGridIsFractionalIsKept) {
   // Over the partly visible last line, inside the grid:
   EXPECT_EQ(BallisticStep(FactorRightOf(490, 500, 75), 2), 0);
   EXPECT_EQ(BallisticStep(FactorBelow(490, 500, 20), 2), 1);
-}
-
-TEST(Ballistics, KeyPaceGrowsWithTheRepeats) {
-  std::vector<long> steps;
-  std::vector<bool> waits;
-  for (int count = 1; count <= 11; ++count) {
-    steps.push_back(PaceKey(count, 4, 50).step);
-    waits.push_back(PaceKey(count, 4, 50).waits);
-  }
-  EXPECT_EQ(steps, (std::vector<long>{1, 1, 1, 2, 2, 2, 2, 9, 9, 9, 9}));
-  EXPECT_EQ(waits,
-            (std::vector<bool>{false, true, true, false, false, false, false, false, false, false, false}));
 }
 
 TEST(Ballistics, KeysHaveOnePaceWithoutModeOrDelay) {

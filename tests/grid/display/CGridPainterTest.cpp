@@ -179,51 +179,32 @@ TEST_F(CGridPainterTest, DrawsOnTheBitmapAndCopiesIt) {
   EXPECT_EQ(screen.CountOf(L"BitBlt 0,0,210,110"), 1) << screen.GetLog().ToUtf8();
 }
 
-struct FocusCase {
-  const char* name;
-  bool hasFocus;
-  bool disabled;
-  bool expected;
-};
-
-TEST_F(CGridPainterTest, FocusRectangleNeedsTheFocusAndIsLeftOutOnce) {
-  SetCurrent(1, 1);
-  for (const FocusCase& row :
-       {FocusCase{"focus", true, false, true}, FocusCase{"no focus", false, false, false},
-        FocusCase{"disabled once", true, true, false}, FocusCase{"again", true, false, true}}) {
-    SCOPED_TRACE(row.name);
-    painter.SetFocus(row.hasFocus);
-    if (row.disabled) painter.DisableFocusRectOnce();
+TEST_F(CGridPainterTest, TheFocusRectangleSurroundsTheCellTheBlockOrTheRow) {
+  const auto focus = [this] {
     Paint();
-    EXPECT_EQ(grid.log.back() == "focus 50,20,100,40", row.expected) << grid.log.back();
-  }
-}
-
-TEST_F(CGridPainterTest, FocusRectangleOfARowEndsWithTheColumnsOrTheWindow) {
+    return grid.log.back();
+  };
+  grid.JoinCells(3, 1, 4, 2);
   SetCurrent(1, 1);
+  EXPECT_EQ(focus(), "setup 1") << "without the focus";
   painter.SetFocus(true);
+  EXPECT_EQ(focus(), "focus 50,20,100,40");
+  painter.DisableFocusRectOnce();
+  EXPECT_EQ(focus(), "setup 1") << "left out once";
+  SetCurrent(3, 1);
+  EXPECT_EQ(focus(), "focus 150,20,250,60");
   grid.GetInfo().view.highlightRow = 1;
-  Paint();
-  EXPECT_EQ(grid.log.back(), "focus 0,20,1000,40") << "all columns from the left one on";
-  grid.GetInfo().view.highlightRowToEdge = 1;
-  Paint();
-  EXPECT_EQ(grid.log.back(), "focus 0,20,210,40");
-  grid.SetNumberCols(3);
-  Paint();
-  EXPECT_EQ(grid.log.back(), "focus 0,20,150,40");
-}
-
-TEST_F(CGridPainterTest, FocusRectangleSurroundsAJoinedBlock) {
-  grid.JoinCells(1, 1, 2, 2);
   SetCurrent(1, 1);
-  painter.SetFocus(true);
-  Paint();
-  EXPECT_EQ(grid.log.back(), "focus 50,20,150,60");
+  EXPECT_EQ(focus(), "focus 0,20,1000,40") << "all columns from the left one on";
+  grid.GetInfo().view.highlightRowToEdge = 1;
+  EXPECT_EQ(focus(), "focus 0,20,210,40");
+  grid.SetNumberCols(3);
+  EXPECT_EQ(focus(), "focus 0,20,150,40");
 }
 
 // --- Hints by row
 
-TEST(CHintedRow, AnswersAsTheHintsDo) {
+TEST(CHintedRow, AnswersAsTheHintsDoAlsoThoseAddedWhileTheRowIsDrawn) {
   CGridDrawHint hints;
   hints.AddHint(2, 2);
   hints.AddHint(4, 3, 6, 9);
@@ -234,15 +215,8 @@ TEST(CHintedRow, AnswersAsTheHintsDo) {
     for (int col = 0; col < 8; ++col)
       EXPECT_EQ(row.IsInvalid(col), hints.IsInvalid(col, at) != 0) << col << ',' << at;
   }
-}
-
-TEST(CHintedRow, SeesHintsAddedWhileTheRowIsDrawn) {
-  CGridDrawHint hints;
-  hints.AddHint(0, 0);
-  CHintedRow row(hints);
-  row.Enter(3);
   EXPECT_TRUE(row.IsEmpty());
-  hints.AddHint(1, 3);
+  hints.AddHint(1, 10);
   EXPECT_FALSE(row.IsEmpty());
   EXPECT_TRUE(row.IsInvalid(1));
 }

@@ -37,31 +37,27 @@ struct CGridScrollerTest : testing::Test {
   }
 };
 
-TEST_F(CGridScrollerTest, DownHintsFromTheLastRowOn) {
-  const CGridScroller::Shift shift = MoveTo(5, 32);
-  EXPECT_EQ(shift.dy, 40);
-  EXPECT_EQ(shift.dx, 0);
-  EXPECT_THAT(painter.Hints().GetRanges(), ElementsAre(Range{0, 35, 20, 100}));
-}
-
-TEST_F(CGridScrollerTest, UpHintsToThePreviousTopRow) {
-  EXPECT_EQ(MoveTo(5, 29).dy, -20);
-  EXPECT_THAT(painter.Hints().GetRanges(), ElementsAre(Range{0, 0, 20, 30}));
-}
-
-TEST_F(CGridScrollerTest, RightAndLeftAreTheSameForColumns) {
-  EXPECT_EQ(MoveTo(6, 30).dx, 50);
-  EXPECT_THAT(painter.Hints().GetRanges(), ElementsAre(Range{9, 0, 20, 100}));
-  painter.Hints().ClearHints();
-  EXPECT_EQ(MoveTo(3, 30).dx, -100);
-  EXPECT_THAT(painter.Hints().GetRanges(), ElementsAre(Range{0, 0, 5, 100}));
-}
-
-TEST_F(CGridScrollerTest, FurtherThanTheWindowRepaintsEverything) {
-  EXPECT_EQ(MoveTo(5, 35).dy, 100) << "just within";
-  painter.Hints().ClearHints();
-  EXPECT_TRUE(MoveTo(5, 36).IsNone());
-  EXPECT_THAT(painter.Hints().GetRanges(), ElementsAre(Range{0, 0, 20, 100}));
+TEST_F(CGridScrollerTest, AMoveHintsWhatItUncovers) {
+  struct Row {
+    const char* name;
+    int left;
+    long top;
+    int dx;
+    int dy;
+    Range hinted;
+  };
+  for (const Row& row :
+       {Row{"down: from the last row on", 5, 32, 0, 40, {0, 35, 20, 100}},
+        Row{"up: to the top row before", 5, 29, 0, -20, {0, 0, 20, 30}},
+        Row{"right", 6, 30, 50, 0, {9, 0, 20, 100}}, Row{"left", 3, 30, -100, 0, {0, 0, 5, 100}},
+        Row{"just within the window", 5, 35, 0, 100, {0, 35, 20, 100}},
+        Row{"further: everything anew", 5, 36, 0, 0, {0, 0, 20, 100}}}) {
+    SCOPED_TRACE(row.name);
+    Show(5, 30);
+    const CGridScroller::Shift shift = MoveTo(row.left, row.top);
+    EXPECT_EQ(CSize(shift.dx, shift.dy), CSize(row.dx, row.dy));
+    EXPECT_THAT(painter.Hints().GetRanges(), ElementsAre(row.hinted));
+  }
 }
 
 TEST_F(CGridScrollerTest, FractionalDotsAreNotMoved) {
@@ -71,16 +67,12 @@ TEST_F(CGridScrollerTest, FractionalDotsAreNotMoved) {
   EXPECT_TRUE(scroller.Plan(kClient, 1.5).IsNone());
 }
 
-TEST_F(CGridScrollerTest, LockedCellsStayOutOfAMoveAlongOneAxis) {
+TEST_F(CGridScrollerTest, LockedCellsStayOutOfAMoveAlongOneAxisAndArePutBackAfterOneAlongBoth) {
   grid.GetInfo().columns.SetLocked(1);
   grid.GetInfo().rows.SetLocked(2);
   EXPECT_EQ(MoveTo(5, 31).area, CRect(0, 40, 210, 110));
   EXPECT_EQ(MoveTo(6, 30).area, CRect(50, 0, 210, 110));
-}
-
-TEST_F(CGridScrollerTest, AMoveAlongBothAxesPutsTheLockedCellsBack) {
-  grid.GetInfo().columns.SetLocked(1);
-  grid.GetInfo().rows.SetLocked(2);
+  painter.Hints().ClearHints();
   EXPECT_EQ(MoveTo(6, 31).area, kClient);
   EXPECT_EQ(painter.Hints().IsInvalid(0, 31), 1);
   EXPECT_EQ(painter.Hints().IsInvalid(7, 0), 1);

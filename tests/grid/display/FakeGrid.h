@@ -93,9 +93,6 @@ class FakeGrid : public TypeHolder, public CGridCtrl {
     log.push_back((updn != 0 ? "right down " : "right up ") + At(col, row));
   }
   void OnMouseMove(int col, long row, POINT*, UINT, int) override { log.push_back("move " + At(col, row)); }
-  void OnKeyDown(UINT*, int) override {
-    if (onKey) onKey();
-  }
   int OnHint(int, long, int, CString* text) override {
     *text = L"tip";
     return hintAnswer;
@@ -106,7 +103,6 @@ class FakeGrid : public TypeHolder, public CGridCtrl {
   std::vector<std::string> log;
   std::function<void(int col, long row)> onGetCell;
   std::function<void()> onClick;
-  std::function<void()> onKey;
   int hintAnswer = 1;
 
  private:

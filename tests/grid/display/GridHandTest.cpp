@@ -171,40 +171,35 @@ TEST_F(GridHandTest, WheelAndKeysLeaveThePictureOfPaintingAnew) {
   grid.GotoCell(1, 1);
   struct Row {
     const char* name;
-    std::function<void()> act;
-    int col;
-    long row;
-    int left;
-    long top;
+    int wheel;  // 0: the key is pressed
+    UINT key;
+    bool control;
+    std::string current;
+    std::string first;
   };
-  const auto key = [this](UINT vk, bool control) {
-    return [this, vk, control] { PressKey(Body(), vk, control); };
-  };
-  for (const Row& row :
-       {Row{"notch",
-            [this] {
-              TurnWheel(Body(), {5, 5}, -120);
-            },
-            1, 1, 0, 3},
-        Row{"half",
-            [this] {
-              TurnWheel(Body(), {5, 5}, -60);
-            },
-            1, 1, 0, 3},
-        Row{"the other half",
-            [this] {
-              TurnWheel(Body(), {5, 5}, -60);
-            },
-            1, 1, 0, 6},
-        Row{"down", key(VK_DOWN, false), 1, 2, 0, 2}, Row{"right", key(VK_RIGHT, false), 2, 2, 0, 2},
-        Row{"end", key(VK_END, false), 19, 2, 15, 2}, Row{"ctrl end", key(VK_END, true), 19, 99, 15, 92},
-        Row{"up", key(VK_UP, false), 19, 98, 15, 92}, Row{"home", key(VK_HOME, false), 0, 98, 0, 92},
-        Row{"ctrl home", key(VK_HOME, true), 0, 0, 0, 0}}) {
+  const Row rows[] = {{"notch", -120, 0, false, "1,1", "0,3"},
+                      {"half", -60, 0, false, "1,1", "0,3"},
+                      {"the other half", -60, 0, false, "1,1", "0,6"},
+                      {"down", 0, VK_DOWN, false, "1,2", "0,2"},
+                      {"right", 0, VK_RIGHT, false, "2,2", "0,2"},
+                      {"end", 0, VK_END, false, "19,2", "15,2"},
+                      {"ctrl end", 0, VK_END, true, "19,99", "15,92"},
+                      {"up", 0, VK_UP, false, "19,98", "15,92"},
+                      {"left", 0, VK_LEFT, false, "18,98", "15,92"},
+                      {"page up", 0, VK_PRIOR, false, "18,91", "15,91"},
+                      {"page down", 0, VK_NEXT, false, "18,98", "15,91"},
+                      {"no key of the grid", 0, VK_F2, false, "18,98", "15,91"},
+                      {"home", 0, VK_HOME, false, "0,98", "0,91"},
+                      {"ctrl home", 0, VK_HOME, true, "0,0", "0,0"}};
+  for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
-    row.act();
+    if (row.wheel != 0)
+      TurnWheel(Body(), {5, 5}, row.wheel);
+    else
+      PressKey(Body(), row.key, row.control);
     CWinApp::PumpPending();
-    EXPECT_EQ(At(grid.GetCurrentCol(), grid.GetCurrentRow()), At(row.col, row.row));
-    EXPECT_EQ(At(grid.GetLeftCol(), grid.GetTopRow()), At(row.left, row.top));
+    EXPECT_EQ(At(grid.GetCurrentCol(), grid.GetCurrentRow()), row.current);
+    EXPECT_EQ(At(grid.GetLeftCol(), grid.GetTopRow()), row.first);
     EXPECT_EQ(DifferenceToFresh(), "");
   }
 }

@@ -35,65 +35,62 @@ class HandGrid : public CGridCtrl {
     SetHighlightRow(0);
     for (int col = 0; col < 20; ++col) QuickSetText(col, 0, CString::Formatted(L"c%d", col));
   }
-  void OnLClicked(int col, long row, int updn, RECT*, POINT*, int) override { Click("L", col, row, updn); }
-  void OnRClicked(int col, long row, int updn, RECT*, POINT*, int) override { Click("R", col, row, updn); }
-  void OnDClicked(int col, long row, RECT*, POINT*, int) override { Click("D", col, row, -1); }
-  void OnTH_LClicked(int c, long r, int updn, RECT*, POINT*, int) override { Click("THL", c, r, updn); }
-  void OnTH_RClicked(int c, long r, int updn, RECT*, POINT*, int) override { Click("THR", c, r, updn); }
-  void OnTH_DClicked(int c, long r, RECT*, POINT*, int) override { Click("THD", c, r, -1); }
-  void OnSH_LClicked(int c, long r, int updn, RECT*, POINT*, int) override { Click("SHL", c, r, updn); }
-  void OnSH_RClicked(int c, long r, int updn, RECT*, POINT*, int) override { Click("SHR", c, r, updn); }
-  void OnSH_DClicked(int c, long r, RECT*, POINT*, int) override { Click("SHD", c, r, -1); }
-  void OnCB_LClicked(int updn, RECT*, POINT*, int) override { Click("CBL", -1, -1, updn); }
-  void OnCB_RClicked(int updn, RECT*, POINT*, int) override { Click("CBR", -1, -1, updn); }
-  void OnCB_DClicked(RECT*, POINT*, int) override { Click("CBD", -1, -1, -1); }
+  void OnLClicked(int col, long row, int updn, RECT*, POINT*, int) override { Click(L"L", col, row, updn); }
+  void OnRClicked(int col, long row, int updn, RECT*, POINT*, int) override { Click(L"R", col, row, updn); }
+  void OnDClicked(int col, long row, RECT*, POINT*, int) override { Click(L"D", col, row, -1); }
+  void OnTH_LClicked(int c, long r, int updn, RECT*, POINT*, int) override { Click(L"THL", c, r, updn); }
+  void OnTH_RClicked(int c, long r, int updn, RECT*, POINT*, int) override { Click(L"THR", c, r, updn); }
+  void OnTH_DClicked(int c, long r, RECT*, POINT*, int) override { Click(L"THD", c, r, -1); }
+  void OnSH_LClicked(int c, long r, int updn, RECT*, POINT*, int) override { Click(L"SHL", c, r, updn); }
+  void OnSH_RClicked(int c, long r, int updn, RECT*, POINT*, int) override { Click(L"SHR", c, r, updn); }
+  void OnSH_DClicked(int c, long r, RECT*, POINT*, int) override { Click(L"SHD", c, r, -1); }
+  void OnCB_LClicked(int updn, RECT*, POINT*, int) override { Click(L"CBL", -1, -1, updn); }
+  void OnCB_RClicked(int updn, RECT*, POINT*, int) override { Click(L"CBR", -1, -1, updn); }
+  void OnCB_DClicked(RECT*, POINT*, int) override { Click(L"CBD", -1, -1, -1); }
   int OnMenuStart(int col, long row, int section) override {
-    log +=
-        "menu " + std::to_string(col) + "," + std::to_string(row) + " in " + std::to_string(section) + "; ";
+    Note(L"menu %d,%ld in %d", col, row, section);
     return 0;
   }
   int OnCanSizeCol(int) override { return refuses != "OnCanSizeCol"; }
-  void OnColSizing(int col, int* width) override { Size("col", col, *width); }
-  void OnColSized(int col, int* width) override { Sized("col", col, width); }
+  void OnColSizing(int col, int* width) override { Size(L"col", col, *width); }
+  void OnColSized(int col, int* width) override { Sized(L"col", col, width); }
   int OnCanSizeRow(long) override { return refuses != "OnCanSizeRow"; }
-  void OnRowSizing(long row, int* height) override { Size("row", row, *height); }
-  void OnRowSized(long row, int* height) override { Sized("row", row, height); }
+  void OnRowSizing(long row, int* height) override { Size(L"row", row, *height); }
+  void OnRowSized(long row, int* height) override { Sized(L"row", row, height); }
   int OnTopHdgSizing(int* height) override {
-    Size("top", 0, *height);
+    Size(L"top", 0, *height);
     return refuses != "OnTopHdgSizing";
   }
   int OnTopHdgSized(int* height) override {
-    Sized("top", 0, height);
+    Sized(L"top", 0, height);
     return 1;
   }
   int OnSideHdgSized(int* width) override {
-    Sized("side", 0, width);
+    Sized(L"side", 0, width);
     return 1;
   }
   int OnColSwapStart(int) override { return refuses != "OnColSwapStart"; }
   int OnCanColSwap(int from, int to) override {
-    log += "swap " + std::to_string(from) + " to " + std::to_string(to) + "?; ";
+    Note(L"swap %d to %d?", from, to);
     return refuses != "OnCanColSwap";
   }
-  void OnColSwapped(int from, int to) override {
-    log += "swapped " + std::to_string(from) + " to " + std::to_string(to) + "; ";
-  }
+  void OnColSwapped(int from, int to) override { Note(L"swapped %d to %d", from, to); }
   int OnHint(int col, long row, int section, CString* text) override {
     *text = CString::Formatted(L"%d,%ld in %d", col, row, section);
     return 1;
   }
 
  private:
-  void Click(const char* what, int col, long row, int updn) {
-    static constexpr const char* kSteps[] = {"", " up", " down"};
-    log +=
-        std::string(what) + " " + std::to_string(col) + "," + std::to_string(row) + kSteps[updn + 1] + "; ";
+  void Note(const wchar_t* format, auto... values) {
+    log += CString::Formatted(format, values...).ToUtf8() + "; ";
   }
-  void Size(const char* what, long line, int size) {
-    log += std::string(what) + " " + std::to_string(line) + " sizing " + std::to_string(size) + "; ";
+  void Click(const wchar_t* what, int col, long row, int updn) {
+    static constexpr const wchar_t* kSteps[] = {L"", L" up", L" down"};
+    Note(L"%s %d,%ld%s", what, col, row, kSteps[updn + 1]);
   }
-  void Sized(const char* what, long line, int* size) {
-    log += std::string(what) + " " + std::to_string(line) + " sized " + std::to_string(*size) + "; ";
+  void Size(const wchar_t* what, long line, int size) { Note(L"%s %ld sizing %d", what, line, size); }
+  void Sized(const wchar_t* what, long line, int* size) {
+    Note(L"%s %ld sized %d", what, line, *size);
     if (sizedTo >= 0) *size = sizedTo;
   }
 };
