@@ -4,6 +4,8 @@
 #include <climits>
 #include <cmath>
 #include <limits>
+#include <utility>
+#include <vector>
 
 #include "controls/CFloatEdit.h"
 #include "controls/CIntEdit.h"
@@ -17,62 +19,52 @@ namespace {
 using Content = CNumericEdit::Content;
 
 TEST(NumberInput, ReadsWhatTheLocaleWrites) {
-  struct Row {
+  const struct {
     const wchar_t* locale;
-    const wchar_t* text;
-    double value;  ///< NaN: not a number
-  };
-  const double none = std::numeric_limits<double>::quiet_NaN();
-  const Row rows[] = {{L"en_US", L"1,234.5", 1234.5},
-                      {L"en_US", L" -0.5e-3 ", -0.0005},
-                      {L"en_US", L"1,5", none},
-                      {L"en_US", L"12,34,567", none},
-                      {L"en_US", L"max(1,2)", 2},
-                      {L"en_US", L"2*12.5", 25},
-                      {L"en_US", L"(1+2)*3^2", 27},
-                      {L"en_US", L"1.2.3", none},
-                      {L"en_US", L"", none},
-                      {L"en_US", L"  ", none},
-                      {L"en_US", L"-", none},
-                      {L"en_US", L".", none},
-                      {L"en_US", L".5", 0.5},
-                      {L"en_US", L"5.", 5},
-                      {L"en_US", L"1/0", none},
-                      {L"en_US", L"1e999", none},
-                      {L"en_US", L"inf", none},
-                      {L"en_US", L"nan", none},
-                      {L"en_US", L"0x10", none},
-                      {L"en_US", L"\u221212", -12},
-                      {L"en_US", L"3\u00d74", 12},
-                      {L"de_DE", L"12,5", 12.5},
-                      {L"de_DE", L"1.234,5", 1234.5},
-                      {L"de_DE", L"2.500", 2500},
-                      {L"de_DE", L"2.5", 2.5},
-                      {L"de_DE", L"2*12,5", 25},
-                      {L"de_DE", L"max(1,5;2)", 2},
-                      {L"de_DE", L"1,234.5", none},
-                      {L"fr_CH", L"1\u00a0234,5", 1234.5},
-                      {L"fr_CH", L"1\u202f234,5", 1234.5},
-                      {L"fr_CH", L"1'234.5", 1234.5},
-                      {L"fr_CH", L"1\u2019234\u2019567", 1234567},
-                      {L"fr_CH", L"1'23", none},
-                      {L"hi_IN", L"\u0967\u0968.\u096b", 12.5},
-                      {L"hi_IN", L"1,234", 1234},
-                      {L"hi_IN", L"12,34,567.5", 1234567.5},
-                      {L"hi_IN", L"1,234,567", 1234567},
-                      {L"hi_IN", L"123,45,678", none},
-                      {L"hi_IN", L"1,23,4567", none},
-                      {L"hi_IN", L"1,,234", none},
-                      {L"hi_IN", L",234", none},
-                      {L"ar_EG", L"\u0661\u0662\u066b\u0665", 12.5}};
-  for (const Row& row : rows) {
-    ASSERT_TRUE(coregui::SetUserLocale(row.locale));
-    double value = none;
-    EXPECT_EQ(coregui::ParseNumberInput(row.text, value), !std::isnan(row.value))
-        << CString(row.locale).ToUtf8() << " " << CString(row.text).ToUtf8() << " gives " << value;
-    if (!std::isnan(row.value)) {
-      EXPECT_DOUBLE_EQ(value, row.value) << CString(row.text).ToUtf8();
+    std::vector<std::pair<const wchar_t*, double>> numbers;
+    std::vector<const wchar_t*> others;
+  } tables[] = {
+      {L"en_US",
+       {{L"1,234.5", 1234.5},
+        {L" -0.5e-3 ", -0.0005},
+        {L"max(1,2)", 2},
+        {L"2*12.5", 25},
+        {L"(1+2)*3^2", 27},
+        {L".5", 0.5},
+        {L"5.", 5},
+        {L"\u221212", -12},
+        {L"3\u00d74", 12}},
+       {L"1,5", L"12,34,567", L"1.2.3", L"", L"  ", L"-", L".", L"1/0", L"1e999", L"inf", L"nan", L"0x10"}},
+      {L"de_DE",
+       {{L"12,5", 12.5},
+        {L"1.234,5", 1234.5},
+        {L"2.500", 2500},
+        {L"2.5", 2.5},
+        {L"2*12,5", 25},
+        {L"max(1,5;2)", 2}},
+       {L"1,234.5"}},
+      {L"fr_CH",
+       {{L"1\u00a0234,5", 1234.5},
+        {L"1\u202f234,5", 1234.5},
+        {L"1'234.5", 1234.5},
+        {L"1\u2019234\u2019567", 1234567}},
+       {L"1'23"}},
+      {L"hi_IN",
+       {{L"\u0967\u0968.\u096b", 12.5},
+        {L"1,234", 1234},
+        {L"12,34,567.5", 1234567.5},
+        {L"1,234,567", 1234567}},
+       {L"123,45,678", L"1,23,4567", L"1,,234", L",234"}},
+      {L"ar_EG", {{L"\u0661\u0662\u066b\u0665", 12.5}}, {}}};
+  for (const auto& [locale, numbers, others] : tables) {
+    ASSERT_TRUE(coregui::SetUserLocale(locale));
+    double value = 0;
+    for (const auto& [text, number] : numbers) {
+      EXPECT_TRUE(coregui::ParseNumberInput(text, value)) << CString(text).ToUtf8();
+      EXPECT_DOUBLE_EQ(value, number) << CString(text).ToUtf8();
     }
+    for (const wchar_t* text : others)
+      EXPECT_FALSE(coregui::ParseNumberInput(text, value)) << CString(text).ToUtf8() << " gives " << value;
   }
 }
 

@@ -170,16 +170,11 @@ TEST(MessageFunctionsDeathTest, MoreThanFourButtonsStopADebugBuildAndLoseTheFift
 #endif
 }
 
-TEST(MessageFunctions, TheLastErrorIsToldInWords) {
-  SetLastError(ENOENT);
-  const CString text = GetLastErrorMessage(L"Create%sFile");
-  EXPECT_EQ(text, CString(L"Create%sFile failed with error 2: ") + GetErrorText(ENOENT));
-  EXPECT_GT(GetErrorText(ENOENT).GetLength(), 0);
+TEST(MessageFunctions, OnlyWithoutACaptionTheLastErrorCanBeAnsweredByScript) {
   SetLastError(EACCES);
   EXPECT_EQ(GetLastErrorMessage(nullptr), CString(L" failed with error 13: ") + GetErrorText(EACCES));
-}
-
-TEST(MessageFunctions, OnlyWithoutACaptionTheLastErrorCanBeAnsweredByScript) {
+  EXPECT_GT(GetErrorText(EACCES).GetLength(), 0);
+  EXPECT_GE(GetLastErrorMessage(L"Create%sFile").Find(L"Create%sFile failed with"), 0);
   const Queue queue(1);
   const auto expected = (CString(L"Saving failed with error 28: ") + GetErrorText(ENOSPC)).ToUtf8();
   {

@@ -97,28 +97,23 @@ TEST(CoreGUIApp, TellsWhichHelpFileIsMissing) {
   const std::string folder = coregui::test::ScratchFolder() + "/help";
   std::filesystem::create_directory(folder);
   app.SetHelpFolder(CString::FromUtf8(folder));
-  std::string told;
-  {
+  const auto failure = [&app] {
+    std::string told;
     const NextWindow box([&told](ShownWindow& window) {
       told = window.Title() + ": " + window.Text();
       window.Key(VK_RETURN);
     });
     EXPECT_FALSE(app.OpenHelp());
-  }
-  EXPECT_EQ(told, "Error: The help file \"" + folder + "/Strandmere.chm\" was not found.");
+    return told;
+  };
+  EXPECT_EQ(failure(), "Error: The help file \"" + folder + "/Strandmere.chm\" was not found.");
   EXPECT_EQ(app.shown, L"");
   std::ofstream(folder + "/Strandmere.chm") << "x";
   EXPECT_TRUE(app.OpenHelp());
   EXPECT_EQ(app.shown.ToUtf8(), folder + "/Strandmere.chm");
   app.viewer = false;
-  {
-    const NextWindow box([&told](ShownWindow& window) {
-      told = window.Text();
-      window.Key(VK_RETURN);
-    });
-    EXPECT_FALSE(app.OpenHelp());
-  }
-  EXPECT_EQ(told, "There is no program to open the help file \"" + folder + "/Strandmere.chm\" with.");
+  EXPECT_EQ(failure(),
+            "Error: There is no program to open the help file \"" + folder + "/Strandmere.chm\" with.");
 }
 
 }  // namespace
