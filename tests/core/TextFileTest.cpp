@@ -1,13 +1,10 @@
 #include "core/TextFile.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "tests/core/StatusLines.h"
 #include "tests/core/TemporaryFile.h"
 
 using coregui::CoreFilePtr;
-using testing::ElementsAre;
 
 namespace {
 
@@ -74,20 +71,6 @@ TEST(TextFile, OpenRefusesWhatCannotServe) {
   EXPECT_FALSE(coreFileOpen((file.Folder() + L"/none/x").c_str(), L"w+t"));
   EXPECT_FALSE(coreFileOpen(L"/dev/zero", L"rt"));
   EXPECT_EQ(file.Bytes(), "kept");
-}
-
-TEST(TextFile, ReadCutsAtTheLimitAndReportsIt) {
-  const StatusLines status;
-  const TemporaryFile file("12345\n678\n");
-  const CoreFilePtr reader = Open(file, L"rt");
-  std::wstring line;
-  EXPECT_TRUE(coreFileTxtRead(reader.get(), line, 4));
-  EXPECT_EQ(line, L"1234");
-  EXPECT_TRUE(coreFileTxtRead(reader.get(), line, 4));
-  EXPECT_EQ(line, L"678");
-  EXPECT_THAT(status.Lines(),
-              ElementsAre(file.Path() + L": line 1, column 5: the line is longer than 4 characters; "
-                                        L"the rest is left out"));
 }
 
 TEST(TextFile, AFolderIsNoExistingFile) {

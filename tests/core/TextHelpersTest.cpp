@@ -78,7 +78,7 @@ TEST(Expression, GivesTheValueWhateverTheLocale) {
 }
 
 TEST(Expression, KnowsTheUsualFunctionsAndConstants) {
-  const std::pair<const wchar_t*, double> rows[] = {
+  const std::pair<std::wstring, double> rows[] = {
       {L" 2 * (3 + sqrt(16)) ", 14},
       {L"-2^2", -4},
       {L"2^3^2", 512},
@@ -90,11 +90,12 @@ TEST(Expression, KnowsTheUsualFunctionsAndConstants) {
       {L"max(1,7,3)", 7},
       {L"1e3", 1000},
       {L"3>2 ? 10 : 20", 10},
+      {std::wstring(2000, L'(') + L"1" + std::wstring(2000, L')'), 1},
   };
   for (const auto& [text, expected] : rows) {
     double value = 0;
     std::wstring reason;
-    EXPECT_TRUE(coreEvaluateExpression(text, value, &reason))
+    EXPECT_TRUE(coreEvaluateExpression(text.c_str(), value, &reason))
         << coregui::ToUtf8(text) << ": " << coregui::ToUtf8(reason);
     EXPECT_NEAR(value, expected, 1e-12) << coregui::ToUtf8(text);
   }
@@ -132,13 +133,6 @@ TEST(Expression, FailureGivesAReasonAndLeavesTheValue) {
   }
   double value = 42;
   EXPECT_FALSE(coreEvaluateExpression(nullptr, value));
-}
-
-TEST(Expression, DeepNestingWorks) {
-  double value = 0;
-  EXPECT_TRUE(
-      coreEvaluateExpression((std::wstring(2000, L'(') + L"1" + std::wstring(2000, L')')).c_str(), value));
-  EXPECT_EQ(value, 1);
 }
 
 TEST(Status, ASinkMayWriteItselfAndIsPutBack) {

@@ -1,15 +1,15 @@
 #include "core/TextWriter.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <cerrno>
-#include <csignal>
 #include <filesystem>
 
 #include "tests/core/TemporaryFile.h"
+#include "tests/support/FullDisk.h"
 
 using coregui::TextWriter;
+using coregui::test::FullDisk;
 namespace fs = std::filesystem;
 
 namespace {
@@ -17,26 +17,6 @@ namespace {
 std::ptrdiff_t FilesBeside(const TemporaryFile& file) {
   return std::distance(fs::directory_iterator(file.Folder()), fs::directory_iterator());
 }
-
-/// Lets no file grow beyond a size, as a full disk would.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    ::getrlimit(RLIMIT_FSIZE, &m_before);
-    const rlimit limit{bytes, m_before.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FullDisk() {
-    ::setrlimit(RLIMIT_FSIZE, &m_before);
-    std::signal(SIGXFSZ, SIG_DFL);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  rlimit m_before{};
-};
 
 }  // namespace
 

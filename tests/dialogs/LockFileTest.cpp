@@ -2,17 +2,16 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 
 #include "platform/Profile.h"
 #include "platform/System.h"
 #include "tests/support/FolderTest.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/LogWatch.h"
 #include "tests/support/OrdinaryUser.h"
 #include "tests/support/ShownWindow.h"
@@ -148,14 +147,8 @@ TEST_F(LockFileTest, WhatCannotBeMadeOrReadGoesToTheStatusOutput) {
 }
 
 TEST_F(LockFileTest, AFullDiskLeavesNoLockOfNobody) {
-  rlimit before{};
-  getrlimit(RLIMIT_FSIZE, &before);
-  const rlimit none{0, before.rlim_max};
-  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-  setrlimit(RLIMIT_FSIZE, &none);
+  const coregui::test::FullDisk disk(0);
   ExpectNotMade("a survey.csv");
-  setrlimit(RLIMIT_FSIZE, &before);
-  std::signal(SIGXFSZ, handler);
   EXPECT_FALSE(fs::exists(m_lock));
 }
 

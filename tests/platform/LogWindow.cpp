@@ -40,9 +40,6 @@ void LogWindow::LogState(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_MOUSELEAVE:
       m_log += L"leave;";
       break;
-    case WM_SYSCOLORCHANGE:
-      m_log += L"colours;";
-      break;
     case WM_APP:
       m_log.AppendFormat(L"app %u;", static_cast<UINT>(wParam));
       break;

@@ -1,18 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QCheckBox>
-#include <QDir>
-#include <QFileDialog>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QSlider>
 #include <QTest>
-#include <QTimer>
 #include <filesystem>
-#include <fstream>
-#include <functional>
 
 #include "platform/CEdit.h"
 #include "platform/CFileDialog.h"
@@ -20,14 +13,16 @@
 #include "platform/CProgressCtrl.h"
 #include "platform/CSliderCtrl.h"
 #include "platform/CSpinButtonCtrl.h"
-#include "platform/MessageBox.h"
+#include "platform/DialogIds.h"
 #include "tests/platform/ControlHost.h"
-#include "tests/support/TestEnvironment.h"
+#include "tests/support/FolderTest.h"
+#include "tests/support/ShownWindow.h"
 
 namespace {
 
-namespace fs = std::filesystem;
 using coregui::test::ControlHost;
+using coregui::test::NextWindow;
+using coregui::test::ShownWindow;
 using coregui::test::WidgetOf;
 
 TEST(Slider, MovesByItselfAndTells) {
@@ -81,65 +76,37 @@ TEST(Progress, KeepsThePositionAndShowsTheRange) {
   EXPECT_EQ(bar.GetPos(), 0);
 }
 
-class FileDialogTest : public testing::Test {
+class FileDialogTest : public coregui::test::FolderTest {
  protected:
   FileDialogTest() {
-    fs::create_directories(m_folder + "/sub");
-    std::ofstream(m_folder + "/road.csv") << "x";
+    std::filesystem::create_directory(At("sub"));
+    Write("road.csv", "x");
   }
-  ~FileDialogTest() override { fs::remove_all(m_folder); }
-  static void WhenShown(std::function<void(QFileDialog&)> act) {
-    QTimer::singleShot(0, [act = std::move(act)] {
-      auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-      ASSERT_NE(dialog, nullptr);
-      act(*dialog);
-    });
-  }
-  static void Type(QFileDialog& dialog, const QString& name) {
-    dialog.findChild<QLineEdit*>("fileNameEdit")->setText(name);
-    static_cast<QDialog&>(dialog).accept();
-  }
-  CString At(const char* name) const { return CString::FromUtf8(m_folder + "/" + name); }
-
-  std::string m_folder = coregui::test::ScratchFolder() + "/files";
 };
 
 TEST_F(FileDialogTest, OpensWhatExists) {
-  CFileDialog dialog(TRUE, L"csv", At("road.csv"), OFN_FILEMUSTEXIST,
-                     L"Survey (*.csv)|*.csv;*.txt|All|*.*||");
+  CFileDialog dialog(TRUE, L"csv", Wide("road.csv"), OFN_FILEMUSTEXIST, L"Survey (*.csv)|*.csv||");
   dialog.SetTitle(L"Open survey");
-  WhenShown([&](QFileDialog& shown) {
-    EXPECT_EQ(shown.windowTitle(), "Open survey");
-    EXPECT_EQ(shown.nameFilters(), QStringList({"Survey (*.csv *.txt)", "All (*)"}));
-    EXPECT_EQ(shown.directory().absolutePath().toStdString(), m_folder);
-    EXPECT_EQ(shown.fileMode(), QFileDialog::ExistingFile);
-    Type(shown, "road.csv");
+  const NextWindow next([&](ShownWindow& shown) {
+    EXPECT_EQ(shown.Title(), "Open survey");
+    EXPECT_EQ(shown.Folder(), m_folder);
+    shown.Choose("road.csv");
   });
   EXPECT_EQ(dialog.DoModal(), IDOK);
-  EXPECT_EQ(dialog.GetPathName(), At("road.csv"));
+  EXPECT_EQ(dialog.GetPathName(), Wide("road.csv"));
   EXPECT_EQ(dialog.GetFileName(), L"road.csv");
   EXPECT_EQ(dialog.GetFileTitle(), L"road");
   EXPECT_EQ(dialog.GetFileExt(), L"csv");
 }
 
 TEST_F(FileDialogTest, SavesWithTheExtensionAndCancelKeepsThePath) {
-  CFileDialog dialog(FALSE, L"csv", At("sub"), 0, nullptr);
-  WhenShown([](QFileDialog& shown) { Type(shown, "new"); });
-  EXPECT_EQ(dialog.DoModal(), IDOK);
-  EXPECT_EQ(dialog.GetPathName(), At("sub/new.csv"));
-  WhenShown([](QFileDialog& shown) { shown.reject(); });
-  EXPECT_EQ(dialog.DoModal(), IDCANCEL);
-  EXPECT_EQ(dialog.GetPathName(), At("sub/new.csv"));
-}
-
-TEST_F(FileDialogTest, FoldersAreChosen) {
-  CString folder = CString::FromUtf8(m_folder);
-  WhenShown([](QFileDialog& shown) { shown.reject(); });
-  EXPECT_FALSE(coregui::ChooseFolder(folder, L"Where?", nullptr));
-  EXPECT_EQ(folder.ToUtf8(), m_folder);
-  WhenShown([](QFileDialog& shown) { Type(shown, "sub"); });
-  EXPECT_TRUE(coregui::ChooseFolder(folder, L"Where?", nullptr));
-  EXPECT_EQ(folder, At("sub"));
+  CFileDialog dialog(FALSE, L"csv", Wide("sub"), 0, nullptr);
+  for (const int answer : {IDOK, IDCANCEL}) {
+    const NextWindow next(
+        [answer](ShownWindow& shown) { answer == IDOK ? shown.Choose("new") : shown.Key(VK_ESCAPE); });
+    EXPECT_EQ(dialog.DoModal(), answer);
+    EXPECT_EQ(dialog.GetPathName(), Wide("sub/new.csv"));
+  }
 }
 
 /// Writes down what the dialog asks for.
@@ -176,17 +143,11 @@ TEST(FindReplace, EveryButtonAsksTheOwner) {
   QTest::keyClick(widget->findChild<QLineEdit*>("find"), Qt::Key_Escape);
   EXPECT_EQ(owner.asked, L"a>b 111 0001;");
   EXPECT_FALSE(dialog.HasWindow());
-}
-
-TEST(FindReplace, FindingOnlyHasADirection) {
-  Searcher owner;
-  CFindReplaceDialog dialog;
-  ASSERT_TRUE(dialog.Create(TRUE, L"x", L"", 0, &owner));
-  QTest::keyClick(WidgetOf(dialog)->findChild<QLineEdit*>("find"), Qt::Key_Return);
-  EXPECT_EQ(owner.asked, L"x> 000 1000;");
   owner.asked.Empty();
+  ASSERT_TRUE(dialog.Create(TRUE, L"x", L"", 0, &owner)) << "finding only has a direction";
+  QTest::keyClick(WidgetOf(dialog)->findChild<QLineEdit*>("find"), Qt::Key_Return);
   dialog.SendMessage(WM_CLOSE);
-  EXPECT_EQ(owner.asked, L"x> 000 0001;");
+  EXPECT_EQ(owner.asked, L"x> 000 1000;x> 000 0001;");
 }
 
 TEST(RegisteredMessages, AreTheSameForTheSameName) {

@@ -53,24 +53,6 @@ TEST_P(Drawing, Fill_CoversTheDotsBetweenRoundedEdges) {
   EXPECT_EQ(dc.GetPixel(-1, 0), 0xFFFFFFFFU);
 }
 
-TEST_P(Drawing, Text_LeavesInkInsideItsExtent) {
-  dc.SetBkMode(TRANSPARENT);
-  const CSize extent = dc.GetTextExtent(L"Hxg", -1);
-  dc.TextOut(5, 5, L"Hxg", -1);
-  int ink = 0;
-  for (int y = 0; y < surface->Dots().cy; ++y) {
-    for (int x = 0; x < surface->Dots().cx; ++x) {
-      if (Dot(x, y) != 0xFFFFFF) {
-        ++ink;
-        EXPECT_TRUE(x >= Edge(5) - 1 && x <= Edge(5 + extent.cx) && y >= Edge(5) &&
-                    y < Edge(5 + extent.cy) + 1)
-            << x << ',' << y;
-      }
-    }
-  }
-  EXPECT_GT(ink, 20);
-}
-
 TEST_P(Drawing, NeighbouringRectangles_NeitherGapNorOverlap) {
   for (int x = 0; x < 60; x += 7) {
     for (int y = 0; y < 40; y += 3) {
@@ -313,16 +295,6 @@ TEST_P(Drawing, CopyFromAnotherScale_FillsTheSameLogicalPixels) {
   EXPECT_EQ(CountDots(0xFF0000), (Edge(20) - Edge(10)) * (Edge(20) - Edge(10)));
   EXPECT_EQ(dc.GetPixel(10, 10), red);
   EXPECT_FALSE(dc.BitBlt(0, 0, 0, 5, &source, 0, 0, SRCCOPY));
-}
-
-TEST_P(Drawing, MovePixels_StaysInsideTheClip) {
-  dc.FillSolidRect(CRect(0, 12, 60, 16), red);
-  ASSERT_TRUE(surface->MovePixels(CRect(0, 4, 60, 40), 0, -8, CRect(0, 4, 60, 40)));
-  EXPECT_EQ(dc.GetPixel(5, 4), red);
-  EXPECT_EQ(dc.GetPixel(5, 3), white);
-  EXPECT_EQ(dc.GetPixel(5, 8), white);
-  ASSERT_TRUE(surface->MovePixels(CRect(0, 0, 60, 40), 0, -8, CRect(0, 4, 60, 40)));
-  EXPECT_EQ(dc.GetPixel(5, 3), white) << "nothing moves out of the clip";
 }
 
 TEST_P(Drawing, BoxEdges_CoverTheBoxOnce) {

@@ -2,6 +2,7 @@
 
 #include <limits>
 #include <string>
+#include <utility>
 
 #include "platform/Locale.h"
 #include "platform/OleDate.h"
@@ -29,44 +30,38 @@ std::string Parsed(const wchar_t* text) {
   return "mismatch";
 }
 
-TEST(OleDate, FractionCountsForwardsBeforeDayZero) {
-  EXPECT_EQ(Iso(0.0), "1899-12-30 00:00:00.000");
-  EXPECT_EQ(Iso(-1.25), "1899-12-29 06:00:00.000");
-  EXPECT_EQ(Iso(-0.75), "1899-12-30 18:00:00.000");
-  EXPECT_EQ(Iso(36526.5), "2000-01-01 12:00:00.000");
-  SYSTEMTIME time;
-  time.wYear = 1899;
-  time.wMonth = 12;
-  time.wDay = 29;
-  time.wHour = 6;
-  DATE date = 0.0;
-  ASSERT_TRUE(SystemTimeToVariantTime(time, &date));
-  EXPECT_EQ(date, -1.25);
-}
-
-TEST(OleDate, TheLastMillisecondRoundsIntoTheNextDay) {
-  EXPECT_EQ(Iso(1.0 - 1e-10), "1899-12-31 00:00:00.000");
-  EXPECT_EQ(Iso(-2.0 - (1.0 - 1e-10)), "1899-12-29 00:00:00.000");
+TEST(OleDate, FractionsCountForwardsInTheYears100To9999) {
+  constexpr std::pair<DATE, const char*> rows[] = {
+      {0.0, "1899-12-30 00:00:00.000"},
+      {-1.25, "1899-12-29 06:00:00.000"},
+      {-0.75, "1899-12-30 18:00:00.000"},
+      {36526.5, "2000-01-01 12:00:00.000"},
+      {1.0 - 1e-10, "1899-12-31 00:00:00.000"},  // the last millisecond rounds into the next day
+      {-2.0 - (1.0 - 1e-10), "1899-12-29 00:00:00.000"},
+      {-657434.0, "0100-01-01 00:00:00.000"},
+      {-657434.75, "0100-01-01 18:00:00.000"},
+      {-657435.0, "none"},
+      {2958465.5, "9999-12-31 12:00:00.000"},
+      {2958465.9999999999, "none"},
+      {2958466.0, "none"},
+      {std::numeric_limits<double>::quiet_NaN(), "none"},
+  };
+  for (const auto& [date, text] : rows) EXPECT_EQ(Iso(date), text) << date;
   EXPECT_EQ(VarDateToStr(1.0 - 1e-6), L"12/31/1899");  // 0.09 seconds before midnight
-}
-
-TEST(OleDate, TheRangeIsTheYears100To9999) {
-  EXPECT_EQ(Iso(-657434.0), "0100-01-01 00:00:00.000");
-  EXPECT_EQ(Iso(-657434.75), "0100-01-01 18:00:00.000");
-  EXPECT_EQ(Iso(-657435.0), "none");
-  EXPECT_EQ(Iso(2958465.5), "9999-12-31 12:00:00.000");
-  EXPECT_EQ(Iso(2958465.9999999999), "none");
-  EXPECT_EQ(Iso(2958466.0), "none");
-  EXPECT_EQ(Iso(std::numeric_limits<double>::quiet_NaN()), "none");
   EXPECT_EQ(VarDateToStr(1e300), L"");
 }
 
 TEST(OleDate, FieldsOutsideARealDateAreRefused) {
   SYSTEMTIME time;
+  time.wYear = 1899;
+  time.wMonth = 12;
+  time.wDay = 29;
+  time.wHour = 6;
+  DATE date = 7.0;
+  ASSERT_TRUE(SystemTimeToVariantTime(time, &date));
+  EXPECT_EQ(date, -1.25);
   time.wYear = 1900;
   time.wMonth = 2;
-  time.wDay = 29;
-  DATE date = 7.0;
   EXPECT_FALSE(SystemTimeToVariantTime(time, &date));  // 1900 was no leap year
   time.wYear = 2000;
   EXPECT_TRUE(SystemTimeToVariantTime(time, &date));
@@ -78,14 +73,13 @@ TEST(OleDate, FieldsOutsideARealDateAreRefused) {
   EXPECT_FALSE(SystemTimeToVariantTime(time, &date));
 }
 
-struct ParseRow {
-  const wchar_t* locale;
-  const wchar_t* text;
-  const char* date;
-};
-
-TEST(DateText, IsReadInTheOrderOfTheLocale) {
-  constexpr ParseRow rows[] = {
+TEST(DateText, IsReadInTheOrderOfTheLocaleWithNamesAndTimes) {
+  struct Row {
+    const wchar_t* locale;
+    const wchar_t* text;
+    const char* date;
+  };
+  constexpr Row rows[] = {
       {L"en_US", L"1/2/2020", "2020-01-02 00:00:00"},
       {L"de_DE", L"1.2.2020", "2020-02-01 00:00:00"},
       {L"fr_CH", L"1/2-2020", "2020-02-01 00:00:00"},
@@ -103,16 +97,7 @@ TEST(DateText, IsReadInTheOrderOfTheLocale) {
       {L"en_US", L"1/1/99999", "overflow"},
       {L"en_US", L"2/30/99999", "mismatch"},
       {L"en_US", L"1/1/123456789", "mismatch"},
-  };
-  for (const ParseRow& row : rows) {
-    ASSERT_TRUE(coregui::SetUserLocale(row.locale));
-    EXPECT_EQ(Parsed(row.text), row.date)
-        << CString(row.locale).ToUtf8() << " " << CString(row.text).ToUtf8();
-  }
-}
-
-TEST(DateText, MonthsMayBeNamed) {
-  constexpr ParseRow rows[] = {
+      // named months
       {L"en_US", L"Jan 5, 2020", "2020-01-05 00:00:00"},
       {L"en_US", L"Sunday, 5th January 2020", "2020-01-05 00:00:00"},
       {L"en_US", L"2020 JANUARY 5", "2020-01-05 00:00:00"},
@@ -123,16 +108,7 @@ TEST(DateText, MonthsMayBeNamed) {
       {L"en_US", L"5 Foo 2020", "mismatch"},
       {L"en_US", L"Jan Feb 2020", "mismatch"},
       {L"en_US", L"January", "mismatch"},
-  };
-  for (const ParseRow& row : rows) {
-    ASSERT_TRUE(coregui::SetUserLocale(row.locale));
-    EXPECT_EQ(Parsed(row.text), row.date)
-        << CString(row.locale).ToUtf8() << " " << CString(row.text).ToUtf8();
-  }
-}
-
-TEST(DateText, TimesStandAloneOrWithADate) {
-  constexpr ParseRow rows[] = {
+      // times, alone or with a date
       {L"en_US", L"13:05", "1899-12-30 13:05:00"},
       {L"en_US", L"1:05:09 pm", "1899-12-30 13:05:09"},
       {L"en_US", L"12 AM", "1899-12-30 00:00:00"},
@@ -146,13 +122,11 @@ TEST(DateText, TimesStandAloneOrWithADate) {
       {L"en_US", L"1:2:3:4", "mismatch"},
       {L"en_US", L"12:", "mismatch"},
   };
-  for (const ParseRow& row : rows) {
+  for (const Row& row : rows) {
     ASSERT_TRUE(coregui::SetUserLocale(row.locale));
-    EXPECT_EQ(Parsed(row.text), row.date) << CString(row.text).ToUtf8();
+    EXPECT_EQ(Parsed(row.text), row.date)
+        << CString(row.locale).ToUtf8() << " " << CString(row.text).ToUtf8();
   }
-}
-
-TEST(DateText, WhatIsNoDateIsAMismatch) {
   for (const wchar_t* text :
        {L"", L"  ", L"5", L"abc", L"-1/2/2020", L"1/2/3/4", L"$5", L"PM", L"/", L"1+2"}) {
     EXPECT_EQ(Parsed(text), "mismatch") << CString(text).ToUtf8();

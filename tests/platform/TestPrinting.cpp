@@ -1,28 +1,22 @@
 // Pages to PDF and SVG.
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <cmath>
+#include <filesystem>
 
 #include "platform/CPrinterDC.h"
+#include "tests/support/FolderTest.h"
 
 namespace {
 
-class Printing : public testing::Test {
- protected:
-  QTemporaryDir folder;
-  CString Path(const char* name) const { return CString(folder.filePath(name).toStdWString()); }
-  QByteArray Content(const char* name) const {
-    QFile file(folder.filePath(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  }
-};
+using testing::HasSubstr;
+
+class Printing : public coregui::test::FolderTest {};
 
 void DrawSheet(CDC& dc, const wchar_t* text) {
   CFont font;
@@ -37,7 +31,7 @@ void DrawSheet(CDC& dc, const wchar_t* text) {
 }
 
 TEST_F(Printing, Pdf_HasTheSheetsItsSizeAndItsText) {
-  const CString path = Path("plot.pdf");
+  const CString path = Wide("plot.pdf");
   CPrinterDC dc(PrintOutput::pdf, path, {420.0, 297.0, 600});
   EXPECT_EQ(dc.GetDeviceCaps(LOGPIXELSX), 600);
   EXPECT_EQ(dc.GetDeviceCaps(HORZRES), static_cast<int>(std::lround(420.0 / 25.4 * 600)));
@@ -64,9 +58,9 @@ TEST_F(Printing, Pdf_HasTheSheetsItsSizeAndItsText) {
   EXPECT_TRUE(dc.EndDoc());
   EXPECT_FALSE(dc.EndDoc());
 
-  const QByteArray pdf = Content("plot.pdf");
+  const QString pdf = QString::fromStdString(Read("plot.pdf"));
   const QRegularExpression box(R"(/MediaBox \[0 0 ([\d.]+) ([\d.]+)\])");
-  const QRegularExpressionMatch match = box.match(QString::fromLatin1(pdf));
+  const QRegularExpressionMatch match = box.match(pdf);
   ASSERT_TRUE(match.hasMatch());
   EXPECT_NEAR(match.captured(1).toDouble(), 420.0 / 25.4 * 72.0, 1.0);
   EXPECT_NEAR(match.captured(2).toDouble(), 297.0 / 25.4 * 72.0, 1.0);
@@ -74,7 +68,7 @@ TEST_F(Printing, Pdf_HasTheSheetsItsSizeAndItsText) {
     GTEST_SKIP() << "pdftotext is not installed: the text is not checked";
   }
   QProcess reader;
-  reader.start("pdftotext", {folder.filePath("plot.pdf"), "-"});
+  reader.start("pdftotext", {QString::fromStdString(At("plot.pdf")), "-"});
   ASSERT_TRUE(reader.waitForFinished());
   const QByteArray text = reader.readAllStandardOutput();
   EXPECT_TRUE(text.contains("Sheet one") && text.contains("Sheet two")) << text.constData();
@@ -82,7 +76,7 @@ TEST_F(Printing, Pdf_HasTheSheetsItsSizeAndItsText) {
 }
 
 TEST_F(Printing, Svg_IsOneFileASheet) {
-  const CString path = Path("plot.svg");
+  const CString path = Wide("plot.svg");
   CPrinterDC dc(PrintOutput::svg, path, {210.0, 297.0, 96});
   ASSERT_TRUE(dc.StartDoc(L"Plan"));
   ASSERT_TRUE(dc.StartPage());
@@ -91,25 +85,25 @@ TEST_F(Printing, Svg_IsOneFileASheet) {
   ASSERT_TRUE(dc.StartPage());
   DrawSheet(dc, L"Second");
   EXPECT_TRUE(dc.EndDoc()) << "ends the open page too";
-  EXPECT_TRUE(Content("plot.svg").contains("First"));
-  EXPECT_TRUE(Content("plot-2.svg").contains("Second"));
-  EXPECT_TRUE(Content("plot.svg").contains("viewBox=\"0 0 794 1123\""));
-  EXPECT_TRUE(Content("plot.svg").contains("width=\"210"));
+  EXPECT_THAT(Read("plot.svg"), HasSubstr("First"));
+  EXPECT_THAT(Read("plot-2.svg"), HasSubstr("Second"));
+  EXPECT_THAT(Read("plot.svg"), HasSubstr("viewBox=\"0 0 794 1123\""));
+  EXPECT_THAT(Read("plot.svg"), HasSubstr("width=\"210"));
 }
 
 TEST_F(Printing, Failures_AreReported) {
-  const CString nowhere = Path("no/such/folder/plot.pdf");
+  const CString nowhere = Wide("no/such/folder/plot.pdf");
   CPrinterDC dc(PrintOutput::pdf, nowhere);
   EXPECT_FALSE(dc.StartDoc(L"x"));
   EXPECT_FALSE(dc.EndDoc());
   CPrinterDC printer(PrintOutput::printer, L"no such printer at all");
   EXPECT_FALSE(printer.StartDoc(L"x"));
-  const CString dropped = Path("dropped.pdf");
+  const CString dropped = Wide("dropped.pdf");
   CPrinterDC aborted(PrintOutput::pdf, dropped);
   ASSERT_TRUE(aborted.StartDoc(L"x"));
   ASSERT_TRUE(aborted.StartPage());
   aborted.AbortDoc();
-  EXPECT_FALSE(QFile::exists(folder.filePath("dropped.pdf")));
+  EXPECT_FALSE(std::filesystem::exists(At("dropped.pdf")));
 }
 
 }  // namespace

@@ -1,39 +1,31 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include "platform/Clipboard.h"
 #include "platform/Profile.h"
+#include "tests/support/FolderTest.h"
 #include "tests/support/LogWatch.h"
-#include "tests/support/TestEnvironment.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-class ProfileTest : public testing::Test {
+class ProfileTest : public coregui::test::FolderTest {
  protected:
-  ProfileTest() {
-    fs::create_directories(m_folder);
-    m_profile.SetFolder(CString::FromUtf8(m_folder));
-    m_profile.SetCompany(L"Fenwarrow");
-    m_profile.SetName(L"Desk 8/1");
+  ProfileTest() { SetUpProfile(m_profile); }
+  void SetUpProfile(coregui::Profile& profile) const {
+    profile.SetFolder(CString::FromUtf8(m_folder));
+    profile.SetCompany(L"Fenwarrow");
+    profile.SetName(L"Desk 8/1");
   }
-  ~ProfileTest() override { fs::remove_all(m_folder); }
-  std::string File() const { return m_folder + "/Fenwarrow/Desk 8_1.ini"; }
-  std::string Contents() const {
-    std::ostringstream text;
-    text << std::ifstream(File()).rdbuf();
-    return text.str();
-  }
-  void Write(const std::string& text) const {
-    fs::create_directories(m_folder + "/Fenwarrow");
-    std::ofstream(File()) << text;
+  static constexpr const char* kFile = "Fenwarrow/Desk 8_1.ini";
+  std::string Contents() const { return Read(kFile); }
+  void WriteFile(const std::string& text) const {
+    fs::create_directories(At("Fenwarrow"));
+    Write(kFile, text);
   }
 
-  std::string m_folder = coregui::test::ScratchFolder() + "/profile";
   coregui::Profile m_profile;
 };
 
@@ -42,12 +34,10 @@ TEST_F(ProfileTest, EntriesAreKeptAcrossObjects) {
   EXPECT_TRUE(m_profile.WriteInt(L"UnitTesting", L"PopupChoiceId", -5));
   EXPECT_TRUE(m_profile.WriteString(L"View", L"Title", L"L\u00E4nge = 5; # \"x\""));
   coregui::Profile other;
-  other.SetFolder(CString::FromUtf8(m_folder));
-  other.SetCompany(L"Fenwarrow");
-  other.SetName(L"Desk 8/1");
+  SetUpProfile(other);
   EXPECT_EQ(other.GetInt(L"unittesting", L"POPUPCHOICEID", 0), -5);
   EXPECT_EQ(other.GetString(L"View", L"Title"), L"L\u00E4nge = 5; # \"x\"");
-  EXPECT_EQ(other.GetPath().ToUtf8(), File());
+  EXPECT_EQ(other.GetPath(), Wide(kFile));
 }
 
 TEST_F(ProfileTest, EveryTextComesBackAsItWas) {
@@ -59,7 +49,7 @@ TEST_F(ProfileTest, EveryTextComesBackAsItWas) {
 }
 
 TEST_F(ProfileTest, HandEditedFilesKeepTheirLines) {
-  Write("; mine\nstray\n[A]\nx = 1\n\n[ B ]\ny=0x10\nz\n[A]\nx=2\n");
+  WriteFile("; mine\nstray\n[A]\nx = 1\n\n[ B ]\ny=0x10\nz\n[A]\nx=2\n");
   EXPECT_EQ(m_profile.GetInt(L"A", L"X", 0), 1);
   EXPECT_EQ(m_profile.GetInt(L"b", L"y", 9), 0);
   EXPECT_EQ(m_profile.GetInt(L"B", L"z", 9), 9);
@@ -74,31 +64,29 @@ TEST_F(ProfileTest, HandEditedFilesKeepTheirLines) {
 }
 
 TEST_F(ProfileTest, WhatAnotherProgramWritesIsSeen) {
-  Write("[U]\nn=1\n");
+  WriteFile("[U]\nn=1\n");
   EXPECT_EQ(m_profile.GetInt(L"U", L"n", 0), 1);
-  Write("[U]\nn=4294967295\n");
+  WriteFile("[U]\nn=4294967295\n");
   EXPECT_EQ(m_profile.GetInt(L"U", L"n", 0), -1);
 }
 
 TEST_F(ProfileTest, NamesThatAFileCannotHoldAreRefused) {
-  EXPECT_FALSE(m_profile.WriteInt(L"", L"e", 1));
-  EXPECT_FALSE(m_profile.WriteInt(L"a]b", L"e", 1));
-  EXPECT_FALSE(m_profile.WriteInt(L"a", L"e=f", 1));
-  EXPECT_FALSE(m_profile.WriteInt(L"a", L";e", 1));
-  EXPECT_FALSE(m_profile.WriteInt(L"a", L"e\nf", 1));
-  EXPECT_FALSE(fs::exists(File()));
+  constexpr std::pair<const wchar_t*, const wchar_t*> rows[] = {
+      {L"", L"e"}, {L"a]b", L"e"}, {L"a", L"e=f"}, {L"a", L";e"}, {L"a", L"e\nf"}};
+  for (const auto& [section, entry] : rows) EXPECT_FALSE(m_profile.WriteInt(section, entry, 1));
+  EXPECT_FALSE(fs::exists(At(kFile)));
 }
 
 TEST_F(ProfileTest, AnUnwritableFolderIsReportedOnceAndTheValuesLast) {
-  std::ofstream(m_folder + "/plain") << "x";
-  m_profile.SetFolder(CString::FromUtf8(m_folder + "/plain"));
+  Write("plain", "x");
+  m_profile.SetFolder(Wide("plain"));
   coregui::test::ExpectLog(L"Unable to write profile " + CString::FromUtf8(m_folder).Str());
   EXPECT_FALSE(m_profile.WriteInt(L"U", L"n", 0x0706));
   EXPECT_FALSE(m_profile.WriteInt(L"U", L"n", 0x07));
   EXPECT_EQ(m_profile.GetInt(L"U", L"n", 0), 0x07);
   EXPECT_FALSE(m_profile.WriteString(L"U", L"n", nullptr));
   EXPECT_EQ(m_profile.GetInt(L"U", L"n", 3), 3);
-  fs::remove(m_folder + "/plain");
+  fs::remove(At("plain"));
   EXPECT_TRUE(m_profile.WriteInt(L"U", L"m", 1));
 }
 

@@ -57,51 +57,42 @@ TEST(Recording, Log_WritesTextsWithColourFontAndFormat) {
 
 // --- The layout of DrawText, by characters of 7 by 13.
 
-struct LayoutCase {
-  const char* name;
-  const wchar_t* text;
-  UINT format;
-  int room;
-  int width;  ///< of the result of DT_CALCRECT
-  int height;
-};
+TEST(DrawTextLayout, CalcRect_GivesTheSizeOfTheText) {
+  struct Row {
+    const char* name;
+    const wchar_t* text;
+    UINT format;
+    int room;
+    int width;  ///< of the result of DT_CALCRECT
+    int height;
+  };
+  constexpr Row rows[] = {
+      {"OneLine", L"abc", DT_SINGLELINE, 100, 21, 13},
+      {"LineBreaksOfAllKinds", L"a\rbb\nccc\r\nd", 0, 100, 21, 52},
+      {"LastBreakOpensNoLine", L"a\n", 0, 100, 7, 13},
+      {"EmptyLineBetween", L"a\n\nb", 0, 100, 7, 39},
+      {"SingleLineIgnoresBreaks", L"a\nb", DT_SINGLELINE, 100, 21, 13},
+      {"BreaksAtBlanks", L"aaa bbb ccc", DT_WORDBREAK, 50, 49, 26},
+      {"BlankAtTheBreakIsNoLine", L"aaa bbb", DT_WORDBREAK, 21, 21, 26},
+      {"LongWordStays", L"aaaaaaaaaa bb", DT_WORDBREAK, 30, 70, 26},
+      {"EditControlBreaksWords", L"aaaaaaaaaa", DT_WORDBREAK | DT_EDITCONTROL, 35, 35, 26},
+      {"NoRoomAtAll", L"aa bb", DT_WORDBREAK, 0, 14, 26},
+      {"PrefixTakesNoRoom", L"&File", DT_SINGLELINE, 100, 28, 13},
+      {"DoubledPrefixIsOne", L"A && B", DT_SINGLELINE, 100, 35, 13},
+      {"NoPrefixKeepsBoth", L"A && B", DT_SINGLELINE | DT_NOPREFIX, 100, 42, 13},
+      {"PrefixAtTheEnd", L"a&", DT_SINGLELINE, 100, 7, 13},
+      {"TabsToEightColumns", L"a\tb", DT_EXPANDTABS, 200, 63, 13},
+      {"EllipsisFits", L"abcdefghij", DT_SINGLELINE | DT_END_ELLIPSIS, 50, 49, 13},
+      {"EllipsisNotNeeded", L"abcdefg", DT_SINGLELINE | DT_END_ELLIPSIS, 49, 49, 13},
+      {"WordEllipsisCutsAtBlank", L"abc defghij", DT_SINGLELINE | DT_WORD_ELLIPSIS, 62, 49, 13},
+  };
 
-void PrintTo(const LayoutCase& row, std::ostream* out) {
-  *out << row.name;
-}
-
-class DrawTextLayout : public testing::TestWithParam<LayoutCase> {};
-
-constexpr LayoutCase layouts[] = {
-    {"OneLine", L"abc", DT_SINGLELINE, 100, 21, 13},
-    {"LineBreaksOfAllKinds", L"a\rbb\nccc\r\nd", 0, 100, 21, 52},
-    {"LastBreakOpensNoLine", L"a\n", 0, 100, 7, 13},
-    {"EmptyLineBetween", L"a\n\nb", 0, 100, 7, 39},
-    {"SingleLineIgnoresBreaks", L"a\nb", DT_SINGLELINE, 100, 21, 13},
-    {"BreaksAtBlanks", L"aaa bbb ccc", DT_WORDBREAK, 50, 49, 26},
-    {"BlankAtTheBreakIsNoLine", L"aaa bbb", DT_WORDBREAK, 21, 21, 26},
-    {"LongWordStays", L"aaaaaaaaaa bb", DT_WORDBREAK, 30, 70, 26},
-    {"EditControlBreaksWords", L"aaaaaaaaaa", DT_WORDBREAK | DT_EDITCONTROL, 35, 35, 26},
-    {"NoRoomAtAll", L"aa bb", DT_WORDBREAK, 0, 14, 26},
-    {"PrefixTakesNoRoom", L"&File", DT_SINGLELINE, 100, 28, 13},
-    {"DoubledPrefixIsOne", L"A && B", DT_SINGLELINE, 100, 35, 13},
-    {"NoPrefixKeepsBoth", L"A && B", DT_SINGLELINE | DT_NOPREFIX, 100, 42, 13},
-    {"PrefixAtTheEnd", L"a&", DT_SINGLELINE, 100, 7, 13},
-    {"TabsToEightColumns", L"a\tb", DT_EXPANDTABS, 200, 63, 13},
-    {"EllipsisFits", L"abcdefghij", DT_SINGLELINE | DT_END_ELLIPSIS, 50, 49, 13},
-    {"EllipsisNotNeeded", L"abcdefg", DT_SINGLELINE | DT_END_ELLIPSIS, 49, 49, 13},
-    {"WordEllipsisCutsAtBlank", L"abc defghij", DT_SINGLELINE | DT_WORD_ELLIPSIS, 62, 49, 13},
-};
-
-INSTANTIATE_TEST_SUITE_P(Layouts, DrawTextLayout, testing::ValuesIn(layouts),
-                         [](const auto& row) { return std::string(row.param.name); });
-
-TEST_P(DrawTextLayout, CalcRect_GivesTheSizeOfTheText) {
-  const LayoutCase& row = GetParam();
-  CRecordingDC dc;
-  RECT rect = CRect(10, 20, 10 + row.room, 25);
-  EXPECT_EQ(dc.DrawText(row.text, -1, &rect, row.format | DT_CALCRECT), row.height);
-  EXPECT_EQ(CRect(rect), CRect(10, 20, 10 + row.width, 20 + row.height));
+  for (const Row& row : rows) {
+    CRecordingDC dc;
+    RECT rect = CRect(10, 20, 10 + row.room, 25);
+    EXPECT_EQ(dc.DrawText(row.text, -1, &rect, row.format | DT_CALCRECT), row.height) << row.name;
+    EXPECT_EQ(CRect(rect), CRect(10, 20, 10 + row.width, 20 + row.height)) << row.name;
+  }
 }
 
 TEST(DrawTextResult, VerticalAlignment_CountsFromTheTopOfTheRectangle) {

@@ -1,13 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <QScrollBar>
-#include <QStyle>
-#include <QStyleOptionSlider>
 #include <QTest>
 #include <limits>
 
 #include "platform/CScrollBar.h"
 #include "tests/platform/ControlHost.h"
+#include "tests/support/Hand.h"
 
 namespace {
 
@@ -66,16 +65,6 @@ TEST(ScrollBar, KeysAskAndOnlyTheParentMoves) {
   EXPECT_EQ(deaf.TakeLog(), L"v:1 v:1 v:1 v:8 ");
 }
 
-TEST(ScrollBar, AnAnsweredStepMovesByOne) {
-  Follower host;
-  CScrollBar bar;
-  bar.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 20), &host, 3);
-  QTest::keyClick(WidgetOf(bar), Qt::Key_Right);
-  EXPECT_EQ(host.TakeLog().ToUtf8(), "h:1 h:8 ");
-  EXPECT_EQ(bar.GetScrollPos(), 1);
-  EXPECT_EQ(static_cast<QScrollBar*>(WidgetOf(bar))->value(), 1);
-}
-
 TEST(ScrollBar, DraggingGivesAll32Bits) {
   Follower host;
   CScrollBar bar;
@@ -84,23 +73,18 @@ TEST(ScrollBar, DraggingGivesAll32Bits) {
   info.nMax = kLargest;
   info.nPage = 40;
   bar.SetScrollInfo(info);
-  auto* widget = static_cast<QScrollBar*>(WidgetOf(bar));
-  QStyleOptionSlider option;
-  option.initFrom(widget);
-  option.orientation = Qt::Vertical;
-  option.maximum = widget->maximum();
-  option.pageStep = widget->pageStep();
-  const QRect thumb =
-      widget->style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, widget);
-  QTest::mousePress(widget, Qt::LeftButton, {}, thumb.center());
-  QTest::mouseMove(widget, thumb.center() + QPoint(0, 60));
-  EXPECT_GT(host.tracked, kLargest / 10);
-  EXPECT_EQ(bar.GetScrollPos(), 0);  // tracking moves nothing by itself
-  const int dropped = host.tracked;
-  QTest::mouseRelease(widget, Qt::LeftButton, {}, thumb.center() + QPoint(0, 60));
+  int dropped = 0;
+  coregui::test::Drag(bar, {8, 25}, {8, 90}, [&] {
+    dropped = host.tracked;
+    EXPECT_GT(dropped, kLargest / 10);
+    EXPECT_EQ(bar.GetScrollPos(), 0);  // tracking moves nothing by itself
+  });
   EXPECT_EQ(host.TakeLog(), L"v:5 v:4 v:8 ");
   EXPECT_EQ(bar.GetScrollPos(), dropped);
-  EXPECT_EQ(widget->value(), dropped);
+  EXPECT_EQ(static_cast<QScrollBar*>(WidgetOf(bar))->value(), dropped);
+  QTest::keyClick(WidgetOf(bar), Qt::Key_Down);
+  EXPECT_EQ(host.TakeLog(), L"v:1 v:8 ");
+  EXPECT_EQ(bar.GetScrollPos(), dropped + 1) << "an answered step moves by one";
 }
 
 }  // namespace

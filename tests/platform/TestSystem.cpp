@@ -2,8 +2,6 @@
 
 #include <QApplication>
 #include <QPalette>
-#include <QWidget>
-#include <cerrno>
 #include <cstdlib>
 
 #include "platform/Keys.h"
@@ -43,20 +41,6 @@ TEST(SystemColours, DarkAndBackKeepsTheDesktopsOwnLightPalette) {
   EXPECT_EQ(GetSysColor(COLOR_WINDOW), RGB(250, 250, 240));
 }
 
-TEST(SystemColours, AreReadyWhenWindowsHearOfAChange) {
-  struct Probe : QWidget {
-    COLORREF seen = 0;
-    bool event(QEvent* event) override {
-      if (event->type() == QEvent::ApplicationPaletteChange) seen = GetSysColor(COLOR_WINDOW);
-      return QWidget::event(event);
-    }
-  } probe;
-  probe.show();
-  SetDarkTheme(true);
-  QApplication::processEvents();
-  EXPECT_EQ(probe.seen, GetSysColor(COLOR_WINDOW));
-}
-
 TEST(DpiScale, LengthsRoundAndNeverVanish) {
   SetDpiScale(1.25);
   EXPECT_EQ(ScaleByDpi(2), 3);
@@ -82,12 +66,6 @@ TEST(KeyState, PressingTogglesTheLowBit) {
   EXPECT_EQ(GetKeyState(5000), 0);
 }
 
-TEST(LastError, IsErrnoWithTheSystemsText) {
-  SetLastError(ENOENT);
-  EXPECT_EQ(GetLastError(), static_cast<DWORD>(ENOENT));
-  EXPECT_EQ(GetErrorText(ENOENT), L"No such file or directory");
-}
-
 TEST(Identity, SerialIsStableAndNeverZero) {
   EXPECT_EQ(GetMachineSerial(), GetMachineSerial());
   EXPECT_NE(GetMachineSerial(), 0U);
@@ -104,21 +82,6 @@ TEST(Identity, UserNameIsSetOnlyWhenTheDesktopDidNot) {
   const std::string account = std::getenv("USERNAME");
   setenv("USERNAME", "tester", 1);
   EXPECT_FALSE(account.empty());
-}
-
-TEST(Sleep, HookTakesThePlaceOfWaiting) {
-  static UINT slept = 0;
-  SetSleepHook([](UINT milliseconds) { slept += milliseconds; });
-  const auto before = GetTickCount64();
-  Sleep(3600000);
-  EXPECT_EQ(slept, 3600000U);
-  EXPECT_LT(GetTickCount64() - before, 3600000U);
-}
-
-TEST(Beep, EachSoundIsCounted) {
-  const int before = GetBeepCount(MB_ICONHAND_SOUND);
-  MessageBeep(MB_ICONHAND_SOUND);
-  EXPECT_EQ(GetBeepCount(MB_ICONHAND_SOUND), before + 1);
 }
 
 TEST(Cursors, TheLastOneShownIsReturned) {

@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <cmath>
 #include <cstdlib>
+#include <functional>
 #include <list>
 #include <random>
 #include <string>
@@ -49,17 +50,28 @@ class Striped : public CWnd {
   int erases = 0;
   int first = 0;  ///< the row that is at the top
   CRect painted;
+  CRect erased;                          ///< the part of the last erasure
+  std::function<void(CPaintDC&)> paint;  ///< instead of the rows
 
  private:
   void HandlePaint() {
     ++paints;
     CPaintDC dc(this);
     painted = dc.GetPaintRect();
+    RECT rest;
+    EXPECT_FALSE(GetUpdateRect(&rest)) << "a paint context validates";
+    dc.SelectClipRect(nullptr);  // what is valid stays as it is all the same
+    if (paint) return paint(dc);
     for (int row = 0; row < 20; ++row) {
       dc.FillSolidRect(CRect(0, row * 10, 300, row * 10 + 10), ColourOf(first + row));
     }
   }
-  BOOL HandleErase(CDC* /*dc*/) { return ++erases, TRUE; }
+  BOOL HandleErase(CDC* dc) {
+    RECT box;
+    dc->GetClipBox(&box);
+    erased = box;
+    return ++erases, TRUE;
+  }
 };
 
 class WindowPaint : public testing::Test {
@@ -102,12 +114,48 @@ TEST_F(WindowPaint, IsClippedToTheUpdateRegionAndAtOnceOnDemand) {
   EXPECT_EQ(window.paints, 1);
   EXPECT_EQ(window.erases, 1);
   EXPECT_EQ(window.painted, CRect(10, 10, 70, 80));
+  EXPECT_EQ(window.erased, CRect(10, 10, 70, 80));
   EXPECT_EQ(window.At(15, 15), Striped::ColourOf(51));
   EXPECT_EQ(window.At(60, 75), Striped::ColourOf(57));
   EXPECT_EQ(window.At(60, 65), Striped::ColourOf(6)) << "validated";
   EXPECT_EQ(window.At(30, 30), Striped::ColourOf(3)) << "between the two";
   window.UpdateWindow();
   EXPECT_EQ(window.paints, 1) << "nothing is invalid";
+}
+
+TEST_F(WindowPaint, ContextsInsideAPaintDrawOnTheSamePixelsEverywhere) {
+  window.paint = [this](CPaintDC& dc) {
+    dc.SetAntiAliasing(true);
+    dc.Ellipse(CRect(10, 10, 40, 40));
+    CClientDC inner(&window);
+    inner.SetAntiAliasing(true);
+    inner.Ellipse(CRect(60, 20, 90, 50));
+    inner.FillSolidRect(CRect(80, 50, 90, 60), kBlue);
+    dc.FillSolidRect(CRect(0, 0, 5, 5), kRed);
+    EXPECT_EQ(dc.GetPixel(85, 55), kBlue);
+  };
+  const RECT part{0, 0, 50, 50};
+  window.InvalidateRect(&part, FALSE);
+  window.UpdateWindow();
+  EXPECT_EQ(window.At(0, 0), kRed);
+  EXPECT_EQ(window.At(85, 55), kBlue) << "outside the update region: the client context draws at once";
+}
+
+TEST_F(WindowPaint, AWindowResizedOrDestroyedMeanwhileLeavesTheContextHarmless) {
+  window.paint = [this](CPaintDC& dc) {
+    window.MoveWindow(0, 0, 20, 20);
+    dc.FillSolidRect(CRect(0, 0, 200, 100), kRed);
+    window.DestroyWindow();
+    dc.FillSolidRect(CRect(0, 0, 200, 100), kBlue);
+    dc.TextOut(150, 80, L"late", -1);
+  };
+  window.RedrawWindow();
+  EXPECT_FALSE(window.HasWindow());
+  CClientDC none(&window);
+  EXPECT_FALSE(none.IsValid());
+  none.FillSolidRect(CRect(0, 0, 10, 10), kRed);
+  EXPECT_EQ(none.GetPixel(0, 0), 0xFFFFFFFFU);
+  EXPECT_GT(none.GetTextExtent(L"abc", -1).cx, 0);
 }
 
 TEST_F(WindowPaint, HeldBackWhileRedrawIsOffOrTheWindowIsHidden) {
@@ -355,18 +403,6 @@ TEST_F(WindowPaint, AScrollAndItsPaintGiveTheScrolledPicture) {
   }
 }
 
-TEST_F(WindowPaint, TheDefaultErasesWithTheWindowColour) {
-  CWnd plain;
-  ASSERT_TRUE(plain.Create(L"", L"", WS_CHILD | WS_VISIBLE, CRect(10, 10, 30, 30), &window, 0));
-  {
-    CClientDC dc(&plain);
-    dc.FillSolidRect(CRect(0, 0, 20, 20), kRed);
-  }
-  plain.RedrawWindow();
-  CClientDC dc(&plain);
-  EXPECT_EQ(dc.GetPixel(5, 5), GetSysColor(COLOR_WINDOW));
-}
-
 TEST_F(WindowPaint, TheSurfaceHasTheDotsOfTheScreensScale) {
   EXPECT_EQ(window.GetScaleFactor(), coregui::WidgetOf(&window)->devicePixelRatioF());
   CClientDC dc(&window);
@@ -380,7 +416,11 @@ TEST_F(WindowPaint, TheSurfaceHasTheDotsOfTheScreensScale) {
 TEST_F(WindowPaint, PrintingTakesTheWindowAndItsChildren) {
   CWnd child;
   ASSERT_TRUE(child.Create(L"", L"", WS_CHILD | WS_VISIBLE, CRect(40, 40, 60, 60), &window, 0));
-  child.UpdateWindow();
+  {
+    CClientDC dc(&child);
+    dc.FillSolidRect(CRect(0, 0, 20, 20), kRed);
+  }
+  child.RedrawWindow();  // the default erases
   CClientDC screen(&window);
   CBitmap bitmap;
   ASSERT_TRUE(bitmap.CreateCompatibleBitmap(&screen, 100, 100));

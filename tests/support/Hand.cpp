@@ -38,19 +38,6 @@ void GiveKey(CWnd& window, int key, Qt::KeyboardModifiers modifiers, const QStri
   }
 }
 
-/// Nothing when the window is gone.
-void GiveMouse(const WindowRef& window, QEvent::Type type, CPoint at) {
-  QWidget* widget = window ? WidgetOf(window.Get()) : nullptr;
-  if (widget == nullptr) return;
-  auto* area = qobject_cast<QAbstractScrollArea*>(widget);
-  QWidget* receiver = area == nullptr ? widget : area->viewport();
-  const QPointF place(at.x, at.y);
-  QMouseEvent event(type, place, receiver->mapToGlobal(place),
-                    type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
-                    type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
-  QApplication::sendEvent(receiver, &event);
-}
-
 QImage Picture(CWnd& window) {
   return WidgetOf(&window)->grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
@@ -63,8 +50,11 @@ Qt::MouseButtons ButtonsOf(UINT flags) {
   return buttons;
 }
 
-void GiveMouse(CWnd& window, QEvent::Type type, CPoint at, UINT button, UINT flags) {
-  QWidget* widget = WidgetOf(&window);
+/// What the mouse does to a window or to what its widget scrolls; nothing when the window is gone.
+void GiveMouse(const WindowRef& window, QEvent::Type type, CPoint at, UINT button, UINT flags) {
+  QWidget* widget = window ? WidgetOf(window.Get()) : nullptr;
+  if (widget == nullptr) return;
+  if (auto* area = qobject_cast<QAbstractScrollArea*>(widget)) widget = area->viewport();
   const QPointF place(at.x, at.y);
   Qt::KeyboardModifiers modifiers;
   modifiers.setFlag(Qt::ShiftModifier, (flags & MK_SHIFT) != 0);
@@ -74,18 +64,26 @@ void GiveMouse(CWnd& window, QEvent::Type type, CPoint at, UINT button, UINT fla
   QApplication::sendEvent(widget, &event);
 }
 
+void GiveWheel(CWnd& window, CPoint at, QPoint pixels, QPoint angle, Qt::ScrollPhase phase) {
+  QWidget* const widget = WidgetOf(&window);
+  const QPointF place(at.x, at.y);
+  QWheelEvent event(place, widget->mapToGlobal(place), pixels, angle, Qt::NoButton, Qt::NoModifier, phase,
+                    false);
+  QApplication::sendEvent(widget, &event);
+}
+
 }  // namespace
 
 void MovePointer(CWnd& window, CPoint at, UINT flags) {
-  GiveMouse(window, QEvent::MouseMove, at, 0, flags);
+  GiveMouse(WindowRef(&window), QEvent::MouseMove, at, 0, flags);
 }
 
 void PressButton(CWnd& window, UINT button, CPoint at) {
-  GiveMouse(window, QEvent::MouseButtonPress, at, button, button);
+  GiveMouse(WindowRef(&window), QEvent::MouseButtonPress, at, button, button);
 }
 
 void ReleaseButton(CWnd& window, UINT button, CPoint at) {
-  GiveMouse(window, QEvent::MouseButtonRelease, at, button, 0);
+  GiveMouse(WindowRef(&window), QEvent::MouseButtonRelease, at, button, 0);
 }
 
 void TakePointerAway(CWnd& window) {
@@ -95,11 +93,7 @@ void TakePointerAway(CWnd& window) {
 
 void SlideTwoFingers(CWnd& window, CPoint at, CSize by) {
   const QPoint pixels(by.cx, by.cy);
-  QWidget* const widget = WidgetOf(&window);
-  const QPointF place(at.x, at.y);
-  QWheelEvent event(place, widget->mapToGlobal(place), pixels, pixels * 8, Qt::NoButton, Qt::NoModifier,
-                    Qt::ScrollUpdate, false);
-  QApplication::sendEvent(widget, &event);
+  GiveWheel(window, at, pixels, pixels * 8, Qt::ScrollUpdate);
 }
 
 void PressKey(CWnd& window, UINT key, bool control, bool shift) {
@@ -139,37 +133,31 @@ void Click(CWnd& window) {
 
 void ClickAt(CWnd& window, CPoint at) {
   const WindowRef life(&window);
-  GiveMouse(life, QEvent::MouseButtonPress, at);
-  GiveMouse(life, QEvent::MouseButtonRelease, at);
+  GiveMouse(life, QEvent::MouseButtonPress, at, MK_LBUTTON, MK_LBUTTON);
+  GiveMouse(life, QEvent::MouseButtonRelease, at, MK_LBUTTON, 0);
 }
 
 void Drag(CWnd& window, CPoint from, CPoint to, const std::function<void()>& held) {
   const WindowRef life(&window);
-  GiveMouse(life, QEvent::MouseButtonPress, from);
-  GiveMouse(life, QEvent::MouseMove, to);
+  GiveMouse(life, QEvent::MouseButtonPress, from, MK_LBUTTON, MK_LBUTTON);
+  GiveMouse(life, QEvent::MouseMove, to, 0, MK_LBUTTON);
   held();
-  GiveMouse(life, QEvent::MouseButtonRelease, to);
+  GiveMouse(life, QEvent::MouseButtonRelease, to, MK_LBUTTON, 0);
 }
 
 void StepMouse(CWnd& window, MouseStep step, CPoint at, bool right) {
-  static Qt::MouseButtons held;
+  static UINT held = 0;
   static constexpr std::array kTypes{QEvent::MouseButtonPress, QEvent::MouseMove, QEvent::MouseButtonRelease,
                                      QEvent::MouseButtonDblClick};
-  QWidget* const widget = WidgetOf(&window);
-  const QPointF place(at.x, at.y);
-  const Qt::MouseButton button = right ? Qt::RightButton : Qt::LeftButton;
-  held.setFlag(button, step == MouseStep::move ? held.testFlag(button) : step != MouseStep::release);
-  QMouseEvent event(kTypes[static_cast<std::size_t>(step)], place, widget->mapToGlobal(place),
-                    step == MouseStep::move ? Qt::NoButton : button, held, Qt::NoModifier);
-  QApplication::sendEvent(widget, &event);
+  const UINT button = right ? MK_RBUTTON : MK_LBUTTON;
+  if (step == MouseStep::release) held &= ~button;
+  if (step == MouseStep::press || step == MouseStep::doubleClick) held |= button;
+  GiveMouse(WindowRef(&window), kTypes[static_cast<std::size_t>(step)], at,
+            step == MouseStep::move ? 0 : button, held);
 }
 
 void TurnWheel(CWnd& window, CPoint at, int delta) {
-  QWidget* const widget = WidgetOf(&window);
-  const QPointF place(at.x, at.y);
-  QWheelEvent event(place, widget->mapToGlobal(place), {}, QPoint(0, delta), Qt::NoButton, Qt::NoModifier,
-                    Qt::NoScrollPhase, false);
-  QApplication::sendEvent(widget, &event);
+  GiveWheel(window, at, {}, QPoint(0, delta), Qt::NoScrollPhase);
 }
 
 CString ShownTip() {

@@ -19,7 +19,6 @@
 #include <utility>
 
 #include "platform/CWnd.h"
-#include "platform/Keys.h"
 #include "platform/qt/interop.h"
 #include "tests/support/ToolkitKey.h"
 

@@ -37,7 +37,7 @@ class ShownWindow {
 
   /// Presses the push button or check box with this text. A missing one fails the test.
   void Click(const std::string& text);
-  /// Presses and releases a key (VK_RETURN, VK_ESCAPE, VK_TAB, VK_UP, VK_DOWN, VK_SPACE) where the focus is.
+  /// Presses and releases a key (VK_ value) where the focus is.
   void Key(UINT key);
   /// Types a text where the focus is.
   void Type(const std::string& text);
