@@ -1,9 +1,11 @@
 #include "grid/data/CGridCell.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <functional>
+#include <type_traits>
 
 #include "grid/data/CGridCellFormat.h"
 #include "platform/Locale.h"
@@ -27,109 +29,95 @@ TEST_F(CGridCellTest, StartsWithTheColoursOfTheSystemAndNoValue) {
   EXPECT_EQ(1, cell.GetAlignment());
   EXPECT_EQ(GetSysColor(COLOR_WINDOW), cell.GetBackColor());
   EXPECT_EQ(0, cell.GetCellType());
+  cell.SetReadOnly(-4);
+  EXPECT_EQ(1, cell.GetReadOnly());
   cell.SetPropertyFlags(CELLPROP_CELLTYPE | CELLPROP_CELLTYPEEX | CELLPROP_PARAM);
   EXPECT_EQ(-1, cell.GetCellType());
   EXPECT_EQ(-1, cell.GetCellTypeEx());
   EXPECT_EQ(-1, cell.GetParam());
 }
 
+/// How one property is set and shown; `isSet(cell, false)`: the cell shows what it has without it.
+struct Property {
+  const char* name;
+  long bit;
+  std::function<int(CGridCell&)> set;
+  std::function<bool(const CGridCell&, bool)> isSet;
+};
+
+template <class Value>
+Property Of(const char* name, long bit, int (CGridCell::*set)(Value), Value (CGridCell::*get)() const,
+            Value value, Value fallback) {
+  return {name, bit, [=](CGridCell& cell) { return (cell.*set)(value); },
+          [=](const CGridCell& cell, bool isSet) {
+            const Value shown = (cell.*get)(), wanted = isSet ? value : fallback;
+            if constexpr (std::is_same_v<Value, const wchar_t*>) {
+              if (shown != nullptr && wanted != nullptr) return std::wcscmp(shown, wanted) == 0;
+            }
+            return shown == wanted;
+          }};
+}
+
 TEST_F(CGridCellTest, EachPropertyIsSetKeptMergedAndFallsBackWithoutItsBit) {
-  auto* const pen = reinterpret_cast<CPen*>(0x10);
-  auto* const font = reinterpret_cast<CFont*>(0x20);
-  auto* const bitmap = reinterpret_cast<CBitmap*>(0x30);
   CGridCellFormat format;
   CGridCell style;
-  const struct {
-    const char* name;
-    long bit;
-    std::function<int(CGridCell&)> set;
-    std::function<bool(const CGridCell&)> isSet;
-    std::function<bool(const CGridCell&)> isFallback;
-  } rows[] = {
-      {"text", CELLPROP_TEXT, [](auto& c) { return c.SetText(L"ab"); },
-       [](auto& c) { return std::wcscmp(c.GetText(), L"ab") == 0; },
-       [](auto& c) { return c.GetText() == nullptr && c.GetTextLength() == 0; }},
-      {"label", CELLPROP_LABEL, [](auto& c) { return c.SetLabelText(L"l"); },
-       [](auto& c) { return std::wcscmp(c.GetLabelText(), L"l") == 0; },
-       [](auto& c) { return c.GetLabelText() == nullptr; }},
-      {"mask", CELLPROP_MASK, [](auto& c) { return c.SetMask(L"##"); },
-       [](auto& c) { return std::wcscmp(c.GetMask(), L"##") == 0; },
-       [](auto& c) { return c.GetMask() == nullptr; }},
-      {"data type", CELLPROP_DATATYPE, [](auto& c) { return c.SetDataType(5); },
-       [](auto& c) { return c.GetDataType() == 5; }, [](auto& c) { return c.GetDataType() == 1; }},
-      {"param", CELLPROP_PARAM, [](auto& c) { return c.SetParam(7); },
-       [](auto& c) { return c.GetParam() == 7; }, [](auto& c) { return c.GetParam() == 0; }},
-      {"cell type", CELLPROP_CELLTYPE, [](auto& c) { return c.SetCellType(2); },
-       [](auto& c) { return c.GetCellType() == 2; }, [](auto& c) { return c.GetCellType() == 0; }},
-      {"extended style", CELLPROP_CELLTYPEEX, [](auto& c) { return c.SetCellTypeEx(9); },
-       [](auto& c) { return c.GetCellTypeEx() == 9; }, [](auto& c) { return c.GetCellTypeEx() == 0; }},
-      {"text colour", CELLPROP_TEXTCOLOR, [](auto& c) { return c.SetTextColor(0xFF); },
-       [](auto& c) { return c.GetTextColor() == 0xFF; },
-       [](auto& c) { return c.GetTextColor() == GetSysColor(COLOR_WINDOWTEXT); }},
-      {"back colour", CELLPROP_BACKCOLOR, [](auto& c) { return c.SetBackColor(0xFE); },
-       [](auto& c) { return c.GetBackColor() == 0xFE; },
-       [](auto& c) { return c.GetBackColor() == GetSysColor(COLOR_WINDOW); }},
-      {"highlight text", CELLPROP_HTEXTCOLOR, [](auto& c) { return c.SetHTextColor(3); },
-       [](auto& c) { return c.GetHTextColor() == 3; },
-       [](auto& c) { return c.GetHTextColor() == GetSysColor(COLOR_HIGHLIGHTTEXT); }},
-      {"highlight back", CELLPROP_HBACKCOLOR, [](auto& c) { return c.SetHBackColor(4); },
-       [](auto& c) { return c.GetHBackColor() == 4; },
-       [](auto& c) { return c.GetHBackColor() == GetSysColor(COLOR_HIGHLIGHT); }},
-      {"border", CELLPROP_BORDER, [](auto& c) { return c.SetBorder(0x2000); },
-       [](auto& c) { return c.GetBorder() == 0x2000; }, [](auto& c) { return c.GetBorder() == 0; }},
-      {"pen", CELLPROP_BORDERCOLOR, [=](auto& c) { return c.SetBorderColor(pen); },
-       [=](auto& c) { return c.GetBorderColor() == pen; },
-       [](auto& c) { return c.GetBorderColor() == nullptr; }},
-      {"font", CELLPROP_FONT, [=](auto& c) { return c.SetFont(font); },
-       [=](auto& c) { return c.GetFont() == font; }, [](auto& c) { return c.GetFont() == nullptr; }},
-      {"bitmap", CELLPROP_BITMAP, [=](auto& c) { return c.SetBitmap(bitmap); },
-       [=](auto& c) { return c.GetBitmap() == bitmap; }, [](auto& c) { return c.GetBitmap() == nullptr; }},
-      {"alignment", CELLPROP_ALIGNMENT, [](auto& c) { return c.SetAlignment(36); },
-       [](auto& c) { return c.GetAlignment() == 36; }, [](auto& c) { return c.GetAlignment() == 0; }},
-      {"format", CELLPROP_FORMAT, [&](auto& c) { return c.SetFormatClass(&format); },
-       [&](auto& c) { return c.GetFormatClass() == &format; },
-       [](auto& c) { return c.GetFormatClass() == nullptr; }},
-      {"style", CELLPROP_STYLE, [&](auto& c) { return c.SetCellStyle(&style); },
-       [&](auto& c) { return c.GetCellStyle() == &style; },
-       [](auto& c) { return c.GetCellStyle() == nullptr; }},
-      {"read-only", CELLPROP_READONLY, [](auto& c) { return c.SetReadOnly(-4); },
-       [](auto& c) { return c.GetReadOnly() == 1; }, [](auto& c) { return c.GetReadOnly() == 0; }},
-      {"decimals", CELLPROP_DECIMALS, [](auto& c) { return c.SetNumberDecimals(3); },
-       [](auto& c) { return c.GetNumberDecimals() == 3; },
-       [](auto& c) { return c.GetNumberDecimals() == 0; }},
-      {"join", CELLPROP_JOIN, [](auto& c) { return c.SetJoinInfo(1, 2, 3); },
-       [](auto& c) {
-         int o = 0;
-         int w = 0;
-         long h = 0;
-         return c.GetJoinInfo(&o, &w, &h) == 0 && o == 1 && w == 2 && h == 3;
-       },
-       [](auto& c) {
-         int o = 0;
-         int w = 0;
-         long h = 0;
-         return c.GetJoinInfo(&o, &w, &h) == 1;
-       }},
-  };
-  for (const auto& row : rows) {
+  using Cell = CGridCell;
+  const Property rows[] = {
+      Of<const wchar_t*>("text", CELLPROP_TEXT, &Cell::SetText, &Cell::GetText, L"ab", nullptr),
+      Of<const wchar_t*>("label", CELLPROP_LABEL, &Cell::SetLabelText, &Cell::GetLabelText, L"l", nullptr),
+      Of<const wchar_t*>("mask", CELLPROP_MASK, &Cell::SetMask, &Cell::GetMask, L"##", nullptr),
+      Of<short>("data type", CELLPROP_DATATYPE, &Cell::SetDataType, &Cell::GetDataType, 5, 1),
+      Of<long>("param", CELLPROP_PARAM, &Cell::SetParam, &Cell::GetParam, 7, 0),
+      Of("cell type", CELLPROP_CELLTYPE, &Cell::SetCellType, &Cell::GetCellType, 2, 0),
+      Of<long>("extended style", CELLPROP_CELLTYPEEX, &Cell::SetCellTypeEx, &Cell::GetCellTypeEx, 9, 0),
+      Of("text colour", CELLPROP_TEXTCOLOR, &Cell::SetTextColor, &Cell::GetTextColor, COLORREF{0xFF},
+         GetSysColor(COLOR_WINDOWTEXT)),
+      Of("back colour", CELLPROP_BACKCOLOR, &Cell::SetBackColor, &Cell::GetBackColor, COLORREF{0xFE},
+         GetSysColor(COLOR_WINDOW)),
+      Of("highlight text", CELLPROP_HTEXTCOLOR, &Cell::SetHTextColor, &Cell::GetHTextColor, COLORREF{3},
+         GetSysColor(COLOR_HIGHLIGHTTEXT)),
+      Of("highlight back", CELLPROP_HBACKCOLOR, &Cell::SetHBackColor, &Cell::GetHBackColor, COLORREF{4},
+         GetSysColor(COLOR_HIGHLIGHT)),
+      Of<short>("border", CELLPROP_BORDER, &Cell::SetBorder, &Cell::GetBorder, 0x2000, 0),
+      Of<CPen*>("pen", CELLPROP_BORDERCOLOR, &Cell::SetBorderColor, &Cell::GetBorderColor,
+                reinterpret_cast<CPen*>(0x10), nullptr),
+      Of<CFont*>("font", CELLPROP_FONT, &Cell::SetFont, &Cell::GetFont, reinterpret_cast<CFont*>(0x20),
+                 nullptr),
+      Of<CBitmap*>("bitmap", CELLPROP_BITMAP, &Cell::SetBitmap, &Cell::GetBitmap,
+                   reinterpret_cast<CBitmap*>(0x30), nullptr),
+      Of<short>("alignment", CELLPROP_ALIGNMENT, &Cell::SetAlignment, &Cell::GetAlignment, 36, 0),
+      Of<CGridCellFormat*>("format", CELLPROP_FORMAT, &Cell::SetFormatClass, &Cell::GetFormatClass, &format,
+                           nullptr),
+      Of<CGridCell*>("style", CELLPROP_STYLE, &Cell::SetCellStyle, &Cell::GetCellStyle, &style, nullptr),
+      Of("read-only", CELLPROP_READONLY, &Cell::SetReadOnly, &Cell::GetReadOnly, 1, 0),
+      Of("decimals", CELLPROP_DECIMALS, &Cell::SetNumberDecimals, &Cell::GetNumberDecimals, 3, 0),
+      {"join", CELLPROP_JOIN, [](Cell& cell) { return cell.SetJoinInfo(1, 2, 3); },
+       [](const Cell& cell, bool isSet) {
+         int origin = 0;
+         int width = 0;
+         long height = 0;
+         if (cell.GetJoinInfo(&origin, &width, &height) != 0) return !isSet;
+         return isSet && origin == 1 && width == 2 && height == 3;
+       }}};
+  for (const Property& row : rows) {
     SCOPED_TRACE(row.name);
     CGridCell cell;
     cell.SetPropertyFlags(0);
-    EXPECT_TRUE(row.isFallback(cell));
+    EXPECT_TRUE(row.isSet(cell, false));
     EXPECT_EQ(0, row.set(cell));
     EXPECT_TRUE(cell.IsPropertySet(row.bit));
-    EXPECT_TRUE(row.isSet(cell));
+    EXPECT_TRUE(row.isSet(cell, true));
     CGridCell target;
     cell.AddInfoTo(&target);
-    EXPECT_TRUE(row.isSet(target));
+    EXPECT_TRUE(row.isSet(target, true));
     CGridCell other;
     row.set(other);
     CGridCell blank;
     blank.SetPropertyFlags(0);
     other.AddInfoFrom(&blank);
-    EXPECT_TRUE(row.isSet(other));
+    EXPECT_TRUE(row.isSet(other, true));
     cell.ClearProperty(row.bit);
-    EXPECT_TRUE(row.isFallback(cell));
+    EXPECT_TRUE(row.isSet(cell, false));
   }
 }
 
@@ -138,6 +126,7 @@ TEST_F(CGridCellTest, AnEmptyTextTakesTheValueAway) {
   cell.SetText(L"x");
   cell.SetText(L"");
   EXPECT_EQ(nullptr, cell.GetText());
+  EXPECT_EQ(0, cell.GetTextLength());
   EXPECT_EQ(0.0, cell.GetNumber());
   double number = 5.0;
   EXPECT_EQ(1, cell.GetNumber(&number));
@@ -180,20 +169,21 @@ TEST_F(CGridCellTest, NumbersShowAsTheFlagsAndDecimalsSay) {
 }
 
 TEST_F(CGridCellTest, BlackAndWhiteTextAlwaysShows) {
-  CGridCell cell;
-  cell.SetBackColor(0x000000);
-  cell.SetTextColor(0);
-  EXPECT_EQ(0xFFFFFFU, cell.GetTextColor());
-  cell.SetBackColor(0xFFFFFF);
-  EXPECT_EQ(0U, cell.GetTextColor());
-  cell.SetTextColor(0x0000FF);
-  cell.SetBackColor(0x000000);
-  EXPECT_EQ(0x0000FFU, cell.GetTextColor());
-  cell.SetBackColor(RGB(127, 127, 255));
-  cell.SetTextColor(0);
-  EXPECT_EQ(0xFFFFFFU, cell.GetTextColor());
-  cell.SetBackColor(RGB(128, 127, 0));
-  EXPECT_EQ(0U, cell.GetTextColor());
+  const struct {
+    COLORREF back;
+    COLORREF text;
+    COLORREF shown;
+  } rows[] = {{0, 0, 0xFFFFFF},
+              {0xFFFFFF, 0, 0},
+              {0, 0x0000FF, 0x0000FF},
+              {RGB(127, 127, 255), 0, 0xFFFFFF},
+              {RGB(128, 127, 0), 0, 0}};
+  for (const auto& row : rows) {
+    CGridCell cell;
+    cell.SetBackColor(row.back);
+    cell.SetTextColor(row.text);
+    EXPECT_EQ(row.shown, cell.GetTextColor()) << std::hex << row.back;
+  }
 }
 
 TEST_F(CGridCellTest, ChangingTheTypeConvertsTheValue) {
@@ -208,6 +198,11 @@ TEST_F(CGridCellTest, ChangingTheTypeConvertsTheValue) {
   cell.SetDataType(CELLDATA_TIME);
   EXPECT_EQ(0.0, cell.GetNumber());
   EXPECT_STREQ(L"soon", cell.GetText());
+  cell.SetNumber(7);
+  cell.ClearDisplayText();
+  EXPECT_EQ(nullptr, cell.GetText());
+  EXPECT_EQ(CELLDATA_NUMBER, cell.GetDataType()) << "taking the value away leaves its type";
+  EXPECT_EQ(0.0, cell.GetNumber());
 }
 
 TEST_F(CGridCellTest, CurrencyFromTextDropsTheFractionIsKept) {
@@ -244,29 +239,17 @@ TEST_F(CGridCellTest, DatesGoInAndComeOutByTheTextOrWithALabelTheNumber) {
   CGridCell cell;
   cell.SetTime(30, 15, 8, 24, 12, 2023);
   int f[6] = {};
-  EXPECT_EQ(0, cell.GetTime(&f[0], &f[1], &f[2], &f[3], &f[4], &f[5]));
-  EXPECT_EQ(24, f[3]);
-  EXPECT_EQ(12, f[4]);
-  EXPECT_EQ(2023, f[5]);
-  EXPECT_EQ(8, f[2]);
+  const auto read = [&] { return cell.GetTime(&f[0], &f[1], &f[2], &f[3], &f[4], &f[5]); };
+  EXPECT_EQ(0, read());
+  EXPECT_THAT(f, testing::ElementsAre(30, 15, 8, 24, 12, 2023));
   cell.SetText(L"no date");
-  EXPECT_EQ(0, cell.GetTime(&f[0], &f[1], &f[2], &f[3], &f[4], &f[5]));
-  EXPECT_EQ(-1, f[0]);
-  EXPECT_EQ(-1, f[5]);
+  EXPECT_EQ(0, read());
+  EXPECT_THAT(f, testing::Each(-1));
   cell.SetLabelText(L"label");
-  cell.GetTime(&f[0], &f[1], &f[2], &f[3], &f[4], &f[5]);
+  read();
   EXPECT_EQ(2023, f[5]);
   const CString text = L"no date";
   EXPECT_EQ(1, CGridCell::StringToTime(&text, &f[0], &f[1], &f[2], &f[3], &f[4], &f[5]));
-}
-
-TEST_F(CGridCellTest, RemovingTheValueKeepsItsType) {
-  CGridCell cell;
-  cell.SetNumber(7);
-  cell.ClearDisplayText();
-  EXPECT_EQ(nullptr, cell.GetText());
-  EXPECT_EQ(CELLDATA_NUMBER, cell.GetDataType());
-  EXPECT_EQ(0.0, cell.GetNumber());
 }
 
 TEST_F(CGridCellTest, MergingTakesExtraMemoryFromBothIsKept) {

@@ -49,40 +49,13 @@ std::string NaiveText(double number, const coregui::NumberForm& form) {
 }
 
 std::vector<double> Numbers() {
-  std::vector<double> numbers = {0.0,
-                                 -0.0,
-                                 0.5,
-                                 1.5,
-                                 2.5,
-                                 -0.5,
-                                 0.125,
-                                 1.0,
-                                 10.0,
-                                 100.0,
-                                 1000.0,
-                                 999999.0,
-                                 1e15,
-                                 9e15,
-                                 9007199254740993.0,
-                                 9.2e18,
-                                 9.3e18,
-                                 -9.3e18,
-                                 1e22,
-                                 1e300,
-                                 std::numeric_limits<double>::max(),
-                                 std::numeric_limits<double>::min(),
-                                 std::numeric_limits<double>::denorm_min(),
-                                 5e-21,
-                                 1e-20,
-                                 -4.9e-21,
-                                 1e-75,
-                                 0.99999999999999994,
-                                 999.99999999999994,
-                                 1234.5678,
-                                 -1234567.25,
-                                 std::numeric_limits<double>::infinity(),
-                                 -std::numeric_limits<double>::infinity(),
-                                 std::numeric_limits<double>::quiet_NaN()};
+  using Limits = std::numeric_limits<double>;
+  std::vector<double> numbers = {
+      0.0,  -0.0,   0.5,    1.5,     2.5,  -0.5,  0.125, 1.0,   10.0,     100.0, 1000.0,    999999.0,   1e15,
+      9e15, 9.2e18, 9.3e18, -9.3e18, 1e22, 1e300, 5e-21, 1e-20, -4.9e-21, 1e-75, 1234.5678, -1234567.25};
+  numbers.insert(numbers.end(),
+                 {Limits::max(), Limits::min(), Limits::denorm_min(), Limits::infinity(), -Limits::infinity(),
+                  Limits::quiet_NaN(), 9007199254740993.0, 0.99999999999999994, 999.99999999999994});
   std::mt19937_64 random(5);
   for (int i = 0; i < 4000; ++i) {
     numbers.push_back(std::bit_cast<double>(random()));

@@ -21,7 +21,6 @@ class StoreModel {
   Row& At(long row) { return m_rows[static_cast<std::size_t>(row - m_first)]; }
   long Last() const { return m_rows.empty() ? 0 : m_first + static_cast<long>(m_rows.size()) - 1; }
   long First() const { return m_first; }
-  bool IsEmpty() const { return m_rows.empty(); }
 
   void Set(int col, long row, const std::string& value) {
     if (m_rows.empty()) m_rows.emplace_back();
@@ -93,13 +92,6 @@ class StoreModel {
   }
 
   void Clear() { *this = {}; }
-
-  /// The rows from row 0 on, in a new order.
-  void Reorder(const std::vector<std::size_t>& order) {
-    std::deque<Row> rows(m_rows.begin(), m_rows.begin() - m_first);
-    for (const std::size_t at : order) rows.push_back(At(static_cast<long>(at)));
-    m_rows = rows;
-  }
 
  private:
   std::deque<Row> m_rows;
