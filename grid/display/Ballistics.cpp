@@ -21,7 +21,8 @@ long BallisticStep(double factor, int mode) {
 }
 
 double FactorBefore(int position, int lineSize) {
-  return 1 - position / NotZero(lineSize);
+  const int lines = position / NotZero(lineSize);
+  return 1 - lines;
 }
 
 double FactorRightOf(int position, int gridWidth, int lineSize) {

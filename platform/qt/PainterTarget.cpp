@@ -3,6 +3,7 @@
 #include <QPainterPath>
 #include <QRegion>
 #include <cmath>
+#include <cstddef>
 #include <limits>
 #include <numbers>
 
@@ -150,8 +151,9 @@ void PainterTarget::PolylineF(const DrawAttributes& with, const double* xy, int 
   line.reserve(count);
   // A point that is no number ends a piece of the line.
   for (int i = 0; i <= count; ++i) {
-    if (i < count && std::isfinite(xy[2 * i]) && std::isfinite(xy[2 * i + 1])) {
-      line << DotPoint(with, xy[2 * i], xy[2 * i + 1]);
+    const double* const point = xy + std::ptrdiff_t{2} * i;
+    if (i < count && std::isfinite(point[0]) && std::isfinite(point[1])) {
+      line << DotPoint(with, point[0], point[1]);
     } else if (!line.isEmpty()) {
       painter->drawPolyline(line);
       line.clear();
