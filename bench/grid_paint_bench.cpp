@@ -1,5 +1,5 @@
-// What the grid's windows cost beside the toolkit's table view over a lean model: a full page, a scroll by
-// one row, one changed cell.
+// What the grid's windows cost beside the toolkit's table view over a lean model: a full page, an
+// empty one, a scroll by one row, one changed cell.
 
 #include <QAbstractTableModel>
 #include <QApplication>
@@ -26,6 +26,7 @@ constexpr int kCellWidth = 75;
 constexpr int kCellHeight = 20;
 constexpr int kCols = 26;
 constexpr int kFilledRows = 2000;  // the rows that the measures come to
+constexpr int kEmptyRow = 50000;   // but for that of an empty page, which begins here
 
 std::string Text(int row, int col) {
   char text[32];
@@ -130,6 +131,11 @@ void Compare(int rows) {
     ours.grid.RedrawCell(5, 70);
     CWinApp::PumpPending();
   });
+  ours.grid.SetTopRow(kEmptyRow);
+  const double ourEmpty = Median(kTimes, [&](int) {
+    ours.grid.GetGridWnd()->RedrawWindow();
+    CWinApp::PumpPending();
+  });
   ours.frame.DestroyWindow();
   Peer peer(rows, kCols);
   const double peerPage = Median(kTimes, [&](int) {
@@ -144,11 +150,17 @@ void Compare(int rows) {
     peer.model.Change(70, 5, QString::fromStdString(Text(i, 3)));
     QCoreApplication::processEvents();
   });
+  peer.view.verticalScrollBar()->setValue(kEmptyRow);
+  const double peerEmpty = Median(kTimes, [&](int) {
+    peer.view.viewport()->repaint();
+    QCoreApplication::processEvents();
+  });
   const std::string at = " at " + std::to_string(rows) + " rows";
   const auto print = [&at](const char* what, double our, double peers, double target) {
     PrintBenchRow({what + at, our, "us", {"table view, lean model", peers}, target});
   };
   print("full page", ourPage, peerPage, 0.25);
+  print("empty page", ourEmpty, peerEmpty, 0);
   print("scroll by one row", ourScroll, peerScroll, 0.55);
   print("one cell changed", ourCell, peerCell, 0.5);
 }

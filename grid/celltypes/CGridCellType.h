@@ -1,10 +1,13 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "grid/control/CGridCellDelegate.h"
 #include "grid/data/CGridCell.h"
 #include "grid/data/GridID.h"
+
+class CGridDrawHint;
 
 /// How cells are drawn and how they react: the interface of all cell types, and the normal type, which draws
 /// border, background, bitmap and text. An application derives from it and registers the type with
@@ -85,6 +88,9 @@ class COREGUI_API CGridCellType : public coregui::CGridCellDelegate {
   bool MayOverlap(int col, long row, CGridCell* cell) const;
   bool DrawSpilledText(CDC* dc, RECT* rect, int col, long row, CGridCell* cell, int selected, int current);
   void HintRightNeighbour(int col, long row);
+  std::optional<int> FindSpillFromLeft(CDC* dc, int col, long row, int* startCol, CGridCell* startCell,
+                                       const CGridDrawHint* hints);
+  std::optional<int> SpillOver(CDC* dc, int distance, CGridCell* cell) const;
   int LeftBorderWidth(const CGridCell& cell) const;
   void PutText(CDC* dc, const RECT& rect, int offset, const wchar_t* text, CGridCell* cell) const;
 

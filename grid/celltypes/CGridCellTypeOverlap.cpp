@@ -1,6 +1,7 @@
 // Texts that spill over their empty neighbours.
 
 #include <cwchar>
+#include <optional>
 
 #include "grid/celltypes/BorderPlan.h"
 #include "grid/celltypes/CGridCellType.h"
@@ -74,6 +75,16 @@ int CGridCellType::CanOverLap(CGridCell* cell) const {
 
 int CGridCellType::GetCellOverlapInfo(CDC* dc, int col, long row, int* startCol, CGridCell* startCell) {
   if (m_control == nullptr) return 0;
+  CGridDrawHint* const hints = m_control->GetDrawHints();
+  const std::optional<int> offset = FindSpillFromLeft(dc, col, row, startCol, startCell, hints);
+  if (!offset && hints != nullptr) hints->NoteUnreached(col, row);
+  return offset.value_or(0);
+}
+
+/// Walks left to a text. Past a cell that no text reaches there is none to be found, so that a row of empty
+/// cells costs each of them one step and not the way to the row's start.
+std::optional<int> CGridCellType::FindSpillFromLeft(CDC* dc, int col, long row, int* startCol,
+                                                    CGridCell* startCell, const CGridDrawHint* hints) {
   const CGridColumns& columns = m_control->GetInfo().columns;
   // What is locked ends where the scrolled columns begin: no text reaches across.
   const long first = col >= columns.Locked() && columns.First() > columns.Locked() ? columns.Locked() : 0;
@@ -81,25 +92,30 @@ int CGridCellType::GetCellOverlapInfo(CDC* dc, int col, long row, int* startCol,
   for (int left = col - 1; left >= first; --left) {
     const int width = m_control->GetColWidth(left);
     distance += width;
-    if (distance > kLongestSpill) return 0;
+    if (distance > kLongestSpill) return std::nullopt;
     if (width == 0) continue;
     m_control->GetCellIndirect(left, row, startCell);
     const CGridCellType* const type = m_control->GetCellType(startCell->GetCellType());
-    if (type == nullptr || type->CanOverLap(startCell) == 0) return 0;
-    if (!HasText(*startCell)) {
-      if (startCell->GetBitmap() != nullptr) return 0;
-      continue;  // the text may pass over it
+    if (type == nullptr || type->CanOverLap(startCell) == 0) return std::nullopt;
+    if (HasText(*startCell)) {
+      const std::optional<int> offset = SpillOver(dc, distance, startCell);
+      if (offset) *startCol = left;
+      return offset;
     }
-    const int indent = LeftBorderWidth(*startCell);
-    const wchar_t* const text = startCell->GetText();
-    const FontInUse font(*dc, startCell->GetFont());
-    const int textWidth = dc->GetTextExtent(text, static_cast<int>(std::wcslen(text))).cx;
-    const int used = indent + m_control->GetMargin() + BitmapWidth(*startCell);
-    if (!TextReaches(distance, used, textWidth)) return 0;
-    *startCol = left;
-    return indent - distance;
+    if (startCell->GetBitmap() != nullptr) return std::nullopt;
+    if (hints != nullptr && hints->IsUnreached(left, row)) return std::nullopt;
   }
-  return 0;
+  return std::nullopt;
+}
+
+/// The offset of the cell's text seen from so many pixels behind its start; none when it ends before.
+std::optional<int> CGridCellType::SpillOver(CDC* dc, int distance, CGridCell* cell) const {
+  const int indent = LeftBorderWidth(*cell);
+  const wchar_t* const text = cell->GetText();
+  const FontInUse font(*dc, cell->GetFont());
+  const int textWidth = dc->GetTextExtent(text, static_cast<int>(std::wcslen(text))).cx;
+  const int used = indent + m_control->GetMargin() + BitmapWidth(*cell);
+  return TextReaches(distance, used, textWidth) ? std::optional(indent - distance) : std::nullopt;
 }
 
 int CGridCellType::LeftBorderWidth(const CGridCell& cell) const {

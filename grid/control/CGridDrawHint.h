@@ -58,6 +58,15 @@ class COREGUI_API CGridDrawHint : public CObject {
     std::erase_if(m_spills, [&isShown](const Cell& cell) { return !isShown(cell.row); });
   }
 
+  /// While a row is drawn from left to right, what was found out about one cell serves the next: that no text
+  /// from further left reaches it. That is remembered of the last cell asked for, from EnterRow to LeaveRow.
+  void EnterRow(long row) { m_unreached = {row, kNoColumn}; }
+  void LeaveRow() { m_unreached = {kNoRow, kNoColumn}; }
+  void NoteUnreached(int col, long row) {
+    if (row == m_unreached.row) m_unreached.col = col;
+  }
+  bool IsUnreached(int col, long row) const { return m_unreached == Cell{row, col}; }
+
  private:
   struct Cell {
     long row;
@@ -69,4 +78,7 @@ class COREGUI_API CGridDrawHint : public CObject {
   std::vector<Cell> m_valid;
   std::vector<Cell> m_spills;  ///< in order
   Range m_box;
+  static constexpr int kNoColumn = -1;
+  static constexpr long kNoRow = -1;
+  Cell m_unreached{kNoRow, kNoColumn};  ///< of the row that is being drawn
 };

@@ -115,7 +115,11 @@ bool CGridPainter::DrawRow(Pass& pass, long row, int height) {
   pass.anyRow = true;
   m_control.GetInfo().columns.last = m_columns.last;
   m_row.Enter(row);
-  if (!m_row.IsEmpty() && !DrawCells(pass, row, height)) return false;
+  if (!m_row.IsEmpty()) {
+    m_hints.EnterRow(row);
+    if (!DrawCells(pass, row, height)) return false;
+    m_hints.LeaveRow();
+  }
   RememberFocus(pass, row, height);
   return true;
 }

@@ -1,7 +1,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
+#include <map>
+#include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "grid/celltypes/CGridCellType.h"
@@ -25,7 +29,13 @@ class WatchedType : public CGridCellType {
     drawn.push_back(col);
     CGridCellType::OnDraw(dc, rect, col, row, cell, selected, current);
   }
+  int GetCellOverlapInfo(CDC* dc, int col, long row, int* startCol, CGridCell* startCell) override {
+    const int offset = CGridCellType::GetCellOverlapInfo(dc, col, row, startCol, startCell);
+    if (col >= 0 && row >= 0) spills[{col, row}] = offset;
+    return offset;
+  }
   std::vector<int> drawn;
+  std::map<std::pair<int, long>, int> spills;  ///< what each cell was told last
 };
 
 /// Eight columns of 60 pixels in a window.
@@ -63,12 +73,12 @@ struct OverlapWindow {
     hints.ClearHints();
     return hinted;
   }
-  /// The offset of the text that spills into a column of row 0.
-  int SpillInto(int col) {
+  /// The offset of the text that spills into a cell.
+  int SpillInto(int col, long row = 0) {
     CClientDC screen(&grid);
     int start = 0;
     CGridCell from;
-    return grid.GetCellType(0)->GetCellOverlapInfo(&screen, col, 0, &start, &from);
+    return grid.GetCellType(0)->GetCellOverlapInfo(&screen, col, row, &start, &from);
   }
 };
 
@@ -118,6 +128,39 @@ TEST_F(CellOverlapTest, ATextPassesOverCellsThatCanShowItOnly) {
   EXPECT_EQ(SpillInto(2), -117);
   grid.QuickSetText(1, 0, L"b");
   EXPECT_EQ(SpillInto(2), 0);
+}
+
+TEST_F(CellOverlapTest, APassFindsWhatEachCellWouldFindAlone) {
+  std::mt19937 random(5);
+  const auto any = [&random](auto... choices) {
+    return std::array{choices...}[random() % sizeof...(choices)];
+  };
+  grid.LockColumns(1);
+  std::size_t asked = 0;
+  std::size_t reached = 0;
+  for (int step = 0; step < 60; ++step) {
+    for (int col = 0; col < 8; ++col) {
+      grid.SetColWidth(col, any(60, 60, 25, 3, 0));
+      for (long row = 0; row < 5; ++row) {
+        grid.QuickSetCellType(col, row, any(watchedId, watchedId, watchedId, watchedId, 2));
+        grid.QuickSetText(col, row, any(L"", L"", L"", L"a", kLong));
+        grid.QuickSetAlignment(col, row, static_cast<short>(any(1, 1, 1, 1, 2)));
+        grid.QuickSetBorder(col, row, static_cast<short>(any(0, 0, 0x100)));
+      }
+    }
+    grid.SetLeftCol(any(1, 1, 2, 4));
+    CWinApp::PumpPending();
+    watched.spills.clear();
+    grid.GetGridWnd()->RedrawWindow();
+    for (const auto& [cell, offset] : std::map(watched.spills)) {
+      EXPECT_EQ(offset, SpillInto(cell.first, cell.second))
+          << step << ": " << cell.first << ',' << cell.second;
+      ++asked;
+      reached += offset != 0 ? 1 : 0;
+    }
+  }
+  EXPECT_GT(reached, 50U);
+  EXPECT_GT(asked - reached, 50U);
 }
 
 TEST_F(CellOverlapTest, AHintGoesOnThroughTextsToTheNextType) {
