@@ -26,6 +26,7 @@ const MessageTable& CGrid::GetMessageTable() const {
                                         .On<WM_ERASEBKGND>(&CGrid::HandleErase)
                                         .On<WM_PRINTCLIENT>(&CGrid::HandlePrintClient)
                                         .On<WM_SIZE>(&CGrid::HandleSize)
+                                        .On<WM_DPICHANGED>(&CGrid::HandleDpiChanged)
                                         .On<WM_SYSCOLORCHANGE>(&CGrid::HandleSystemChange)
                                         .On<WM_THEMECHANGED>(&CGrid::HandleSystemChange)
                                         .On<WM_LBUTTONDOWN>(&CGrid::HandleLButtonDown)
@@ -251,6 +252,12 @@ int CGrid::SetDoubleBufferMode(int mode) {
 
 void CGrid::HandleSize(UINT, int, int) {
   SetDoubleBufferMode(m_bufferMode);
+}
+
+/// The bitmap has the dots of the scale that it was made for.
+LRESULT CGrid::HandleDpiChanged(WPARAM, LPARAM) {
+  SetDoubleBufferMode(m_bufferMode);
+  return 0;
 }
 
 void CGrid::HandleSystemChange() {

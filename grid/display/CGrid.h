@@ -56,6 +56,7 @@ class COREGUI_API CGrid : public CWnd {
   BOOL HandleErase(CDC* dc);
   LRESULT HandlePrintClient(WPARAM wParam, LPARAM lParam);
   void HandleSize(UINT type, int width, int height);
+  LRESULT HandleDpiChanged(WPARAM wParam, LPARAM lParam);
   void HandleSystemChange();
   void HandleLButtonDown(UINT flags, CPoint point);
   void HandleLButtonUp(UINT flags, CPoint point);
@@ -88,5 +89,5 @@ class COREGUI_API CGrid : public CWnd {
   coregui::CGridTips m_tips;
   std::unique_ptr<CBitmap> m_buffer;  ///< null while double buffering is off
   int m_bufferMode = 0;
-  bool m_bufferStale = false;  ///< the window was sized inside a paint pass
+  bool m_bufferStale = false;  ///< the window's size or scale changed inside a paint pass
 };
