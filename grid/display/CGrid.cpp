@@ -192,8 +192,8 @@ void CGrid::HintUpdateRect(const CRect& update) {
   const int col = m_control->GetCurrentCol();
   const long row = m_control->GetCurrentRow();
   const bool exactly = startCol >= col && endCol <= col && startRow >= row && endRow <= row;
-  // A highlighted row is drawn as a whole even then: its focus rectangle is.
-  if (!exactly || info.view.highlightRow != 0) m_painter.HintCurrent(col, row);
+  // The current cell alone is drawn alone, in a highlighted row too, but where the row's frame has to go.
+  if (!exactly || m_painter.FrameHasToGo()) m_painter.HintCurrent(col, row);
 }
 
 void CGrid::DrawCellsIntern(CDC* screenDC, CDC* memDC) {

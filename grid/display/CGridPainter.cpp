@@ -41,6 +41,7 @@ void CGridPainter::Paint(const PaintSurface& surface) {
             false,
             CRect()};
   m_painting = true;
+  m_drawn.clear();
   Run(pass);
   if (pass.alive) m_painting = false;
 }
@@ -183,6 +184,7 @@ bool CGridPainter::DrawFetched(Pass& pass, const CGridCellPainter::Cell& cell) {
   const int saved = pass.dc->SaveDC();
   const CRect pane = PaneOf(cell);
   pass.dc->IntersectClipRect(pane);
+  if (pane.top < m_frame.bottom && pane.bottom > m_frame.top) m_drawn.push_back(pane);
   m_cells.Draw(*pass.dc, cell, selected, current ? 1 : 0);
   if (!pass.alive) return false;
   pass.dc->RestoreDC(saved);
@@ -291,14 +293,34 @@ bool CGridPainter::FillBlank(Pass& pass) {
   return true;
 }
 
+bool CGridPainter::ShowsFrame() const {
+  return !m_focusRectOff && m_control.GetEditInProgress() == 0 &&
+         (m_hasFocus || m_control.IsFindDialogOpen() != 0);
+}
+
+/// The frame inverts what is below. Where it stands already and no cell was drawn over it, it would go.
 void CGridPainter::DrawFocusRect(Pass& pass) {
-  if (!pass.hasFocusCell || m_focusRectOff || m_control.GetEditInProgress() != 0) return;
-  if (!m_hasFocus && m_control.IsFindDialogOpen() == 0) return;
+  const bool shows = pass.hasFocusCell && ShowsFrame();
+  const CRect before = std::exchange(m_frame, shows ? pass.focus : CRect());
+  if (!shows) return;
   RECT rect = pass.focus;
   CDC* const screen = pass.surface.screen;
+  const int saved = screen->SaveDC();
+  if (before == pass.focus && pass.surface.memory == nullptr) ExcludeWhatStayed(*screen, before);
   CGridCellDelegate* const type = m_control.GetCellDelegate(m_shownCol, m_shownRow);
   if (type->OnDrawFocusRect(screen, &rect, m_shownCol, m_shownRow) == 0 && pass.alive) {
     m_control.OnDrawFocusRect(screen, &rect);
+  }
+  if (pass.alive) screen->RestoreDC(saved);
+}
+
+/// Confines the context to the columns that were drawn anew in the frame's height.
+void CGridPainter::ExcludeWhatStayed(CDC& dc, const CRect& frame) const {
+  for (const ShownLine& line : m_columns.lines) {
+    const bool drawn = std::any_of(m_drawn.begin(), m_drawn.end(), [&](const CRect& cell) {
+      return cell.left <= line.start && cell.right >= line.End();
+    });
+    if (!drawn) dc.ExcludeClipRect(CRect(line.start, frame.top, line.End(), frame.bottom));
   }
 }
 

@@ -51,6 +51,8 @@ class COREGUI_API CGridPainter {
   /// cell.
   void HintCurrent(int col, long row);
   void HintAll();
+  /// Whether the screen shows a focus rectangle that the next pass will not draw.
+  bool FrameHasToGo() const { return !m_frame.IsRectEmpty() && !ShowsFrame(); }
 
   /// The current cell as the last pass drew it.
   int ShownCol() const { return m_shownCol; }
@@ -74,7 +76,9 @@ class COREGUI_API CGridPainter {
   void DrawSeparators(CDC& dc, const CRect& rect, int col, long row) const;
   void RememberShown();
   bool FillBlank(Pass& pass);
+  bool ShowsFrame() const;
   void DrawFocusRect(Pass& pass);
+  void ExcludeWhatStayed(CDC& dc, const CRect& frame) const;
   int FocusRight() const;
 
   CGridCtrl& m_control;
@@ -84,6 +88,8 @@ class COREGUI_API CGridPainter {
   CHintedRow m_row;
   LineWalk m_columns;  ///< the columns in view, in the pass
   std::vector<CGridDrawHint::Range> m_requested;
+  std::vector<CRect> m_drawn;  ///< the places of the cells beside m_frame that the pass drew
+  CRect m_frame;               ///< the focus rectangle on the screen; empty without one
   bool m_painting = false;
   bool m_hasFocus = false;
   bool m_focusRectOff = false;

@@ -213,6 +213,34 @@ TEST_F(GridPictureTest, ACheckBoxTogglesWithAClickInItsBox) {
   EXPECT_EQ(state, 0) << "the label is no box; the space character toggles";
 }
 
+TEST_F(GridPictureTest, TheCurrentCellOfAHighlightedRowIsPaintedAloneUnderTheRowsFrame) {
+  Open();
+  CWnd& body = *grid.GetGridWnd();
+  body.SetFocus();
+  grid.GotoCell(3, 9);
+  CWinApp::PumpPending();
+  const std::vector<DWORD> framed = Dots();
+  const auto paintCell = [&](bool withFrame) {
+    if (!withFrame) grid.TempDisableFocusRect();
+    const CRect cell = Cell(3, 9);
+    body.InvalidateRect(&cell, FALSE);
+    body.UpdateWindow();
+    return Dots();
+  };
+  grid.QuickSetText(5, 9, L"not yet");
+  EXPECT_EQ(paintCell(true) == framed, true) << "neither the neighbours nor the frame change";
+  grid.QuickSetText(5, 9, L"");
+  grid.QuickSetText(3, 9, L"changed");
+  EXPECT_EQ(paintCell(true) == framed, false);
+  EXPECT_EQ(DifferenceToFresh(), "");
+  const std::vector<DWORD> changed = Dots();
+  const std::vector<DWORD> bare = paintCell(false);
+  grid.TempDisableFocusRect();
+  body.RedrawWindow();
+  EXPECT_EQ(Dots() == bare, true) << "the whole frame had gone";
+  EXPECT_EQ(paintCell(true) == changed, true) << "the whole frame comes back";
+}
+
 TEST_F(GridPictureTest, PaintsNothingWhilePaintingIsDisabled) {
   Open();
   const std::vector<DWORD> before = Dots();
