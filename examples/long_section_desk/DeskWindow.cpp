@@ -97,8 +97,10 @@ BOOL DeskWindow::CreateDesk(CSize size) {
   m_difference.SetAccessibleName(L"Difference of ground and design");
   m_grid.SetRowHook([this](long row) { FollowRow(row); });
   m_grid.SetOrderHook([this] {
-    m_data = TakeSection(m_grid);
-    FollowRow(m_grid.GetCurrentRow());
+    if (!m_data.IsEmpty()) {
+      m_data = TakeSection(m_grid);
+      FollowRow(m_grid.GetCurrentRow());
+    }
   });
   m_section.SetStepHook([this](StationStep step) { Step(step); });
   m_grid.SetFocusHook([this] { Invalidate(FALSE); });
@@ -107,7 +109,7 @@ BOOL DeskWindow::CreateDesk(CSize size) {
   m_difference.SetFuncHook(&DeskWindow::OnDifferenceEvent);
   m_section.SetSlaveView(&m_difference);
   m_status.Show(L"Open a survey with Ctrl+O. F1 shows all keys.");
-  ShowSection();
+  ShowSection(SectionData());
   ShowTitle();
   return TRUE;
 }

@@ -7,6 +7,7 @@
 #include "DifferenceView.h"
 #include "PrintChoice.h"
 #include "SectionData.h"
+#include "SectionMaker.h"
 #include "SectionView.h"
 #include "Splitter.h"
 #include "StatusLine.h"
@@ -50,6 +51,7 @@ class DeskWindow : public CWnd, private SurveySink {
   const SurveyReport& Report() const { return m_report; }
   SurveyGrid& Grid() { return m_grid; }
   SectionView& Section() { return m_section; }
+  const SectionData& Data() const { return m_data; }
   DifferenceView& Difference() { return m_difference; }
   const SurveyLock& Lock() const { return m_lock; }
   const std::wstring& StatusText() const { return m_status.Text(); }
@@ -82,11 +84,12 @@ class DeskWindow : public CWnd, private SurveySink {
   void Begin(const CsvDialect& dialect) override;
   void Row(std::uint64_t row, const std::vector<std::wstring_view>& fields) override;
   bool Progress(double part) override;
-  SurveyReport Read(const std::wstring& path);
+  SectionData Read(const std::wstring& path);
+  SectionData MakeSection();
   void EnablePanes(bool on);
   void Tell(const std::wstring& text);
   void ShowTitle();
-  void ShowSection();
+  void ShowSection(SectionData data);
 
   // Table and section follow each other
   static void OnSectionEvent(PNT_2D_record const& position, EVENT_TYPE event, char keyFlags, char key,
@@ -148,12 +151,13 @@ class DeskWindow : public CWnd, private SurveySink {
   std::wstring m_path;     ///< of the survey shown; empty when none is
   std::wstring m_opening;  ///< name of the file that is being read
   SurveyReport m_report;   ///< of the file tried last
+  SectionMaker m_maker;    ///< gathers the section of the file that is being read
   CRect m_placeBefore;     ///< of the window when it was last not maximised
   bool m_maximised = false;
   bool m_unattended = false;
   bool m_following = false;   ///< table and section follow each other; not in circles
-  bool m_reading = false;     ///< a file is being read, with the windows kept alive
-  bool m_stop = false;        ///< the reading is to stop
+  bool m_reading = false;     ///< a file is being read or its section made, with the windows kept alive
+  bool m_stop = false;        ///< that is to stop
   bool m_closeAfter = false;  ///< and the window to close
 };
 

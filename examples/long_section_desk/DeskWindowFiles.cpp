@@ -1,5 +1,8 @@
+#include <atomic>
+#include <chrono>
 #include <cmath>
 #include <filesystem>
+#include <future>
 
 #include "DeskHelp.h"
 #include "DeskMemory.h"
@@ -56,13 +59,14 @@ bool DeskWindow::Open(const std::wstring& path) {
   m_opening = FileName(whole);
   m_report = SurveyReport();
   m_report.error = SurveyFault(whole);
+  SectionData data;
   SurveyLock lock;
   // A file that is read again keeps its lock; another one gets it only when it can be shown.
   const bool sameLock = m_lock.IsFor(whole);
   if (m_report.error.empty()) {
     SurveyLock& taken = sameLock ? m_lock : lock;
     m_unattended ? taken.Look(whole) : taken.Take(whole, this);
-    m_report = Read(whole);
+    data = Read(whole);
   }
   if (m_closeAfter) {
     PostMessage(WM_CLOSE);  // what was read is not shown any more
@@ -77,10 +81,10 @@ bool DeskWindow::Open(const std::wstring& path) {
   if (!sameLock) {
     m_lock = std::move(lock);
   }
-  m_status.Show(L"Showing " + m_report.RowsText() + L" of " + m_opening);
-  m_grid.EndTable(m_report.rows);
-  ShowSection();
-  m_status.Show(m_opening + L": " + m_report.Summary(), m_report.HasOddities());
+  const bool leftOut = m_stop && data.IsEmpty();
+  ShowSection(std::move(data));
+  m_status.Show(m_opening + L": " + m_report.Summary() + (leftOut ? L"; the section was left out" : L""),
+                m_report.HasOddities() || leftOut);
   m_status.ShowState(m_lock.Text());
   ShowTitle();
   if (!m_unattended) {
@@ -89,19 +93,41 @@ bool DeskWindow::Open(const std::wstring& path) {
   return true;
 }
 
-/// The windows are kept alive meanwhile: Esc and the close button stop the reading.
-SurveyReport DeskWindow::Read(const std::wstring& path) {
+/// Reads a survey into the table and gives its section. The windows are kept alive meanwhile: Esc and the
+/// close button stop the reading, or leave out the section when all is read.
+SectionData DeskWindow::Read(const std::wstring& path) {
   const WaitCursor wait;
   m_reading = true;
   m_stop = m_closeAfter = false;
   CWnd* focus = GetFocus();
   SetFocus();  // for Esc: disabled panes get no keys
   EnablePanes(false);
-  SurveyReport report = ReadSurvey(path, *this);
+  m_report = ReadSurvey(path, *this);
+  SectionData data;
+  if (m_report.error.empty() && !m_closeAfter) {
+    m_status.Show(L"Showing " + m_report.RowsText() + L" of " + m_opening + L" (Esc leaves out the section)");
+    m_grid.EndTable(m_report.rows);
+    m_stop = false;  // Esc has had the reading stopped; what was read is shown
+    data = MakeSection();
+  }
   m_reading = false;
   EnablePanes(true);
   (focus != nullptr && IsChild(focus) ? focus : this)->SetFocus();
-  return report;
+  return data;
+}
+
+/// Of millions of rows the section takes a while, even of what was gathered: it is made beside the windows.
+SectionData DeskWindow::MakeSection() {
+  constexpr std::chrono::milliseconds wait(5);
+  std::atomic<bool> stop = false;
+  auto making = std::async(std::launch::async, [this, &stop, rows = static_cast<long>(m_report.rows)] {
+    return m_maker.Make(rows, stop);
+  });
+  while (making.wait_for(wait) != std::future_status::ready) {
+    const bool goOn = m_unattended || CWinApp::PumpPending();  // lets Esc and the close button stop it
+    stop = m_stop = m_stop || !goOn;
+  }
+  return making.get();
 }
 
 void DeskWindow::EnablePanes(bool on) {
@@ -112,11 +138,17 @@ void DeskWindow::EnablePanes(bool on) {
 }
 
 void DeskWindow::Begin(const CsvDialect& dialect) {
+  // The section goes with its table, before the next one takes its room.
+  m_data = SectionData();
+  m_section.Invalidate();
+  m_difference.Invalidate();
   m_grid.BeginTable(dialect);
+  m_maker.Begin(FindSectionColumns(dialect.headings, dialect.numeric));
 }
 
 void DeskWindow::Row(std::uint64_t row, const std::vector<std::wstring_view>& fields) {
   m_grid.StoreRow(row, fields);
+  m_maker.Add(static_cast<long>(row), m_grid.StoredNumbers());
 }
 
 bool DeskWindow::Progress(double part) {

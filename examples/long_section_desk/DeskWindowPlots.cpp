@@ -7,8 +7,7 @@
 
 namespace desk {
 
-void DeskWindow::ShowSection() {
-  SectionData data = TakeSection(m_grid);
+void DeskWindow::ShowSection(SectionData data) {
   m_layout.hasPlots = !data.IsEmpty();
   m_layout.hasDifference = data.HasDesign();
   for (CWnd* pane : std::initializer_list<CWnd*>{&m_bar, &m_section}) {

@@ -38,7 +38,7 @@ struct SectionData {
   long PointOfRow(long row) const;
 };
 
-/// Rows without a chainage are no part of the section.
+/// The section of the table as it stands. Rows without a chainage are no part of it.
 SectionData TakeSection(SurveyGrid& grid);
 
 }  // namespace desk

@@ -1,6 +1,7 @@
 #include "SurveyGrid.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace desk {
 
@@ -61,12 +62,14 @@ void SurveyGrid::StoreRow(std::uint64_t row, const std::vector<std::wstring_view
   if (gridRow >= GetNumberRows()) {
     SetNumberRows(std::max(kFirstRows, gridRow * 2), 0);
   }
+  m_numbers.assign(m_dialect.headings.size(), std::numeric_limits<double>::quiet_NaN());
   for (std::size_t column = 0; column < fields.size(); ++column) {
     double number = 0.0;
     // Only the value is stored: how it looks is the column's business.
     m_cell.SetPropertyFlags(0);
     if (m_dialect.numeric[column] && ParseNumber(fields[column], m_dialect.decimal, number)) {
       m_cell.SetNumber(number);
+      m_numbers[column] = number;
     } else if (!fields[column].empty()) {
       m_cell.SetText(std::wstring(fields[column]).c_str());
     } else {

@@ -17,6 +17,8 @@ class SurveyGrid : public CGridCtrl {
   void BeginTable(const CsvDialect& dialect);
   /// Stores one row; rows come in order from 0.
   void StoreRow(std::uint64_t row, const std::vector<std::wstring_view>& fields);
+  /// What the row stored last holds: for each column its number, NaN where it is empty or a text.
+  const std::vector<double>& StoredNumbers() const { return m_numbers; }
   /// Sets the number of rows, sizes the columns to what they hold and shows the table.
   void EndTable(std::uint64_t rows);
   /// What a row's cell of a number column holds; false for an empty cell or a text.
@@ -56,6 +58,7 @@ class SurveyGrid : public CGridCtrl {
   std::function<void()> m_orderHook;
   std::function<void()> m_focusHook;
   std::vector<Longest> m_longest;  ///< for each column
+  std::vector<double> m_numbers;   ///< of the row stored last
   CGridCell m_cell;                ///< reused for every cell stored or asked for a number
 };
 

@@ -130,6 +130,8 @@ TEST_F(DeskFiles, EscAndTheCloseButtonStopTheReading) {
   ASSERT_TRUE(window.Open(path));
   EXPECT_TRUE(window.Report().cutShort);
   EXPECT_LT(window.Grid().GetNumberRows(), 100000);
+  // What was read has its section all the same.
+  EXPECT_EQ(window.Data().rows.size(), static_cast<std::size_t>(window.Grid().GetNumberRows()));
   window.PostMessage(WM_CLOSE);
   EXPECT_FALSE(window.Open(path));
   EXPECT_TRUE(window.HasWindow());

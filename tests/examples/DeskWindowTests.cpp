@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
@@ -245,6 +246,51 @@ TEST_F(Desk, TheSectionRunsAlongTheChainageWhateverTheOrderOfRows) {
   EXPECT_EQ(data.NearestPoint(26.0), 2);
   EXPECT_EQ(data.NearestPoint(99.0), 2);
   EXPECT_EQ(data.NearestPoint(std::nan("")), -1);
+}
+
+TEST_F(Desk, TheSectionGatheredWhileReadingIsThatOfTheTable) {
+  // Several blocks of rows, chainages in no order and met more than once, some of them and some levels
+  // missing.
+  constexpr long kRows = 140000;
+  std::string road = "Chainage,Ground level,Design level\n";
+  std::vector<std::pair<long, long>> stations;
+  for (long row = 0; row < kRows; ++row) {
+    const long chainage = row * 7919 % 50021;
+    const bool hasChainage = row % 1000 != 777;  // not yet in the rows that decide on the columns
+    road += (hasChainage ? std::to_string(chainage) : row % 2000 == 777 ? "lost" : "") + ",";
+    road += (row % 500 == 333 ? "none" : std::to_string(row % 91)) + "," + std::to_string(row % 17) + "\n";
+    if (hasChainage) {
+      stations.emplace_back(chainage, row);
+    }
+  }
+  std::sort(stations.begin(), stations.end());  // of equal chainages the earlier row first
+  ASSERT_TRUE(window.Open(Write("a.csv", road)));
+  const desk::SectionData& data = window.Data();
+  ASSERT_EQ(data.rows.size(), stations.size());
+  const auto faults = std::count_if(data.rows.begin(), data.rows.end(), [&](const long& row) {
+    const auto at = static_cast<std::size_t>(&row - data.rows.data());
+    const PNT_2D_record& ground = data.ground.GetPoints()[at];
+    const double level = static_cast<double>(row % 91);
+    return stations[at] != std::pair(static_cast<long>(ground.x), row) ||
+           (row % 500 == 333 ? !std::isnan(ground.y) : ground.y != level) ||
+           data.design.GetPoints()[at].y != static_cast<double>(row % 17) ||
+           (row % 500 != 333 && data.difference.GetPoints()[at].y != level - static_cast<double>(row % 17)) ||
+           data.PointOfRow(row) != static_cast<long>(at);
+  });
+  EXPECT_EQ(faults, 0);
+  EXPECT_EQ(data.PointOfRow(777), -1);
+  EXPECT_EQ(data.PointOfRow(kRows), -1);
+  EXPECT_EQ(desk::TakeSection(window.Grid()).rows, data.rows);
+}
+
+TEST(SectionMaker, LeavesOffWhenStoppedAndStartsAfresh) {
+  desk::SectionMaker maker;
+  maker.Begin({0, 1, -1});
+  maker.Add(0, {5.0, 100.0});
+  EXPECT_TRUE(maker.Make(1, true).IsEmpty());
+  maker.Add(1, {3.0, 101.0});
+  EXPECT_EQ(maker.Make(2, false).rows, std::vector<long>({1}));
+  EXPECT_TRUE(maker.Make(2, false).IsEmpty());
 }
 
 TEST(SectionColumns, AreFoundByTheirNames) {
