@@ -78,6 +78,7 @@ TEST(Expression, GivesTheValueWhateverTheLocale) {
 }
 
 TEST(Expression, KnowsTheUsualFunctionsAndConstants) {
+  const std::wstring nested = std::wstring(2000, L'(') + L"1" + std::wstring(2000, L')');
   const std::pair<std::wstring, double> rows[] = {
       {L" 2 * (3 + sqrt(16)) ", 14},
       {L"-2^2", -4},
@@ -90,7 +91,7 @@ TEST(Expression, KnowsTheUsualFunctionsAndConstants) {
       {L"max(1,7,3)", 7},
       {L"1e3", 1000},
       {L"3>2 ? 10 : 20", 10},
-      {std::wstring(2000, L'(') + L"1" + std::wstring(2000, L')'), 1},
+      {nested, 1},
   };
   for (const auto& [text, expected] : rows) {
     double value = 0;
@@ -102,32 +103,15 @@ TEST(Expression, KnowsTheUsualFunctionsAndConstants) {
 }
 
 TEST(Expression, FailureGivesAReasonAndLeavesTheValue) {
-  const std::wstring rows[] = {L"",
-                               L"   ",
-                               L"1+",
-                               L"(1",
-                               L"1)",
-                               L"2 3",
-                               L"1,5",
-                               L"x+1",
-                               L"sin",
-                               L"sin()",
-                               L"1/0",
-                               L"sqrt(-1)",
-                               L"\"text\"",
-                               L"x=5",
-                               L"1e999",
-                               L"5\u20AC",
-                               std::wstring(5000, L'1'),
-                               std::wstring(4096, L'('),
-                               L"\xD800",
-                               L"1?2",
-                               L"atan2(1)",
-                               L"+-*/"};
-  for (const std::wstring& text : rows) {
+  const std::wstring longest(5000, L'1');
+  const std::wstring deepest(4096, L'(');
+  for (const wchar_t* text :
+       {L"",       L"   ",   L"1+",       L"(1",       L"1)",           L"2 3",         L"1,5",   L"x+1",
+        L"sin",    L"sin()", L"1/0",      L"sqrt(-1)", L"\"text\"",     L"x=5",         L"1e999", L"5\u20AC",
+        L"\xD800", L"1?2",   L"atan2(1)", L"+-*/",     longest.c_str(), deepest.c_str()}) {
     double value = 42;
     std::wstring reason;
-    EXPECT_FALSE(coreEvaluateExpression(text.c_str(), value, &reason)) << coregui::ToUtf8(text);
+    EXPECT_FALSE(coreEvaluateExpression(text, value, &reason)) << coregui::ToUtf8(text);
     EXPECT_EQ(value, 42) << coregui::ToUtf8(text);
     EXPECT_FALSE(reason.empty()) << coregui::ToUtf8(text);
   }

@@ -69,9 +69,6 @@ TEST_F(ControlLife, TheParentMayDestroyAControlThatTellsIt) {
       0, [](CScrollBar& bar) { QTest::mouseClick(WidgetOf(bar), Qt::LeftButton, {}, QPoint(145, 30)); });
   Destroy<CSliderCtrl>(0, [](CSliderCtrl& slider) { QTest::keyClick(WidgetOf(slider), Qt::Key_Right); });
   Destroy<CSpinButtonCtrl>(0, [](CSpinButtonCtrl& spin) { QTest::keyClick(WidgetOf(spin), Qt::Key_Up); });
-}
-
-TEST_F(ControlLife, AListMayGoWhileOneChoosesFromIt) {
   Destroy<CListBox>(0, [](CListBox& list) {
     list.AddString(L"a");
     auto* widget = static_cast<QListWidget*>(WidgetOf(list));

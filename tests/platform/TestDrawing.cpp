@@ -423,7 +423,7 @@ TEST(SurfaceDamage, Damage_AsksForOneExposureUntilTakenAndKeepsFarPiecesApart) {
   EXPECT_EQ(asked, 2);
 }
 
-TEST(MemoryContext, Bitmap_IsDrawnOnAndCopiedBack) {
+TEST(MemoryContext, Bitmap_IsDrawnOnAndCopiedBackAndTransparentDotsLetTheGroundThrough) {
   CBitmap bitmap;
   ASSERT_TRUE(bitmap.CreateCompatibleBitmap(nullptr, 20, 10));
   CMemoryDC memory(nullptr, &bitmap);
@@ -436,13 +436,7 @@ TEST(MemoryContext, Bitmap_IsDrawnOnAndCopiedBack) {
   EXPECT_EQ(dc.GetPixel(15, 10), white);
   EXPECT_FALSE(bitmap.CreateCompatibleBitmap(nullptr, 0, 5));
   EXPECT_FALSE(bitmap.IsCreated());
-}
-
-TEST(MemoryContext, TransparentDots_LetTheGroundThrough) {
-  CBitmap bitmap;
   ASSERT_TRUE(bitmap.CreateFromPixels(2, 1, {0xFFFF0000, 0x00000000}));
-  const auto surface = std::make_shared<coregui::Surface>(CSize(10, 10), 1.0);
-  SurfaceDC dc(surface);
   dc.DrawBitmap(bitmap, 3, 3);
   EXPECT_EQ(dc.GetPixel(3, 3), red);
   EXPECT_EQ(dc.GetPixel(4, 3), white);

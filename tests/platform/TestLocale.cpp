@@ -17,14 +17,10 @@ TEST(Locale, TextsFollowTheNamedLocale) {
     int currencyDigits;
   };
   constexpr Row rows[] = {
-      {L"en_US", L"-1,234,567.50", 2},
-      {L"C", L"-1,234,567.50", 2},
-      {L"de_DE", L"-1.234.567,50", 2},
-      {L"de_CH", L"-1\u2019234\u2019567.50", 2},
-      {L"fr_CH", L"-1\u202F234\u202F567,50", 2},
-      {L"hi_IN", L"-1,234,567.50", 2},  // groups by three, here too
-      {L"sv_SE", L"-1\u00A0234\u00A0567,50", 2},
-      {L"ja_JP", L"-1,234,567.50", 0},
+      {L"en_US", L"-1,234,567.50", 2},           {L"C", L"-1,234,567.50", 2},
+      {L"de_DE", L"-1.234.567,50", 2},           {L"de_CH", L"-1\u2019234\u2019567.50", 2},
+      {L"fr_CH", L"-1\u202F234\u202F567,50", 2}, {L"hi_IN", L"-1,234,567.50", 2},
+      {L"sv_SE", L"-1\u00A0234\u00A0567,50", 2}, {L"ja_JP", L"-1,234,567.50", 0},
   };
   for (const Row& row : rows) {
     ASSERT_TRUE(SetUserLocale(row.locale)) << CString(row.locale).ToUtf8();

@@ -2,7 +2,9 @@
 
 #include <QLineEdit>
 #include <QTest>
+#include <functional>
 #include <memory>
+#include <utility>
 
 #include "platform/CDialog.h"
 #include "platform/CWinApp.h"
@@ -105,16 +107,28 @@ class WindowEnd : public testing::TestWithParam<EndRow> {};
 
 /// In the middle of a real press, a real key and a message, the window or its parent goes.
 TEST_P(WindowEnd, InItsOwnHandlerIsSafe) {
-  for (const UINT when :
-       {WM_LBUTTONDOWN, WM_KEYDOWN, WM_CHAR, WM_MOUSEWHEEL, WM_SETFOCUS, WM_SIZE, WM_PAINT, WM_DESTROY}) {
-    auto parent = std::make_unique<LogWindow>();
-    auto child = std::make_unique<LogWindow>();
+  std::unique_ptr<LogWindow> parent;
+  std::unique_ptr<LogWindow> child;
+  QPointer<QWidget> widget;
+  const auto pressKey = [&] { QTest::keyPress(widget, Qt::Key_A); };
+  const std::pair<UINT, std::function<void()>> rows[] = {
+      {WM_LBUTTONDOWN, [&] { QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(3, 3)); }},
+      {WM_KEYDOWN, pressKey},
+      {WM_CHAR, pressKey},
+      {WM_MOUSEWHEEL, [&] { child->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 120), 0); }},
+      {WM_SETFOCUS, [&] { child->SetFocus(); }},
+      {WM_SIZE, [&] { child->MoveWindow(0, 0, 60, 40); }},
+      {WM_PAINT, [&] { child->Invalidate(), CWinApp::PumpPending(); }},
+      {WM_DESTROY, [&] { parent->DestroyWindow(); }}};
+  for (const auto& [when, act] : rows) {
+    parent = std::make_unique<LogWindow>();
+    child = std::make_unique<LogWindow>();
     ASSERT_TRUE(parent->Open());
     ASSERT_TRUE(child->OpenIn(*parent, CRect(0, 0, 50, 50)));
     CWinApp::PumpPending();
     bool done = false;
-    child->onMessage = [&](UINT message) {
-      if (message != when || std::exchange(done, true)) return;
+    child->onMessage = [&, wanted = when](UINT message) {
+      if (message != wanted || std::exchange(done, true)) return;
       if (GetParam().deletesParent) parent.reset();
       if (GetParam().deletesObject) {
         child.reset();
@@ -122,32 +136,9 @@ TEST_P(WindowEnd, InItsOwnHandlerIsSafe) {
         child->DestroyWindow();
       }
     };
-    const QPointer<QWidget> widget = WidgetOf(child.get());
+    widget = WidgetOf(child.get());
     const HWND handles[] = {parent->GetSafeHwnd(), child->GetSafeHwnd()};
-    switch (when) {
-      case WM_LBUTTONDOWN:
-        QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, QPoint(3, 3));
-        break;
-      case WM_SETFOCUS:
-        child->SetFocus();
-        break;
-      case WM_DESTROY:
-        parent->DestroyWindow();
-        break;
-      case WM_SIZE:
-        child->MoveWindow(0, 0, 60, 40);
-        break;
-      case WM_PAINT:
-        child->Invalidate();
-        CWinApp::PumpPending();
-        break;
-      case WM_MOUSEWHEEL:
-        child->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 120), 0);
-        break;
-      default:
-        QTest::keyPress(widget, Qt::Key_A);
-        break;
-    }
+    act();
     EXPECT_TRUE(done) << when;
     EXPECT_EQ(child == nullptr, GetParam().deletesObject);
     EXPECT_FALSE(child != nullptr && child->HasWindow());
@@ -440,17 +431,6 @@ TEST_F(WidgetControl, GetsTheEventOnceBehindTheMessage) {
   edit.passes = false;
   QTest::keyClick(Line(), Qt::Key_Z);
   EXPECT_EQ(Line()->text(), QStringLiteral("ax")) << "a handler keeps a key from the widget";
-}
-
-TEST_F(WidgetControl, ComposedTextLosesWhatAHandlerTakes) {
-  edit.passes = true;
-  edit.onMessage = [this](UINT message) {
-    if (message == WM_CHAR) edit.passes = !edit.passes;
-  };
-  QInputMethodEvent composed;
-  composed.setCommitString(QStringLiteral("1234"));
-  QCoreApplication::sendEvent(Line(), &composed);
-  EXPECT_EQ(Line()->text(), QStringLiteral("24"));
 }
 
 TEST_F(WidgetControl, AClickFocusesByTheSameRoad) {

@@ -390,19 +390,6 @@ INSTANTIATE_TEST_SUITE_P(
                     ScrollRow{"Nowhere", 0, 0, {}, {}, {}, CRect()}),
     [](const auto& row) { return row.param.name; });
 
-TEST_F(WindowPaint, AScrollAndItsPaintGiveTheScrolledPicture) {
-  for (const int first : {4, 5}) {  // whole dots at the usual scales, and not
-    const int distance = first == 4 ? 40 : 10;
-    const bool whole = std::fmod(distance * window.GetScaleFactor(), 1.0) == 0.0;
-    window.ScrollWindow(0, -distance);
-    window.first = first;
-    CWinApp::PumpPending();
-    EXPECT_EQ(window.painted, CRect(0, whole ? 100 - distance : 0, 100, 100));
-    for (int row = 0; row < 10; ++row)
-      EXPECT_EQ(window.At(50, row * 10 + 5), Striped::ColourOf(first + row)) << row;
-  }
-}
-
 TEST_F(WindowPaint, TheSurfaceHasTheDotsOfTheScreensScale) {
   EXPECT_EQ(window.GetScaleFactor(), coregui::WidgetOf(&window)->devicePixelRatioF());
   CClientDC dc(&window);
