@@ -1,5 +1,7 @@
 #include "grid/control/CGridJoins.h"
 
+#include <algorithm>
+
 #include "grid/control/CGridCells.h"
 #include "grid/control/CGridSheets.h"
 #include "grid/data/CGridCell.h"
@@ -63,6 +65,23 @@ void CGridJoins::Dissolve(const Block& block) {
   }
 }
 
+/// A block that begins in a heading shows in each window from its first cell there, which stands for the
+/// block as the origin does elsewhere: it may have been deleted, moved or joined to others since.
+bool CGridJoins::IsWholeAt(int col, long row, const Block& block) {
+  const int firstCol = col < 0 ? block.startCol : std::max(block.startCol, 0);
+  const long firstRow = row < 0 ? block.startRow : std::max(block.startRow, 0L);
+  if (firstCol == block.startCol && firstRow == block.startRow) {
+    return true;
+  }
+  CGridCell first;
+  int origin = 0;
+  int across = 0;
+  long down = 0;
+  m_cells.Get(firstCol, firstRow, &first);
+  return first.GetJoinInfo(&origin, &across, &down) == 0 && origin == 0 &&
+         firstCol + across == block.startCol && firstRow + down == block.startRow;
+}
+
 bool CGridJoins::Find(int col, long row, Block& block) {
   block = {col, row, col, row};
   if (m_sheets.Current().view.joins == 0) {
@@ -87,7 +106,7 @@ bool CGridJoins::Find(int col, long row, Block& block) {
     found = {startCol, startRow, startCol + across, startRow + down};
   }
   if (!IsValid(found) || col > found.endCol || row > found.endRow || col < found.startCol ||
-      row < found.startRow) {
+      row < found.startRow || !IsWholeAt(col, row, found)) {
     return false;
   }
   block = found;

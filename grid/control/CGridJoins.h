@@ -26,12 +26,13 @@ class CGridJoins {
   int Join(const Block& block);
   /// Dissolves every joined block that has a cell in the range. 1 when there is none.
   int UnJoin(const Block& range);
-  /// The block that holds the cell; false, with `block` the cell alone, when it is not joined or joins are
-  /// off.
+  /// The block that holds the cell; false, with `block` the cell alone, when it is not joined, joins are off,
+  /// or the block's first cell in the cell's own window belongs to it no more.
   bool Find(int col, long row, Block& block);
 
  private:
   bool IsValid(const Block& block) const;
+  bool IsWholeAt(int col, long row, const Block& block);
   void Dissolve(const Block& block);
 
   CGridSheets& m_sheets;

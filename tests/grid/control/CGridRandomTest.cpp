@@ -48,6 +48,8 @@ const Operation operations[] = {
     {"MoveTopRow", [](CGridCtrl& g, const Step& s) { g.MoveTopRow(s.a); }},
     {"MoveLeftCol", [](CGridCtrl& g, const Step& s) { g.MoveLeftCol(s.a); }},
     {"JoinCells", [](CGridCtrl& g, const Step& s) { g.JoinCells(s.a, s.b, s.a + s.c / 4, s.b + s.c / 3); }},
+    {"JoinWithHeading", [](CGridCtrl& g, const Step& s) { g.JoinCells(s.c % 2 - 1, s.c % 3 - 1, s.a, s.b); }},
+    {"DeleteCell", [](CGridCtrl& g, const Step& s) { g.DeleteCell(s.a / 2, s.b / 2); }},
     {"UnJoinCells", [](CGridCtrl& g, const Step& s) { g.UnJoinCells(s.a, s.b, s.a + 2, s.b + 2); }},
     {"SetDefDataSource", [](CGridCtrl& g, const Step& s) { g.SetDefDataSource(s.a % 2); }},
     {"SetNumberSheets", [](CGridCtrl& g, const Step& s) { g.SetNumberSheets(s.a / 3); }},
