@@ -20,13 +20,10 @@ using testing::ElementsAre;
 
 constexpr CWnd* kDesktop = nullptr;
 
-/// Answers in the queue of the profile, which is empty again afterwards.
+/// Answers in the queue of the profile.
 class Queue {
  public:
   explicit Queue(int answers) { Write(answers); }
-  ~Queue() { coregui::Profile::Get().WriteString(L"UnitTesting", nullptr, nullptr); }
-  Queue(const Queue&) = delete;
-  Queue& operator=(const Queue&) = delete;
   void Write(int answers) const {
     coregui::Profile::Get().WriteInt(L"UnitTesting", L"PopupChoiceId", answers);
   }

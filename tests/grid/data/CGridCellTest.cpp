@@ -8,21 +8,11 @@
 #include <type_traits>
 
 #include "grid/data/CGridCellFormat.h"
-#include "platform/Locale.h"
 #include "platform/System.h"
 
 namespace {
 
-class CGridCellTest : public testing::Test {
- protected:
-  CGridCellTest() : m_before(coregui::GetUserLocale()) { coregui::SetUserLocale(coregui::UserLocale()); }
-  ~CGridCellTest() override { coregui::SetUserLocale(m_before); }
-
- private:
-  coregui::UserLocale m_before;
-};
-
-TEST_F(CGridCellTest, StartsWithTheColoursOfTheSystemAndNoValue) {
+TEST(CGridCell, StartsWithTheColoursOfTheSystemAndNoValue) {
   CGridCell cell;
   EXPECT_EQ(0x08008788, cell.GetPropertyFlags());
   EXPECT_EQ(nullptr, cell.GetText());
@@ -58,7 +48,7 @@ Property Of(const char* name, long bit, int (CGridCell::*set)(Value), Value (CGr
           }};
 }
 
-TEST_F(CGridCellTest, EachPropertyIsSetKeptMergedAndFallsBackWithoutItsBit) {
+TEST(CGridCell, EachPropertyIsSetKeptMergedAndFallsBackWithoutItsBit) {
   CGridCellFormat format;
   CGridCell style;
   using Cell = CGridCell;
@@ -121,7 +111,7 @@ TEST_F(CGridCellTest, EachPropertyIsSetKeptMergedAndFallsBackWithoutItsBit) {
   }
 }
 
-TEST_F(CGridCellTest, AnEmptyTextTakesTheValueAway) {
+TEST(CGridCell, AnEmptyTextTakesTheValueAway) {
   CGridCell cell;
   cell.SetText(L"x");
   cell.SetText(L"");
@@ -134,7 +124,7 @@ TEST_F(CGridCellTest, AnEmptyTextTakesTheValueAway) {
   EXPECT_TRUE(cell.IsPropertySet(CELLPROP_DATATYPE));
 }
 
-TEST_F(CGridCellTest, AppendedAndOwnTextsAreTaken) {
+TEST(CGridCell, AppendedAndOwnTextsAreTaken) {
   CGridCell cell;
   cell.SetText(L"abc");
   cell.AppendText(L"def");
@@ -150,7 +140,7 @@ TEST_F(CGridCellTest, AppendedAndOwnTextsAreTaken) {
   EXPECT_EQ(CELLDATA_TEXT, cell.GetDataType());
 }
 
-TEST_F(CGridCellTest, NumbersShowAsTheFlagsAndDecimalsSay) {
+TEST(CGridCell, NumbersShowAsTheFlagsAndDecimalsSay) {
   CGridCell cell;
   cell.SetNumber(0.5);
   EXPECT_EQ(0, cell.GetTextLength());
@@ -168,7 +158,7 @@ TEST_F(CGridCellTest, NumbersShowAsTheFlagsAndDecimalsSay) {
   EXPECT_EQ(-2, whole);
 }
 
-TEST_F(CGridCellTest, BlackAndWhiteTextAlwaysShows) {
+TEST(CGridCell, BlackAndWhiteTextAlwaysShows) {
   const struct {
     COLORREF back;
     COLORREF text;
@@ -186,7 +176,7 @@ TEST_F(CGridCellTest, BlackAndWhiteTextAlwaysShows) {
   }
 }
 
-TEST_F(CGridCellTest, ChangingTheTypeConvertsTheValue) {
+TEST(CGridCell, ChangingTheTypeConvertsTheValue) {
   CGridCell cell;
   cell.SetText(L"12.75");
   cell.SetDataType(CELLDATA_NUMBER);
@@ -205,7 +195,7 @@ TEST_F(CGridCellTest, ChangingTheTypeConvertsTheValue) {
   EXPECT_EQ(0.0, cell.GetNumber());
 }
 
-TEST_F(CGridCellTest, CurrencyFromTextDropsTheFractionIsKept) {
+TEST(CGridCell, CurrencyFromTextDropsTheFractionIsKept) {
   CGridCell cell;
   cell.SetText(L"12.75");
   cell.SetDataType(CELLDATA_CURRENCY);
@@ -213,7 +203,7 @@ TEST_F(CGridCellTest, CurrencyFromTextDropsTheFractionIsKept) {
   EXPECT_STREQ(L"12.75", cell.GetText());
 }
 
-TEST_F(CGridCellTest, TruthOfTextsAndItsConversionDifferIsKept) {
+TEST(CGridCell, TruthOfTextsAndItsConversionDifferIsKept) {
   CGridCell cell;
   CString text;
   int value = 0;
@@ -235,7 +225,7 @@ TEST_F(CGridCellTest, TruthOfTextsAndItsConversionDifferIsKept) {
   EXPECT_EQ(CELLDATA_BOOL, cell.GetDataType());
 }
 
-TEST_F(CGridCellTest, DatesGoInAndComeOutByTheTextOrWithALabelTheNumber) {
+TEST(CGridCell, DatesGoInAndComeOutByTheTextOrWithALabelTheNumber) {
   CGridCell cell;
   cell.SetTime(30, 15, 8, 24, 12, 2023);
   int f[6] = {};
@@ -252,7 +242,7 @@ TEST_F(CGridCellTest, DatesGoInAndComeOutByTheTextOrWithALabelTheNumber) {
   EXPECT_EQ(1, CGridCell::StringToTime(&text, &f[0], &f[1], &f[2], &f[3], &f[4], &f[5]));
 }
 
-TEST_F(CGridCellTest, MergingTakesExtraMemoryFromBothIsKept) {
+TEST(CGridCell, MergingTakesExtraMemoryFromBothIsKept) {
   CGridCell source;
   CGridCell target;
   auto* const block = static_cast<char*>(target.AllocExtraMem(4));
@@ -269,7 +259,7 @@ TEST_F(CGridCellTest, MergingTakesExtraMemoryFromBothIsKept) {
   EXPECT_NE(nullptr, shared);
 }
 
-TEST_F(CGridCellTest, ExtraMemoryIsSharedByMergingAndLivesWithItsLastCell) {
+TEST(CGridCell, ExtraMemoryIsSharedByMergingAndLivesWithItsLastCell) {
   CGridCell target;
   {
     CGridCell source;
@@ -287,7 +277,7 @@ TEST_F(CGridCellTest, ExtraMemoryIsSharedByMergingAndLivesWithItsLastCell) {
   EXPECT_EQ(4, target.GetExtraMemSize());
 }
 
-TEST_F(CGridCellTest, TheSnapshotGoesAlongWithEveryMergeAndStaysIsKept) {
+TEST(CGridCell, TheSnapshotGoesAlongWithEveryMergeAndStaysIsKept) {
   CGridCell cell;
   cell.SetText(L"before");
   cell.SetInitialState();
@@ -312,7 +302,7 @@ TEST_F(CGridCellTest, TheSnapshotGoesAlongWithEveryMergeAndStaysIsKept) {
   EXPECT_STREQ(L"third", cell.GetText());
 }
 
-TEST_F(CGridCellTest, CopyingReplacesTheMaskAndClearingSubtractsFromItIsKept) {
+TEST(CGridCell, CopyingReplacesTheMaskAndClearingSubtractsFromItIsKept) {
   CGridCell source;
   source.SetPropertyFlags(CELLPROP_BORDER);
   CGridCell target;

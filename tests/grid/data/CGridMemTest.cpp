@@ -88,18 +88,13 @@ TEST(CGridMem, AManySidedTableComesBackWholeAndItsMemoryIsUsedAgain) {
   };
   CGridMem store;
   for (int round = 0; round < 2; ++round) {
-    for (long row = 0; row < ROWS; ++row) {
-      for (int col = 0; col < COLS; ++col) {
-        CGridCell cell;
-        fill(cell, row % 500 == 3 ? col + 1 : col, row);  // written over below
-        store.SetCell(col, row, &cell);
-      }
-    }
-    for (long row = 3; row < ROWS; row += 500) {
-      for (int col = 0; col < COLS; ++col) {
-        CGridCell cell;
-        fill(cell, col, row);
-        store.SetCell(col, row, &cell);
+    for (const bool again : {false, true}) {  // every five hundredth row is written over
+      for (long row = again ? 3 : 0; row < ROWS; row += again ? 500 : 1) {
+        for (int col = 0; col < COLS; ++col) {
+          CGridCell cell;
+          fill(cell, !again && row % 500 == 3 ? col + 1 : col, row);
+          store.SetCell(col, row, &cell);
+        }
       }
     }
     ASSERT_TRUE(store.Check());

@@ -6,20 +6,15 @@ namespace {
 
 TEST(CGridPtrList, FreedSlotsAreUsedFirstAndOthersKeepTheirIndex) {
   CGridPtrList list;
-  int a = 0;
-  int b = 0;
-  int c = 0;
-  int d = 0;
-  EXPECT_EQ(0, list.AddPointer(&a, 10));
-  EXPECT_EQ(1, list.AddPointer(&b, 11));
-  EXPECT_EQ(2, list.AddPointer(&c, 12));
+  int items[4] = {};
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(i, list.AddPointer(&items[i], 10 + i));
   EXPECT_EQ(0, list.DeletePointer(1));
   EXPECT_EQ(nullptr, list.GetPointer(1));
-  EXPECT_EQ(-1, list.GetPointerIndex(&b));
+  EXPECT_EQ(-1, list.GetPointerIndex(&items[1]));
   EXPECT_EQ(2, list.UpdateParam(1, 5));
-  EXPECT_EQ(1, list.AddPointer(&d, 13));
+  EXPECT_EQ(1, list.AddPointer(&items[3], 13));
   EXPECT_EQ(3, list.GetCount());
-  EXPECT_EQ(2, list.GetPointerIndex(&c));
+  EXPECT_EQ(2, list.GetPointerIndex(&items[2]));
   EXPECT_EQ(13, list.GetParam(1));
   EXPECT_TRUE(list.Check());
 }

@@ -35,10 +35,6 @@ struct CGridInputTest : testing::Test {
     grid.log.clear();
     grid.type.log.clear();
   }
-  ~CGridInputTest() override {
-    SetSleepHook(nullptr);
-    SetKeyState(VK_CONTROL, false);
-  }
   void Press(CPoint point) { mouse.LeftDown(MK_LBUTTON, point, true); }
 };
 

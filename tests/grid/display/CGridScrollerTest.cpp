@@ -79,17 +79,6 @@ TEST_F(CGridScrollerTest, LockedCellsStayOutOfAMoveAlongOneAxisAndArePutBackAfte
   EXPECT_EQ(painter.Hints().IsInvalid(7, 32), 0);
 }
 
-TEST_F(CGridScrollerTest, MovesPixelsInsideTheArea) {
-  CGridScroller::Move(screen, {0, 40, CRect(0, 20, 210, 110)});
-  EXPECT_EQ(screen.CountOf(L"BitBlt 0,20,210,70 "), 1) << screen.GetLog().ToUtf8();
-  screen.ClearLog();
-  CGridScroller::Move(screen, {-50, 0, CRect(0, 0, 210, 110)});
-  EXPECT_EQ(screen.CountOf(L"BitBlt 50,0,210,110"), 1) << screen.GetLog().ToUtf8();
-  screen.ClearLog();
-  CGridScroller::Move(screen, {0, 200, CRect(0, 0, 210, 110)});
-  EXPECT_EQ(screen.GetLog(), L"");
-}
-
 TEST(OverlapsPartly, IsNeitherApartNorAllOver) {
   constexpr CRect window(10, 10, 50, 50);
   EXPECT_FALSE(OverlapsPartly(window, CRect(0, 0, 100, 100)));

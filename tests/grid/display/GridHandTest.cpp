@@ -27,16 +27,15 @@ TEST_F(GridHandTest, EveryPartReportsEveryClickWithItsCell) {
         Row{Top(), {75, 10}, "TH", "1,-2", "2"}, Row{Top(), {75, 30}, "TH", "1,-1", "2"},
         Row{Side(), {10, 30}, "SH", "-1,1", "3"}, Row{Corner(), {10, 10}, "CB", "-1,-1", "4"}}) {
     const auto note = [&row](const char* button, const char* step) {
-      return std::string(row.name).append(button).append(" ").append(row.cell).append(step).append("; ");
+      return std::string(row.name) + button + " " + row.cell + step + "; ";
     };
     StepMouse(row.part, MouseStep::press, row.at);
     StepMouse(row.part, MouseStep::release, row.at);
-    EXPECT_EQ(grid.TakeNotes(), note("L", " down").append(note("L", " up")));
+    EXPECT_EQ(grid.TakeNotes(), note("L", " down") + note("L", " up"));
     StepMouse(row.part, MouseStep::press, row.at, true);
     StepMouse(row.part, MouseStep::release, row.at, true);
-    const std::string menu =
-        std::string("menu ").append(row.cell).append(" in ").append(row.section).append("; ");
-    EXPECT_EQ(grid.TakeNotes(), note("R", " down").append(menu).append(note("R", " up")));
+    const std::string menu = std::string("menu ") + row.cell + " in " + row.section + "; ";
+    EXPECT_EQ(grid.TakeNotes(), note("R", " down") + menu + note("R", " up"));
     StepMouse(row.part, MouseStep::doubleClick, row.at);
     StepMouse(row.part, MouseStep::release, row.at);
     EXPECT_EQ(grid.TakeNotes(), note("D", ""));

@@ -57,13 +57,6 @@ TEST(LineWalk, GoesFromTheLockedLinesOnToThePartlyShownOne) {
   }
 }
 
-TEST(MeasureScroll, SumsTheSizesPassed) {
-  const auto twenty = [](long) { return 20; };
-  EXPECT_EQ(MeasureScroll(5, 5, 100, twenty), (ScrollDistance{0, false}));
-  EXPECT_EQ(MeasureScroll(5, 10, 100, twenty), (ScrollDistance{100, false}));
-  EXPECT_EQ(MeasureScroll(10, 7, 100, twenty), (ScrollDistance{-60, false}));
-}
-
 TEST(MeasureScroll, GivesUpPastTheWindowWithoutWalkingOn) {
   long asked = 0;
   const auto size = [&asked](long) {

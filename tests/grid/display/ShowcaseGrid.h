@@ -106,10 +106,7 @@ struct ShowcaseTest : testing::Test {
     ASSERT_TRUE(grid.CreateGrid(WS_CHILD | WS_VISIBLE, frame.GetClientRectangle(), &frame, 1));
     CWinApp::PumpPending();
   }
-  ~ShowcaseTest() override {
-    frame.DestroyWindow();
-    SetDarkTheme(false);
-  }
+  ~ShowcaseTest() override { frame.DestroyWindow(); }
   void Save(const char* name) {
     const char* const folder = std::getenv("COREGUI_PICTURES");
     if (folder == nullptr) return;
