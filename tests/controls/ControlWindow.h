@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <utility>
 
 #include "platform/CEdit.h"
@@ -34,5 +36,18 @@ inline constexpr DWORD kChild = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
 inline CRect Place(int row) {
   return {10, 10 + 35 * row, 210, 38 + 35 * row};
 }
+
+/// An edit with the focus, control 7, beside a plain one.
+template <class Edit>
+struct EditTest : testing::Test {
+  EditTest() {
+    edit.Create(kChild, Place(0), &host, 7);
+    other.Create(kChild, Place(1), &host, 8);
+    edit.SetFocus();
+  }
+  ControlWindow host;
+  Edit edit;
+  CEdit other;
+};
 
 }  // namespace coregui::test

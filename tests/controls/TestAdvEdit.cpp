@@ -14,12 +14,9 @@ namespace {
 
 using namespace coregui::test;
 
-TEST(AdvEdit, SelectsAllAndPutsTheTextBackOnce) {
-  ControlWindow host;
-  CAdvEdit edit;
-  CEdit other;
-  edit.Create(kChild, Place(0), &host, 7);
-  other.Create(kChild, Place(1), &host, 8);
+using AdvEdit = EditTest<CAdvEdit>;
+
+TEST_F(AdvEdit, SelectsAllAndPutsTheTextBackOnce) {
   edit.SetWindowText(L"old");
   other.SetFocus();
   edit.SetFocus();
@@ -59,7 +56,7 @@ class EditDialog : public CDialog {
   void OnCancel() override { log += L"cancel "; }
 };
 
-TEST(AdvEdit, EnterNotifiesBeforeTheDefaultButtonAndEscRevertsBeforeItCancels) {
+TEST(AdvEditInADialog, EnterNotifiesBeforeTheDefaultButtonAndEscRevertsBeforeItCancels) {
   EditDialog dialog;
   ASSERT_TRUE(dialog.CreateModeless());
   dialog.edit.SetFocus();
@@ -107,12 +104,7 @@ TEST(Chainage, IsReadAndWrittenExactly) {
   }
 }
 
-class SmartEdit : public testing::Test {
- protected:
-  SmartEdit() {
-    edit.Create(kChild, Place(0), &host, 7);
-    other.Create(kChild, Place(1), &host, 8);
-  }
+struct SmartEdit : EditTest<CSmartEdit> {
   void TypeAndLeave(const wchar_t* text) {
     edit.SetFocus();
     edit.SetSel(0, -1);
@@ -120,9 +112,6 @@ class SmartEdit : public testing::Test {
     TypeKeys(edit, text);
     other.SetFocus();
   }
-  ControlWindow host;
-  CSmartEdit edit;
-  CEdit other;
 };
 
 TEST_F(SmartEdit, MarksOnLeavingAndUnmarksOnceRight) {

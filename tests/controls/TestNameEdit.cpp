@@ -32,7 +32,7 @@ TEST(NameCharacters, AreExactForEachKind) {
   }
 }
 
-class NameEdit : public testing::Test {
+class NameEdit : public EditTest<CNameEdit> {
  protected:
   NameEdit() { Start(L"GROUP"); }
   void Start(const wchar_t* kind) {
@@ -53,9 +53,6 @@ class NameEdit : public testing::Test {
     if (start != end) text.Insert(start, L"[");
     return text;
   }
-
-  ControlWindow host;
-  CNameEdit edit;
 
  private:
   int m_beeps = 0;
@@ -151,8 +148,6 @@ TEST_F(NameEdit, OtherShortcutsBeepIsKept) {
 TEST_F(NameEdit, ShowsWhatIsSetAndFiltersOnlyItsValue) {
   edit.SetValue(L"a.b c/");
   EXPECT_EQ(edit.GetValue(), L"abc");
-  CEdit other;
-  other.Create(kChild, Place(1), &host, 8);
   other.SetFocus();
   EXPECT_EQ(edit.GetWindowTextString(), L"a.b c/");
   edit.SetReadOnly();
@@ -168,11 +163,9 @@ TEST_F(NameEdit, MayBeDestroyedWhenItTells) {
   EXPECT_FALSE(edit.HasWindow());
 }
 
-TEST(HexEdit, TakesHexDigitsAndShortcuts) {
-  ControlWindow host;
-  CHexEdit edit;
-  edit.Create(kChild, Place(0), &host, 7);
-  edit.SetFocus();
+using HexEdit = EditTest<CHexEdit>;
+
+TEST_F(HexEdit, TakesHexDigitsAndShortcuts) {
   const int before = GetBeepCount(MB_ICONASTERISK_SOUND);
   TypeKeys(edit, L"Ff 0g-G");
   DropText(edit, L"x9");
@@ -189,10 +182,7 @@ TEST(HexEdit, TakesHexDigitsAndShortcuts) {
   EXPECT_EQ(GetBeepCount(MB_ICONASTERISK_SOUND) - before, 5);
 }
 
-TEST(HexEdit, PastedTextIsNotFilteredIsKept) {
-  ControlWindow host;
-  CHexEdit edit;
-  edit.Create(kChild, Place(0), &host, 7);
+TEST_F(HexEdit, PastedTextIsNotFilteredIsKept) {
   coregui::SetClipboardText(L"0xGG");
   PressKey(edit, 'V', true);
   EXPECT_EQ(edit.GetWindowTextString(), L"0xGG");

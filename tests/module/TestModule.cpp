@@ -36,7 +36,7 @@ TEST(ClassFactories, MakeObjectsByNameUntilTheyAreRevoked) {
   EXPECT_EQ(factories.Create(L"App.Name"), nullptr);
 }
 
-TEST(Registration, IsCountedAndUndone) {
+TEST(Registration, IsCountedAndUndoneAndLeavesANameThatAnotherModuleTook) {
   ClassFactories& factories = ClassFactories::Get();
   ASSERT_TRUE(factories.GetNames().empty()) << "nothing registers itself";
   EXPECT_FALSE(coregui::UnregisterLibrary());
@@ -49,10 +49,6 @@ TEST(Registration, IsCountedAndUndone) {
   EXPECT_EQ(factories.GetNames(), names);
   EXPECT_TRUE(coregui::UnregisterLibrary());
   EXPECT_TRUE(factories.GetNames().empty());
-}
-
-TEST(Registration, LeavesANameThatAnotherModuleTook) {
-  ClassFactories& factories = ClassFactories::Get();
   factories.Register(L"CoreGUI.WidthComboBox", MakeNameEdit);
   EXPECT_FALSE(coregui::RegisterLibrary());
   EXPECT_FALSE(coregui::IsLibraryRegistered());
