@@ -160,6 +160,7 @@ TEST(CGridMemRandom, ManyInsertedRowsSplitTheTreeAndManyDeletedOnesFoldIt) {
     return static_cast<long>(random() % static_cast<unsigned>(high));
   };
   std::vector<Operation> operations;
+  operations.reserve(18'000);
   for (int i = 0; i < 9000; ++i)
     operations.push_back({i % 5 == 0 ? Kind::set : Kind::insertRow, i % 3, below(i + 1), i});
   for (int i = 0; i < 9000; ++i) operations.push_back({Kind::deleteRow, 0, below(9000 - i), 0});

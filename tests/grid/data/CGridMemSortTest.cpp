@@ -285,7 +285,7 @@ TEST(CGridMemSort, EmptyRowsBeforeFarOnesTakeNoRoomInAMixedColumn) {
       std::vector<Row> rows(static_cast<std::size_t>(far) + 1, Row(1));
       for (long row = 0; row <= far; ++row) {
         rows[static_cast<std::size_t>(row)][0].SetPropertyFlags(0);
-        if (cells.count(row) != 0) rows[static_cast<std::size_t>(row)][0] = cells[row];
+        if (cells.contains(row)) rows[static_cast<std::size_t>(row)][0] = cells[row];
       }
       const std::vector<int> order = InsertionModel(owner, flags).Sort(rows);
       for (long row = 0; row <= far; ++row) {

@@ -54,7 +54,6 @@ class HandGrid : public CGridCtrl {
   int OnCanSizeCol(int) override { return refuses != "OnCanSizeCol"; }
   void OnColSizing(int col, int* width) override { Size(L"col", col, *width); }
   void OnColSized(int col, int* width) override { Sized(L"col", col, width); }
-  int OnCanSizeRow(long) override { return refuses != "OnCanSizeRow"; }
   void OnRowSizing(long row, int* height) override { Size(L"row", row, *height); }
   void OnRowSized(long row, int* height) override { Sized(L"row", row, height); }
   int OnTopHdgSizing(int* height) override {
