@@ -1,6 +1,7 @@
 #include "views/PlotPages.h"
 
 #include <cmath>
+#include <utility>
 
 #include "platform/CPrinterDC.h"
 #include "views/CGUIBaseView.h"
@@ -24,8 +25,8 @@ int PagesFor(double length, LONG room, LONG step) {
 
 }  // namespace
 
-CPlotPages::CPlotPages(const CViewMapping& view, PlotPageScale const& scale, CSize page, CSize dotsPerInch)
-    : m_first(view) {
+CPlotPages::CPlotPages(CViewMapping view, PlotPageScale const& scale, CSize page, CSize dotsPerInch)
+    : m_first(std::move(view)) {
   m_first.now.dpiX = dotsPerInch.cx;
   m_first.now.dpiY = dotsPerInch.cy;
   m_first.now.scale = scale.horizontal * kMillimetresPerInch / dotsPerInch.cx / scale.millimetresPerUnit;

@@ -20,7 +20,7 @@ class COREGUI_API CPlotPages {
  public:
   /// `view` gives extents and margins. More than ten thousand pages, or margins that leave no room beside the
   /// overlap, give none.
-  CPlotPages(const CViewMapping& view, PlotPageScale const& scale, CSize page, CSize dotsPerInch);
+  CPlotPages(CViewMapping view, PlotPageScale const& scale, CSize page, CSize dotsPerInch);
 
   int GetCount() const { return m_columns * m_rows; }
   int GetColumns() const { return m_columns; }
