@@ -7,6 +7,7 @@
 #include "grid/control/CGridInfo.h"
 #include "grid/data/CGridMem.h"
 #include "tests/grid/control/LoggingGrid.h"
+#include "tests/support/ShortestFailing.h"
 
 using coregui::test::LoggingGrid;
 
@@ -89,14 +90,8 @@ std::string FaultAfter(const std::vector<Step>& steps) {
 }
 
 /// Leaves out what the fault does not need.
-std::string Shortest(std::vector<Step> steps) {
-  for (std::size_t at = steps.size(); at-- > 0;) {
-    std::vector<Step> fewer;
-    for (std::size_t i = 0; i < steps.size(); ++i) {
-      if (i != at) fewer.push_back(steps[i]);
-    }
-    if (!FaultAfter(fewer).empty()) steps = fewer;
-  }
+std::string Explain(const std::vector<Step>& failing) {
+  const std::vector<Step> steps = coregui::test::ShortestFailing(failing, FaultAfter);
   std::ostringstream text;
   text << FaultAfter(steps) << " after";
   for (const Step& s : steps) {
@@ -115,6 +110,6 @@ TEST(CGridCtrl, StaysInOrderThroughRandomOperations) {
       const auto argument = [&] { return static_cast<int>(random() % 15) - 2; };
       step = {static_cast<int>(random() % std::size(operations)), argument(), argument(), argument()};
     }
-    ASSERT_EQ(FaultAfter(steps), "") << "seed " << seed << ": " << Shortest(steps);
+    ASSERT_EQ(FaultAfter(steps), "") << "seed " << seed << ": " << Explain(steps);
   }
 }

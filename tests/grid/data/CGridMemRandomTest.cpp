@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <sstream>
 
 #include "grid/data/CGridCell.h"
 #include "grid/data/CGridMem.h"
 #include "tests/grid/data/StoreModel.h"
+#include "tests/support/ShortestFailing.h"
 
 namespace {
 
@@ -16,6 +18,17 @@ struct Operation {
   long row;
   int value;
 };
+
+std::string Describe(const std::vector<Operation>& operations) {
+  static const char* const names[] = {"Set",       "Delete",    "InsertRow", "DeleteRow",
+                                      "InsertCol", "DeleteCol", "Empty",     "Previous"};
+  std::ostringstream text;
+  for (const Operation& operation : operations) {
+    text << names[static_cast<int>(operation.kind)] << "(col " << operation.col << ", row " << operation.row
+         << ", value " << operation.value << ")\n";
+  }
+  return text.str();
+}
 
 /// Texts that fit in a slot, texts that do not, and wide ones.
 std::string ValueText(int value) {
@@ -129,27 +142,31 @@ std::vector<Operation> RandomOperations(unsigned seed, int count, long rows, int
 }
 
 /// The whole comparison costs as much as thousands of operations: it is made after every `compareEvery`.
-void ExpectSame(const std::vector<Operation>& operations, std::size_t compareEvery) {
+std::string FaultAfter(const std::vector<Operation>& operations, std::size_t compareEvery) {
   Pair pair;
   for (std::size_t i = 0; i < operations.size(); ++i) {
-    const Operation& op = operations[i];
-    std::string fault = pair.Apply(op);
+    std::string fault = pair.Apply(operations[i]);
     if (fault.empty() && (i % compareEvery == 0 || i + 1 == operations.size())) fault = pair.CompareAll();
-    ASSERT_EQ("", fault) << "operation " << i << ", kind " << static_cast<int>(op.kind) << ", column "
-                         << op.col << ", row " << op.row << ", value " << op.value;
+    if (!fault.empty()) return fault;
   }
+  return "";
+}
+
+void ExpectSame(const std::vector<Operation>& operations, std::size_t compareEvery) {
+  if (FaultAfter(operations, compareEvery).empty()) return;
+  const auto faultOf = [](const std::vector<Operation>& some) { return FaultAfter(some, 1); };
+  const std::vector<Operation> shortest = coregui::test::ShortestFailing(operations, faultOf);
+  FAIL() << faultOf(shortest) << " after\n" << Describe(shortest);
 }
 
 TEST(CGridMemRandom, FewRowsUnderManyStructuralChangesMatchTheModel) {
   for (unsigned seed = 1; seed <= 30; ++seed) {
-    SCOPED_TRACE(seed);
     ExpectSame(RandomOperations(seed, 300, 8, 40), 1);
   }
 }
 
 TEST(CGridMemRandom, ManyRowsMatchTheModel) {
   for (unsigned seed = 100; seed < 103; ++seed) {
-    SCOPED_TRACE(seed);
     ExpectSame(RandomOperations(seed, 4000, 900, 30), 1000);
   }
 }
