@@ -17,15 +17,17 @@ CGUIBaseView::OverlayPause::~OverlayPause() {
 }
 
 void CGUIBaseView::ShowOverlay() {
-  const bool crossHair = m_options.crossHair && m_hasPosition;
+  const CPoint at = m_mapping.UserToWindow(m_currentPos);
+  // A position that a pan or a linked view has left outside has no hair and no read-out.
+  const bool crossHair = m_options.crossHair && m_hasPosition && CRect(CPoint(), ClientSize()).PtInRect(at);
   if (!m_initialised || m_destroyed || (!crossHair && !m_measuring)) {
     return;
   }
   CClientDC dc(this);
   if (dc.IsValid()) {
     m_overlay.Show(dc, ClientSize(),
-                   {m_mapping.UserToWindow(m_currentPos), crossHair, GetReadOut(), m_measuring,
-                    m_mapping.UserToWindow(m_measureStart), GetMeasureText(), m_background});
+                   {at, crossHair, GetReadOut(), m_measuring, m_mapping.UserToWindow(m_measureStart),
+                    GetMeasureText(), m_background});
   }
 }
 

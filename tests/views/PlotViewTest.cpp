@@ -388,6 +388,15 @@ TEST_F(PlotView, TheCrossHairAndTheMeasuringLineMoveWithoutARepaint) {
   EXPECT_TRUE(view->GetMeasureText().IsEmpty());
 }
 
+TEST_F(PlotView, APositionOutsideThePictureHasNoCrossHair) {
+  const std::vector<DWORD> plain = view->Picture();
+  view->SetOptions({.crossHair = true});
+  view->SetCurrentPos({40, 5});
+  EXPECT_NE(view->Picture(), plain);
+  view->SetCurrentPos({-40, 5});  // where a linked view points
+  EXPECT_EQ(view->Picture(), plain);
+}
+
 TEST_F(PlotView, TheHookDrawsOnThePictureWithoutTheCrossHair) {
   view->SetOptions({.crossHair = true});
   Hook::onEvent = [this](EVENT_TYPE event) {
