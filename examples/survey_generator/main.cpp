@@ -31,7 +31,7 @@ int main() {
     const double chainage = static_cast<double>(i) * kInterval;
     std::string description = DescriptionAt(features, chainage);
     if (description.find(',') != std::string::npos) {
-      description = '"' + description + '"';
+      description.insert(0, 1, '"').push_back('"');
     }
     std::printf("%.3f,%.3f,%.3f,%.3f,%.3f,%s\n", chainage, line[i].easting, line[i].northing,
                 road::GroundLevel(chainage), road::DesignLevel(chainage), description.c_str());

@@ -270,7 +270,7 @@ TEST_F(Desk, TheSectionGatheredWhileReadingIsThatOfTheTable) {
   const auto faults = std::count_if(data.rows.begin(), data.rows.end(), [&](const long& row) {
     const auto at = static_cast<std::size_t>(&row - data.rows.data());
     const PNT_2D_record& ground = data.ground.GetPoints()[at];
-    const double level = static_cast<double>(row % 91);
+    const auto level = static_cast<double>(row % 91);
     return stations[at] != std::pair(static_cast<long>(ground.x), row) ||
            (row % 500 == 333 ? !std::isnan(ground.y) : ground.y != level) ||
            data.design.GetPoints()[at].y != static_cast<double>(row % 17) ||

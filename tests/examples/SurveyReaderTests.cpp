@@ -82,7 +82,7 @@ TEST_F(SurveyReading, RefusesWhatIsNoTable) {
   EXPECT_EQ(Read("").error, L"The file is empty.");
   EXPECT_EQ(Read(std::string("\x7f"
                              "ELF\x02\x01\x00\x00\x03\x00>\x00\n\x01\x00",
-                             16))
+                             15))
                 .error,
             L"The file holds no table: it is not text.");
   EXPECT_TRUE(sink.rows.empty());
