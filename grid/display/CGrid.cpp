@@ -199,7 +199,11 @@ void CGrid::HintUpdateRect(const CRect& update) {
 void CGrid::DrawCellsIntern(CDC* screenDC, CDC* memDC) {
   const WindowRef alive(this);
   m_painter.Paint({screenDC, memDC, GetClientRectangle()});
-  if (!alive) return;
+  if (alive) FinishPass();
+}
+
+/// What had to wait until the pass was over.
+void CGrid::FinishPass() {
   for (const CGridDrawHint::Range& range : m_painter.TakeRequested()) {
     RECT rect;
     if (m_control->GetRangeRect(range.startCol, range.startRow, range.endCol, range.endRow, &rect) == 0) {
@@ -219,12 +223,9 @@ BOOL CGrid::HandleErase(CDC*) {
 LRESULT CGrid::HandlePrintClient(WPARAM wParam, LPARAM) {
   CDC* const dc = reinterpret_cast<CDC*>(wParam);
   if (dc == nullptr || m_painter.IsPainting()) return 0;
-  // The pass takes the hints along that the screen still waits for.
-  const bool pending = !m_painter.Hints().GetRanges().empty() || m_painter.IsViewStale();
-  m_painter.HintAll();
   const WindowRef alive(this);
-  DrawCellsIntern(dc, nullptr);
-  if (alive && pending) Invalidate(FALSE);
+  m_painter.Print(*dc, GetClientRectangle());
+  if (alive) FinishPass();
   return 1;
 }
 

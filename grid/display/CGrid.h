@@ -78,6 +78,7 @@ class COREGUI_API CGrid : public CWnd {
 
   void HintUpdateRect(const CRect& update);
   void PaintPass(CDC& screen);
+  void FinishPass();
   bool NeedsFullRepaint() const;
   bool IsCovered() const;
 

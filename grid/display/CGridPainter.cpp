@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <tuple>
 #include <utility>
 
 #include "grid/control/CGridCellDelegate.h"
@@ -44,6 +45,26 @@ void CGridPainter::Paint(const PaintSurface& surface) {
   m_drawn.clear();
   Run(pass);
   if (pass.alive) m_painting = false;
+}
+
+void CGridPainter::Print(CDC& paper, const CRect& client) {
+  if (m_painting) return;
+  const WindowRef alive(&m_owner);
+  const CGridDrawHint waiting = std::exchange(m_hints, {});
+  const Screen screen = std::exchange(m_screen, {});
+  const int sheet = m_control.GetSheetNumber();
+  const CGridInfo& info = m_control.GetInfo();
+  const std::pair cols(info.columns.paintedFirst, info.columns.last);
+  const std::pair rows(info.rows.paintedFirst, info.rows.last);
+  HintAll();
+  Paint({&paper, nullptr, client});
+  if (!alive) return;
+  m_hints = waiting;
+  m_screen = screen;
+  if (m_control.GetSheetNumber() != sheet) return;  // a handler has chosen another
+  CGridInfo& now = m_control.GetInfo();
+  std::tie(now.columns.paintedFirst, now.columns.last) = cols;
+  std::tie(now.rows.paintedFirst, now.rows.last) = rows;
 }
 
 bool CGridPainter::Run(Pass& pass) {
@@ -184,7 +205,7 @@ bool CGridPainter::DrawFetched(Pass& pass, const CGridCellPainter::Cell& cell) {
   const int saved = pass.dc->SaveDC();
   const CRect pane = PaneOf(cell);
   pass.dc->IntersectClipRect(pane);
-  if (pane.top < m_frame.bottom && pane.bottom > m_frame.top) m_drawn.push_back(pane);
+  if (pane.top < m_screen.frame.bottom && pane.bottom > m_screen.frame.top) m_drawn.push_back(pane);
   m_cells.Draw(*pass.dc, cell, selected, current ? 1 : 0);
   if (!pass.alive) return false;
   pass.dc->RestoreDC(saved);
@@ -258,8 +279,9 @@ int CGridPainter::FocusRight() const {
   const CGridInfo& info = m_control.GetInfo();
   if (m_columns.end < info.columns.Extent()) return m_columns.end;
   if (info.view.highlightRowToEdge != 0) return info.columns.Extent();
-  const std::int64_t scrolled = info.columns.TotalSize() - info.columns.OffsetOf(info.columns.First());
-  return static_cast<int>(std::min<std::int64_t>(scrolled, std::numeric_limits<std::int16_t>::max()));
+  const CGridColumns& columns = info.columns;
+  const std::int64_t end = columns.LockedSize() + columns.TotalSize() - columns.OffsetOf(columns.First());
+  return static_cast<int>(std::min<std::int64_t>(end, std::numeric_limits<std::int16_t>::max()));
 }
 
 void CGridPainter::RememberShown() {
@@ -271,8 +293,8 @@ void CGridPainter::RememberShown() {
   }
   info.columns.paintedFirst = info.columns.First();
   info.rows.paintedFirst = info.rows.First();
-  m_shownCol = static_cast<int>(info.columns.current);
-  m_shownRow = info.rows.current;
+  m_screen.col = static_cast<int>(info.columns.current);
+  m_screen.row = info.rows.current;
 }
 
 bool CGridPainter::IsViewStale() const {
@@ -301,14 +323,14 @@ bool CGridPainter::ShowsFrame() const {
 /// The frame inverts what is below. Where it stands already and no cell was drawn over it, it would go.
 void CGridPainter::DrawFocusRect(Pass& pass) {
   const bool shows = pass.hasFocusCell && ShowsFrame();
-  const CRect before = std::exchange(m_frame, shows ? pass.focus : CRect());
+  const CRect before = std::exchange(m_screen.frame, shows ? pass.focus : CRect());
   if (!shows) return;
   RECT rect = pass.focus;
   CDC* const screen = pass.surface.screen;
   const int saved = screen->SaveDC();
   if (before == pass.focus && pass.surface.memory == nullptr) ExcludeWhatStayed(*screen, before);
-  CGridCellDelegate* const type = m_control.GetCellDelegate(m_shownCol, m_shownRow);
-  if (type->OnDrawFocusRect(screen, &rect, m_shownCol, m_shownRow) == 0 && pass.alive) {
+  CGridCellDelegate* const type = m_control.GetCellDelegate(m_screen.col, m_screen.row);
+  if (type->OnDrawFocusRect(screen, &rect, m_screen.col, m_screen.row) == 0 && pass.alive) {
     m_control.OnDrawFocusRect(screen, &rect);
   }
   if (pass.alive) screen->RestoreDC(saved);

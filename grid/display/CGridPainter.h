@@ -36,6 +36,9 @@ class COREGUI_API CGridPainter {
   CGridDrawHint& Hints() { return m_hints; }
   bool IsPainting() const { return m_painting; }
   void Paint(const PaintSurface& surface);
+  /// Draws the whole sheet on something else than the screen. What the screen shows, and what it waits for,
+  /// stays as it is.
+  void Print(CDC& paper, const CRect& client);
   /// A handler asks, inside a pass, for a range to be repainted. What the pass has still to come to is drawn
   /// by it; the range also stays hinted for the next pass, as it may lie behind.
   void RequestDuringPass(const CGridDrawHint::Range& range) { m_requested.push_back(range); }
@@ -52,16 +55,22 @@ class COREGUI_API CGridPainter {
   void HintCurrent(int col, long row);
   void HintAll();
   /// Whether the screen shows a focus rectangle that the next pass will not draw.
-  bool FrameHasToGo() const { return !m_frame.IsRectEmpty() && !ShowsFrame(); }
+  bool FrameHasToGo() const { return !m_screen.frame.IsRectEmpty() && !ShowsFrame(); }
 
   /// The current cell as the last pass drew it.
-  int ShownCol() const { return m_shownCol; }
-  long ShownRow() const { return m_shownRow; }
+  int ShownCol() const { return m_screen.col; }
+  long ShownRow() const { return m_screen.row; }
   /// Whether the last pass drew another part of the sheet than the one that is in view now.
   bool IsViewStale() const;
 
  private:
   struct Pass;
+  /// What the last pass left on the screen.
+  struct Screen {
+    CRect frame;  ///< the focus rectangle; empty without one
+    int col = -1;
+    long row = -1;  ///< the current cell
+  };
   bool Run(Pass& pass);
   bool Begin(Pass& pass);
   bool WalkRows(Pass& pass);
@@ -88,13 +97,11 @@ class COREGUI_API CGridPainter {
   CHintedRow m_row;
   LineWalk m_columns;  ///< the columns in view, in the pass
   std::vector<CGridDrawHint::Range> m_requested;
-  std::vector<CRect> m_drawn;  ///< the places of the cells beside m_frame that the pass drew
-  CRect m_frame;               ///< the focus rectangle on the screen; empty without one
+  std::vector<CRect> m_drawn;  ///< the places of the cells beside the screen's frame that the pass drew
+  Screen m_screen;
   bool m_painting = false;
   bool m_hasFocus = false;
   bool m_focusRectOff = false;
-  int m_shownCol = -1;
-  long m_shownRow = -1;
 };
 
 }  // namespace coregui

@@ -192,6 +192,10 @@ TEST_F(CGridPainterTest, TheFocusRectangleSurroundsTheCellTheBlockOrTheRow) {
   EXPECT_EQ(focus(), "focus 0,20,210,40");
   grid.SetNumberCols(3);
   EXPECT_EQ(focus(), "focus 0,20,150,40");
+  grid.GetInfo().view.highlightRowToEdge = 0;
+  grid.FitToWindow(0, 2);
+  grid.LockColumns(1);
+  EXPECT_EQ(focus(), "focus 0,20,210,40") << "the locked columns are in the row too";
 }
 
 // --- Hints by row

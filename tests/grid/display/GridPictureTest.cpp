@@ -90,8 +90,15 @@ TEST_F(GridPictureTest, PrintingTakesNothingFromTheScreen) {
   const CPoint place = Cell(3, 11).TopLeft() + CSize(2, 2);
   EXPECT_EQ(paper.GetPixel(place.x + grid.GetSH_Width(), place.y + grid.GetTH_Height()), RGB(1, 200, 3));
   EXPECT_EQ(Dots() == before, true) << "the screen waits";
-  CWinApp::PumpPending();
+  grid.Moved();
   EXPECT_EQ(BodyPixel(place.x, place.y), RGB(1, 200, 3)) << "and is not forgotten";
+  grid.SetPaintMode(0);
+  grid.SetTopRow(3);
+  grid.GotoCell(2, 12);
+  grid.PrintTo(&paper);
+  grid.SetPaintMode(1);
+  grid.Moved();
+  EXPECT_EQ(DifferenceToFresh(), "") << "the screen is scrolled from where it was";
 }
 
 /// One cell after the other gets any text and look, some out of view or hidden, and is redrawn alone.
@@ -238,6 +245,11 @@ TEST_F(GridPictureTest, TheCurrentCellOfAHighlightedRowIsPaintedAloneUnderTheRow
   grid.TempDisableFocusRect();
   body.RedrawWindow();
   EXPECT_EQ(Dots() == bare, true) << "the whole frame had gone";
+  CBitmap picture;
+  const CClientDC like(&grid);
+  ASSERT_TRUE(picture.CreateCompatibleBitmap(&like, 700, 420));
+  CMemoryDC paper(&like, &picture);
+  grid.PrintTo(&paper);  // has a frame of its own
   EXPECT_EQ(paintCell(true) == changed, true) << "the whole frame comes back";
 }
 
