@@ -1,6 +1,7 @@
 #include "platform/qt/EventRoad.h"
 
 #include <QApplication>
+#include <QDropEvent>
 #include <QMouseEvent>
 #include <QNativeGestureEvent>
 #include <QWheelEvent>
@@ -119,6 +120,10 @@ bool EventRoad::Travel() {
     case QEvent::FocusIn:
     case QEvent::FocusOut:
       return FocusChange();
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+      return DropFiles(static_cast<QDropEvent&>(m_event));
     default:
       return Other();
   }

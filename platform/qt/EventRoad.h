@@ -7,6 +7,8 @@
 #include "platform/WindowRef.h"
 #include "platform/qt/QtWindow.h"
 
+class QDropEvent;
+
 namespace coregui {
 
 /// The one road from an event of the toolkit to the messages of a window. Made for one event.
@@ -30,6 +32,8 @@ class EventRoad {
   bool Pinch(const QNativeGestureEvent& event);
   bool ContextMenu();
   bool FocusChange();
+  /// Files that are dragged over the window or dropped on it.
+  bool DropFiles(QDropEvent& event);
   bool Other();
   bool Close();
   void Leave();

@@ -10,6 +10,7 @@
 
 #include "platform/CDC.h"
 #include "platform/CWnd.h"
+#include "platform/FileDrop.h"
 #include "platform/WindowState.h"
 #include "platform/qt/EventRoad.h"
 #include "platform/qt/SyntheticEvents.h"
@@ -54,6 +55,7 @@ QtWindow::QtWindow(CWnd& window, const CREATESTRUCT& create, std::unique_ptr<QWi
   m_widget->setParent(parent, FlagsOf(create.style));
   m_widget->setMouseTracking(true);
   m_widget->setAttribute(Qt::WA_TransparentForMouseEvents, (create.exStyle & WS_EX_NOACTIVATE) != 0);
+  if ((create.exStyle & WS_EX_ACCEPTFILES) != 0) m_widget->setAcceptDrops(true);
   Place(window.State().look.rect, create.style);
   m_widget->setEnabled((create.style & WS_DISABLED) == 0);
   m_widget->setWindowTitle(QString::fromWCharArray(create.name));
