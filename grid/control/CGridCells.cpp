@@ -1,5 +1,6 @@
 #include "grid/control/CGridCells.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "grid/control/CGridNotify.h"
@@ -8,6 +9,7 @@
 #include "grid/data/CGridCell.h"
 #include "grid/data/CGridCellFormat.h"
 #include "grid/data/CGridDataSource.h"
+#include "grid/data/CGridMem.h"
 
 namespace coregui {
 
@@ -84,6 +86,16 @@ int CGridCells::Set(int col, long row, CGridCell* cell) {
 int CGridCells::Delete(int col, long row) {
   const CGridSourceTable::Place place = m_sources.Of(col);
   return place.source->DeleteCell(place.col, row);
+}
+
+long CGridCells::NextJoined(int col, long row) const {
+  const CGridMem* const memory = m_sheets.Current().memory.get();
+  const CGridSourceTable::Place place = m_sources.Of(col);
+  if (place.source != memory) {
+    return row;
+  }
+  const long next = memory->NextJoinedRow(place.col, row);
+  return std::max(next, row);
 }
 
 int CGridCells::GetColDefault(int col, CGridCell* cell) {

@@ -29,6 +29,9 @@ class CGridCells {
   int Set(int col, long row, CGridCell* cell);
   int Delete(int col, long row);
   bool IsInRange(int col, long row) const;
+  /// The first row from `row` on that may belong to a joined block: what the sheet's memory holds, of which
+  /// there may be millions of rows, need not be asked cell by cell.
+  long NextJoined(int col, long row) const;
 
   int GetColDefault(int col, CGridCell* cell);
   int SetColDefault(int col, CGridCell* cell);

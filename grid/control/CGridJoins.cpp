@@ -1,12 +1,37 @@
 #include "grid/control/CGridJoins.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "grid/control/CGridCells.h"
 #include "grid/control/CGridSheets.h"
+#include "grid/control/CellPlace.h"
 #include "grid/data/CGridCell.h"
 
 namespace coregui {
+
+namespace {
+
+/// What a cell of a block stores: the first one the extent, the others the way back to it.
+struct Link {
+  bool isFirst = false;
+  int across = 0;
+  long down = 0;
+};
+
+std::optional<Link> LinkOf(CGridCells& cells, int col, long row) {
+  CGridCell cell;
+  int origin = 0;
+  Link link;
+  cells.Get(col, row, &cell);
+  if (cell.GetJoinInfo(&origin, &link.across, &link.down) != 0) {
+    return std::nullopt;
+  }
+  link.isFirst = origin != 0;
+  return link;
+}
+
+}  // namespace
 
 bool CGridJoins::IsValid(const Block& block) const {
   const CGridInfo& info = m_sheets.Current();
@@ -38,10 +63,11 @@ int CGridJoins::UnJoin(const Block& range) {
     return 1;
   }
   int result = 1;
-  for (long row = range.startRow; row <= range.endRow; ++row) {
-    for (int col = range.startCol; col <= range.endCol; ++col) {
+  for (int col = range.startCol; col <= range.endCol; ++col) {
+    for (long row = m_cells.NextJoined(col, range.startRow); row <= range.endRow;
+         row = m_cells.NextJoined(col, row + 1)) {
       Block block{};
-      if (Find(col, row, block)) {
+      if (FindStored(col, row, block)) {
         Dissolve(block);
         result = 0;
       }
@@ -73,38 +99,27 @@ bool CGridJoins::IsWholeAt(int col, long row, const Block& block) {
   if (firstCol == block.startCol && firstRow == block.startRow) {
     return true;
   }
-  CGridCell first;
-  int origin = 0;
-  int across = 0;
-  long down = 0;
-  m_cells.Get(firstCol, firstRow, &first);
-  return first.GetJoinInfo(&origin, &across, &down) == 0 && origin == 0 &&
-         firstCol + across == block.startCol && firstRow + down == block.startRow;
+  const std::optional<Link> first = LinkOf(m_cells, firstCol, firstRow);
+  return first && !first->isFirst && firstCol + first->across == block.startCol &&
+         firstRow + first->down == block.startRow;
 }
 
 bool CGridJoins::Find(int col, long row, Block& block) {
   block = {col, row, col, row};
-  if (m_sheets.Current().view.joins == 0) {
+  return m_sheets.Current().view.joins != 0 && FindStored(col, row, block);
+}
+
+bool CGridJoins::FindStored(int col, long row, Block& block) {
+  CellPlace start{col, row};
+  std::optional<Link> link = LinkOf(m_cells, col, row);
+  if (link && !link->isFirst) {
+    start = {col + link->across, row + link->down};
+    link = LinkOf(m_cells, start.col, start.row);
+  }
+  if (!link || !link->isFirst) {
     return false;
   }
-  CGridCell cell;
-  int origin = 0;
-  int across = 0;
-  long down = 0;
-  m_cells.Get(col, row, &cell);
-  if (cell.GetJoinInfo(&origin, &across, &down) != 0) {
-    return false;
-  }
-  Block found{col, row, col + across, row + down};
-  if (origin == 0) {
-    const int startCol = col + across;
-    const long startRow = row + down;
-    m_cells.Get(startCol, startRow, &cell);
-    if (cell.GetJoinInfo(&origin, &across, &down) != 0 || origin == 0) {
-      return false;
-    }
-    found = {startCol, startRow, startCol + across, startRow + down};
-  }
+  const Block found{start.col, start.row, start.col + link->across, start.row + link->down};
   if (!IsValid(found) || col > found.endCol || row > found.endRow || col < found.startCol ||
       row < found.startRow || !IsWholeAt(col, row, found)) {
     return false;

@@ -24,7 +24,8 @@ class CGridJoins {
 
   /// 1 when the block is turned round or reaches out of the sheet; then nothing is stored.
   int Join(const Block& block);
-  /// Dissolves every joined block that has a cell in the range. 1 when there is none.
+  /// Dissolves every joined block that has a cell in the range, also while joins are off. 1 when there is
+  /// none.
   int UnJoin(const Block& range);
   /// The block that holds the cell; false, with `block` the cell alone, when it is not joined, joins are off,
   /// or the block's first cell in the cell's own window belongs to it no more.
@@ -32,6 +33,7 @@ class CGridJoins {
 
  private:
   bool IsValid(const Block& block) const;
+  bool FindStored(int col, long row, Block& block);
   bool IsWholeAt(int col, long row, const Block& block);
   void Dissolve(const Block& block);
 

@@ -102,6 +102,10 @@ int CGridMem::GetPrevNonBlankCol(int* col, long row) {
   return 1;
 }
 
+long CGridMem::NextJoinedRow(int col, long row) const {
+  return static_cast<long>(m_store->NextRowWith(CELLPROP_JOIN, col, row));
+}
+
 int CGridMem::FindFirst(CString* text, int* col, long* row, long flags) {
   const bool allColumns = (flags & FIND_ALLCOLS) != 0;
   int foundCol = allColumns ? -1 : *col;

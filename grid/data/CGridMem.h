@@ -46,6 +46,9 @@ class COREGUI_API CGridMem : public CGridDataSource {
   /// The index of the last row; 0 when nothing is stored.
   long GetNumRows() override;
   int GetPrevNonBlankCol(int* col, long row) override;
+  /// The first row from `row` on whose cell in the column belongs to a joined block; one behind the stored
+  /// rows when there is none.
+  long NextJoinedRow(int col, long row) const;
 
   int FindFirst(CString* text, int* col, long* row, long flags) override;
   int FindNext(CString* text, int* col, long* row, int flags) override;

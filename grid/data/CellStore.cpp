@@ -189,6 +189,25 @@ void CellStore::Clear() {
   ForgetPlace();
 }
 
+std::int64_t CellStore::NextRowWith(DWORD properties, int col, std::int64_t row) {
+  const int storage = m_columns.Find(col);
+  std::int64_t at = std::max(row, FirstRow());
+  if (storage == ColumnMap::NONE || at >= EndRow() || !m_codec.Looks().HasAny(properties)) return EndRow();
+  const Place place = Locate(at);
+  std::int64_t inLeaf = place.wide;
+  for (RowLeaf* leaf = place.leaf; leaf != nullptr; leaf = leaf->next, inLeaf = 0) {
+    if (const ColumnChunk* const chunk = leaf->Find(storage); chunk != nullptr && chunk->Count() > 0) {
+      for (; inLeaf < leaf->count; ++inLeaf, ++at) {
+        const CellSlot slot = chunk->Find(static_cast<int>(inLeaf));
+        if (slot.Exists() && (m_codec.Look(slot).flags & properties) != 0) return at;
+      }
+    } else {
+      at += leaf->count - inLeaf;
+    }
+  }
+  return at;
+}
+
 bool CellStore::LastPosition(std::int64_t row, int& col) {
   const Place place = Locate(row);
   if (!place.leaf->HasPositions() || !place.leaf->positions->HasAny(place.row)) return false;

@@ -39,6 +39,9 @@ class CellStore {
   void InsertCol(int col);
   void DeleteCol(int col);
   void Clear();
+  /// The first row from `row` on whose cell in the column has one of the properties set (CELLPROP_ bits);
+  /// EndRow() or behind when there is none.
+  std::int64_t NextRowWith(DWORD properties, int col, std::int64_t row);
   /// The last position of a row that exists; false when it has none.
   bool LastPosition(std::int64_t row, int& col);
 

@@ -70,6 +70,12 @@ void LookTable::Release(std::uint32_t id) {
   }
 }
 
+bool LookTable::HasAny(DWORD properties) const {
+  return std::any_of(m_entries.begin(), m_entries.end(), [properties](const Entry& entry) {
+    return entry.look != nullptr && (entry.look->flags & properties) != 0;
+  });
+}
+
 void LookTable::Clear() {
   m_ids.clear();
   m_entries.clear();

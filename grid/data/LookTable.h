@@ -23,6 +23,8 @@ class LookTable {
   /// How many cells refer to the look.
   std::uint64_t Count(std::uint32_t id) const { return m_entries[id].count; }
   std::size_t Size() const { return m_entries.size(); }
+  /// Whether some cell has one of the properties set (CELLPROP_ bits).
+  bool HasAny(DWORD properties) const;
   bool Check() const;
 
  private:

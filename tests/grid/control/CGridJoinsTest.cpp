@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "grid/data/CGridCell.h"
+#include "grid/data/CGridMem.h"
 #include "tests/grid/control/LoggingGrid.h"
 
 using coregui::test::LoggingGrid;
@@ -71,6 +72,30 @@ TEST(CGridJoins, UnjoiningLeavesNoTraceWhereNothingWasStored) {
   CGridCell cell;
   EXPECT_EQ(grid.GetCell(0, 0, &cell), 1);
   EXPECT_EQ(grid.UnJoinCells(1, 1, 2, 2), 1);
+}
+
+TEST(CGridJoins, UnjoiningFindsEveryBlockInTheHeadingsInAnySourceAndFarDown) {
+  constexpr long kRows = 5000;
+  LoggingGrid grid(4, kRows, 300, 60);
+  CGridMem other;
+  grid.SetColDataSource(3, grid.AddDataSource(&other));
+  grid.MoveColPosition(0, 2, 0);
+  const Block blocks[] = {{-1, -1, 0, -1}, {-1, 3, -1, 200}, {0, 0, 1, 0},          {2, 1, 2, 64},
+                          {2, 65, 3, 66},  {3, 90, 3, 95},   {0, 130, 1, kRows - 1}};
+  for (long row = 60; row < 70; ++row) grid.QuickSetText(2, row, L"kept");
+  for (const Block& b : blocks) ASSERT_EQ(grid.JoinCells(b.startCol, b.startRow, b.endCol, b.endRow), 0) << b;
+  EXPECT_EQ(grid.UnJoinCells(0, 1, 1, 129), 1) << "between the blocks";
+  EXPECT_EQ(grid.UnJoinCells(1, 70, 1, 130), 0);
+  EXPECT_EQ(grid.UnJoinCells(2, 64, 2, 64), 0);
+  EXPECT_EQ(BlockOf(grid, 2, 1), (Block{2, 1, 2, 1}));
+  EXPECT_EQ(BlockOf(grid, 3, 66), blocks[4]) << "the next one stays";
+  grid.EnableJoins(0);
+  EXPECT_EQ(grid.UnJoinCells(-1, -1, 3, kRows - 1), 0);
+  grid.EnableJoins(1);
+  for (const Block& b : blocks) {
+    EXPECT_EQ(BlockOf(grid, b.startCol, b.startRow), (Block{b.startCol, b.startRow, b.startCol, b.startRow}));
+  }
+  EXPECT_EQ(grid.Text(2, 65), "kept");
 }
 
 TEST(CGridJoins, ATornBlockCountsAsNotJoined) {
