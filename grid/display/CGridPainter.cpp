@@ -275,13 +275,14 @@ void CGridPainter::RememberFocus(Pass& pass, long row, int height) {
 }
 
 /// Where the focus rectangle of a highlighted row ends.
+///
+/// Kept: where the columns fill the window, the locked ones do not count.
 int CGridPainter::FocusRight() const {
   const CGridInfo& info = m_control.GetInfo();
   if (m_columns.end < info.columns.Extent()) return m_columns.end;
   if (info.view.highlightRowToEdge != 0) return info.columns.Extent();
-  const CGridColumns& columns = info.columns;
-  const std::int64_t end = columns.LockedSize() + columns.TotalSize() - columns.OffsetOf(columns.First());
-  return static_cast<int>(std::min<std::int64_t>(end, std::numeric_limits<std::int16_t>::max()));
+  const std::int64_t scrolled = info.columns.TotalSize() - info.columns.OffsetOf(info.columns.First());
+  return static_cast<int>(std::min<std::int64_t>(scrolled, std::numeric_limits<std::int16_t>::max()));
 }
 
 void CGridPainter::RememberShown() {

@@ -192,10 +192,15 @@ TEST_F(CGridPainterTest, TheFocusRectangleSurroundsTheCellTheBlockOrTheRow) {
   EXPECT_EQ(focus(), "focus 0,20,210,40");
   grid.SetNumberCols(3);
   EXPECT_EQ(focus(), "focus 0,20,150,40");
-  grid.GetInfo().view.highlightRowToEdge = 0;
-  grid.FitToWindow(0, 2);
-  grid.LockColumns(1);
-  EXPECT_EQ(focus(), "focus 0,20,210,40") << "the locked columns are in the row too";
+}
+
+TEST_F(CGridPainterTest, TheFrameOfARowThatFillsTheWindowLeavesOutTheLockedColumnsIsKept) {
+  SetCurrent(1, 1);
+  painter.SetFocus(true);
+  grid.GetInfo().view.highlightRow = 1;
+  grid.LockColumns(2);
+  Paint();
+  EXPECT_EQ(grid.log.back(), "focus 0,20,900,40");
 }
 
 // --- Hints by row
