@@ -27,6 +27,7 @@ inline constexpr UINT WM_SETCURSOR = 0x0020;
 /// activates windows by itself may have done so before the press arrives; then nobody is asked.
 inline constexpr UINT WM_MOUSEACTIVATE = 0x0021;
 inline constexpr UINT WM_SETFONT = 0x0030;
+inline constexpr UINT WM_HELP = 0x0053;  ///< help is asked for; lParam: HELPINFO*. Non-zero: it was given
 inline constexpr UINT WM_CONTEXTMENU = 0x007B;
 inline constexpr UINT WM_NCDESTROY = 0x0082;
 inline constexpr UINT WM_GETDLGCODE = 0x0087;
@@ -64,6 +65,8 @@ inline constexpr UINT WM_CLEAR = 0x0303;
 inline constexpr UINT WM_UNDO = 0x0304;
 inline constexpr UINT WM_PRINTCLIENT = 0x0318;  ///< wParam: CDC* to draw on
 inline constexpr UINT WM_THEMECHANGED = 0x031A;
+/// lParam: a client point. Answer: the help number of what is there, 0 for none.
+inline constexpr UINT WM_HELPHITTEST = 0x0366;
 inline constexpr UINT WM_USER = 0x0400;
 inline constexpr UINT WM_APP = 0x8000;
 /// Touchpad pinch over a window: wParam is the zoom factor times 65536, lParam the client position.
@@ -135,6 +138,16 @@ inline constexpr WPARAM SIZE_MAXIMIZED = 2;
 inline constexpr WPARAM WA_INACTIVE = 0;
 inline constexpr WPARAM WA_ACTIVE = 1;
 inline constexpr WPARAM WA_CLICKACTIVE = 2;
+
+/// What help is asked for, in WM_HELP.
+struct HELPINFO {
+  UINT cbSize = sizeof(HELPINFO);
+  int iContextType = 1;        ///< of a window
+  int iCtrlId = 0;             ///< the window's id
+  HWND hItemHandle = nullptr;  ///< the window
+  DWORD dwContextId = 0;       ///< the help number
+  POINT MousePos;              ///< in screen coordinates
+};
 
 /// A queued message, as PreTranslateMessage sees it before the window does.
 struct MSG {

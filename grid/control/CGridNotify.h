@@ -109,7 +109,8 @@ class COREGUI_API CGridNotify {
   virtual int OnVScrollHint(long row, CString* text);
   /// The same for the horizontal thumb and the column.
   virtual int OnHScrollHint(int col, CString* text);
-  /// Help number of a place; 0 is none.
+  /// Help number of a place; 0 is none. Asked for the current cell when F1 is pressed (the windows around the
+  /// grid then get WM_HELP with the number), and by WM_HELPHITTEST for a point of each part.
   virtual DWORD OnGetContextHelpID(int col, long row, int section);
 
   // --- Drawing

@@ -37,6 +37,7 @@ const MessageTable& CGrid::GetMessageTable() const {
                                         .On<WM_MOUSEMOVE>(&CGrid::HandleMouseMove)
                                         .On<WM_MOUSEWHEEL>(&CGrid::HandleMouseWheel)
                                         .On<WM_MOUSELEAVE>(&CGrid::HandleMouseLeave)
+                                        .On<WM_HELPHITTEST>(&CGrid::HandleHelpHitTest)
                                         .On<WM_SETCURSOR>(&CGrid::HandleSetCursor)
                                         .On<WM_MOUSEACTIVATE>(&CGrid::HandleMouseActivate)
                                         .On<WM_KEYDOWN>(&CGrid::HandleKeyDown)

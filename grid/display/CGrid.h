@@ -66,6 +66,7 @@ class COREGUI_API CGrid : public CWnd {
   void HandleMouseMove(UINT flags, CPoint point);
   BOOL HandleMouseWheel(UINT flags, short delta, CPoint screen);
   void HandleMouseLeave();
+  LRESULT HandleHelpHitTest(WPARAM wParam, LPARAM lParam);
   BOOL HandleSetCursor(CWnd* window, UINT hitTest, UINT message);
   LRESULT HandleMouseActivate(WPARAM wParam, LPARAM lParam);
   void HandleKeyDown(UINT key, UINT repeat, UINT flags);

@@ -5,6 +5,7 @@
 #include "grid/control/CGridCellDelegate.h"
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridInfo.h"
+#include "grid/display/ContextHelp.h"
 #include "platform/CDC.h"
 #include "platform/System.h"
 #include "platform/WindowRef.h"
@@ -34,6 +35,7 @@ const MessageTable& CGridCnrBtn::GetMessageTable() const {
                                         .On<WM_RBUTTONDOWN>(&CGridCnrBtn::HandleRButtonDown)
                                         .On<WM_RBUTTONUP>(&CGridCnrBtn::HandleRButtonUp)
                                         .On<WM_MOUSEMOVE>(&CGridCnrBtn::HandleMouseMove)
+                                        .On<WM_HELPHITTEST>(&CGridCnrBtn::HandleHelpHitTest)
                                         .On<WM_SETCURSOR>(&CGridCnrBtn::HandleSetCursor);
   return table;
 }
@@ -211,6 +213,10 @@ void CGridCnrBtn::HandleMouseMove(UINT flags, CPoint point) {
     m_edge = edge;
     ShowCursor();
   }
+}
+
+LRESULT CGridCnrBtn::HandleHelpHitTest(WPARAM, LPARAM lParam) {
+  return HelpNumberAt(*m_control, GRIDSECTION_CORNERBUTTON, lParam);
 }
 
 BOOL CGridCnrBtn::HandleSetCursor(CWnd*, UINT, UINT) {

@@ -29,6 +29,7 @@ class COREGUI_API CGridCnrBtn : public CWnd {
   void HandleRButtonDown(UINT flags, CPoint point);
   void HandleRButtonUp(UINT flags, CPoint point);
   void HandleMouseMove(UINT flags, CPoint point);
+  LRESULT HandleHelpHitTest(WPARAM wParam, LPARAM lParam);
   BOOL HandleSetCursor(CWnd* window, UINT hitTest, UINT message);
 
   void Draw(CDC& dc);

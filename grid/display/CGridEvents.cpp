@@ -3,6 +3,7 @@
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridInfo.h"
 #include "grid/display/CGrid.h"
+#include "grid/display/ContextHelp.h"
 #include "platform/System.h"
 #include "platform/WindowRef.h"
 
@@ -45,6 +46,10 @@ BOOL CGrid::HandleMouseWheel(UINT flags, short delta, CPoint) {
   m_tips.Cancel();
   m_mouse.Wheel(flags, delta);
   return TRUE;
+}
+
+LRESULT CGrid::HandleHelpHitTest(WPARAM, LPARAM lParam) {
+  return HelpNumberAt(*m_control, GRIDSECTION_GRID, lParam);
 }
 
 BOOL CGrid::HandleSetCursor(CWnd*, UINT, UINT) {

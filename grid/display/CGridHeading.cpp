@@ -3,6 +3,7 @@
 #include "grid/control/CGridCellDelegate.h"
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridInfo.h"
+#include "grid/display/ContextHelp.h"
 #include "platform/CDC.h"
 #include "platform/System.h"
 #include "platform/WindowRef.h"
@@ -32,6 +33,7 @@ const MessageTable& CGridHeading::GetMessageTable() const {
                                         .On<WM_RBUTTONUP>(&CGridHeading::HandleRButtonUp)
                                         .On<WM_MOUSEMOVE>(&CGridHeading::HandleMouseMove)
                                         .On<WM_MOUSELEAVE>(&CGridHeading::HandleMouseLeave)
+                                        .On<WM_HELPHITTEST>(&CGridHeading::HandleHelpHitTest)
                                         .On<WM_SETCURSOR>(&CGridHeading::HandleSetCursor)
                                         .On<WM_TIMER>(&CGridHeading::HandleTimer);
   return table;
@@ -199,6 +201,10 @@ void CGridHeading::HandleMouseMove(UINT flags, CPoint point) {
 
 void CGridHeading::HandleMouseLeave() {
   m_tips.Cancel();
+}
+
+LRESULT CGridHeading::HandleHelpHitTest(WPARAM, LPARAM lParam) {
+  return HelpNumberAt(*m_control, m_section, lParam);
 }
 
 BOOL CGridHeading::HandleSetCursor(CWnd*, UINT, UINT) {

@@ -60,6 +60,7 @@ class COREGUI_API CGridHeading : public CWnd {
   void HandleRButtonUp(UINT flags, CPoint point);
   void HandleMouseMove(UINT flags, CPoint point);
   void HandleMouseLeave();
+  LRESULT HandleHelpHitTest(WPARAM wParam, LPARAM lParam);
   BOOL HandleSetCursor(CWnd* window, UINT hitTest, UINT message);
   void HandleTimer(UINT id);
   bool HitTest(CPoint point, Click& click) const;

@@ -8,6 +8,7 @@
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridInfo.h"
 #include "grid/display/Ballistics.h"
+#include "grid/display/ContextHelp.h"
 #include "platform/Keys.h"
 #include "platform/System.h"
 #include "platform/WindowRef.h"
@@ -22,7 +23,7 @@ constexpr int kLast = 5;
 constexpr long kMostLines = std::numeric_limits<std::int32_t>::max();
 
 enum class When { always, withoutControl, withControl };
-enum class Effect { stepColumn, stepRow, moveColumn, moveRow };
+enum class Effect { stepColumn, stepRow, moveColumn, moveRow, help };
 
 }  // namespace
 
@@ -34,7 +35,7 @@ struct CGridKeys::Rule {
 };
 
 const CGridKeys::Rule* CGridKeys::FindRule(UINT key, bool control) {
-  static constexpr std::array<Rule, 10> kRules{{
+  static constexpr std::array<Rule, 11> kRules{{
       {VK_LEFT, When::always, Effect::stepColumn, -1},
       {VK_RIGHT, When::always, Effect::stepColumn, 1},
       {VK_UP, When::always, Effect::stepRow, -1},
@@ -45,6 +46,7 @@ const CGridKeys::Rule* CGridKeys::FindRule(UINT key, bool control) {
       {VK_HOME, When::withControl, Effect::moveRow, kFirst},
       {VK_END, When::withoutControl, Effect::moveColumn, kLast},
       {VK_END, When::withControl, Effect::moveRow, kLast},
+      {VK_F1, When::withoutControl, Effect::help, 0},
   }};
   const When held = control ? When::withControl : When::withoutControl;
   const auto* const at = std::find_if(kRules.begin(), kRules.end(), [key, held](const Rule& rule) {
@@ -81,6 +83,9 @@ void CGridKeys::KeyDown(UINT key) {
       break;
     case Effect::moveRow:
       m_control.MoveCurrentRow(rule->argument);
+      break;
+    case Effect::help:
+      AskForHelp(m_control);
       break;
   }
 }

@@ -9,7 +9,7 @@ class CWnd;
 namespace coregui {
 
 /// The keys of the body: each is offered to the current cell's type, told to the control, and then moves the
-/// current cell by a table of keys. A held-down key may accelerate.
+/// current cell by a table of keys, or asks for help. A held-down key may accelerate.
 class COREGUI_API CGridKeys {
  public:
   /// Both are borrowed; `window` is the body.

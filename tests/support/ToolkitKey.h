@@ -14,7 +14,8 @@ inline int ToolkitKey(UINT key) {
       {VK_TAB, Qt::Key_Tab},       {VK_UP, Qt::Key_Up},         {VK_DOWN, Qt::Key_Down},
       {VK_LEFT, Qt::Key_Left},     {VK_RIGHT, Qt::Key_Right},   {VK_HOME, Qt::Key_Home},
       {VK_END, Qt::Key_End},       {VK_PRIOR, Qt::Key_PageUp},  {VK_NEXT, Qt::Key_PageDown},
-      {VK_INSERT, Qt::Key_Insert}, {VK_SPACE, Qt::Key_Space},   {VK_F2, Qt::Key_F2}};
+      {VK_INSERT, Qt::Key_Insert}, {VK_SPACE, Qt::Key_Space},   {VK_F1, Qt::Key_F1},
+      {VK_F2, Qt::Key_F2}};
   const auto found = keys.find(key);
   return found != keys.end() ? found->second : static_cast<int>(key);  // letters and digits
 }

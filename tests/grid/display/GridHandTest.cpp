@@ -208,6 +208,42 @@ TEST_F(GridHandTest, TheBodyWantsAllKeysAndIsActivatedByAClick) {
   EXPECT_EQ(Body().SendMessage(WM_MOUSEACTIVATE), MA_ACTIVATE);
 }
 
+/// A dialog around a grid.
+class HelpFrame : public CWnd {
+ public:
+  DWORD shown = 0;
+  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (message != WM_HELP) return CWnd::WindowProc(message, wParam, lParam);
+    shown = reinterpret_cast<const HELPINFO*>(lParam)->dwContextId;
+    return 1;
+  }
+};
+
+TEST(GridHelp, ComesForTheCurrentCellWithF1AndForEveryPlaceByItsPoint) {
+  HelpFrame frame;
+  CWnd pane;
+  HandGrid grid;
+  frame.Create(L"", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 400, 300), nullptr, 0);
+  pane.Create(L"", L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 400, 300), &frame, 1);
+  grid.CreateGrid(WS_CHILD | WS_VISIBLE, CRect(0, 0, 316, 216), &pane, 1);
+  grid.GotoCell(3, 2);
+  PressKey(*grid.GetGridWnd(), VK_F1);
+  EXPECT_EQ(frame.shown, 0U) << "the cell has no help";
+  grid.helps = true;
+  PressKey(*grid.GetGridWnd(), VK_F1);
+  EXPECT_EQ(frame.shown, 1032U);
+  const auto at = [](CWnd* part, int x, int y) {
+    return part->SendMessage(WM_HELPHITTEST, 0, MAKELPARAM(x, y));
+  };
+  EXPECT_EQ(at(grid.GetGridWnd(), 60, 30), 1011);
+  EXPECT_EQ(at(grid.GetTopHdgWnd(), 75, 10), 2008);
+  EXPECT_EQ(at(grid.GetSideHdgWnd(), 10, 30), 2991);
+  EXPECT_EQ(at(grid.GetCornerWnd(), 10, 30), 3989);
+  grid.SetNumberCols(2);
+  EXPECT_EQ(at(grid.GetGridWnd(), 200, 30), 989) << "beside the cells";
+  frame.DestroyWindow();
+}
+
 // --- Tips
 
 TEST_F(GridHandTest, ATipShowsWhereThePointerRestsInEveryPart) {

@@ -22,6 +22,7 @@ class HandGrid : public CGridCtrl {
  public:
   std::string log;
   std::string refuses;  ///< the name of the question that is answered with 0
+  bool helps = false;   ///< its places have help numbers
   int sizedTo = -1;     ///< what the end of sizing makes of a size
 
   std::string TakeNotes() { return std::exchange(log, ""); }
@@ -74,6 +75,9 @@ class HandGrid : public CGridCtrl {
     return refuses != "OnCanColSwap";
   }
   void OnColSwapped(int from, int to) override { Note(L"swapped %d to %d", from, to); }
+  DWORD OnGetContextHelpID(int col, long row, int section) override {
+    return helps ? static_cast<DWORD>(1000 * section + 10 * col + row) : 0;
+  }
   int OnHint(int col, long row, int section, CString* text) override {
     *text = CString::Formatted(L"%d,%ld in %d", col, row, section);
     return 1;
