@@ -5,26 +5,30 @@
 
 #include <cerrno>
 
-#include "tests/core/StatusLines.h"
-#include "tests/core/TemporaryFile.h"
-
-using coregui::TextReader;
-using testing::ElementsAre;
-using testing::IsEmpty;
-using namespace std::string_literals;
+#include "tests/support/FolderTest.h"
+#include "tests/support/LogWatch.h"
 
 namespace {
 
-std::vector<std::wstring> ReadAll(const TemporaryFile& file,
-                                  std::size_t maxCharacters = TextReader::kNoLimit) {
-  TextReader reader;
-  EXPECT_TRUE(reader.Open(file.Path().c_str()));
-  std::vector<std::wstring> lines;
-  for (std::wstring line; reader.ReadLine(line, maxCharacters);) lines.push_back(line);
-  EXPECT_EQ(reader.LineNumber(), lines.size());
-  EXPECT_EQ(reader.Position(), file.Bytes().size());
-  return lines;
-}
+using coregui::test::TakeLog;
+using testing::ElementsAre;
+using namespace std::string_literals;
+
+class TextReader : public coregui::test::FolderTest {
+ protected:
+  std::vector<std::wstring> ReadAll(const std::string& bytes,
+                                    std::size_t maxCharacters = coregui::TextReader::kNoLimit) {
+    Write("a", bytes);
+    EXPECT_TRUE(reader.Open(Wide("a")));
+    std::vector<std::wstring> lines;
+    for (std::wstring line; reader.ReadLine(line, maxCharacters);) lines.push_back(line);
+    EXPECT_EQ(reader.LineNumber(), lines.size());
+    EXPECT_EQ(reader.Position(), bytes.size());
+    return lines;
+  }
+  coregui::TextReader reader;
+  const std::wstring path = Wide("a").Str();
+};
 
 struct ReadingCase {
   const char* name;
@@ -59,75 +63,57 @@ const ReadingCase kReadingCases[] = {
     {"a line feed's byte inside a UTF-16 unit", "\xFF\xFE\x0A\x01"s, {L"\u010A"}},
 };
 
-}  // namespace
-
-TEST(TextReader, ReadsEveryEncodingAndLineEnd) {
+TEST_F(TextReader, ReadsEveryEncodingAndLineEnd) {
   for (const ReadingCase& row : kReadingCases) {
-    SCOPED_TRACE(row.name);
-    const StatusLines status;
-    EXPECT_EQ(ReadAll(TemporaryFile(row.bytes)), row.lines);
-    EXPECT_THAT(status.Lines(), IsEmpty());
+    EXPECT_EQ(ReadAll(row.bytes), row.lines) << row.name;
+    EXPECT_THAT(TakeLog(), testing::IsEmpty()) << row.name;
   }
 }
 
-TEST(TextReader, BytesThatAreNotUtf8AreWindows1252AndSpoilNothingElse) {
-  const StatusLines status;
-  const TemporaryFile file("ok\nM\xFCller \xC3\xA4 \x80\n\xE2\x82\nover\xC0\xAFlong \xED\xA0\x80\n\xC3");
-  EXPECT_THAT(ReadAll(file), ElementsAre(L"ok", L"M\u00FCller \u00E4 \u20AC", L"\u00E2\u201A",
-                                         L"over\u00C0\u00AFlong \u00ED\u00A0\u20AC", L"\u00C3"));
-  EXPECT_THAT(
-      status.Lines(),
-      ElementsAre(file.Path() + L": line 2, column 2: not UTF-8; such bytes are read as Windows-1252"));
+TEST_F(TextReader, BytesThatAreNotUtf8AreWindows1252AndSpoilNothingElse) {
+  EXPECT_THAT(ReadAll("ok\nM\xFCller \xC3\xA4 \x80\n\xE2\x82\nover\xC0\xAFlong \xED\xA0\x80\n\xC3"),
+              ElementsAre(L"ok", L"M\u00FCller \u00E4 \u20AC", L"\u00E2\u201A",
+                          L"over\u00C0\u00AFlong \u00ED\u00A0\u20AC", L"\u00C3"));
+  EXPECT_THAT(TakeLog(),
+              ElementsAre(path + L": line 2, column 2: not UTF-8; such bytes are read as Windows-1252"));
 }
 
-TEST(TextReader, NulCharactersAreLeftOutAndReportedWithTheirPlace) {
-  const StatusLines status;
-  const TemporaryFile file("ab\n\0c\xC3\xA4\0d\n"s);
-  EXPECT_THAT(ReadAll(file), ElementsAre(L"ab", L"c\u00E4d"));
-  EXPECT_THAT(status.Lines(), ElementsAre(file.Path() + L": line 2, column 1: a NUL character is left out",
-                                          file.Path() + L": line 2, column 4: a NUL character is left out"));
+TEST_F(TextReader, NulCharactersAreLeftOutAndReportedWithTheirPlaceManyInANumber) {
+  EXPECT_THAT(ReadAll("ab\n\0c\xC3\xA4\0d\n"s), ElementsAre(L"ab", L"c\u00E4d"));
+  EXPECT_THAT(TakeLog(), ElementsAre(path + L": line 2, column 1: a NUL character is left out",
+                                     path + L": line 2, column 4: a NUL character is left out"));
+  EXPECT_THAT(ReadAll(std::string(100'000, '\0')), ElementsAre(L""));
+  const std::vector<std::wstring> log = TakeLog();
+  EXPECT_EQ(log.size(), 21U);
+  EXPECT_EQ(log.back(), path + L": 100000 NUL characters in all are left out");
 }
 
-TEST(TextReader, ManyReportsEndInANumber) {
-  const StatusLines status;
-  const TemporaryFile file(std::string(100'000, '\0'));
-  EXPECT_THAT(ReadAll(file), ElementsAre(L""));
-  EXPECT_EQ(status.Lines().size(), 21U);
-  EXPECT_EQ(status.Lines().back(), file.Path() + L": 100000 NUL characters in all are left out");
-}
-
-TEST(TextReader, ALongLineIsCutAtTheLimitAndTheNextOneIsWhole) {
-  const StatusLines status;
-  const TemporaryFile file("abc\nabcd\r\n\u00E4bc\nab\u00E4d\nabc");
-  EXPECT_THAT(ReadAll(file, 3), ElementsAre(L"abc", L"abc", L"\u00E4bc", L"ab\u00E4", L"abc"));
+TEST_F(TextReader, ALongLineIsCutAtTheLimitAndTheNextOneIsWhole) {
+  EXPECT_THAT(ReadAll("abc\nabcd\r\n\u00E4bc\nab\u00E4d\nabc", 3),
+              ElementsAre(L"abc", L"abc", L"\u00E4bc", L"ab\u00E4", L"abc"));
   const std::wstring why = L", column 4: the line is longer than 3 characters; the rest is left out";
-  EXPECT_THAT(status.Lines(), ElementsAre(file.Path() + L": line 2" + why, file.Path() + L": line 4" + why));
+  EXPECT_THAT(TakeLog(), ElementsAre(path + L": line 2" + why, path + L": line 4" + why));
 }
 
-TEST(TextReader, BlockBordersFallAnywhere) {
+TEST_F(TextReader, BlockBordersFallAnywhere) {
   // Lines whose length has no factor in common with the block's, so that borders cut each kind of sequence
   // somewhere.
   const std::vector<std::string> pieces = {"plain text\n", "with \u20AC\r\n", "\U0001D11E\r", "\u00E4\r\n"};
   const std::vector<std::wstring> expected = {L"plain text", L"with \u20AC", L"\U0001D11E", L"\u00E4"};
   std::string bytes;
   for (int i = 0; i < 120'000; ++i) bytes += pieces[static_cast<std::size_t>(i % 4)];
-  const std::vector<std::wstring> lines = ReadAll(TemporaryFile(bytes));
+  const std::vector<std::wstring> lines = ReadAll(bytes);
   ASSERT_EQ(lines.size(), 120'000U);
   for (std::size_t i = 0; i < lines.size(); ++i) ASSERT_EQ(lines[i], expected[i % 4]) << "line " << i + 1;
+  const std::string longer(1'000'003, 'x');
+  EXPECT_THAT(ReadAll("a\r\n" + longer + "\r\nb\r"),
+              ElementsAre(L"a", std::wstring(longer.begin(), longer.end()), L"b"));
 }
 
-TEST(TextReader, ALineMayBeLongerThanABlock) {
-  const std::string longLine(1'000'003, 'x');
-  EXPECT_THAT(ReadAll(TemporaryFile("a\r\n" + longLine + "\r\nb\r")),
-              ElementsAre(L"a", std::wstring(longLine.begin(), longLine.end()), L"b"));
-}
-
-TEST(TextReader, OpensOnlyRegularFilesAndSaysWhyNot) {
-  const TemporaryFile file("a");
-  TextReader reader;
-  EXPECT_FALSE(reader.Open(file.Folder().c_str()));
+TEST_F(TextReader, OpensOnlyRegularFilesAndSaysWhyNot) {
+  EXPECT_FALSE(reader.Open(Wide("")));
   EXPECT_EQ(errno, EISDIR);
-  EXPECT_FALSE(reader.Open((file.Path() + L".not").c_str()));
+  EXPECT_FALSE(reader.Open(Wide("none")));
   EXPECT_EQ(errno, ENOENT);
   EXPECT_FALSE(reader.Open(L"/dev/zero"));
   EXPECT_FALSE(reader.Open(nullptr));
@@ -135,3 +121,5 @@ TEST(TextReader, OpensOnlyRegularFilesAndSaysWhyNot) {
   EXPECT_FALSE(reader.ReadLine(line));
   EXPECT_EQ(line, L"");
 }
+
+}  // namespace

@@ -5,73 +5,63 @@
 #include <cerrno>
 #include <filesystem>
 
-#include "tests/core/TemporaryFile.h"
+#include "tests/support/FolderTest.h"
 #include "tests/support/FullDisk.h"
-
-using coregui::TextWriter;
-using coregui::test::FullDisk;
-namespace fs = std::filesystem;
 
 namespace {
 
-std::ptrdiff_t FilesBeside(const TemporaryFile& file) {
-  return std::distance(fs::directory_iterator(file.Folder()), fs::directory_iterator());
-}
+namespace fs = std::filesystem;
 
-}  // namespace
+class TextWriter : public coregui::test::FolderTest {
+ protected:
+  TextWriter() { Write("a", "old"); }
+  coregui::TextWriter writer;
+};
 
-TEST(TextWriter, TheOldFileStaysUntilCommit) {
-  const TemporaryFile file("old");
+TEST_F(TextWriter, TheOldFileStaysUntilCommit) {
   {
-    TextWriter given;
-    ASSERT_TRUE(given.Open(file.Path().c_str()));
+    coregui::TextWriter given;
+    ASSERT_TRUE(given.Open(Wide("a")));
     EXPECT_TRUE(given.WriteLine(L"given up"));
   }
-  EXPECT_EQ(file.Bytes(), "old");
-  TextWriter writer;
-  ASSERT_TRUE(writer.Open(file.Path().c_str()));
+  ASSERT_TRUE(writer.Open(Wide("a")));
   EXPECT_TRUE(writer.WriteLine(L"n\u00E4w"));
   EXPECT_TRUE(writer.WriteLine(L""));
-  EXPECT_EQ(file.Bytes(), "old");
+  EXPECT_EQ(Read("a"), "old");
   EXPECT_TRUE(writer.Commit());
-  EXPECT_EQ(file.Bytes(), "n\u00E4w\n\n");
+  EXPECT_EQ(Read("a"), "n\u00E4w\n\n");
   EXPECT_FALSE(writer.WriteLine(L"late"));
   EXPECT_FALSE(writer.Commit());
-  EXPECT_EQ(FilesBeside(file), 1);
+  EXPECT_EQ(Count(), 1U);
 }
 
-TEST(TextWriter, AFullDiskLosesNothing) {
-  const TemporaryFile file("old");
-  const FullDisk disk(100'000);
-  TextWriter writer;
-  ASSERT_TRUE(writer.Open(file.Path().c_str()));
+TEST_F(TextWriter, AFullDiskLosesNothing) {
+  const coregui::test::FullDisk disk(100'000);
+  ASSERT_TRUE(writer.Open(Wide("a")));
   for (int i = 0; i < 50'000; ++i) writer.WriteLine(L"0123456789");
   EXPECT_FALSE(writer.Commit());
   EXPECT_EQ(errno, EFBIG);
-  EXPECT_EQ(file.Bytes(), "old");
-  EXPECT_EQ(FilesBeside(file), 1);
+  EXPECT_EQ(Read("a"), "old");
+  EXPECT_EQ(Count(), 1U);
 }
 
-TEST(TextWriter, LinksAndAccessRightsSurvive) {
-  const TemporaryFile file("old");
-  const std::wstring link = file.Folder() + L"/link";
-  fs::create_symlink(file.Path(), link);
-  fs::permissions(file.Path(), fs::perms{0640});
-  TextWriter writer;
-  ASSERT_TRUE(writer.Open(link.c_str()));
+TEST_F(TextWriter, LinksAndAccessRightsSurvive) {
+  fs::create_symlink(At("a"), At("link"));
+  fs::permissions(At("a"), fs::perms{0640});
+  ASSERT_TRUE(writer.Open(Wide("link")));
   EXPECT_TRUE(writer.WriteLine(L"new") && writer.Commit());
-  EXPECT_TRUE(fs::is_symlink(link));
-  EXPECT_EQ(file.Bytes(), "new\n");
-  EXPECT_EQ(fs::status(file.Path()).permissions(), fs::perms{0640});
+  EXPECT_TRUE(fs::is_symlink(At("link")));
+  EXPECT_EQ(Read("a"), "new\n");
+  EXPECT_EQ(fs::status(At("a")).permissions(), fs::perms{0640});
 }
 
-TEST(TextWriter, OpenRefusesWhatCannotBeReplaced) {
-  const TemporaryFile file("old");
-  TextWriter writer;
-  EXPECT_FALSE(writer.Open(file.Folder().c_str()));
+TEST_F(TextWriter, OpenRefusesWhatCannotBeReplaced) {
+  EXPECT_FALSE(writer.Open(Wide("")));
   EXPECT_EQ(errno, EISDIR);
-  EXPECT_FALSE(writer.Open((file.Folder() + L"/none/x").c_str()));
+  EXPECT_FALSE(writer.Open(Wide("none/x")));
   EXPECT_EQ(errno, ENOENT);
   EXPECT_FALSE(writer.Open(nullptr));
-  EXPECT_EQ(FilesBeside(file), 1);
+  EXPECT_EQ(Count(), 1U);
 }
+
+}  // namespace
