@@ -12,7 +12,7 @@
 #include "controls/NumberInput.h"
 #include "platform/Locale.h"
 #include "platform/System.h"
-#include "tests/controls/ControlWindow.h"
+#include "tests/support/ControlHost.h"
 
 namespace {
 
@@ -109,7 +109,7 @@ class NumericEditTest : public testing::Test {
   }
   static CString Text(const CWnd& window) { return window.GetWindowTextString(); }
 
-  coregui::test::ControlWindow m_host;
+  coregui::test::ControlHost m_host;
   CFloatEdit m_real;
   CIntEdit m_whole;
 };
@@ -242,10 +242,10 @@ TEST(NumericEdit, WithoutAWindowItHasAValueThatShowsOnceItIsMade) {
 
 TEST(NumericEdit, TheParentMayDestroyItWhenItTells) {
   for (const UINT key : {VK_UP, static_cast<UINT>('7')}) {
-    coregui::test::ControlWindow host;
+    coregui::test::ControlHost host;
     CIntEdit edit;
     edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 24), &host, 1);
-    host.destroyOnChange = &edit;
+    host.destroys = true;
     edit.SendMessage(key == VK_UP ? WM_KEYDOWN : WM_CHAR, key, 1);
     EXPECT_FALSE(edit.HasWindow());
   }

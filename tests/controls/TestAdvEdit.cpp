@@ -7,7 +7,7 @@
 #include "platform/CDialog.h"
 #include "platform/Locale.h"
 #include "platform/System.h"
-#include "tests/controls/ControlWindow.h"
+#include "tests/support/ControlHost.h"
 #include "tests/support/Hand.h"
 
 namespace {
@@ -48,8 +48,8 @@ class EditDialog : public CDialog {
 
  protected:
   BOOL OnInitDialog() override {
-    edit.Create(kChild, coregui::test::Place(0), this, 7);
-    ok.Create(L"OK", kChild | BS_DEFPUSHBUTTON, coregui::test::Place(1), this, IDOK);
+    edit.Create(kChild, PlaceAt(0), this, 7);
+    ok.Create(L"OK", kChild | BS_DEFPUSHBUTTON, PlaceAt(1), this, IDOK);
     return TRUE;
   }
   void OnOK() override { log += L"ok "; }
@@ -163,7 +163,7 @@ TEST_F(SmartEdit, EmptyIsAFaultOnlyWhereSomethingIsRequired) {
   host.TakeLog();
   TypeAndLeave(L"x");
   EXPECT_FALSE(edit.IsMarked());
-  EXPECT_GE(host.TakeLog().Find(L"7:1282 "), 0);
+  EXPECT_GE(host.TakeLog().Find(L"7:502 "), 0);
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 #include "controls/CNameEdit.h"
 #include "platform/Clipboard.h"
 #include "platform/System.h"
-#include "tests/controls/ControlWindow.h"
+#include "tests/support/ControlHost.h"
 #include "tests/support/Hand.h"
 
 namespace {
@@ -34,12 +34,10 @@ TEST(NameCharacters, AreExactForEachKind) {
 
 class NameEdit : public EditTest<CNameEdit> {
  protected:
-  NameEdit() { Start(L"GROUP"); }
-  void Start(const wchar_t* kind) {
-    edit.DestroyWindow();
+  NameEdit() { Allow(L"GROUP"); }
+  void Allow(const wchar_t* kind) {
     edit.SetAllowedCharacters(CNameEdit::GetAllowedCharacters(kind));
-    edit.Create(kChild, Place(0), &host, 7);
-    edit.SetFocus();
+    Start();
     m_beeps = GetBeepCount(MB_ICONEXCLAMATION_SOUND);
   }
   int Beeps() { return GetBeepCount(MB_ICONEXCLAMATION_SOUND) - m_beeps; }
@@ -71,7 +69,7 @@ TEST_F(NameEdit, BeepsForEachRefusedCharacterHoweverItComes) {
   PressKey(edit, VK_BACK);
   EXPECT_EQ(Shown(), L"a1bcd|");
   EXPECT_EQ(Beeps(), 4);
-  Start(L"ROAD");
+  Allow(L"ROAD");
   TypeKeys(edit, L".;");
   EXPECT_EQ(Shown(), L";|");
   EXPECT_EQ(Beeps(), 1);
@@ -157,7 +155,7 @@ TEST_F(NameEdit, ShowsWhatIsSetAndFiltersOnlyItsValue) {
 }
 
 TEST_F(NameEdit, MayBeDestroyedWhenItTells) {
-  host.destroyOnChange = &edit;
+  host.destroys = true;
   coregui::SetClipboardText(L"a.b");
   edit.Paste();
   EXPECT_FALSE(edit.HasWindow());

@@ -16,10 +16,7 @@
 namespace {
 
 namespace fs = std::filesystem;
-using coregui::test::FolderTest;
-using coregui::test::NextWindow;
-using coregui::test::OrdinaryUser;
-using coregui::test::ShownWindow;
+using namespace coregui::test;
 
 class FileCopyProgressTest : public FolderTest {
  protected:

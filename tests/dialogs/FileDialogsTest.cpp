@@ -13,10 +13,7 @@
 namespace {
 
 namespace fs = std::filesystem;
-using coregui::test::FolderTest;
-using coregui::test::NextWindow;
-using coregui::test::NoWindow;
-using coregui::test::ShownWindow;
+using namespace coregui::test;
 
 class FileDialogsTest : public FolderTest {
  protected:

@@ -19,12 +19,7 @@
 namespace {
 
 namespace fs = std::filesystem;
-using coregui::test::ExpectLog;
-using coregui::test::FolderTest;
-using coregui::test::NextWindow;
-using coregui::test::NoWindow;
-using coregui::test::OrdinaryUser;
-using coregui::test::ShownWindow;
+using namespace coregui::test;
 
 class LockFileTest : public FolderTest {
  protected:
@@ -135,7 +130,7 @@ TEST_F(LockFileTest, HostileLockFilesAreReadWithinTheLimits) {
   EXPECT_FALSE(Check());
   WriteLock(std::string("tes\0ter\xFF\xFE\x01", 10));
   EXPECT_FALSE(Check());
-  EXPECT_FALSE(coregui::test::TakeLog().empty());
+  EXPECT_FALSE(TakeLog().empty());
 }
 
 TEST_F(LockFileTest, WhatCannotBeMadeOrReadGoesToTheStatusOutput) {
@@ -147,7 +142,7 @@ TEST_F(LockFileTest, WhatCannotBeMadeOrReadGoesToTheStatusOutput) {
 }
 
 TEST_F(LockFileTest, AFullDiskLeavesNoLockOfNobody) {
-  const coregui::test::FullDisk disk(0);
+  const FullDisk disk(0);
   ExpectNotMade("a survey.csv");
   EXPECT_FALSE(fs::exists(m_lock));
 }

@@ -13,9 +13,7 @@
 
 namespace {
 
-using coregui::test::NextWindow;
-using coregui::test::NoWindow;
-using coregui::test::ShownWindow;
+using namespace coregui::test;
 using testing::ElementsAre;
 
 constexpr CWnd* kDesktop = nullptr;

@@ -11,8 +11,7 @@
 
 namespace {
 
-using coregui::test::NextWindow;
-using coregui::test::ShownWindow;
+using namespace coregui::test;
 
 CWnd& Edit(const ShownWindow& window) {
   return *window.Window()->GetDlgItem(CSingleInputDlg::kEditId);

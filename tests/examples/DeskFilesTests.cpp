@@ -17,10 +17,7 @@
 namespace {
 
 namespace fs = std::filesystem;
-using coregui::test::ExpectLog;
-using coregui::test::NextWindow;
-using coregui::test::NoWindow;
-using coregui::test::ShownWindow;
+using namespace coregui::test;
 
 constexpr char kSurvey[] = "Chainage,Ground level,Design level\n0,100,101\n10,102,101\n20,101,101\n";
 
@@ -47,7 +44,7 @@ class DeskFiles : public testing::Test {
   }
   bool Has(const std::string& name) const { return fs::exists(folder / name); }
 
-  fs::path folder = fs::path(coregui::test::ScratchFolder()) / "deskfiles";
+  fs::path folder = fs::path(ScratchFolder()) / "deskfiles";
   desk::DeskWindow window;
 };
 

@@ -14,9 +14,7 @@
 
 namespace {
 
-using coregui::test::NextWindow;
-using coregui::test::PressKey;
-using coregui::test::ShownWindow;
+using namespace coregui::test;
 
 class Desk : public testing::Test {
  protected:

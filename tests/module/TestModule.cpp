@@ -15,8 +15,7 @@
 namespace {
 
 using coregui::ClassFactories;
-using coregui::test::NextWindow;
-using coregui::test::ShownWindow;
+using namespace coregui::test;
 
 std::unique_ptr<CObject> MakeNameEdit() {
   return std::make_unique<CNameEdit>();
@@ -90,7 +89,7 @@ class HelpedApp : public CCoreGUIApp {
 TEST(CoreGUIApp, TellsWhichHelpFileIsMissing) {
   HelpedApp app;
   EXPECT_EQ(app.GetHelpFile().Right(15), L"/Strandmere.chm");
-  const std::string folder = coregui::test::ScratchFolder() + "/help";
+  const std::string folder = ScratchFolder() + "/help";
   std::filesystem::create_directory(folder);
   app.SetHelpFolder(CString::FromUtf8(folder));
   const auto failure = [&app] {

@@ -16,8 +16,7 @@
 #include "tests/platform/LogWindow.h"
 
 using coregui::TipClock;
-using coregui::WidgetOf;
-using coregui::test::LogWindow;
+using namespace coregui::test;
 
 namespace {
 

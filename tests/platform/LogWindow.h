@@ -10,6 +10,8 @@
 
 namespace coregui::test {
 
+using coregui::WidgetOf;
+
 /// A window that writes down what reaches it.
 class LogWindow : public CWnd {
  public:

@@ -8,12 +8,11 @@
 #include "platform/CButton.h"
 #include "platform/CEdit.h"
 #include "platform/CStatic.h"
-#include "tests/platform/ControlHost.h"
+#include "tests/support/ControlHost.h"
 
 namespace {
 
-using coregui::test::ControlHost;
-using coregui::test::WidgetOf;
+using namespace coregui::test;
 
 TEST(Button, EveryKindNotifiesOfAClick) {
   ControlHost host;
@@ -29,12 +28,12 @@ TEST(Button, EveryKindNotifiesOfAClick) {
   for (const Kind& kind : kinds) {
     CButton button;
     ASSERT_TRUE(button.Create(L"&Go", WS_CHILD | WS_VISIBLE | kind.style, CRect(5, 5, 100, 30), &host, 9));
-    QTest::mouseClick(WidgetOf(button), Qt::LeftButton, {}, QPoint(8, 12));
+    QTest::mouseClick(WidgetOf(&button), Qt::LeftButton, {}, QPoint(8, 12));
     EXPECT_EQ(host.TakeLog(), L"9:0 ") << kind.style;
     EXPECT_EQ(button.GetCheck(), kind.state) << kind.style;
     button.SetCheck(kind.state);
     EXPECT_EQ(host.TakeLog(), L"") << kind.style;
-    QTest::keyClick(WidgetOf(button), Qt::Key_Space);
+    QTest::keyClick(WidgetOf(&button), Qt::Key_Space);
     EXPECT_EQ(host.TakeLog(), L"9:0 ") << kind.style;
     EXPECT_EQ(button.GetCheck(), kind.next) << kind.style;
     button.EnableWindow(FALSE);
@@ -79,33 +78,33 @@ TEST(Static, NamesTheControlBehindItAndItsAccessKeyLeadsThere) {
   last.Create(L"&Go", style, place, &host, 4);
   button.Create(L"&Start", style, place, &host, 5);
   const auto spoken = [](CWnd& window) {
-    return QAccessible::queryAccessibleInterface(WidgetOf(window))->text(QAccessible::Name);
+    return QAccessible::queryAccessibleInterface(WidgetOf(&window))->text(QAccessible::Name);
   };
   EXPECT_EQ(spoken(edit), "Name & kind");
   EXPECT_EQ(spoken(button), "Start") << "a button bears its own name";
   QCoreApplication::processEvents();
   button.SetFocus();
-  QTest::keyClick(WidgetOf(button), Qt::Key_N, Qt::AltModifier);
+  QTest::keyClick(WidgetOf(&button), Qt::Key_N, Qt::AltModifier);
   EXPECT_EQ(CWnd::GetFocus(), &edit);
   label.SetWindowText(L"K&ind");
   button.SetFocus();
-  QTest::keyClick(WidgetOf(button), Qt::Key_I, Qt::AltModifier);
+  QTest::keyClick(WidgetOf(&button), Qt::Key_I, Qt::AltModifier);
   EXPECT_EQ(CWnd::GetFocus(), &edit);
   edit.DestroyWindow();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  EXPECT_EQ(static_cast<QLabel*>(WidgetOf(label))->text(), "Kind");
+  EXPECT_EQ(static_cast<QLabel*>(WidgetOf(&label))->text(), "Kind");
 }
 
 TEST(Static, HidesTheMarkOfItsAccessKeyAndTellsOfClicks) {
   ControlHost host;
   CStatic text;
   text.Create(L"&Find && go", WS_CHILD | WS_VISIBLE | SS_NOTIFY, CRect(5, 5, 100, 30), &host, 4);
-  EXPECT_EQ(static_cast<QLabel*>(WidgetOf(text))->text(), "Find & go");
+  EXPECT_EQ(static_cast<QLabel*>(WidgetOf(&text))->text(), "Find & go");
   EXPECT_EQ(text.GetWindowTextString(), L"&Find && go");
-  QTest::mouseClick(WidgetOf(text), Qt::LeftButton);
+  QTest::mouseClick(WidgetOf(&text), Qt::LeftButton);
   EXPECT_EQ(host.TakeLog(), L"4:0 ");
   text.SetWindowText(L"<b>5</b>");
-  EXPECT_EQ(static_cast<QLabel*>(WidgetOf(text))->text(), "<b>5</b>");
+  EXPECT_EQ(static_cast<QLabel*>(WidgetOf(&text))->text(), "<b>5</b>");
 }
 
 }  // namespace

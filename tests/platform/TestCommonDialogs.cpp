@@ -14,16 +14,13 @@
 #include "platform/CSliderCtrl.h"
 #include "platform/CSpinButtonCtrl.h"
 #include "platform/DialogIds.h"
-#include "tests/platform/ControlHost.h"
+#include "tests/support/ControlHost.h"
 #include "tests/support/FolderTest.h"
 #include "tests/support/ShownWindow.h"
 
 namespace {
 
-using coregui::test::ControlHost;
-using coregui::test::NextWindow;
-using coregui::test::ShownWindow;
-using coregui::test::WidgetOf;
+using namespace coregui::test;
 
 TEST(Slider, MovesByItselfAndTells) {
   ControlHost host;
@@ -33,7 +30,7 @@ TEST(Slider, MovesByItselfAndTells) {
   slider.SetPos(99);
   EXPECT_EQ(slider.GetPos(), 10);
   EXPECT_EQ(host.TakeLog(), L"");
-  QTest::keyClick(WidgetOf(slider), Qt::Key_Left);
+  QTest::keyClick(WidgetOf(&slider), Qt::Key_Left);
   EXPECT_EQ(slider.GetPos(), 9);
   EXPECT_EQ(host.TakeLog(), L"h:0 h:8 ");
 }
@@ -54,12 +51,12 @@ TEST(SpinButton, StepsShowInTheBuddy) {
   spin.SetRange32(5, 3);
   spin.SetPos32(4);
   host.TakeLog();
-  QTest::keyClick(WidgetOf(spin), Qt::Key_Up);
+  QTest::keyClick(WidgetOf(&spin), Qt::Key_Up);
   EXPECT_EQ(buddy.GetWindowTextString(), L"5");
   EXPECT_NE(host.TakeLog().Find(L"v:4 v:8 "), -1);
-  QTest::keyClick(WidgetOf(spin), Qt::Key_Down);
+  QTest::keyClick(WidgetOf(&spin), Qt::Key_Down);
   EXPECT_EQ(spin.GetPos32(), 5);
-  QTest::keyClick(WidgetOf(spin), Qt::Key_Up);
+  QTest::keyClick(WidgetOf(&spin), Qt::Key_Up);
   EXPECT_EQ(spin.GetPos32(), 3);
 }
 
@@ -70,13 +67,13 @@ TEST(Progress, KeepsThePositionAndShowsTheRange) {
   bar.SetRange32(0, 200);
   EXPECT_EQ(bar.SetPos(201), 0);
   EXPECT_EQ(bar.GetPos(), 201);
-  EXPECT_EQ(static_cast<QProgressBar*>(WidgetOf(bar))->value(), 200);
+  EXPECT_EQ(static_cast<QProgressBar*>(WidgetOf(&bar))->value(), 200);
   bar.SetPos(195);
   bar.StepIt();
   EXPECT_EQ(bar.GetPos(), 0);
 }
 
-class FileDialogTest : public coregui::test::FolderTest {
+class FileDialogTest : public FolderTest {
  protected:
   FileDialogTest() {
     std::filesystem::create_directory(At("sub"));
@@ -129,7 +126,7 @@ TEST(FindReplace, EveryButtonAsksTheOwner) {
   Searcher owner;
   CFindReplaceDialog dialog;
   ASSERT_TRUE(dialog.Create(FALSE, L"", L"b", FR_MATCHCASE, &owner));
-  QWidget* widget = WidgetOf(dialog);
+  QWidget* widget = WidgetOf(&dialog);
   const auto press = [widget](const char* name) { widget->findChild<QPushButton*>(name)->click(); };
   press("findNext");  // there is nothing to find
   EXPECT_EQ(owner.asked, L"");
@@ -145,7 +142,7 @@ TEST(FindReplace, EveryButtonAsksTheOwner) {
   EXPECT_FALSE(dialog.HasWindow());
   owner.asked.Empty();
   ASSERT_TRUE(dialog.Create(TRUE, L"x", L"", 0, &owner)) << "finding only has a direction";
-  QTest::keyClick(WidgetOf(dialog)->findChild<QLineEdit*>("find"), Qt::Key_Return);
+  QTest::keyClick(WidgetOf(&dialog)->findChild<QLineEdit*>("find"), Qt::Key_Return);
   dialog.SendMessage(WM_CLOSE);
   EXPECT_EQ(owner.asked, L"x> 000 1000;x> 000 0001;");
 }

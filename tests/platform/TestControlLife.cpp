@@ -15,25 +15,11 @@
 #include "platform/CSpinButtonCtrl.h"
 #include "platform/CTreeCtrl.h"
 #include "platform/Clipboard.h"
-#include "tests/platform/ControlHost.h"
+#include "tests/support/ControlHost.h"
 
 namespace {
 
-using coregui::test::ControlHost;
-using coregui::test::WidgetOf;
-
-/// Destroys a control as soon as it notifies of anything but focus.
-class DestroyingHost : public ControlHost {
- public:
-  int destroyed = 0;
-  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-    const bool focus = HIWORD(wParam) == EN_SETFOCUS || HIWORD(wParam) == CBN_SETFOCUS;
-    CWnd* control = FromHandle(reinterpret_cast<HWND>(lParam));
-    const bool tells = message == WM_COMMAND || message == WM_HSCROLL || message == WM_VSCROLL;
-    if (tells && !focus && control != nullptr && control->DestroyWindow() != FALSE) ++destroyed;
-    return ControlHost::WindowProc(message, wParam, lParam);
-  }
-};
+using namespace coregui::test;
 
 class ControlLife : public testing::Test {
  protected:
@@ -44,11 +30,11 @@ class ControlLife : public testing::Test {
   /// One control, used by a person, that is gone afterwards.
   template <class Control, class Use>
   void Destroy(DWORD style, Use use) {
-    DestroyingHost host;
+    ControlHost host;
+    host.destroys = true;
     Control control;
     ASSERT_TRUE(control.Create(L"", L"", WS_CHILD | WS_VISIBLE | style, CRect(0, 0, 150, 60), &host, 1));
     use(control);
-    EXPECT_EQ(host.destroyed, 1);
     EXPECT_FALSE(control.HasWindow());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(control.Create(L"", L"", WS_CHILD | WS_VISIBLE | style, CRect(0, 0, 150, 60), &host, 1));
@@ -57,21 +43,21 @@ class ControlLife : public testing::Test {
 
 TEST_F(ControlLife, TheParentMayDestroyAControlThatTellsIt) {
   coregui::SetClipboardText(L"text");
-  Destroy<CEdit>(0, [](CEdit& edit) { QTest::keyClick(WidgetOf(edit), Qt::Key_A); });
+  Destroy<CEdit>(0, [](CEdit& edit) { QTest::keyClick(WidgetOf(&edit), Qt::Key_A); });
   Destroy<CEdit>(0, [](CEdit& edit) { edit.Paste(); });
   Destroy<CEdit>(0, [](CEdit& edit) { edit.ReplaceSel(L"x"); });
-  Destroy<CEdit>(ES_MULTILINE, [](CEdit& edit) { QTest::keyClick(WidgetOf(edit), Qt::Key_A); });
+  Destroy<CEdit>(ES_MULTILINE, [](CEdit& edit) { QTest::keyClick(WidgetOf(&edit), Qt::Key_A); });
   for (const DWORD kind : {BS_PUSHBUTTON, BS_AUTOCHECKBOX, BS_AUTORADIOBUTTON}) {
-    Destroy<CButton>(kind, [](CButton& button) { QTest::keyClick(WidgetOf(button), Qt::Key_Space); });
+    Destroy<CButton>(kind, [](CButton& button) { QTest::keyClick(WidgetOf(&button), Qt::Key_Space); });
   }
-  Destroy<CScrollBar>(SBS_VERT, [](CScrollBar& bar) { QTest::keyClick(WidgetOf(bar), Qt::Key_Down); });
+  Destroy<CScrollBar>(SBS_VERT, [](CScrollBar& bar) { QTest::keyClick(WidgetOf(&bar), Qt::Key_Down); });
   Destroy<CScrollBar>(
-      0, [](CScrollBar& bar) { QTest::mouseClick(WidgetOf(bar), Qt::LeftButton, {}, QPoint(145, 30)); });
-  Destroy<CSliderCtrl>(0, [](CSliderCtrl& slider) { QTest::keyClick(WidgetOf(slider), Qt::Key_Right); });
-  Destroy<CSpinButtonCtrl>(0, [](CSpinButtonCtrl& spin) { QTest::keyClick(WidgetOf(spin), Qt::Key_Up); });
+      0, [](CScrollBar& bar) { QTest::mouseClick(WidgetOf(&bar), Qt::LeftButton, {}, QPoint(145, 30)); });
+  Destroy<CSliderCtrl>(0, [](CSliderCtrl& slider) { QTest::keyClick(WidgetOf(&slider), Qt::Key_Right); });
+  Destroy<CSpinButtonCtrl>(0, [](CSpinButtonCtrl& spin) { QTest::keyClick(WidgetOf(&spin), Qt::Key_Up); });
   Destroy<CListBox>(0, [](CListBox& list) {
     list.AddString(L"a");
-    auto* widget = static_cast<QListWidget*>(WidgetOf(list));
+    auto* widget = static_cast<QListWidget*>(WidgetOf(&list));
     QTest::mouseClick(widget->viewport(), Qt::LeftButton, {},
                       widget->visualItemRect(widget->item(0)).center());
   });
@@ -80,10 +66,10 @@ TEST_F(ControlLife, TheParentMayDestroyAControlThatTellsIt) {
     combo.AddString(L"a");
     combo.AddString(L"b");
     combo.SetCurSel(0);
-    QTest::keyClick(WidgetOf(combo), Qt::Key_Down);
+    QTest::keyClick(WidgetOf(&combo), Qt::Key_Down);
   });
   Destroy<CComboBox>(CBS_DROPDOWN, [](CComboBox& combo) {
-    QTest::keyClick(static_cast<QComboBox*>(WidgetOf(combo))->lineEdit(), Qt::Key_A);
+    QTest::keyClick(static_cast<QComboBox*>(WidgetOf(&combo))->lineEdit(), Qt::Key_A);
   });
 }
 

@@ -8,12 +8,11 @@
 #include "platform/CComboBox.h"
 #include "platform/CListBox.h"
 #include "platform/CTreeCtrl.h"
-#include "tests/platform/ControlHost.h"
+#include "tests/support/ControlHost.h"
 
 namespace {
 
-using coregui::test::ControlHost;
-using coregui::test::WidgetOf;
+using namespace coregui::test;
 
 TEST(ListBox, KeepsItsOrderTextsAndData) {
   ControlHost host;
@@ -57,7 +56,7 @@ TEST(ListBox, OnlyAPersonNotifies) {
   EXPECT_EQ(list.SetCurSel(1), 1);
   EXPECT_EQ(list.SetCurSel(5), LB_ERR);
   EXPECT_EQ(host.TakeLog(), L"");
-  auto* widget = static_cast<QListWidget*>(WidgetOf(list));
+  auto* widget = static_cast<QListWidget*>(WidgetOf(&list));
   QTest::mouseClick(widget->viewport(), Qt::LeftButton, {}, widget->visualItemRect(widget->item(0)).center());
   EXPECT_EQ(host.TakeLog(), L"2:1 ");
   EXPECT_EQ(list.GetCurSel(), 0);
@@ -84,7 +83,7 @@ TEST(ComboBox, FillingChoosesNothingAndAPersonsChoiceIsTold) {
   combo.SetCurSel(1);
   combo.ShowDropDown();
   EXPECT_TRUE(combo.GetDroppedState());
-  auto* view = static_cast<QComboBox*>(WidgetOf(combo))->view();
+  auto* view = static_cast<QComboBox*>(WidgetOf(&combo))->view();
   QTest::keyClick(view, Qt::Key_Down);
   QTest::keyClick(view, Qt::Key_Return);
   EXPECT_FALSE(combo.GetDroppedState());
@@ -110,7 +109,7 @@ TEST(ComboBox, TypedCharactersPassTheWindowFirst) {
   combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, CRect(0, 0, 100, 24), &host, 2);
   combo.AddString(L"one");
   EXPECT_EQ(combo.GetWindowTextString(), L"");
-  auto* line = static_cast<QComboBox*>(WidgetOf(combo))->lineEdit();
+  auto* line = static_cast<QComboBox*>(WidgetOf(&combo))->lineEdit();
   QTest::keyClicks(line, "axb");
   EXPECT_EQ(combo.GetWindowTextString(), L"ab");
   EXPECT_NE(host.TakeLog().Find(L"2:5 2:5 "), -1);
@@ -144,7 +143,7 @@ TEST(Tree, ItemsStandWhereTheyWerePut) {
   tree.SelectItem(y);
   EXPECT_EQ(tree.GetSelectedItem(), y);
   EXPECT_NE(host.TakeLog().Find(L"2:1 "), -1);
-  QTest::keyClick(WidgetOf(tree), Qt::Key_Space);
+  QTest::keyClick(WidgetOf(&tree), Qt::Key_Space);
   EXPECT_FALSE(tree.GetCheck(y));
   EXPECT_EQ(host.TakeLog(), L"2:3 ") << "a person's check is told";
   EXPECT_TRUE(tree.DeleteItem(b));

@@ -14,13 +14,13 @@
 
 #include "platform/CMenu.h"
 #include "platform/MessageBox.h"
-#include "tests/platform/ControlHost.h"
+#include "tests/support/ControlHost.h"
 
 namespace {
 
 using coregui::MessageBoxParams;
 using coregui::ShowMessageBox;
-using coregui::test::ControlHost;
+using namespace coregui::test;
 
 /// Does something with the box once it is shown.
 template <class Widget>

@@ -5,13 +5,12 @@
 #include <limits>
 
 #include "platform/CScrollBar.h"
-#include "tests/platform/ControlHost.h"
+#include "tests/support/ControlHost.h"
 #include "tests/support/Hand.h"
 
 namespace {
 
-using coregui::test::ControlHost;
-using coregui::test::WidgetOf;
+using namespace coregui::test;
 constexpr int kLargest = std::numeric_limits<int>::max();
 
 /// Follows the thumb with the whole track position.
@@ -54,7 +53,7 @@ TEST(ScrollBar, KeysAskAndOnlyTheParentMoves) {
   ControlHost deaf;
   CScrollBar bar;
   bar.Create(WS_CHILD | WS_VISIBLE | SBS_VERT, CRect(0, 0, 20, 200), &deaf, 3);
-  QWidget* widget = WidgetOf(bar);
+  QWidget* widget = WidgetOf(&bar);
   QTest::keyClick(widget, Qt::Key_Down);
   QTest::keyClick(widget, Qt::Key_PageDown);
   QTest::keyClick(widget, Qt::Key_End);
@@ -74,15 +73,15 @@ TEST(ScrollBar, DraggingGivesAll32Bits) {
   info.nPage = 40;
   bar.SetScrollInfo(info);
   int dropped = 0;
-  coregui::test::Drag(bar, {8, 25}, {8, 90}, [&] {
+  Drag(bar, {8, 25}, {8, 90}, [&] {
     dropped = host.tracked;
     EXPECT_GT(dropped, kLargest / 10);
     EXPECT_EQ(bar.GetScrollPos(), 0);  // tracking moves nothing by itself
   });
   EXPECT_EQ(host.TakeLog(), L"v:5 v:4 v:8 ");
   EXPECT_EQ(bar.GetScrollPos(), dropped);
-  EXPECT_EQ(static_cast<QScrollBar*>(WidgetOf(bar))->value(), dropped);
-  QTest::keyClick(WidgetOf(bar), Qt::Key_Down);
+  EXPECT_EQ(static_cast<QScrollBar*>(WidgetOf(&bar))->value(), dropped);
+  QTest::keyClick(WidgetOf(&bar), Qt::Key_Down);
   EXPECT_EQ(host.TakeLog(), L"v:1 v:8 ");
   EXPECT_EQ(bar.GetScrollPos(), dropped + 1) << "an answered step moves by one";
 }

@@ -12,8 +12,7 @@
 #include "platform/qt/QtWindow.h"
 #include "tests/platform/LogWindow.h"
 
-using coregui::WidgetOf;
-using coregui::test::LogWindow;
+using namespace coregui::test;
 
 namespace {
 

@@ -22,8 +22,7 @@
 
 // Everything here holds at any scale: the runs at other scales repeat it.
 
-using coregui::WidgetOf;
-using coregui::test::LogWindow;
+using namespace coregui::test;
 
 namespace {
 

@@ -11,7 +11,7 @@
 #include "tests/platform/LogWindow.h"
 
 using coregui::MessageTable;
-using coregui::test::LogWindow;
+using namespace coregui::test;
 
 namespace {
 
