@@ -96,12 +96,7 @@ BOOL DeskWindow::CreateDesk(CSize size) {
   m_section.SetAccessibleName(L"Long-section");
   m_difference.SetAccessibleName(L"Difference of ground and design");
   m_grid.SetRowHook([this](long row) { FollowRow(row); });
-  m_grid.SetOrderHook([this] {
-    if (!m_data.IsEmpty()) {
-      m_data = TakeSection(m_grid);
-      FollowRow(m_grid.GetCurrentRow());
-    }
-  });
+  m_grid.SetSortHook([this](int col, bool downwards) { Sort(col, downwards); });
   m_section.SetStepHook([this](StationStep step) { Step(step); });
   m_grid.SetFocusHook([this] { Invalidate(FALSE); });
   m_section.SetFocusHook([this] { Invalidate(FALSE); });
@@ -111,6 +106,7 @@ BOOL DeskWindow::CreateDesk(CSize size) {
   m_status.Show(L"Open a survey with Ctrl+O. F1 shows all keys.");
   ShowSection(SectionData());
   ShowTitle();
+  DragAcceptFiles(GetSafeHwnd(), TRUE);
   return TRUE;
 }
 
@@ -133,6 +129,7 @@ const coregui::MessageTable& DeskWindow::GetMessageTable() const {
                                                  .On<WM_CLOSE>(&DeskWindow::HandleClose)
                                                  .OnMessage(WM_COMMAND, &DeskWindow::HandleCommand)
                                                  .OnMessage(FindMessage(), &DeskWindow::HandleFind)
+                                                 .OnMessage(WM_DROPFILES, &DeskWindow::HandleDrop)
                                                  .OnMessage(WM_THEMECHANGED, &DeskWindow::HandleColours);
   return table;
 }
@@ -147,7 +144,7 @@ void DeskWindow::EnableCommands() {
 }
 
 bool DeskWindow::IsAvailable(const Command& command) const {
-  return !m_reading && (command.needs == Needs::nothing || !m_path.empty()) &&
+  return !m_working && (command.needs == Needs::nothing || !m_path.empty()) &&
          (command.needs != Needs::section || m_layout.hasPlots);
 }
 
@@ -161,7 +158,7 @@ BOOL DeskWindow::PreTranslateMessage(MSG* message) {
   if (message->message != WM_KEYDOWN && message->message != WM_SYSKEYDOWN) {
     return CWnd::PreTranslateMessage(message);
   }
-  if (m_reading) {
+  if (m_working) {
     m_stop = m_stop || message->wParam == VK_ESCAPE;
     return TRUE;
   }
@@ -196,7 +193,7 @@ LRESULT DeskWindow::HandleCommand(WPARAM wParam, LPARAM /*lParam*/) {
 }
 
 LRESULT DeskWindow::HandleFind(WPARAM /*wParam*/, LPARAM lParam) {
-  if (m_finder.TakeFromDialog(lParam) && !m_reading) {
+  if (m_finder.TakeFromDialog(lParam) && !m_working) {
     FindAgain(false);
   }
   return 0;
@@ -287,13 +284,13 @@ LRESULT DeskWindow::HandleColours(WPARAM /*wParam*/, LPARAM /*lParam*/) {
 
 void DeskWindow::HandleSetFocus(CWnd* /*other*/) {
   CWnd* body = m_grid.GetGridWnd();
-  if (body != nullptr && body->IsWindowEnabled() != FALSE && !m_reading) {
+  if (body != nullptr && body->IsWindowEnabled() != FALSE && !m_working) {
     body->SetFocus();
   }
 }
 
 void DeskWindow::HandleClose() {
-  if (m_reading) {
+  if (m_working) {
     m_stop = m_closeAfter = true;
     return;
   }

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <atomic>
+#include <functional>
 #include <string>
 
 #include "CommandBar.h"
 #include "DeskLayout.h"
 #include "DifferenceView.h"
+#include "Disposal.h"
 #include "PrintChoice.h"
 #include "SectionData.h"
 #include "SectionMaker.h"
@@ -45,6 +48,8 @@ class DeskWindow : public CWnd, private SurveySink {
   bool PrintToPdf(const std::wstring& path, const PrintChoice& choice = PrintChoice());
   /// Makes the station nearest to a chainage the current one, in the table and in the section.
   void GoToChainage(double chainage);
+  /// Sorts the table by a column.
+  void Sort(int col, bool downwards);
   /// Goes to the next cell with a text; tells when there is none.
   void Find(const CString& text);
 
@@ -85,7 +90,10 @@ class DeskWindow : public CWnd, private SurveySink {
   void Row(std::uint64_t row, const std::vector<std::wstring_view>& fields) override;
   bool Progress(double part) override;
   SectionData Read(const std::wstring& path);
-  SectionData MakeSection();
+  /// What a thread does; it looks now and then whether it is to stop.
+  using Work = std::function<void(const std::atomic<bool>& stop)>;
+  class AtWork;
+  void WorkBeside(const std::wstring& what, long rows, const Work& work);
   void EnablePanes(bool on);
   void Tell(const std::wstring& text);
   void ShowTitle();
@@ -136,6 +144,7 @@ class DeskWindow : public CWnd, private SurveySink {
   LRESULT HandleColours(WPARAM wParam, LPARAM lParam);
   LRESULT HandleCommand(WPARAM wParam, LPARAM lParam);
   LRESULT HandleFind(WPARAM wParam, LPARAM lParam);
+  LRESULT HandleDrop(WPARAM wParam, LPARAM lParam);
 
   SectionData m_data;  ///< the views draw from it, so it outlives them
   CommandBar m_commands;
@@ -151,12 +160,13 @@ class DeskWindow : public CWnd, private SurveySink {
   std::wstring m_path;     ///< of the survey shown; empty when none is
   std::wstring m_opening;  ///< name of the file that is being read
   SurveyReport m_report;   ///< of the file tried last
+  Disposal m_disposal;     ///< frees the cells and the sections of surveys that are shown no more
   SectionMaker m_maker;    ///< gathers the section of the file that is being read
   CRect m_placeBefore;     ///< of the window when it was last not maximised
   bool m_maximised = false;
   bool m_unattended = false;
   bool m_following = false;   ///< table and section follow each other; not in circles
-  bool m_reading = false;     ///< a file is being read or its section made, with the windows kept alive
+  bool m_working = false;     ///< something takes a while, with the windows kept alive
   bool m_stop = false;        ///< that is to stop
   bool m_closeAfter = false;  ///< and the window to close
 };

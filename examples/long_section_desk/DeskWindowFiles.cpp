@@ -1,14 +1,12 @@
-#include <atomic>
-#include <chrono>
-#include <cmath>
+#include <algorithm>
 #include <filesystem>
-#include <future>
 
 #include "DeskHelp.h"
 #include "DeskMemory.h"
 #include "DeskWindow.h"
 #include "FilePath.h"
 #include "PrintDialog.h"
+#include "WaitCursor.h"
 
 // What the desk does with files, and what it asks and tells.
 
@@ -16,29 +14,12 @@ namespace desk {
 
 namespace {
 
-constexpr wchar_t kDeskName[] = L"Long-section desk";
 constexpr wchar_t kTables[] = L"Tables (*.csv *.txt)|*.csv;*.txt|All files|*||";
 constexpr UINT kFirstRecent = 1;
 
 std::wstring FileName(const std::wstring& path) {
   return coreExtractFileName(path.c_str());
 }
-
-/// The same file from wherever it is opened again.
-std::wstring WholePath(const std::wstring& path) {
-  std::error_code error;
-  const std::filesystem::path whole = std::filesystem::absolute(ToPath(path), error);
-  return error || path.empty() ? path : FromPath(whole.lexically_normal());
-}
-
-/// The wait cursor for as long as this lives.
-class WaitCursor {
- public:
-  WaitCursor() { ShowWaitCursor(true); }
-  ~WaitCursor() { ShowWaitCursor(false); }
-  WaitCursor(const WaitCursor&) = delete;
-  WaitCursor& operator=(const WaitCursor&) = delete;
-};
 
 }  // namespace
 
@@ -49,125 +30,6 @@ void DeskWindow::Tell(const std::wstring& text) {
   } else {
     ErrorMessage(text.c_str(), this);
   }
-}
-
-bool DeskWindow::Open(const std::wstring& path) {
-  if (m_reading) {
-    return false;
-  }
-  const std::wstring whole = WholePath(path);
-  m_opening = FileName(whole);
-  m_report = SurveyReport();
-  m_report.error = SurveyFault(whole);
-  SectionData data;
-  SurveyLock lock;
-  // A file that is read again keeps its lock; another one gets it only when it can be shown.
-  const bool sameLock = m_lock.IsFor(whole);
-  if (m_report.error.empty()) {
-    SurveyLock& taken = sameLock ? m_lock : lock;
-    m_unattended ? taken.Look(whole) : taken.Take(whole, this);
-    data = Read(whole);
-  }
-  if (m_closeAfter) {
-    PostMessage(WM_CLOSE);  // what was read is not shown any more
-    return false;
-  }
-  if (!m_report.error.empty()) {
-    ShowTitle();
-    Tell(whole + L": " + m_report.error);
-    return false;
-  }
-  m_path = whole;
-  if (!sameLock) {
-    m_lock = std::move(lock);
-  }
-  const bool leftOut = m_stop && data.IsEmpty();
-  ShowSection(std::move(data));
-  m_status.Show(m_opening + L": " + m_report.Summary() + (leftOut ? L"; the section was left out" : L""),
-                m_report.HasOddities() || leftOut);
-  m_status.ShowState(m_lock.Text());
-  ShowTitle();
-  if (!m_unattended) {
-    KeepSurvey(whole);
-  }
-  return true;
-}
-
-/// Reads a survey into the table and gives its section. The windows are kept alive meanwhile: Esc and the
-/// close button stop the reading, or leave out the section when all is read.
-SectionData DeskWindow::Read(const std::wstring& path) {
-  const WaitCursor wait;
-  m_reading = true;
-  m_stop = m_closeAfter = false;
-  CWnd* focus = GetFocus();
-  SetFocus();  // for Esc: disabled panes get no keys
-  EnablePanes(false);
-  m_report = ReadSurvey(path, *this);
-  SectionData data;
-  if (m_report.error.empty() && !m_closeAfter) {
-    m_status.Show(L"Showing " + m_report.RowsText() + L" of " + m_opening + L" (Esc leaves out the section)");
-    m_grid.EndTable(m_report.rows);
-    m_stop = false;  // Esc has had the reading stopped; what was read is shown
-    data = MakeSection();
-  }
-  m_reading = false;
-  EnablePanes(true);
-  (focus != nullptr && IsChild(focus) ? focus : this)->SetFocus();
-  return data;
-}
-
-/// Of millions of rows the section takes a while, even of what was gathered: it is made beside the windows.
-SectionData DeskWindow::MakeSection() {
-  constexpr std::chrono::milliseconds wait(5);
-  std::atomic<bool> stop = false;
-  auto making = std::async(std::launch::async, [this, &stop, rows = static_cast<long>(m_report.rows)] {
-    return m_maker.Make(rows, stop);
-  });
-  while (making.wait_for(wait) != std::future_status::ready) {
-    const bool goOn = m_unattended || CWinApp::PumpPending();  // lets Esc and the close button stop it
-    stop = m_stop = m_stop || !goOn;
-  }
-  return making.get();
-}
-
-void DeskWindow::EnablePanes(bool on) {
-  for (CWnd* pane :
-       std::initializer_list<CWnd*>{&m_commands, &m_grid, &m_section, &m_difference, &m_bar, &m_plotBar}) {
-    pane->EnableWindow(on);
-  }
-}
-
-void DeskWindow::Begin(const CsvDialect& dialect) {
-  // The section goes with its table, before the next one takes its room.
-  m_data = SectionData();
-  m_section.Invalidate();
-  m_difference.Invalidate();
-  m_grid.BeginTable(dialect);
-  m_maker.Begin(FindSectionColumns(dialect.headings, dialect.numeric));
-}
-
-void DeskWindow::Row(std::uint64_t row, const std::vector<std::wstring_view>& fields) {
-  m_grid.StoreRow(row, fields);
-  m_maker.Add(static_cast<long>(row), m_grid.StoredNumbers());
-}
-
-bool DeskWindow::Progress(double part) {
-  m_status.Show(L"Reading " + m_opening + L", " + std::to_wstring(static_cast<int>(part * 100.0)) +
-                L" % (Esc stops)");
-  return (m_unattended || CWinApp::PumpPending()) && !m_stop;
-}
-
-void DeskWindow::ShowTitle() {
-  std::wstring title = kDeskName;
-  if (!m_report.error.empty()) {
-    title = m_opening + L" (not read) - " + title;
-  } else if (!m_path.empty()) {
-    const bool readOnly =
-        m_lock.GetState() == SurveyLock::State::others || m_lock.GetState() == SurveyLock::State::unavailable;
-    title =
-        FileName(m_path) + L" (" + m_report.RowsText() + (readOnly ? L", read-only" : L"") + L") - " + title;
-  }
-  SetWindowText(title.c_str());
 }
 
 void DeskWindow::OpenWithDialog() {

@@ -1,13 +1,11 @@
 #include "SectionData.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cmath>
 #include <limits>
 #include <string_view>
 
 #include "SectionMaker.h"
-#include "SurveyGrid.h"
 
 namespace desk {
 
@@ -60,23 +58,25 @@ SectionColumns FindSectionColumns(const std::vector<std::wstring>& headings,
   return columns;
 }
 
-SectionData TakeSection(SurveyGrid& grid) {
-  const SectionColumns columns = FindSectionColumns(grid.Dialect().headings, grid.Dialect().numeric);
+SectionData TakeSection(CGridMem& cells, long rows, const SectionColumns& columns,
+                        const std::atomic<bool>& stop) {
   SectionMaker maker;
   maker.Begin(columns);
-  const long rows = maker.HasColumns() ? grid.GetNumberRows() : 0;
-  std::vector<double> numbers(grid.Dialect().headings.size());
-  for (long row = 0; row < rows; ++row) {
+  CGridCell cell;
+  std::vector<double> numbers(
+      static_cast<std::size_t>(std::max({columns.chainage, columns.ground, columns.design}) + 1));
+  for (long row = 0; row < rows && maker.HasColumns() && !stop; ++row) {
     for (const int col : {columns.chainage, columns.ground, columns.design}) {
-      double value = 0.0;
       if (col >= 0) {
-        numbers[static_cast<std::size_t>(col)] = grid.NumberAt(col, row, value) ? value : kNothing;
+        double value = 0.0;
+        const bool isNumber = cells.GetCell(col, row, &cell) == 0 && cell.GetDataType() == CELLDATA_NUMBER &&
+                              cell.GetNumber(&value) == 0;
+        numbers[static_cast<std::size_t>(col)] = isNumber ? value : kNothing;
       }
     }
     maker.Add(row, numbers);
   }
-  const std::atomic<bool> neverStopped = false;
-  return maker.Make(rows, neverStopped);
+  return maker.Make(rows, stop);
 }
 
 long SectionData::NearestPoint(double chainage) const {

@@ -1,12 +1,11 @@
 #pragma once
 
+#include <atomic>
 #include <vector>
 
 #include "coregui/coregui.h"
 
 namespace desk {
-
-class SurveyGrid;
 
 /// Which columns of a survey make the long-section; -1 is none.
 struct SectionColumns {
@@ -38,7 +37,9 @@ struct SectionData {
   long PointOfRow(long row) const;
 };
 
-/// The section of the table as it stands. Rows without a chainage are no part of it.
-SectionData TakeSection(SurveyGrid& grid);
+/// The section of a table's cells as they stand, in so many rows. Rows without a chainage are no part of it.
+/// Needs no window; empty soon after `stop` has become true.
+SectionData TakeSection(CGridMem& cells, long rows, const SectionColumns& columns,
+                        const std::atomic<bool>& stop);
 
 }  // namespace desk

@@ -35,12 +35,43 @@ void SurveyGrid::OnSetup() {
   EnableMenu(1);
 }
 
-void SurveyGrid::BeginTable(const CsvDialect& dialect) {
+std::unique_ptr<CGridMem> SurveyGrid::TakeSource() {
+  RemoveDataSource(m_source);
+  m_source = 0;
+  return std::move(m_cells);
+}
+
+void SurveyGrid::UseSource(std::unique_ptr<CGridMem> cells) {
+  m_cells = std::move(cells);
+  m_source = AddDataSource(m_cells.get());
+  SetDefDataSource(m_source);
+}
+
+/// The windows keep the pixels that they have.
+void SurveyGrid::HoldPainting(bool hold) {
+  for (CWnd* part = GetWindow(GW_CHILD); part != nullptr; part = part->GetWindow(GW_HWNDNEXT)) {
+    part->SetRedraw(!hold);
+  }
+}
+
+std::unique_ptr<CGridMem> SurveyGrid::LendCells() {
+  HoldPainting(true);
+  return TakeSource();
+}
+
+void SurveyGrid::GiveCells(std::unique_ptr<CGridMem> cells) {
+  UseSource(std::move(cells));
+  HoldPainting(false);
+  RedrawAll();
+}
+
+std::unique_ptr<CGridMem> SurveyGrid::BeginTable(const CsvDialect& dialect) {
   m_dialect = dialect;
   m_longest.assign(dialect.headings.size(), Longest());
   EnableUpdate(0);
+  std::unique_ptr<CGridMem> before = TakeSource();
+  UseSource(std::make_unique<CGridMem>());
   SetNumberRows(0, 0);
-  GetDataSource(0)->Empty();
   SetNumberCols(static_cast<int>(dialect.headings.size()), 0);
   for (int col = 0; col < GetNumberCols(); ++col) {
     const auto column = static_cast<std::size_t>(col);
@@ -55,6 +86,7 @@ void SurveyGrid::BeginTable(const CsvDialect& dialect) {
     QuickSetText(col, -1, dialect.headings[column].c_str());
     QuickSetAlignment(col, -1, columnDefault.GetAlignment());
   }
+  return before;
 }
 
 void SurveyGrid::StoreRow(std::uint64_t row, const std::vector<std::wstring_view>& fields) {
@@ -96,11 +128,6 @@ void SurveyGrid::EndTable(std::uint64_t rows) {
   EnableUpdate(1);
   AdjustComponentSizes();
   RedrawAll();
-}
-
-bool SurveyGrid::NumberAt(int col, long row, double& value) {
-  return GetCell(col, row, &m_cell) == 0 && m_cell.GetDataType() == CELLDATA_NUMBER &&
-         m_cell.GetNumber(&value) == 0;
 }
 
 void SurveyGrid::OnGetCell(int col, long row, CGridCell* cell) {
@@ -151,8 +178,8 @@ int SurveyGrid::OnMenuStart(int col, long /*row*/, int /*section*/) {
 void SurveyGrid::OnMenuCommand(int col, long /*row*/, int /*section*/, int item) {
   if (item == kMenuCopy) {
     CopySelected();
-  } else if (col >= 0 && (item == kMenuSortUp || item == kMenuSortDown)) {
-    SortFromMenu(col, item == kMenuSortDown);
+  } else if (col >= 0 && m_sortHook && (item == kMenuSortUp || item == kMenuSortDown)) {
+    m_sortHook(col, item == kMenuSortDown);
   }
 }
 
@@ -167,14 +194,6 @@ void SurveyGrid::OpenMenuAtCurrent() {
                     std::clamp(cell.bottom, inside.top, inside.bottom));
   body->ClientToScreen(&at);
   StartMenu(GetCurrentCol(), GetCurrentRow(), &at, coregui::GRIDSECTION_GRID);
-}
-
-void SurveyGrid::SortFromMenu(int col, bool downwards) {
-  SortBy(col, downwards ? coregui::SORT_DESCENDING : 0);
-  RedrawAll();
-  if (m_orderHook) {
-    m_orderHook();
-  }
 }
 
 void SurveyGrid::OnRowChange(long oldRow, long newRow) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -11,26 +12,29 @@ namespace desk {
 
 /// The table of the desk: names of the columns above, row numbers at the side, numbers on the right with the
 /// decimals that the file gave them.
+///
+/// Its cells lie in a source of their own, which a thread can have while the windows live on: to sort or to
+/// free those of millions of rows takes seconds.
 class SurveyGrid : public CGridCtrl {
  public:
-  /// Empties the grid and takes over the columns of a table.
-  void BeginTable(const CsvDialect& dialect);
+  ~SurveyGrid() override { TakeSource(); }
+  /// Begins an empty table with other columns. Gives the cells shown so far, for whoever frees them.
+  std::unique_ptr<CGridMem> BeginTable(const CsvDialect& dialect);
+  /// Hands out the cells; until GiveCells nothing of the table is painted.
+  std::unique_ptr<CGridMem> LendCells();
+  void GiveCells(std::unique_ptr<CGridMem> cells);
   /// Stores one row; rows come in order from 0.
   void StoreRow(std::uint64_t row, const std::vector<std::wstring_view>& fields);
   /// What the row stored last holds: for each column its number, NaN where it is empty or a text.
   const std::vector<double>& StoredNumbers() const { return m_numbers; }
   /// Sets the number of rows, sizes the columns to what they hold and shows the table.
   void EndTable(std::uint64_t rows);
-  /// What a row's cell of a number column holds; false for an empty cell or a text.
-  bool NumberAt(int col, long row, double& value);
-  /// Sorts the rows by a column, as a person asks for it, and says so to the order hook.
-  void SortFromMenu(int col, bool downwards);
   /// Opens the context menu below the current cell.
   void OpenMenuAtCurrent();
   /// Called after the current row has changed.
   void SetRowHook(std::function<void(long)> hook) { m_rowHook = std::move(hook); }
-  /// Called after the rows were put into another order.
-  void SetOrderHook(std::function<void()> hook) { m_orderHook = std::move(hook); }
+  /// Called when the rows are to be sorted by a column.
+  void SetSortHook(std::function<void(int col, bool downwards)> hook) { m_sortHook = std::move(hook); }
   /// Called when a part of the table gets or loses the focus.
   void SetFocusHook(std::function<void()> hook) { m_focusHook = std::move(hook); }
   const CsvDialect& Dialect() const { return m_dialect; }
@@ -52,14 +56,19 @@ class SurveyGrid : public CGridCtrl {
   };
 
   int WidthOf(int col, long row);
+  std::unique_ptr<CGridMem> TakeSource();
+  void UseSource(std::unique_ptr<CGridMem> cells);
+  void HoldPainting(bool hold);
 
+  std::unique_ptr<CGridMem> m_cells;  ///< null before the first table and while they are lent
+  int m_source = 0;                   ///< where the cells are registered; 0 without them
   CsvDialect m_dialect;
   std::function<void(long)> m_rowHook;
-  std::function<void()> m_orderHook;
+  std::function<void(int, bool)> m_sortHook;
   std::function<void()> m_focusHook;
   std::vector<Longest> m_longest;  ///< for each column
   std::vector<double> m_numbers;   ///< of the row stored last
-  CGridCell m_cell;                ///< reused for every cell stored or asked for a number
+  CGridCell m_cell;                ///< reused for every cell stored
 };
 
 }  // namespace desk

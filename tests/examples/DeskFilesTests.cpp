@@ -137,6 +137,20 @@ TEST_F(DeskFiles, EscAndTheCloseButtonStopTheReading) {
   EXPECT_FALSE(Has("a.lck"));
 }
 
+TEST_F(DeskFiles, TheCloseButtonEndsADeskThatSorts) {
+  std::string road = "Chainage,Level,Remark\n";
+  for (int i = 0; i < 60000; ++i) {
+    road += std::to_string(i) + ",1.5," + std::to_string(i * 7919 % 60013) + "p\n";
+  }
+  ASSERT_TRUE(window.Open(Write("a.csv", road)));
+  window.PostMessage(WM_CLOSE);
+  window.Sort(2, false);
+  EXPECT_TRUE(window.HasWindow());  // no one pulls the window away from under its own sort
+  EXPECT_EQ(window.Grid().GetNumberRows(), 60000);
+  CWinApp::PumpPending();
+  EXPECT_FALSE(window.HasWindow());
+}
+
 TEST_F(DeskFiles, NamesMayHaveAnyLettersInAnyLocale) {
   const std::string before = std::setlocale(LC_ALL, nullptr);
   std::setlocale(LC_ALL, "C");

@@ -119,7 +119,7 @@ TEST_F(Desk, TheTableAndTheSectionFollowEachOther) {
   window.GoToChainage(16.0);
   EXPECT_EQ(window.Grid().GetCurrentRow(), 2);
   // Sorted by level from the menu, row 2 is another station.
-  window.Grid().SortFromMenu(0, false);
+  window.Sort(0, false);
   EXPECT_EQ(window.StatusText(), L"Station 0+030.000   ground 103.000");
   PressKey(section, VK_LEFT);
   EXPECT_EQ(window.Grid().GetCurrentRow(), 1);
@@ -236,7 +236,7 @@ TEST_F(Desk, AnyExaggerationCanBeTyped) {
 
 TEST_F(Desk, TheSectionRunsAlongTheChainageWhateverTheOrderOfRows) {
   ASSERT_TRUE(window.Open(Write("a.csv", "Level,Chainage\n103,30\n101,10\n,20\n104,\n")));
-  const desk::SectionData data = desk::TakeSection(window.Grid());
+  const desk::SectionData& data = window.Data();
   EXPECT_EQ(data.rows, std::vector<long>({1, 2, 0}));
   EXPECT_TRUE(std::isnan(data.ground.GetPoints()[1].y));
   EXPECT_EQ(data.NearestPoint(-5.0), 0);
@@ -278,7 +278,18 @@ TEST_F(Desk, TheSectionGatheredWhileReadingIsThatOfTheTable) {
   EXPECT_EQ(faults, 0);
   EXPECT_EQ(data.PointOfRow(777), -1);
   EXPECT_EQ(data.PointOfRow(kRows), -1);
-  EXPECT_EQ(desk::TakeSection(window.Grid()).rows, data.rows);
+  // Sorted by another column, each point still knows its row.
+  window.Sort(2, true);
+  ASSERT_EQ(data.rows.size(), stations.size());
+  EXPECT_EQ(std::count_if(data.rows.begin(), data.rows.end(),
+                          [&](const long& row) {
+                            double chainage = -1.0;
+                            window.Grid().QuickGetNumber(0, row, &chainage);
+                            const auto at = static_cast<std::size_t>(&row - data.rows.data());
+                            return chainage == data.ground.GetPoints()[at].x;
+                          }),
+            static_cast<std::ptrdiff_t>(stations.size()));
+  EXPECT_EQ(Text(2, 0), L"16");
 }
 
 TEST(SectionMaker, LeavesOffWhenStoppedAndStartsAfresh) {
