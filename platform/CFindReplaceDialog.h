@@ -18,9 +18,11 @@ COREGUI_API UINT RegisterWindowMessage(const wchar_t* name);
 class COREGUI_API CFindReplaceDialog : public CWnd {
  public:
   using CWnd::Create;
-  /// `owner` must have a native window.
+  /// `owner` must have a native window; the dialog opens over its middle.
   BOOL Create(BOOL findOnly, const wchar_t* find, const wchar_t* replace, DWORD flags, CWnd* owner);
   static CFindReplaceDialog* GetNotifier(LPARAM lParam);
+  /// What the check box for whole words says, where something else than words is matched.
+  void SetWholeWordText(const wchar_t* text);
 
   CString GetFindString() const;
   CString GetReplaceString() const;

@@ -9,10 +9,12 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <algorithm>
 #include <vector>
 
 #include "platform/qt/Application.h"
 #include "platform/qt/ControlWindow.h"
+#include "platform/qt/interop.h"
 
 /// The native side: the fields and buttons.
 class CFindReplaceWindow : public coregui::ControlWindow {
@@ -34,7 +36,8 @@ class CFindReplaceWindow : public coregui::ControlWindow {
       AddButton(*grid, 1, tr("&Replace"), "replaceOne", Action::replace);
       AddButton(*grid, 2, tr("Replace &All"), "replaceAll", Action::replaceAll);
     }
-    AddButton(*grid, 3, tr("Cancel"), "cancel", Action::close);
+    AddButton(*grid, window.m_findOnly != FALSE ? 1 : 3, tr("Cancel"), "cancel", Action::close);
+    grid->setRowStretch(grid->rowCount(), 1);
     connect(find, &QLineEdit::textChanged, this, [this] { EnableButtons(); });
     EnableButtons();
     find->selectAll();
@@ -105,9 +108,24 @@ BOOL CFindReplaceDialog::Create(BOOL findOnly, const wchar_t* find, const wchar_
   m_find = find;
   m_replace = replace;
   m_flags = flags;
-  const CRect place(80, 80, 520, findOnly != FALSE ? 240 : 260);
-  return Create(L"FINDREPLACE", findOnly != FALSE ? L"Find" : L"Replace",
-                WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE, place, owner, 0);
+  constexpr int width = 440;
+  if (Create(L"FINDREPLACE", findOnly != FALSE ? L"Find" : L"Replace", WS_POPUP | WS_CAPTION | WS_SYSMENU,
+             CRect(0, 0, width, 1), owner, 0) == FALSE) {
+    return FALSE;
+  }
+  const QSize least = coregui::WidgetOf(this)->layout()->sizeHint();
+  const CSize size(std::max(width, least.width()), least.height());
+  CRect over;
+  owner->GetTopLevelParent()->GetWindowRect(&over);
+  MoveWindow(over.left + (over.Width() - size.cx) / 2, over.top + (over.Height() - size.cy) / 2, size.cx,
+             size.cy);
+  return ShowWindow(SW_SHOW), TRUE;
+}
+
+void CFindReplaceDialog::SetWholeWordText(const wchar_t* text) {
+  if (auto* native = coregui::NativeOf<CFindReplaceWindow>(*this)) {
+    native->word->setText(coregui::ToQt(text));
+  }
 }
 
 std::unique_ptr<coregui::NativeWindow> CFindReplaceDialog::MakeNative(const CREATESTRUCT& create) {

@@ -132,6 +132,8 @@ TEST(FindReplace, EveryButtonAsksTheOwner) {
   EXPECT_EQ(owner.asked, L"");
   QTest::keyClicks(widget->findChild<QLineEdit*>("find"), "a");
   press("findNext");
+  dialog.SetWholeWordText(L"Match &entire cell");
+  EXPECT_EQ(widget->findChild<QCheckBox*>("word")->text(), "Match &entire cell");
   widget->findChild<QCheckBox*>("word")->click();
   press("replaceOne");
   press("replaceAll");
