@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 
 namespace desk {
 
@@ -9,6 +10,20 @@ namespace {
 
 constexpr std::array<double, 14> kExaggerations = {1,   2,   5,   10,   20,   25,   50,
                                                    100, 200, 500, 1000, 2000, 5000, 10000};
+
+constexpr wchar_t kLabel[] = L"Exaggeration";
+
+int Gap() {
+  return ScaleByDpi(4);
+}
+
+int MoreWidth() {
+  return ScaleByDpi(28);
+}
+
+int ChoiceWidth() {
+  return ScaleByDpi(92);
+}
 
 }  // namespace
 
@@ -25,36 +40,105 @@ BOOL CommandBar::CreateBar(CWnd* parent, const std::vector<BarCommand>& commands
       !m_tips.CreateTips(this)) {
     return FALSE;
   }
-  const int gap = ScaleByDpi(4);
-  const int height = Height() - 2 * gap;
-  int left = gap;
   for (const BarCommand& command : commands) {
-    const int width = WidthOf(command.text);
-    auto button = std::make_unique<WithTip<CButton>>(m_tips);
-    if (!button->Create(command.text, WS_CHILD | WS_VISIBLE | WS_TABSTOP,
-                        CRect(CPoint(left, gap), CSize(width, height)), this, command.id)) {
+    m_buttons.push_back(std::make_unique<WithTip<CButton>>(m_tips));
+    if (!AddButton(*m_buttons.back(), command.text, command.tip, command.id)) {
       return FALSE;
     }
-    m_tips.AddTool(button.get(), command.tip);
-    m_buttons.push_back(std::move(button));
-    left += width + gap;
+    m_widths.push_back(WidthOf(command.text));
   }
-  left += 2 * gap;
-  constexpr wchar_t kLabel[] = L"Exaggeration";
-  const int labelWidth = WidthOf(kLabel);
-  const int down = (height - ScaleByDpi(16)) / 2;
-  m_label.Create(kLabel, WS_CHILD | WS_VISIBLE,
-                 CRect(CPoint(left, gap + down), CSize(labelWidth, height - down)), this,
-                 kExaggerationId + 1);
-  const CRect place(CPoint(left + labelWidth - 2 * gap, gap), CSize(ScaleByDpi(92), height));
-  if (!m_exaggeration.Create(CBS_DROPDOWNLIST | WS_CHILD | WS_VISIBLE | WS_TABSTOP, place, this,
+  if (!AddButton(m_more, L"\u00BB", L"More commands", kMoreId) ||
+      !m_label.Create(kLabel, WS_CHILD | WS_VISIBLE, CRect(), this, kExaggerationId + 1) ||
+      !m_exaggeration.Create(CBS_DROPDOWNLIST | WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(), this,
                              kExaggerationId)) {
     return FALSE;
   }
+  m_more.SetAccessibleName(L"More commands");
   m_exaggeration.SetAccessibleName(L"Vertical exaggeration");
   m_tips.AddTool(&m_exaggeration, L"How much longer levels are drawn than chainages (Ctrl+E: any value)");
   FillExaggerations(0.0);
+  Arrange();
   return TRUE;
+}
+
+BOOL CommandBar::AddButton(CButton& button, const wchar_t* text, const wchar_t* tip, UINT id) {
+  const BOOL made = button.Create(text, WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(), this, id);
+  if (made != FALSE) {
+    m_tips.AddTool(&button, tip);
+  }
+  return made;
+}
+
+/// How many buttons have room in a width: all, or as many as leave room for the button with the menu.
+std::size_t CommandBar::CountWithRoom(int width) const {
+  const int all =
+      std::accumulate(m_widths.begin(), m_widths.end(), 0) + static_cast<int>(m_widths.size()) * Gap();
+  if (all <= width) {
+    return m_widths.size();
+  }
+  std::size_t count = 0;
+  for (int left = width - MoreWidth() - Gap(); count < m_widths.size(); ++count) {
+    left -= m_widths[count] + Gap();
+    if (left < 0) {
+      break;
+    }
+  }
+  return count;
+}
+
+/// From the left: the buttons, that with the menu of the others, the label if it has room, the choice.
+void CommandBar::Arrange() {
+  const int height = Height() - 2 * Gap();
+  const int width = GetClientRectangle().Width() - Gap();
+  const int choice = ChoiceWidth() + 3 * Gap();
+  const int label = WidthOf(kLabel) - 2 * Gap();
+  const bool hasChoice = width >= MoreWidth() + 2 * Gap() + choice;
+  m_shown = CountWithRoom(width - (hasChoice ? choice : 0));
+  int left = Gap();
+  const auto place = [&left, height](CWnd& control, int wide, bool shown) {
+    control.ShowWindow(shown ? SW_SHOW : SW_HIDE);
+    if (shown) {
+      control.MoveWindow(CRect(CPoint(left, Gap()), CSize(wide, height)));
+      left += wide + Gap();
+    }
+  };
+  for (std::size_t i = 0; i < m_buttons.size(); ++i) {
+    place(*m_buttons[i], m_widths[i], i < m_shown);
+  }
+  place(m_more, MoreWidth(), m_shown < m_buttons.size());
+  left += 2 * Gap();
+  const bool hasLabel = hasChoice && left + label + choice <= width;
+  m_label.ShowWindow(hasLabel ? SW_SHOW : SW_HIDE);
+  if (hasLabel) {
+    const int down = (height - ScaleByDpi(16)) / 2;
+    m_label.MoveWindow(CRect(CPoint(left, Gap() + down), CSize(label, height - down)));
+    left += label;
+  }
+  place(m_exaggeration, ChoiceWidth(), hasChoice);
+}
+
+void CommandBar::FillMore(CMenu& menu) const {
+  for (std::size_t i = m_shown; i < m_buttons.size(); ++i) {
+    menu.AppendMenu(MF_STRING | (m_buttons[i]->IsWindowEnabled() != FALSE ? MF_ENABLED : MF_GRAYED),
+                    static_cast<UINT>(m_buttons[i]->GetDlgCtrlID()), m_buttons[i]->GetWindowTextString());
+  }
+}
+
+CPoint CommandBar::MenuPlace(UINT id) const {
+  const CWnd* button = GetDlgItem(static_cast<int>(id));
+  CRect rect;
+  (button != nullptr && button->IsWindowVisible() != FALSE ? *button : m_more).GetWindowRect(&rect);
+  return {rect.left, rect.bottom};
+}
+
+void CommandBar::OpenMore() {
+  CMenu menu;
+  menu.CreatePopupMenu();
+  FillMore(menu);
+  const CPoint at = MenuPlace(kMoreId);
+  if (const int chosen = menu.TrackPopupMenu(TPM_RETURNCMD, at.x, at.y, this); chosen > 0) {
+    GetParent()->SendMessage(WM_COMMAND, MAKEWPARAM(chosen, BN_CLICKED));
+  }
 }
 
 /// The fixed exaggerations, in their place one that is none of them, and the entry that asks.
@@ -92,14 +176,18 @@ std::vector<CWnd*> CommandBar::Stops() {
   for (const auto& button : m_buttons) {
     stops.push_back(button.get());
   }
+  stops.push_back(&m_more);
   stops.push_back(&m_exaggeration);
-  std::erase_if(stops, [](const CWnd* stop) { return stop->IsWindowEnabled() == FALSE; });
+  std::erase_if(stops, [](const CWnd* stop) {
+    return stop->IsWindowEnabled() == FALSE || stop->IsWindowVisible() == FALSE;
+  });
   return stops;
 }
 
 const coregui::MessageTable& CommandBar::GetMessageTable() const {
   static const coregui::MessageTable table = coregui::MessageTable(CWnd::Messages())
                                                  .On<WM_PAINT>(&CommandBar::HandlePaint)
+                                                 .On<WM_SIZE>(&CommandBar::HandleSize)
                                                  .OnMessage(WM_COMMAND, &CommandBar::HandleCommand);
   return table;
 }
@@ -111,7 +199,15 @@ void CommandBar::HandlePaint() {
   dc.FillSolidRect(CRect(rect.left, rect.bottom - 1, rect.right, rect.bottom), GetSysColor(COLOR_BTNSHADOW));
 }
 
+void CommandBar::HandleSize(UINT /*type*/, int /*width*/, int /*height*/) {
+  Arrange();
+}
+
 LRESULT CommandBar::HandleCommand(WPARAM wParam, LPARAM lParam) {
+  if (LOWORD(wParam) == kMoreId) {
+    OpenMore();
+    return 0;
+  }
   return GetParent() == nullptr ? 0 : GetParent()->SendMessage(WM_COMMAND, wParam, lParam);
 }
 

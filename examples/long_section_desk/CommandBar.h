@@ -29,12 +29,14 @@ class WithTip : public Control {
   CToolTipCtrl& m_tips;
 };
 
-/// A row of buttons with tips, and a choice of vertical exaggerations behind them. Everything is sent to the
+/// A row of buttons with tips, and a choice of vertical exaggerations behind them. What a narrow window has
+/// no room for, the last buttons first, stands in the menu of one more button. Everything is sent to the
 /// parent as WM_COMMAND.
 class CommandBar : public CWnd {
  public:
   static constexpr UINT kId = 107;
   static constexpr UINT kExaggerationId = 190;
+  static constexpr UINT kMoreId = 192;
   static constexpr double kLeastExaggeration = 0.01;
   static constexpr double kMostExaggeration = 1'000'000.0;
 
@@ -46,18 +48,30 @@ class CommandBar : public CWnd {
   void EnableCommand(UINT id, bool on);
   /// The controls in the order of the Tab key.
   std::vector<CWnd*> Stops();
+  /// Fills a menu with the commands that have no room.
+  void FillMore(CMenu& menu) const;
+  /// Where a menu of a command opens: below its button, or below the one that has it in its menu.
+  CPoint MenuPlace(UINT id) const;
 
  protected:
   const coregui::MessageTable& GetMessageTable() const override;
 
  private:
   int WidthOf(const wchar_t* text);
+  BOOL AddButton(CButton& button, const wchar_t* text, const wchar_t* tip, UINT id);
+  void Arrange();
+  std::size_t CountWithRoom(int width) const;
+  void OpenMore();
   void FillExaggerations(double extra);
   void HandlePaint();
+  void HandleSize(UINT type, int width, int height);
   LRESULT HandleCommand(WPARAM wParam, LPARAM lParam);
 
   CToolTipCtrl m_tips;
   std::vector<std::unique_ptr<CButton>> m_buttons;
+  std::vector<int> m_widths;  ///< of the buttons
+  std::size_t m_shown = 0;    ///< how many of them have room
+  WithTip<CButton> m_more{m_tips};
   CStatic m_label;
   WithTip<CComboBox> m_exaggeration{m_tips};
   std::vector<double> m_times;  ///< of the list's entries

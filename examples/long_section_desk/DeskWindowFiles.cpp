@@ -53,14 +53,7 @@ void DeskWindow::OpenRecent() {
   if (surveys.empty()) {
     menu.AppendMenu(MF_STRING | MF_GRAYED, id, L"No survey was opened yet");
   }
-  CPoint at(0, CommandBar::Height());
-  if (const CWnd* button = m_commands.GetDlgItem(111)) {
-    CRect rect;
-    button->GetWindowRect(&rect);
-    at = CPoint(rect.left, rect.bottom);
-  } else {
-    ClientToScreen(&at);
-  }
+  const CPoint at = m_commands.MenuPlace(111);
   const int chosen = menu.TrackPopupMenu(TPM_RETURNCMD, at.x, at.y, this);
   if (chosen >= static_cast<int>(kFirstRecent)) {
     const std::wstring& survey = surveys[static_cast<std::size_t>(chosen) - kFirstRecent];

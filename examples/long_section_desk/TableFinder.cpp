@@ -1,5 +1,6 @@
 #include "TableFinder.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace desk {
@@ -33,6 +34,37 @@ void TableFinder::OpenDialog(CWnd* owner) {
       (m_up ? 0U : FR_DOWN) | (m_matchCase ? FR_MATCHCASE : 0U) | (m_wholeCell ? FR_WHOLEWORD : 0U);
   m_dialog = std::make_unique<CFindReplaceDialog>();
   m_dialog->Create(TRUE, m_text, L"", flags, owner);
+  m_dialog->SetWholeWordText(L"Match &entire cell text");
+  CRect beside;
+  CRect dialog;
+  owner->GetWindowRect(&beside);
+  m_dialog->GetWindowRect(&dialog);
+  const int gap = ScaleByDpi(40);
+  m_dialog->MoveWindow(
+      CRect(CPoint(std::max(beside.left, beside.right - gap - dialog.Width()), beside.top + 2 * gap),
+            dialog.Size()));
+  Uncover();
+}
+
+void TableFinder::Uncover() {
+  CRect cell;
+  CRect dialog;
+  const CWnd* body = m_grid.GetGridWnd();
+  if (m_dialog == nullptr || !m_dialog->HasWindow() || body == nullptr ||
+      m_grid.GetCellRect(m_grid.GetCurrentCol(), m_grid.GetCurrentRow(), &cell) != 0) {
+    return;
+  }
+  body->ClientToScreen(&cell);
+  m_dialog->GetWindowRect(&dialog);
+  const int frame = ScaleByDpi(36);  // what the desktop adds at the top
+  dialog.top -= frame;
+  CRect common;
+  if (common.IntersectRect(dialog, cell) == FALSE) {
+    return;
+  }
+  const bool below = cell.bottom + dialog.Height() <= GetSystemMetrics(SM_CYSCREEN);
+  const LONG top = below ? cell.bottom + frame : std::max<LONG>(cell.top - dialog.Height(), 0) + frame;
+  m_dialog->MoveWindow(CRect(CPoint(dialog.left, top), CSize(dialog.Width(), dialog.Height() - frame)));
 }
 
 bool TableFinder::TakeFromDialog(LPARAM lParam) {
@@ -75,6 +107,7 @@ TableFinder::Result TableFinder::FindAgain(bool back) {
     return Result::notFound;
   }
   m_grid.GotoCell(found->col, found->row);
+  Uncover();
   return isAhead(*found) ? Result::found : Result::foundFromOtherEnd;
 }
 

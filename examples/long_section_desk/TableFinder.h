@@ -24,8 +24,8 @@ class TableFinder {
 
   explicit TableFinder(SurveyGrid& grid) : m_grid(grid) {}
 
-  /// Shows the dialog, or brings it to the front. `owner` gets its messages (RegisterWindowMessage of
-  /// FINDMSGSTRING) and passes them to TakeFromDialog.
+  /// Shows the dialog at the right end of `owner`, or brings it to the front. `owner` gets its messages
+  /// (RegisterWindowMessage of FINDMSGSTRING) and passes them to TakeFromDialog.
   void OpenDialog(CWnd* owner);
   void CloseDialog() { m_dialog.reset(); }
   /// Takes over what a message of the dialog says; true when a search is wanted.
@@ -45,6 +45,8 @@ class TableFinder {
     int col;
     bool operator<(const Place& other) const { return std::pair(row, col) < std::pair(other.row, other.col); }
   };
+  /// Moves the dialog off the current cell.
+  void Uncover();
   std::optional<Place> Search(const CString& text, const Place& from, bool up);
 
   SurveyGrid& m_grid;

@@ -16,6 +16,12 @@ namespace {
 
 using namespace coregui::test;
 
+class ShownFrame : public CWnd {
+ public:
+  ShownFrame() { Create(L"", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 900, 200), nullptr, 0); }
+  ~ShownFrame() override { DestroyWindow(); }
+};
+
 class Desk : public testing::Test {
  protected:
   Desk() : folder(std::filesystem::temp_directory_path() / ("deskwindow" + std::to_string(::getpid()))) {
@@ -168,6 +174,69 @@ TEST_F(Desk, TheFindDialogSearchesBesideTheTable) {
   EXPECT_EQ(window.Grid().GetCurrentRow(), 2);
   window.Find(L"KERB");
   EXPECT_EQ(window.Grid().GetCurrentRow(), 1);
+}
+
+TEST_F(Desk, TheFindDialogStandsBesideTheCellThatItFound) {
+  std::string rows = "Chainage,Level,Remark\n";
+  for (int i = 0; i < 200; ++i) {
+    rows += std::to_string(i) + ",101.5,nail\n";
+  }
+  ASSERT_TRUE(window.Open(Write("a.csv", rows)));
+  window.ShowWindow(SW_SHOW);
+  window.MoveWindow(0, 0, 420, 500);
+  const NextWindow find([this](ShownWindow& shown) {
+    for (const auto& [row, y] : {std::pair(0L, 40), {12L, 90}, {199L, 400}}) {
+      shown.Window()->MoveWindow(20, y, 300, 150);
+      window.Find(CString::Formatted(L"%ld.000", row));
+      CRect cell;
+      CRect dialog;
+      ASSERT_EQ(window.Grid().GetCellRect(0, window.Grid().GetCurrentRow(), &cell), 0);
+      window.Grid().GetGridWnd()->ClientToScreen(&cell);
+      shown.Window()->GetWindowRect(&dialog);
+      EXPECT_EQ(window.Grid().GetCurrentRow(), row);
+      CRect common;
+      EXPECT_FALSE(common.IntersectRect(dialog, cell)) << row;
+      EXPECT_GE(dialog.top, 0);
+    }
+    shown.Click("Cancel");
+  });
+  PressKey(window.Section(), 'F', true);
+  CWinApp::PumpPending();
+}
+
+TEST(CommandBar, WhatHasNoRoomStandsInTheMenu) {
+  ShownFrame frame;
+  desk::CommandBar bar;
+  ASSERT_TRUE(bar.CreateBar(&frame, {{1, L"&Open...", L""}, {2, L"&Print...", L""}, {3, L"&Help", L""}}));
+  bar.EnableCommand(3, false);
+  std::vector<int> menus;
+  for (const int width : {900, 300, 250, 180, 60, 1}) {
+    bar.MoveWindow(0, 0, width, desk::CommandBar::Height());
+    CMenu menu;
+    menu.CreatePopupMenu();
+    bar.FillMore(menu);
+    menus.push_back(menu.GetMenuItemCount());
+    for (UINT id = 1; id <= 3; ++id) {
+      EXPECT_NE(bar.GetDlgItem(static_cast<int>(id))->IsWindowVisible() != FALSE,
+                menu.GetMenuState(id, MF_BYCOMMAND) != ~0U)
+          << width << " " << id;
+    }
+    if (menus.back() > 0) {
+      EXPECT_EQ(menu.GetMenuState(3, MF_BYCOMMAND), MF_GRAYED);
+    }
+    LONG reached = 0;
+    for (const CWnd* control : bar.Stops()) {
+      CRect place;
+      control->GetWindowRect(&place);
+      bar.ScreenToClient(&place);
+      EXPECT_GE(place.left, reached) << width;
+      reached = place.right;
+    }
+    EXPECT_TRUE(reached <= width || width < 60) << width;
+  }
+  EXPECT_EQ(menus.front(), 0);
+  EXPECT_EQ(menus.back(), 3);
+  EXPECT_TRUE(std::is_sorted(menus.begin(), menus.end()));
 }
 
 TEST(PrintDialog, ShowsAtOnceHowManySheetsAChoiceTakes) {
