@@ -93,6 +93,8 @@ const coregui::MessageTable& CGridCtrl::GetMessageTable() const {
                                                  .On<WM_SETFOCUS>(&CGridCtrl::HandleFocus)
                                                  .On<WM_VSCROLL>(&CGridCtrl::HandleVScroll)
                                                  .On<WM_HSCROLL>(&CGridCtrl::HandleHScroll)
+                                                 .OnMessage(WM_MOUSEWHEEL, &CGridCtrl::HandleMouseWheel)
+                                                 .OnMessage(WM_MOUSEHWHEEL, &CGridCtrl::HandleMouseHWheel)
                                                  .On<WM_SYSCOLORCHANGE>(&CGridCtrl::HandleSystemChange);
   return table;
 }
@@ -109,6 +111,14 @@ void CGridCtrl::HandleVScroll(int code, CWnd*) {
 }
 void CGridCtrl::HandleHScroll(int code, CWnd*) {
   m_rooms->parts.OnScroll(SB_HORZ, code);
+}
+
+// Over the headings the wheel turns the cells too.
+LRESULT CGridCtrl::HandleMouseWheel(WPARAM wParam, LPARAM lParam) {
+  return GetGridWnd() == nullptr ? 0 : GetGridWnd()->SendMessage(WM_MOUSEWHEEL, wParam, lParam);
+}
+LRESULT CGridCtrl::HandleMouseHWheel(WPARAM wParam, LPARAM lParam) {
+  return GetGridWnd() == nullptr ? 0 : GetGridWnd()->SendMessage(WM_MOUSEHWHEEL, wParam, lParam);
 }
 
 void CGridCtrl::HandleSystemChange() {

@@ -390,6 +390,8 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
   void HandleFocus(CWnd* other);
   void HandleVScroll(int code, CWnd* bar);
   void HandleHScroll(int code, CWnd* bar);
+  LRESULT HandleMouseWheel(WPARAM wParam, LPARAM lParam);
+  LRESULT HandleMouseHWheel(WPARAM wParam, LPARAM lParam);
   void HandleSystemChange();
   /// The parts have their places: the view has this size now.
   void TakeViewSize(const SIZE& body);

@@ -36,6 +36,7 @@ const MessageTable& CGrid::GetMessageTable() const {
                                         .On<WM_RBUTTONUP>(&CGrid::HandleRButtonUp)
                                         .On<WM_MOUSEMOVE>(&CGrid::HandleMouseMove)
                                         .On<WM_MOUSEWHEEL>(&CGrid::HandleMouseWheel)
+                                        .On<WM_MOUSEHWHEEL>(&CGrid::HandleMouseHWheel)
                                         .On<WM_MOUSELEAVE>(&CGrid::HandleMouseLeave)
                                         .On<WM_HELPHITTEST>(&CGrid::HandleHelpHitTest)
                                         .On<WM_SETCURSOR>(&CGrid::HandleSetCursor)

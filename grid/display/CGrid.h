@@ -65,6 +65,7 @@ class COREGUI_API CGrid : public CWnd {
   void HandleRButtonUp(UINT flags, CPoint point);
   void HandleMouseMove(UINT flags, CPoint point);
   BOOL HandleMouseWheel(UINT flags, short delta, CPoint screen);
+  BOOL HandleMouseHWheel(UINT flags, short delta, CPoint screen);
   void HandleMouseLeave();
   LRESULT HandleHelpHitTest(WPARAM wParam, LPARAM lParam);
   BOOL HandleSetCursor(CWnd* window, UINT hitTest, UINT message);

@@ -1,6 +1,7 @@
 #include "grid/display/CGridCnrBtn.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "grid/control/CGridCellDelegate.h"
 #include "grid/control/CGridCtrl.h"
@@ -35,6 +36,7 @@ const MessageTable& CGridCnrBtn::GetMessageTable() const {
                                         .On<WM_RBUTTONDOWN>(&CGridCnrBtn::HandleRButtonDown)
                                         .On<WM_RBUTTONUP>(&CGridCnrBtn::HandleRButtonUp)
                                         .On<WM_MOUSEMOVE>(&CGridCnrBtn::HandleMouseMove)
+                                        .On<WM_CAPTURECHANGED>(&CGridCnrBtn::HandleCaptureChanged)
                                         .On<WM_HELPHITTEST>(&CGridCnrBtn::HandleHelpHitTest)
                                         .On<WM_SETCURSOR>(&CGridCnrBtn::HandleSetCursor);
   return table;
@@ -114,18 +116,18 @@ void CGridCnrBtn::DragTo(CPoint point) {
   if (m_edge == Edge::bottom) {
     int height = std::max<int>(point.y, 0);
     m_control->OnTopHdgSizing(&height);  // Kept: the answer counts in the heading itself only
-    if (alive) m_control->SetTH_Height(height);
+    if (alive && m_sizing) m_control->SetTH_Height(height);
   } else {
     int width = std::max<int>(point.x, 0);
     m_control->OnSideHdgSizing(&width);
-    if (alive) m_control->SetSH_Width(width);
+    if (alive && m_sizing) m_control->SetSH_Width(width);
   }
   if (alive) m_control->AdjustComponentSizes();
 }
 
 void CGridCnrBtn::EndDrag() {
+  if (!std::exchange(m_sizing, false)) return;
   const WindowRef alive(this);
-  m_sizing = false;
   if (m_edge == Edge::bottom) {
     int height = m_control->GetTH_Height();
     m_control->OnTopHdgSized(&height);
@@ -162,13 +164,11 @@ void CGridCnrBtn::HandleLButtonDown(UINT, CPoint point) {
 
 void CGridCnrBtn::HandleLButtonUp(UINT, CPoint point) {
   const WindowRef alive(this);
+  const bool clicked = std::exchange(m_leftDown, false);
   if (CWnd::GetCapture() == this) CWnd::ReleaseCapture();
-  if (m_sizing) {
-    EndDrag();
-    return;
-  }
-  if (!m_leftDown) return;
-  m_leftDown = false;
+  if (!alive) return;
+  EndDrag();
+  if (!alive || !clicked) return;
   RECT rect = GetClientRectangle();
   const int processed = m_control->GetCellDelegate(-1, -1)->OnLClicked(-1, -1, 0, &rect, &point);
   if (alive) m_control->OnCB_LClicked(0, &rect, &point, processed);
@@ -217,6 +217,13 @@ void CGridCnrBtn::HandleMouseMove(UINT flags, CPoint point) {
 
 LRESULT CGridCnrBtn::HandleHelpHitTest(WPARAM, LPARAM lParam) {
   return HelpNumberAt(*m_control, GRIDSECTION_CORNERBUTTON, lParam);
+}
+
+/// A dialog that opens takes the mouse away: there will be no release.
+LRESULT CGridCnrBtn::HandleCaptureChanged(WPARAM, LPARAM) {
+  m_leftDown = false;
+  EndDrag();
+  return 0;
 }
 
 BOOL CGridCnrBtn::HandleSetCursor(CWnd*, UINT, UINT) {

@@ -29,6 +29,7 @@ class COREGUI_API CGridCnrBtn : public CWnd {
   void HandleRButtonDown(UINT flags, CPoint point);
   void HandleRButtonUp(UINT flags, CPoint point);
   void HandleMouseMove(UINT flags, CPoint point);
+  LRESULT HandleCaptureChanged(WPARAM wParam, LPARAM lParam);
   LRESULT HandleHelpHitTest(WPARAM wParam, LPARAM lParam);
   BOOL HandleSetCursor(CWnd* window, UINT hitTest, UINT message);
 

@@ -48,6 +48,12 @@ BOOL CGrid::HandleMouseWheel(UINT flags, short delta, CPoint) {
   return TRUE;
 }
 
+BOOL CGrid::HandleMouseHWheel(UINT flags, short delta, CPoint) {
+  m_tips.Cancel();
+  m_mouse.WheelAcross(flags, delta);
+  return TRUE;
+}
+
 LRESULT CGrid::HandleHelpHitTest(WPARAM, LPARAM lParam) {
   return HelpNumberAt(*m_control, GRIDSECTION_GRID, lParam);
 }

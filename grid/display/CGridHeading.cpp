@@ -1,5 +1,7 @@
 #include "grid/display/CGridHeading.h"
 
+#include <utility>
+
 #include "grid/control/CGridCellDelegate.h"
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridInfo.h"
@@ -33,6 +35,7 @@ const MessageTable& CGridHeading::GetMessageTable() const {
                                         .On<WM_RBUTTONUP>(&CGridHeading::HandleRButtonUp)
                                         .On<WM_MOUSEMOVE>(&CGridHeading::HandleMouseMove)
                                         .On<WM_MOUSELEAVE>(&CGridHeading::HandleMouseLeave)
+                                        .On<WM_CAPTURECHANGED>(&CGridHeading::HandleCaptureChanged)
                                         .On<WM_HELPHITTEST>(&CGridHeading::HandleHelpHitTest)
                                         .On<WM_SETCURSOR>(&CGridHeading::HandleSetCursor)
                                         .On<WM_TIMER>(&CGridHeading::HandleTimer);
@@ -126,13 +129,11 @@ void CGridHeading::HandleLButtonDown(UINT, CPoint point) {
 
 void CGridHeading::HandleLButtonUp(UINT, CPoint point) {
   const WindowRef alive(this);
+  const bool clicked = std::exchange(m_leftDown, false);
   if (CWnd::GetCapture() == this) CWnd::ReleaseCapture();
-  if (m_sizer.IsSizing()) {
-    m_sizer.End();
-    return;
-  }
-  if (!m_leftDown) return;
-  m_leftDown = false;
+  if (!alive) return;
+  m_sizer.End();
+  if (!alive || !clicked) return;
   ReleasedAt(point);
   if (!alive) return;
   Click click;
@@ -207,6 +208,14 @@ LRESULT CGridHeading::HandleHelpHitTest(WPARAM, LPARAM lParam) {
   return HelpNumberAt(*m_control, m_section, lParam);
 }
 
+LRESULT CGridHeading::HandleCaptureChanged(WPARAM, LPARAM) {
+  const bool lost = std::exchange(m_leftDown, false);
+  const WindowRef alive(this);
+  m_sizer.End();
+  if (alive && lost) PressLost();
+  return 0;
+}
+
 BOOL CGridHeading::HandleSetCursor(CWnd*, UINT, UINT) {
   ShowCursor();
   return TRUE;
@@ -232,6 +241,7 @@ void CGridHeading::HandleTimer(UINT id) {
 void CGridHeading::PressedOn(const Click&, CPoint) {}
 void CGridHeading::DraggedTo(CPoint) {}
 void CGridHeading::ReleasedAt(CPoint) {}
+void CGridHeading::PressLost() {}
 void CGridHeading::TimerElapsed(UINT) {}
 
 }  // namespace coregui

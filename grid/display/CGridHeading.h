@@ -43,6 +43,8 @@ class COREGUI_API CGridHeading : public CWnd {
   virtual void PressedOn(const Click& click, CPoint point);
   virtual void DraggedTo(CPoint point);
   virtual void ReleasedAt(CPoint point);
+  /// Somebody else, a dialog that opens, has taken the mouse: there will be no release.
+  virtual void PressLost();
   virtual void TimerElapsed(UINT id);
 
   CGridCtrl* m_control;
@@ -60,6 +62,7 @@ class COREGUI_API CGridHeading : public CWnd {
   void HandleRButtonUp(UINT flags, CPoint point);
   void HandleMouseMove(UINT flags, CPoint point);
   void HandleMouseLeave();
+  LRESULT HandleCaptureChanged(WPARAM wParam, LPARAM lParam);
   LRESULT HandleHelpHitTest(WPARAM wParam, LPARAM lParam);
   BOOL HandleSetCursor(CWnd* window, UINT hitTest, UINT message);
   void HandleTimer(UINT id);

@@ -1,6 +1,7 @@
 #include "grid/display/CGridMouse.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "grid/control/CGridCellDelegate.h"
 #include "grid/control/CGridCtrl.h"
@@ -273,6 +274,17 @@ void CGridMouse::Wheel(UINT flags, short delta) {
   if (!alive) return;
   m_control.Invalidate(TRUE);
   m_control.GetInfo().view.mouseEvent = MouseEvent::none;
+}
+
+void CGridMouse::WheelAcross(UINT flags, short delta) {
+  if (m_control.GetEditInProgress() != 0) return;
+  const WindowRef alive(&m_window);
+  m_control.GetInfo().view.mouseEvent = MouseEvent::wheel;
+  m_control.GetInfo().view.mouseFlags = flags;
+  for (int notches = std::abs(delta) / WHEEL_DELTA; notches > 0 && alive; --notches) {
+    m_control.MoveLeftCol(delta < 0 ? kBack : kForward);
+  }
+  if (alive) m_control.GetInfo().view.mouseEvent = MouseEvent::none;
 }
 
 }  // namespace coregui

@@ -28,6 +28,8 @@ class COREGUI_API CGridMouse {
   void DoubleClick(UINT flags, CPoint point);
   void Move(UINT flags, CPoint point);
   void Wheel(UINT flags, short delta);
+  /// A wheel that is tilted, or two fingers across a touchpad: a column per notch, positive to the right.
+  void WheelAcross(UINT flags, short delta);
   static constexpr UINT kDragTimer = 0x710B;  ///< of the body
   static constexpr UINT kDragEvery = 100;     ///< milliseconds between steps while the pointer rests outside
   /// That timer went off.

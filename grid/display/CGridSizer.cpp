@@ -128,7 +128,7 @@ void CGridSizer::DragLine(int position) {
   } else {
     m_control.OnRowSizing(m_index, &size);
   }
-  if (!alive) return;
+  if (!alive || !m_sizing) return;  // who was told may have taken the mouse
   const bool outline = m_control.GetUserSizingMode() == kSizingOutline;
   const int update = m_control.GetUpdate();
   if (outline) m_control.EnableUpdate(0);  // only the heading follows
@@ -175,7 +175,7 @@ void CGridSizer::DragHeadingLine(int position) {
   if (static_cast<std::size_t>(m_index) >= sizes.size()) return;
   sizes[static_cast<std::size_t>(m_index)] = DraggedSize(m_sizeAtStart, m_start, position);
   const int applied = m_top ? m_control.OnTopHdgSizing(&total) : m_control.OnSideHdgSizing(&total);
-  if (!alive || applied != 1) return;
+  if (!alive || !m_sizing || applied != 1) return;
   m_top ? m_control.SetTH_Height(total) : m_control.SetSH_Width(total);
   if (alive) m_control.AdjustComponentSizes();
 }

@@ -1,6 +1,7 @@
 #include "grid/display/CGridTopHdg.h"
 
 #include <cstdlib>
+#include <utility>
 
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridInfo.h"
@@ -63,17 +64,19 @@ void CGridTopHdg::TimerElapsed(UINT id) {
 }
 
 void CGridTopHdg::ReleasedAt(CPoint point) {
-  if (m_source < 0) return;
-  KillTimer(kScrollTimer);
   const int source = m_source;
+  const bool dragged = m_dragged || IsDrag(point);
+  PressLost();
+  if (source >= 0 && dragged) Swap(source, DropColumnAt(point.x));
+}
+
+void CGridTopHdg::PressLost() {
+  KillTimer(kScrollTimer);
   m_source = -1;
   m_scrollCode = -1;
   m_painter.MarkLine(-1);
   m_painter.MarkDrop(-1);
-  if (!m_dragged && !IsDrag(point)) return;
-  m_dragged = false;
-  Invalidate(FALSE);
-  Swap(source, DropColumnAt(point.x));
+  if (std::exchange(m_dragged, false)) Invalidate(FALSE);
 }
 
 /// The column before which a column dropped at x comes to stand: the edge nearest to x.

@@ -15,6 +15,7 @@ class COREGUI_API CGridTopHdg : public coregui::CGridHeading {
   void PressedOn(const Click& click, CPoint point) override;
   void DraggedTo(CPoint point) override;
   void ReleasedAt(CPoint point) override;
+  void PressLost() override;
   void TimerElapsed(UINT id) override;
 
  private:

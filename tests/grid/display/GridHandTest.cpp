@@ -105,6 +105,35 @@ TEST_F(GridHandTest, AHiddenColumnIsDraggedOpenAndARefusedOneIsClicked) {
   EXPECT_EQ(grid.GetColWidth(0), 50);
 }
 
+TEST_F(GridHandTest, ADialogThatOpensInADragEndsIt) {
+  grid.takesMouse = true;
+  struct Row {
+    CWnd& part;
+    CPoint edge;
+    CPoint to;
+    const char* notes;
+  };
+  for (const Row& row : {Row{Top(), {50, 30}, {80, 30}, "col 0 sizing 80; col 0 sized 50; "},
+                         Row{Side(), {10, 20}, {10, 60}, "row 0 sizing 60; row 0 sized 20; "},
+                         Row{Top(), {25, 20}, {25, 26}, "top 0 sizing 46; top 0 sized 40; "},
+                         Row{Corner(), {10, 39}, {10, 54}, "top 0 sizing 54; top 0 sized 40; "}}) {
+    StepMouse(row.part, MouseStep::move, row.edge);
+    StepMouse(row.part, MouseStep::press, row.edge);
+    StepMouse(row.part, MouseStep::move, row.to);
+    StepMouse(row.part, MouseStep::move, row.to + CSize(5, 5));
+    StepMouse(row.part, MouseStep::release, row.to);
+    EXPECT_EQ(grid.TakeNotes(), row.notes);
+  }
+  grid.EnableColSwapping(1);
+  StepMouse(Top(), MouseStep::press, {75, 30});
+  StepMouse(Top(), MouseStep::move, {400, 30});
+  CWnd::ReleaseCapture();
+  EXPECT_FALSE(Top().KillTimer(0x710A)) << "the view scrolls no more";
+  StepMouse(Top(), MouseStep::release, {190, 30});
+  EXPECT_EQ(Texts(5), "c0 c1 c2 c3 c4 ");
+  EXPECT_EQ(DifferenceToFresh(), "");
+}
+
 TEST_F(GridHandTest, ADoubleClickOnAnEdgeFitsTheColumn) {
   grid.QuickSetText(1, 5, L"A text that needs far more than fifty pixels");
   StepMouse(Top(), MouseStep::doubleClick, {99, 30});
@@ -201,6 +230,20 @@ TEST_F(GridHandTest, WheelAndKeysLeaveThePictureOfPaintingAnew) {
     EXPECT_EQ(At(grid.GetLeftCol(), grid.GetTopRow()), row.first);
     EXPECT_EQ(DifferenceToFresh(), "");
   }
+}
+
+TEST_F(GridHandTest, TheWheelTurnsTheCellsOverTheHeadingsTooAndMovesAcross) {
+  for (CWnd* part : {&Side(), &Top(), &Corner()}) TurnWheel(*part, {5, 5}, -120);
+  EXPECT_EQ(grid.GetTopRow(), 9);
+  grid.SetColWidth(1, 0);
+  const auto tilt = [this](CWnd& part, int delta) {
+    part.SendMessage(WM_MOUSEHWHEEL, MAKEWPARAM(0, delta));
+    return grid.GetLeftCol();
+  };
+  EXPECT_EQ(tilt(Body(), 120), 2) << "a hidden column is none";
+  EXPECT_EQ(tilt(Top(), 240), 4);
+  EXPECT_EQ(tilt(Body(), -60), 4);
+  EXPECT_EQ(tilt(Body(), -120), 3);
 }
 
 TEST_F(GridHandTest, TheBodyWantsAllKeysAndIsActivatedByAClick) {

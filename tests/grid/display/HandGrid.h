@@ -21,9 +21,10 @@ namespace coregui::test {
 class HandGrid : public CGridCtrl {
  public:
   std::string log;
-  std::string refuses;  ///< the name of the question that is answered with 0
-  bool helps = false;   ///< its places have help numbers
-  int sizedTo = -1;     ///< what the end of sizing makes of a size
+  std::string refuses;      ///< the name of the question that is answered with 0
+  bool takesMouse = false;  ///< being told of a size lets go of the mouse, as a dialog does that opens
+  bool helps = false;       ///< its places have help numbers
+  int sizedTo = -1;         ///< what the end of sizing makes of a size
 
   std::string TakeNotes() { return std::exchange(log, ""); }
 
@@ -91,7 +92,10 @@ class HandGrid : public CGridCtrl {
     static constexpr const wchar_t* kSteps[] = {L"", L" up", L" down"};
     Note(L"%s %d,%ld%s", what, col, row, kSteps[updn + 1]);
   }
-  void Size(const wchar_t* what, long line, int size) { Note(L"%s %ld sizing %d", what, line, size); }
+  void Size(const wchar_t* what, long line, int size) {
+    Note(L"%s %ld sizing %d", what, line, size);
+    if (takesMouse) CWnd::ReleaseCapture();
+  }
   void Sized(const wchar_t* what, long line, int* size) {
     Note(L"%s %ld sized %d", what, line, *size);
     if (sizedTo >= 0) *size = sizedTo;
