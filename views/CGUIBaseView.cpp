@@ -245,7 +245,8 @@ void CGUIBaseView::Print(CDC* dc, CSize page) {
   PrintMapped(*dc, page, mapping);
 }
 
-void CGUIBaseView::PrintMapped(CDC& dc, CSize page, const coregui::CViewMapping& mapping) {
+void CGUIBaseView::PrintMapped(CDC& dc, CSize page, const coregui::CViewMapping& mapping,
+                               PrintPageNumber number) {
   if (IsPlotting()) {
     return;
   }
@@ -261,5 +262,6 @@ void CGUIBaseView::PrintMapped(CDC& dc, CSize page, const coregui::CViewMapping&
   EndPlot();
   m_mapping.now = saved;
   m_mapping.vertMode = savedMode;
+  m_printPage = number;
   m_isPrinting = false;
 }

@@ -149,7 +149,15 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
   bool IsPrinting() const { return m_isPrinting; }
   CRect GetPrintRect() const { return m_printRect; }
   /// Draws a page with a mapping of the caller's; the view's own is put back.
-  void PrintMapped(CDC& dc, CSize page, const coregui::CViewMapping& mapping);
+  void PrintMapped(CDC& dc, CSize page, const coregui::CViewMapping& mapping,
+                   PrintPageNumber number = {1, 1});
+  /// Which of how many pages is printed.
+  struct PrintPageNumber {
+    int number = 1;
+    int count = 1;
+  };
+  /// While a page is drawn.
+  PrintPageNumber GetPrintPage() const { return m_printPage; }
 
  protected:
   const coregui::MessageTable& GetMessageTable() const override;
@@ -269,4 +277,5 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
   char m_lastKey = 0;
   HCURSOR m_cursor = nullptr;
   std::shared_ptr<int> m_life = std::make_shared<int>(0);
+  PrintPageNumber m_printPage;
 };

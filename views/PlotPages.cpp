@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <utility>
+#include <vector>
 
 #include "platform/CPrinterDC.h"
 #include "views/CGUIBaseView.h"
@@ -37,14 +38,14 @@ CPlotPages::CPlotPages(CViewMapping view, PlotPageScale const& scale, CSize page
   const CRect margins = m_first.GetMarginPixels();
   m_first.now.offsetX = SaturateToDevice(-std::int64_t{margins.left});
   m_first.now.offsetY = SaturateToDevice(-std::int64_t{margins.top});
-  const CSize room(SaturateToDevice(std::int64_t{page.cx} - margins.left - margins.right),
-                   SaturateToDevice(std::int64_t{page.cy} - margins.top - margins.bottom));
+  m_room = CSize(SaturateToDevice(std::int64_t{page.cx} - margins.left - margins.right),
+                 SaturateToDevice(std::int64_t{page.cy} - margins.top - margins.bottom));
   const LONG overlapX = TruncateToDevice(scale.overlap / kMillimetresPerInch * dotsPerInch.cx);
   const LONG overlapY = TruncateToDevice(scale.overlap / kMillimetresPerInch * dotsPerInch.cy);
-  m_step = CSize(SaturateToDevice(std::int64_t{room.cx} - overlapX),
-                 SaturateToDevice(std::int64_t{room.cy} - overlapY));
-  m_columns = PagesFor(m_first.extents.Width() / m_first.now.scale, room.cx, m_step.cx);
-  m_rows = PagesFor(m_first.extents.Height() / unitsPerDotDown, room.cy, m_step.cy);
+  m_step = CSize(SaturateToDevice(std::int64_t{m_room.cx} - overlapX),
+                 SaturateToDevice(std::int64_t{m_room.cy} - overlapY));
+  m_columns = PagesFor(m_first.extents.Width() / m_first.now.scale, m_room.cx, m_step.cx);
+  m_rows = PagesFor(m_first.extents.Height() / unitsPerDotDown, m_room.cy, m_step.cy);
   if (static_cast<double>(m_columns) * m_rows > kMostPages) {
     m_columns = m_rows = 0;
   }
@@ -57,20 +58,34 @@ CViewMapping CPlotPages::GetMapping(int page) const {
   return mapping;
 }
 
-int PrintToScale(CGUIBaseView& view, CPrinterDC& dc, PlotPageScale const& scale) {
+FRect CPlotPages::GetPart(int page) const {
+  const CViewMapping mapping = GetMapping(page);
+  const CPoint corner = mapping.GetMarginPixels().TopLeft();
+  return {mapping.WindowToUser(corner), mapping.WindowToUser(corner + m_room)};
+}
+
+int PrintToScale(CGUIBaseView& view, CPrinterDC& dc, PlotPageScale const& scale,
+                 const PLOT_PART_FILTER& isDrawn) {
   const CSize page(dc.GetDeviceCaps(HORZRES), dc.GetDeviceCaps(VERTRES));
   const CSize dotsPerInch(dc.GetDeviceCaps(LOGPIXELSX), dc.GetDeviceCaps(LOGPIXELSY));
   const CPlotPages pages(view.GetMapping(), scale, page, dotsPerInch);
+  std::vector<int> wanted;
   for (int i = 0; i < pages.GetCount(); ++i) {
+    if (!isDrawn || isDrawn(pages.GetPart(i))) {
+      wanted.push_back(i);
+    }
+  }
+  const int count = static_cast<int>(wanted.size());
+  for (int i = 0; i < count; ++i) {
     if (!dc.StartPage()) {
       return i;
     }
-    view.PrintMapped(dc, page, pages.GetMapping(i));
+    view.PrintMapped(dc, page, pages.GetMapping(wanted[static_cast<std::size_t>(i)]), {i + 1, count});
     if (!dc.EndPage()) {
       return i;
     }
   }
-  return pages.GetCount();
+  return count;
 }
 
 }  // namespace coregui

@@ -59,13 +59,6 @@ class SectionView : public CGUIBaseViewWnd {
   BOOL OnMouseWheel(UINT flags, short delta, CPoint screen) override;
 
  private:
-  /// What is printed at the moment.
-  struct Sheet {
-    int number = 1;
-    int count = 1;
-    CString scale;  ///< empty: as large as the page allows
-  };
-
   int TableRows(bool forWindow) const;
   CRect Margins(bool forWindow) const;
   CRect PrintMargins() const;
@@ -86,7 +79,7 @@ class SectionView : public CGUIBaseViewWnd {
   FRect m_extents;
   CSize m_size;  ///< of the client area at the last fit; empty: nothing was shown yet
   CString m_title;
-  Sheet m_sheet;
+  CString m_printScale;  ///< of what is printed at the moment; empty: as large as the page allows
   std::function<void(StationStep)> m_stepHook;
   std::function<void()> m_focusHook;
   double m_exaggeration = 10.0;

@@ -70,9 +70,9 @@ void SectionView::DrawTitleBlock(const SectionColors& colors) {
   };
   std::vector<CString> lines = {m_title};
   lines.push_back(L"Long-section " + chainage(area.TopLeft()) + L" to " + chainage(area.BottomRight()));
-  lines.push_back(m_sheet.scale.IsEmpty() ? CString::Formatted(L"Vertical exaggeration %.4g", m_exaggeration)
-                                          : m_sheet.scale);
-  lines.push_back(CString::Formatted(L"Sheet %d of %d", m_sheet.number, m_sheet.count));
+  lines.push_back(m_printScale.IsEmpty() ? CString::Formatted(L"Vertical exaggeration %.4g", m_exaggeration)
+                                         : m_printScale);
+  lines.push_back(CString::Formatted(L"Sheet %d of %d", GetPrintPage().number, GetPrintPage().count));
   SetPlotPen({colors.text});
   PlotTitleBlock(lines);
   const CRect sheet = GetPlotArea();

@@ -65,18 +65,16 @@ bool SectionView::PrintSheets(CPrinterDC& dc, const PrintChoice& choice) {
   const CSize dotsPerInch(dc.GetDeviceCaps(LOGPIXELSX), dc.GetDeviceCaps(LOGPIXELSY));
   const CSize edges = EdgeDots(dotsPerInch);
   const std::vector<coregui::CViewMapping> sheets = Plan(choice, page, dotsPerInch);
-  m_sheet = {0, static_cast<int>(sheets.size()), {}};
-  if (choice.toScale) {
-    m_sheet.scale = CString::Formatted(L"Scale 1:%g / 1:%g", choice.horizontal, choice.vertical);
-  }
+  const int count = static_cast<int>(sheets.size());
+  m_printScale = choice.toScale ? CString::Formatted(L"Scale 1:%g / 1:%g", choice.horizontal, choice.vertical)
+                                : CString();
   SetMargins(PrintMargins());
   bool good = !sheets.empty();
-  for (const coregui::CViewMapping& sheet : sheets) {
-    ++m_sheet.number;
+  for (int i = 0; i < count; ++i) {
     good = good && dc.StartPage();
     if (good) {
       dc.SetViewportOrg(edges.cx, edges.cy);
-      PrintMapped(dc, InsideEdges(page, dotsPerInch), sheet);
+      PrintMapped(dc, InsideEdges(page, dotsPerInch), sheets[static_cast<std::size_t>(i)], {i + 1, count});
       good = dc.EndPage();
     }
   }

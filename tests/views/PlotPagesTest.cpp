@@ -2,13 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
+#include <algorithm>
+#include <cmath>
 #include <fstream>
+#include <limits>
 #include <sstream>
 
 #include "platform/CPrinterDC.h"
 #include "tests/support/TestEnvironment.h"
 #include "tests/views/ViewFixture.h"
+#include "views/PassesThrough.h"
 
 namespace {
 
@@ -37,6 +40,10 @@ TEST(PlotPages, AreTrueToScaleAndShowTheOverlapTwice) {
   EXPECT_EQ(first.UserToWindow({97, 55}).x - second.UserToWindow({97, 55}).x, 2500 - 2 * 254 - 100);
   EXPECT_EQ(second.UserToWindow({97, 55}).y, first.UserToWindow({97, 55}).y);
   EXPECT_LE(pages.GetMapping(3).UserToWindow({300, 55}).x, 2500 - 254) << "the end is on the last page";
+  const FRect part = pages.GetPart(5);
+  EXPECT_DOUBLE_EQ(part.GetLeft(), 94.6) << "the second column begins 189.2 mm in";
+  EXPECT_DOUBLE_EQ(part.Width(), 99.6);
+  EXPECT_NEAR(part.GetTop(), 60 - 0.05 * (154.6 - 10), 1e-9) << "the second row likewise";
 }
 
 TEST(PlotPages, ScalesThatCannotBeGiveNone) {
@@ -48,31 +55,96 @@ TEST(PlotPages, ScalesThatCannotBeGiveNone) {
   EXPECT_EQ(CPlotPages(Section(), {0, 0, 0, 0}, CSize(2500, 1800), dpi).GetCount(), 0);
 }
 
-class PlotPrinting : public coregui::test::ViewTest {};
+class PlotPrinting : public coregui::test::ViewTest {
+ protected:
+  /// What the pages of a printed document hold.
+  static std::string Page(int number) {
+    const std::string name = number == 1 ? "/section.svg" : "/section-" + std::to_string(number) + ".svg";
+    std::stringstream text;
+    text << std::ifstream(coregui::test::ScratchFolder() + name).rdbuf();
+    return text.str();
+  }
+};
 
-TEST_F(PlotPrinting, EveryPageOfADocumentHasItsPartOfTheDrawing) {
-  const std::string path = coregui::test::ScratchFolder() + "/section.svg";
+TEST_F(PlotPrinting, EveryPageOfADocumentHasItsPartOfTheDrawingOrIsLeftOut) {
+  // A road of 100 m that climbs 10 m: two pages wide, three high at 1:20.
+  const CPlotSeries road({{0, 0}, {50, 2}, {100, 10}});
   view->SetMargins(CRect(36, 36, 36, 36));
   view->InitView(FRect(0, 10, 100, 0), 1.0);
-  view->AddLayer(0, [](CGUIBaseView& plot) {
+  view->AddLayer(0, [&road](CGUIBaseView& plot) {
     plot.ClipToDrawing(true);
+    plot.PlotPolyline(road);
     for (const double x : {5.0, 95.0})
-      plot.PlotText({x, 5}, coregui::FormatPlotNumber(x, 1, PlotNumberFormat::chainage));
+      plot.PlotText({x, x < 50 ? 0.2 : 9.6}, coregui::FormatPlotNumber(x, 1, PlotNumberFormat::chainage));
+    plot.ClipToDrawing(false);
+    plot.PlotText(plot.WindowToUser(50, 50), CString::Formatted(L"Sheet %d of %d", plot.GetPrintPage().number,
+                                                                plot.GetPrintPage().count));
   });
-  CPrinterDC dc(PrintOutput::svg, CString::FromUtf8(path), {297, 210, 300});
-  ASSERT_TRUE(dc.StartDoc(L"Section"));
-  EXPECT_EQ(coregui::PrintToScale(*view, dc, {200, 200, 1000, 10}), 2);
-  EXPECT_TRUE(dc.EndDoc());
-  const auto content = [](const std::string& name) {
-    std::stringstream text;
-    text << std::ifstream(name).rdbuf();
-    return text.str();
+  const PlotPageScale scale{200, 20, 1000, 10};
+  const auto print = [&](const PLOT_PART_FILTER& isDrawn) {
+    CPrinterDC dc(PrintOutput::svg, CString::FromUtf8(coregui::test::ScratchFolder() + "/section.svg"),
+                  {297, 210, 300});
+    EXPECT_TRUE(dc.StartDoc(L"Section"));
+    const int printed = coregui::PrintToScale(*view, dc, scale, isDrawn);
+    EXPECT_EQ(dc.EndDoc(), printed > 0);
+    return printed;
   };
-  const std::string first = content(path);
-  const std::string second = content(coregui::test::ScratchFolder() + "/section-2.svg");
-  EXPECT_NE(first.find("0+005"), std::string::npos);
-  EXPECT_EQ(first.find("0+095"), std::string::npos);
-  EXPECT_NE(second.find("0+095"), std::string::npos);
+  EXPECT_EQ(print({}), 6) << "the view alone knows what it draws";
+  EXPECT_EQ(print([](FRect const&) { return false; }), 0);
+  EXPECT_EQ(print([&road](FRect const& part) { return coregui::PassesThrough(road, part); }), 4);
+  EXPECT_NE(Page(1).find("0+095"), std::string::npos)
+      << "the upper left page is empty, so the right one is first";
+  EXPECT_NE(Page(1).find("Sheet 1 of 4"), std::string::npos);
+  EXPECT_NE(Page(3).find("0+005"), std::string::npos);
+  EXPECT_EQ(Page(3).find("0+095"), std::string::npos);
+  EXPECT_NE(Page(4).find("Sheet 4 of 4"), std::string::npos);
+}
+
+TEST(PassesThrough, AsTheLegsOneByOneSay) {
+  // Zigzags with gaps, in order and turning back, over several levels of the pyramid.
+  for (const bool monotone : {true, false}) {
+    std::vector<PNT_2D_record> points;
+    for (int i = 0; i < 700; ++i) {
+      const double x = monotone ? i : 350 + 340 * std::sin(i * 0.7);
+      points.push_back({x, (i * i * 13 + i * 7) % 101 * 1.0});
+    }
+    for (const std::size_t gap : {15U, 16U, 64U, 400U}) points[gap] = {0.0, std::nan("")};
+    points[500].x = -std::numeric_limits<double>::infinity();
+    const CPlotSeries series(points);
+    ASSERT_EQ(series.IsMonotone(), monotone);
+    int touched = 0;
+    for (int i = 0; i < 3000; ++i) {
+      const double left = (i * 37) % 720 - 10.0;
+      const double bottom = (i * 53) % 120 - 10.0;
+      const FRect part(left, bottom, left + i % 3 * 0.6, bottom + i % 4 * 0.5);
+      const auto crosses = [&part](PNT_2D_record const& a, PNT_2D_record const& b) {
+        if (!CPlotSeries::IsDrawable(a) || !CPlotSeries::IsDrawable(b)) return false;
+        if (std::max(a.x, b.x) < part.GetLeft() || std::min(a.x, b.x) > part.GetRight() ||
+            std::max(a.y, b.y) < part.GetBottom() || std::min(a.y, b.y) > part.GetTop()) {
+          return false;
+        }
+        // Not all corners on one side of the leg's line.
+        const auto side = [&](double x, double y) {
+          return (b.x - a.x) * (y - a.y) - (b.y - a.y) * (x - a.x);
+        };
+        const double corners[] = {side(part.GetLeft(), part.GetTop()), side(part.GetRight(), part.GetTop()),
+                                  side(part.GetLeft(), part.GetBottom()),
+                                  side(part.GetRight(), part.GetBottom())};
+        return *std::min_element(corners, corners + 4) <= 0 && *std::max_element(corners, corners + 4) >= 0;
+      };
+      bool expected = false;
+      for (std::size_t leg = 0; leg + 1 < points.size(); ++leg) {
+        expected = expected || crosses(points[leg], points[leg + 1]);
+      }
+      touched += expected ? 1 : 0;
+      ASSERT_EQ(coregui::PassesThrough(series, part), expected) << i << (monotone ? " in order" : "");
+    }
+    EXPECT_GT(touched, 300);
+    EXPECT_LT(touched, 2700);
+  }
+  EXPECT_FALSE(coregui::PassesThrough(CPlotSeries(), FRect(0, 0, 1, 1)));
+  EXPECT_FALSE(coregui::PassesThrough(CPlotSeries({{0.5, 0.5}}), FRect(0, 0, 1, 1)))
+      << "one point is no line";
 }
 
 }  // namespace
