@@ -4,16 +4,18 @@
 #include <chrono>
 #include <cmath>
 
+namespace {
+
+constexpr LONG kFarthestCursor = 1 << 20;  // pixels from the view: beyond every screen
+
+}  // namespace
+
 CGUIBaseView::CGUIBaseView(double vertRatio, CWnd* parent) : m_parent(parent) {
   m_mapping.now.vertRatio = vertRatio;
 }
 
 CGUIBaseView::~CGUIBaseView() {
   coregui::CZoomBox::Shared().Forget(*this);
-  SetSlaveView(nullptr);
-  if (m_master != nullptr) {
-    m_master->m_slave = nullptr;
-  }
 }
 
 void CGUIBaseView::ReadDotsPerInch() {
@@ -47,12 +49,18 @@ void CGUIBaseView::Redraw() {
 }
 
 void CGUIBaseView::Notify() {
-  if (m_slave != nullptr) {
-    m_slave->SyncToView(this);
-    m_slave->Invalidate(TRUE);
-    return;
+  if (!NotifySlave()) {
+    NotifyParent();
   }
-  NotifyParent();
+}
+
+bool CGUIBaseView::NotifySlave() {
+  CGUIBaseView* const slave = GetSlave();
+  if (slave != nullptr) {
+    slave->SyncToView(this);
+    slave->Invalidate(TRUE);
+  }
+  return slave != nullptr;
 }
 
 void CGUIBaseView::NotifyParent() {
@@ -164,7 +172,10 @@ void CGUIBaseView::SetCurrentPos(PNT_2D_record const& p, bool force) {
   m_basePoint = p;
   m_hasPosition = true;
   if ((!m_isSlave || force) && HasWindow()) {
-    POINT at = m_mapping.UserToWindow(m_currentPos);
+    // As far as the screen's edge; beyond it a pixel may be more than a screen's coordinate holds.
+    const CPoint pixel = m_mapping.UserToWindow(m_currentPos);
+    POINT at{std::clamp(pixel.x, -kFarthestCursor, kFarthestCursor),
+             std::clamp(pixel.y, -kFarthestCursor, kFarthestCursor)};
     ClientToScreen(&at);
     SetCursorPos(at.x, at.y);
   }
@@ -186,14 +197,11 @@ PNT_2D_record CGUIBaseView::AccurateCoordFromScreen(CPoint const& pt) const {
 }
 
 void CGUIBaseView::SetSlaveView(CGUIBaseView* slave) {
-  if (m_slave != nullptr) {
-    m_slave->m_master = nullptr;
-  }
   m_slave = slave;
+  m_slaveLife = slave == nullptr ? Life() : Life(slave->m_life);
   if (slave == nullptr) {
     return;
   }
-  slave->m_master = this;
   slave->m_isSlave = true;
   slave->m_mapping.extents.SetLeft(m_mapping.extents.GetLeft());
   slave->m_mapping.extents.SetRight(m_mapping.extents.GetRight());
@@ -254,6 +262,7 @@ void CGUIBaseView::PrintMapped(CDC& dc, CSize page, const coregui::CViewMapping&
   const coregui::CViewMapping::Scale saved = m_mapping.now;
   const coregui::VertMode savedMode = m_mapping.vertMode;
   m_isPrinting = true;
+  m_printPage = number;
   m_printRect = CRect(0, 0, page.cx, page.cy);
   m_mapping.now = mapping.now;
   m_mapping.vertMode = mapping.vertMode;
@@ -262,6 +271,5 @@ void CGUIBaseView::PrintMapped(CDC& dc, CSize page, const coregui::CViewMapping&
   EndPlot();
   m_mapping.now = saved;
   m_mapping.vertMode = savedMode;
-  m_printPage = number;
   m_isPrinting = false;
 }

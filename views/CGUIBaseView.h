@@ -205,7 +205,11 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
   CSize ClientSize() const { return GetClientRectangle().Size(); }
   void Notify();
   void NotifyParent();
+  /// Null: none, or it was destroyed.
+  CGUIBaseView* GetSlave() const { return m_slaveLife.expired() ? nullptr : m_slave; }
+  /// After a change of the mapping: the slave hears of it, otherwise the parent.
   bool Tell(EVENT_TYPE event);
+  bool NotifySlave();
   bool TellButton(EVENT_TYPE event, UINT flags, char button);
   void NoteForHistory(coregui::CViewHistory::Gesture gesture = coregui::CViewHistory::Gesture::single);
   void ZoomTo(PNT_2D_record const& centre, double newScale, bool moveCursor);
@@ -242,9 +246,9 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
   void TellBoxCancelled() override { Tell(EVENT_ESCAPE); }
 
   coregui::CViewMapping m_mapping;
-  coregui::WindowRef m_parent;       ///< weak: who hears of changes
-  CGUIBaseView* m_slave = nullptr;   ///< borrowed; it takes itself out when it is destroyed
-  CGUIBaseView* m_master = nullptr;  ///< borrowed: whose slave this is
+  coregui::WindowRef m_parent;      ///< weak: who hears of changes
+  CGUIBaseView* m_slave = nullptr;  ///< borrowed, while m_slaveLife lasts: see GetSlave
+  Life m_slaveLife;
   bool m_isSlave = false;
   VIEW_FUNC_HOOK m_hook = nullptr;
   const CPlotSeries* m_snapSeries = nullptr;  ///< borrowed from the caller
@@ -265,7 +269,7 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
   bool m_hasPosition = false;  ///< the pointer is inside, or the program set a position: the cross-hair shows
   bool m_tracking = false;     ///< the pointer is inside and a leave notification is asked for
   bool m_inMouseMove = false;
-  bool m_inKey = false;
+  bool m_inKey = false;  ///< what the hook hears of comes from a key
   bool m_isPrinting = false;
   CRect m_printRect;
   CString m_tooltip;

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "views/CGUIBaseView.h"
 #include "views/FindPoint.h"
 
@@ -88,7 +90,8 @@ void CGUIBaseView::OnLButtonUp(UINT flags, CPoint point) {
     ZoomBox(ZOOM_CLICK);
     return;
   }
-  m_currentPos = m_mapping.WindowToUser(point);
+  const OverlayPause pause(*this);
+  m_currentPos = Snapped(point);  // where tracking would put it
   TellButton(EVENT_BUTTON_UP, flags, KEYFLAG_LEFT);
 }
 
@@ -184,7 +187,14 @@ LRESULT CGUIBaseView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
   if (m_tips != nullptr) {
     m_tips->RelayEvent({GetSafeHwnd(), message, wParam, lParam});
   }
-  return CWnd::WindowProc(message, wParam, lParam);
+  // A message that the hook of a key waits for, in a modal box say, is no key.
+  const Life life = m_life;
+  const bool inKey = std::exchange(m_inKey, false);
+  const LRESULT result = CWnd::WindowProc(message, wParam, lParam);
+  if (!life.expired()) {
+    m_inKey = inKey;
+  }
+  return result;
 }
 
 void CGUIBaseView::OnMouseLeave() {

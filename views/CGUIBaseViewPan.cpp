@@ -12,6 +12,7 @@ void CGUIBaseView::OnMButtonDown(UINT flags, CPoint point) {
     NoteForHistory();
     m_pan.Start(point);
     SetCapture();
+    NotifySlave();
     NotifyParent();
   }
   if (!life.expired()) {
@@ -30,6 +31,7 @@ void CGUIBaseView::OnMButtonUp(UINT flags, CPoint /*point*/) {
       ReleaseCapture();
     }
     Invalidate(TRUE);
+    NotifySlave();
     NotifyParent();
   }
   if (!life.expired()) {
@@ -61,7 +63,7 @@ bool CGUIBaseView::PanStep(CPoint point) {
   }
   const Life life = m_life;
   ScrollFor(moved);
-  if (m_slave == nullptr) {
+  if (GetSlave() == nullptr) {
     NotifyParent();
   }
   return !life.expired() && Tell(EVENT_PAN);
@@ -78,14 +80,15 @@ void CGUIBaseView::ScrollFor(CSize moved) {
   if (scroll.whole) {
     Invalidate(TRUE);
   }
-  if (m_slave == nullptr) {
+  CGUIBaseView* const slave = GetSlave();
+  if (slave == nullptr) {
     return;
   }
-  const OverlayPause slavePause(*m_slave);
-  m_slave->m_mapping.now.offsetX = m_mapping.now.offsetX;
-  const CRect theirs = m_slave->GetClientRectangle();
+  const OverlayPause slavePause(*slave);
+  slave->m_mapping.now.offsetX = m_mapping.now.offsetX;
+  const CRect theirs = slave->GetClientRectangle();
   const CRect area = scroll.whole ? theirs : coregui::CPanGesture::DrawingArea(m_mapping, theirs);
-  m_slave->ScrollWindow(moved.cx, 0, &area, &area, TRUE);
+  slave->ScrollWindow(moved.cx, 0, &area, &area, TRUE);
 }
 
 // --- Touchpad

@@ -250,7 +250,7 @@ std::vector<PNT_2D_record> CPlotPrimitives::CurvePoints(PNT_2D_record const& cen
   const double pixels = std::max({1.0, std::fabs(edge.x - at.x), std::fabs(edge.y - at.y)});
   const double chords =
       std::ceil(std::fabs(sweep) / 360.0 * std::numbers::pi * std::sqrt(2.0 * pixels)) + 4.0;
-  const int count = static_cast<int>(std::min(chords, 20000.0));
+  const int count = static_cast<int>(std::min(20000.0, chords));  // NaN too, of an endless arc without sweep
   std::vector<PNT_2D_record> points;
   points.reserve(static_cast<std::size_t>(count) + 1);
   for (int i = 0; i <= count; ++i) {

@@ -31,7 +31,7 @@ long CPlotPrimitives::FontPixels(PlotTextStyle const& style) const {
     const CPlotMapping& mapping = GetPlotMapping();
     pixels = std::fabs(mapping.UserToDevice({0, style.height}).y - mapping.UserToDevice({0, 0}).y);
   }
-  return TruncateToDevice(pixels + 0.5);
+  return TruncateToDevice(std::min(pixels + 0.5, 2.0 * kTallestFont));
 }
 
 CFont& CPlotPrimitives::FontOf(PlotTextStyle const& style, double rotation) {
@@ -160,7 +160,8 @@ void CPlotPrimitives::DrawHead(PNT_2D_record const& from, PNT_2D_record const& t
 }
 
 void CPlotPrimitives::PlotArrow(PNT_2D_record const& from, PNT_2D_record const& to, double headPoints) {
-  if (!IsPlotting() || !CPlotSeries::IsDrawable(from) || !CPlotSeries::IsDrawable(to)) {
+  if (!IsPlotting() || !CPlotSeries::IsDrawable(from) || !CPlotSeries::IsDrawable(to) ||
+      !std::isfinite(headPoints)) {
     return;
   }
   PlotLine(from, to);
@@ -170,7 +171,8 @@ void CPlotPrimitives::PlotArrow(PNT_2D_record const& from, PNT_2D_record const& 
 
 void CPlotPrimitives::PlotDimension(PNT_2D_record const& a, PNT_2D_record const& b, double offsetPoints,
                                     const CString& text) {
-  if (!IsPlotting() || !CPlotSeries::IsDrawable(a) || !CPlotSeries::IsDrawable(b)) {
+  if (!IsPlotting() || !CPlotSeries::IsDrawable(a) || !CPlotSeries::IsDrawable(b) ||
+      !std::isfinite(offsetPoints)) {
     return;
   }
   const PNT_2D_record from = GetPlotMapping().UserToDevice(a);

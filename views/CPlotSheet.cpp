@@ -17,12 +17,18 @@ bool IsAcross(PlotSide side) {
 /// Texts stand this far from ticks and frames, in points.
 constexpr double kTextGap = 2.0;
 constexpr double kMinorGap = 4.0;
+constexpr double kMostPixels = 1 << 20;  // of a length: beyond every window and page
+
+/// A length in whole pixels, to be added to places of the area; NaN is none.
+LONG Length(double pixels) {
+  return TruncateToDevice(std::clamp(pixels, -kMostPixels, kMostPixels));
+}
 
 }  // namespace
 
 void CPlotSheet::DrawRulerLine(PlotSide side, double world, double lengthPoints) {
   const CRect area = GetDrawingArea();
-  const LONG length = TruncateToDevice(PixelsOfPoints(lengthPoints) + 0.5);
+  const LONG length = Length(PixelsOfPoints(lengthPoints) + 0.5);
   const CPoint at = GetPlotMapping().UserToWindow({world, world});
   switch (side) {
     case PlotSide::left:
@@ -62,8 +68,8 @@ void CPlotSheet::PlotRuler(PlotSide side, PlotRulerStyle const& style) {
       side == PlotSide::right || side == PlotSide::bottom;  // pixels grow away from the drawing
   text.align = across ? (outwards ? TA_CENTER | TA_TOP : TA_CENTER | TA_BOTTOM)
                       : (outwards ? TA_LEFT | TA_TOP : TA_RIGHT | TA_TOP);
-  const double away = PixelsOfPoints(style.tick + kTextGap);
-  const LONG place = TruncateToDevice(edge + (outwards ? away : -away));
+  const LONG away = Length(PixelsOfPoints(style.tick + kTextGap));
+  const LONG place = outwards ? edge + away : edge - away;
   LONG widest = 0;
   const LONG half = MeasureDeviceText(L"0", text).cy / 2;
   for (const double value : ticks.labels) {
@@ -76,7 +82,7 @@ void CPlotSheet::PlotRuler(PlotSide side, PlotRulerStyle const& style) {
   if (style.title.IsEmpty()) {
     return;
   }
-  const LONG beside = (across ? 2 * half : widest) + TruncateToDevice(PixelsOfPoints(kTextGap) + 0.5);
+  const LONG beside = (across ? 2 * half : widest) + Length(PixelsOfPoints(kTextGap) + 0.5);
   const LONG titlePlace = outwards ? place + beside : place - beside;
   if (!across) {
     text.rotation = 90.0;
@@ -111,11 +117,11 @@ void CPlotSheet::PlotTable(const std::vector<PlotTableRow>& rows, double skipPoi
     return;
   }
   const CRect area = GetDrawingArea();
-  double down = area.bottom + PixelsOfPoints(skipPoints);
+  double down = PixelsOfPoints(skipPoints);
   for (const PlotTableRow& row : rows) {
     const double next = down + PixelsOfPoints(row.height);
-    DrawTableRow(row,
-                 CRect(area.left, TruncateToDevice(down + 0.5), area.right, TruncateToDevice(next + 0.5)));
+    DrawTableRow(row, CRect(area.left, area.bottom + Length(down + 0.5), area.right,
+                            area.bottom + Length(next + 0.5)));
     down = next;
   }
 }
@@ -127,7 +133,7 @@ void CPlotSheet::DrawTableRow(const PlotTableRow& row, CRect const& place) {
   DrawDeviceLine({place.left, place.top}, {place.left, place.bottom});
   DrawDeviceLine({place.right, place.top}, {place.right, place.bottom});
   PlotTextStyle text = GetPlotText();
-  const LONG gap = TruncateToDevice(PixelsOfPoints(kTextGap) + 0.5);
+  const LONG gap = Length(PixelsOfPoints(kTextGap) + 0.5);
   const LONG height = MeasureDeviceText(L"0", text).cy;
   const LONG middle = (place.top + place.bottom) / 2;
   text.rotation = 0.0;
@@ -168,10 +174,10 @@ void CPlotSheet::PlotTitleBlock(const std::vector<CString>& lines, double widthP
   PlotTextStyle text = GetPlotText();
   text.align = TA_LEFT | TA_TOP;
   text.rotation = 0.0;
-  const LONG gap = TruncateToDevice(PixelsOfPoints(3.0) + 0.5);
+  const LONG gap = Length(PixelsOfPoints(3.0) + 0.5);
   const LONG step = MeasureDeviceText(L"0", text).cy + gap;
   const CRect area = GetPlotArea();
-  const LONG width = TruncateToDevice(PixelsOfPoints(widthPoints));
+  const LONG width = Length(PixelsOfPoints(widthPoints));
   const CRect box(area.right - width - 1, area.bottom - step * static_cast<LONG>(lines.size()) - gap - 1,
                   area.right - 1, area.bottom - 1);
   GetPlotDC()->FillSolidRect(box, RGB(255, 255, 255));

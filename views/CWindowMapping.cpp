@@ -65,7 +65,9 @@ void CWindowMapping::WindowScale(FRect const& r, double sx, double sy) {
   const double inchesDown = static_cast<double>(device.height) / device.dpiY;
   const double inchesAcross = static_cast<double>(device.width) / device.dpiX;
   const double shape = inchesDown / inchesAcross;
-  const double pane = device.detailPane == 0 ? 0.0 : WindowToUserHeight(device.detailPane);
+  const double height = device.detailPane == 0 ? 0.0 : WindowToUserHeight(device.detailPane);
+  // A window that had no size when it was shown last has no height to measure the pane by.
+  const double pane = std::isfinite(height) ? height : 0.0;
   const double centreX = (r.GetLeft() + r.GetRight()) / 2;
   const double centreY = (r.GetTop() + r.GetBottom() - pane) / 2;
   const bool taller = std::fabs(dy / dx) + kTolerance >= shape;

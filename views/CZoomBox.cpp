@@ -1,5 +1,7 @@
 #include "views/CZoomBox.h"
 
+#include <utility>
+
 namespace coregui {
 
 CZoomBox& CZoomBox::Shared() {
@@ -13,13 +15,13 @@ bool CZoomBox::GetBox(const CZoomBoxHost& host, CPoint* anchor, CPoint* corner) 
   return m_host == &host;
 }
 
-void CZoomBox::Move(CZoomBoxHost& host, CPoint at) {
-  if (!IsInProgress()) {
+void CZoomBox::Move(const CZoomBoxHost& host, CPoint at) {
+  if (m_host != &host) {
     return;
   }
-  host.DrawBoxOutline(m_anchor, m_corner);
+  m_host->DrawBoxOutline(m_anchor, m_corner);
   m_corner = at;
-  host.DrawBoxOutline(m_anchor, m_corner);
+  m_host->DrawBoxOutline(m_anchor, m_corner);
 }
 
 void CZoomBox::Click(CZoomBoxHost& host, CPoint at) {
@@ -43,19 +45,20 @@ void CZoomBox::Key(CZoomBoxHost& host, char key) {
 void CZoomBox::Cancel(CZoomBoxHost& host) {
   host.LeaveZoomBoxMode();
   if (IsInProgress()) {
-    host.DrawBoxOutline(m_anchor, m_corner);
-    m_host = nullptr;
-    host.ReleaseFromBox();
+    m_host->DrawBoxOutline(m_anchor, m_corner);
+    std::exchange(m_host, nullptr)->ReleaseFromBox();
   }
   host.TellBoxCancelled();
 }
 
 void CZoomBox::Finish(CZoomBoxHost& host) {
-  m_host = nullptr;
-  host.ReleaseFromBox();
+  if (m_host != &host) {
+    m_host->DrawBoxOutline(m_anchor, m_corner);  // what follows repaints only the other view
+  }
+  std::exchange(m_host, nullptr)->ReleaseFromBox();
   host.LeaveZoomBoxMode();
-  // Kept: the outline is not erased here. The repaint of the zoom removes it; a degenerate box has none to
-  // speak of.
+  // Kept: the outline is not erased in its own view. The repaint of the zoom removes it; a degenerate box has
+  // none to speak of.
   const CPoint anchor = m_anchor;
   const CPoint corner = m_corner;
   if (anchor.x != corner.x && anchor.y != corner.y && !host.ZoomToBox(anchor, corner)) {

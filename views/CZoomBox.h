@@ -22,8 +22,9 @@ class CZoomBoxHost {
 };
 
 /// The rubber-band zoom box: events in, commands to the host out. The views of a process share one, so only
-/// one box is in progress at a time. The host may be destroyed by what it is told, which is the last it hears
-/// of an event.
+/// one box is in progress at a time. Another view may finish or cancel it; its outline and the capture stay
+/// with the view where it was started. The host may be destroyed by what it is told, which is the last it
+/// hears of an event.
 class COREGUI_API CZoomBox {
  public:
   /// The box that all views share.
@@ -32,7 +33,8 @@ class COREGUI_API CZoomBox {
   bool IsInProgress() const { return m_host != nullptr; }
   /// The box that was started in a host, for who paints over it; false when there is none.
   bool GetBox(const CZoomBoxHost& host, CPoint* anchor, CPoint* corner) const;
-  void Move(CZoomBoxHost& host, CPoint at);
+  /// Only in the view where the box was started.
+  void Move(const CZoomBoxHost& host, CPoint at);
   void Click(CZoomBoxHost& host, CPoint at);
   /// A key: only Space finishes, and only a box in progress.
   void Key(CZoomBoxHost& host, char key);
@@ -43,7 +45,7 @@ class COREGUI_API CZoomBox {
  private:
   void Finish(CZoomBoxHost& host);
 
-  const CZoomBoxHost* m_host = nullptr;  ///< borrowed: where the box was started; null when there is none
+  CZoomBoxHost* m_host = nullptr;  ///< borrowed: where the box was started; null when there is none
   CPoint m_anchor;
   CPoint m_corner;
 };

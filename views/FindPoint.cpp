@@ -40,11 +40,13 @@ class NearestSearch {
     if (y.lowest > y.highest) {
       return false;
     }
-    CPlotSeries::Bounds x{m_series.GetPoints()[first].x, m_series.GetPoints()[last].x};
+    const PNT_2D_record& start = m_series.GetPoints()[first];
+    const PNT_2D_record& end = m_series.GetPoints()[last];
+    CPlotSeries::Bounds x{start.x, end.x};
     if (!m_series.IsMonotone()) {
       x = m_series.GetBoundsX(level, node);
-    } else if (!std::isfinite(x.lowest) || !std::isfinite(x.highest)) {
-      return true;  // a gap stands at an end: look inside
+    } else if (!CPlotSeries::IsDrawable(start) || !CPlotSeries::IsDrawable(end)) {
+      return true;  // a gap stands at an end, anywhere: look inside
     }
     const PNT_2D_record a = m_mapping.UserToDevice({x.lowest, y.lowest});
     const PNT_2D_record b = m_mapping.UserToDevice({x.highest, y.highest});

@@ -1,7 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "platform/CDC.h"
 #include "tests/support/ShownWindow.h"
@@ -242,60 +248,169 @@ TEST_F(PlotView, ASlaveFollowsHorizontallyAndIgnoresItsOwnGestures) {
   EXPECT_EQ(slave.UserToWindow({13.7, 0}).x, view->UserToWindow({13.7, 0}).x);
 }
 
-TEST_F(PlotView, AHookMayDestroyTheViewAtEveryEvent) {
-  struct Step {
-    const char* name;
-    UINT message;
-    WPARAM wParam;
-    LPARAM lParam;
+/// What a person does until the hook hears of an event; the last step may find the view gone.
+struct Way {
+  EVENT_TYPE event;
+  const char* name;
+  std::vector<std::function<void(TestView&)>> steps;
+};
+
+std::vector<Way> WaysToEveryEvent() {
+  const auto key = [](UINT code) { return [code](TestView& view) { view.SendMessage(WM_CHAR, code); }; };
+  const auto press = [](UINT button) { return [button](TestView& view) { view.Press(button, {20, 42}); }; };
+  const auto release = [](UINT button) {
+    return [button](TestView& view) { view.Release(button, {60, 58}); };
   };
-  const Step steps[] = {{"press", WM_LBUTTONDOWN, 0, MAKELPARAM(9, 9)},
-                        {"release", WM_LBUTTONUP, 0, MAKELPARAM(9, 9)},
-                        {"right", WM_RBUTTONDOWN, 0, 0},
-                        {"middle", WM_MBUTTONDOWN, MK_MBUTTON, 0},
-                        {"move", WM_MOUSEMOVE, 0, MAKELPARAM(60, 9)},
-                        {"key", WM_CHAR, 'x', 0},
-                        {"escape", WM_CHAR, 27, 0},
-                        {"zoom", WM_CHAR, 'm', 0},
-                        {"box", WM_CHAR, 'z', 0},
-                        {"wheel", WM_MOUSEWHEEL, MAKEWPARAM(0, 120), 0}};
-  for (const Step& step : steps) {
-    MakeView();
-    Hook::onEvent = [this](EVENT_TYPE) { view.reset(); };
-    view->SendMessage(step.message, step.wParam, step.lParam);
-    EXPECT_EQ(view, nullptr) << step.name;
-    Hook::onEvent = nullptr;
+  const auto move = [](UINT flags) { return [flags](TestView& view) { view.Move({60, 58}, flags); }; };
+  const auto start = [](TestView& view) { view.Move({20, 42}); };
+  const UINT left = MK_LBUTTON;
+  const UINT middle = MK_MBUTTON;
+  return {{EVENT_LBUTTON_DOWN, "press", {press(left)}},
+          {EVENT_BUTTON_UP, "release", {press(left), release(left)}},
+          {EVENT_BUTTON_UP, "right release", {press(MK_RBUTTON), release(MK_RBUTTON)}},
+          {EVENT_BUTTON_UP, "middle release", {press(middle), release(middle)}},
+          {EVENT_MOVE, "move", {move(0)}},
+          {EVENT_MOVE, "wheel", {[](TestView& view) { view.Wheel(1); }}},
+          {EVENT_MOVE, "zoom", {key('m')}},
+          {EVENT_OTHER_DOWN, "right press", {press(MK_RBUTTON)}},
+          {EVENT_OTHER_DOWN, "middle press", {press(middle)}},
+          {EVENT_ESCAPE, "escape", {key(VK_ESCAPE)}},
+          {EVENT_ESCAPE, "cancelled box", {key('z'), start, press(left), move(left), key(VK_ESCAPE)}},
+          {EVENT_ESCAPE,
+           "box without capture",
+           {key('z'), start, press(left), [](TestView& view) { view.GetParent()->SetCapture(); }}},
+          {EVENT_KEY, "key", {key('x')}},
+          {EVENT_ENTER, "enter", {move(0)}},
+          {EVENT_ZOOM_MODE, "box mode", {key('z')}},
+          {EVENT_ZOOM_START, "box", {key('z'), start, press(left)}},
+          {EVENT_ZOOM_END, "dragged box", {key('z'), start, press(left), move(left), release(left)}},
+          {EVENT_ZOOM_END, "flat box", {key('z'), start, press(left), key(VK_SPACE)}},
+          {EVENT_PAN, "pan", {press(middle), move(middle)}}};
+}
+
+TEST_F(PlotView, AtEveryEventAHookMayDestroyTheViewChangeItsMappingOrOpenAModalBox) {
+  const std::pair<const char*, std::function<void()>> acts[] = {
+      {"destroys", [this] { view.reset(); }},
+      {"destroys the window of", [this] { view->DestroyWindow(); }},
+      {"changes",
+       [this] {
+         view->SetVertMode(CGUIBaseView::VERT_FILL);
+         view->InitView(FRect(0, 1, 1, 0), 3.0);
+       }},
+      {"shows a box over", [this] {
+         const coregui::test::NextWindow next([this](coregui::test::ShownWindow& box) {
+           view->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(150, 20));
+           box.Key(VK_RETURN);
+         });
+         view->MessageBox(L"Delete this point?");
+       }}};
+  for (const auto& [act, run] : acts) {
+    for (const Way& way : WaysToEveryEvent()) {
+      SCOPED_TRACE(std::string(act) + " at " + way.name);
+      MakeView();
+      bool reached = false;
+      Hook::onEvent = [&, run = run](EVENT_TYPE event) {
+        if (event == way.event && !reached) {
+          reached = true;
+          run();
+        }
+      };
+      for (const auto& step : way.steps) {
+        if (view != nullptr) step(*view);
+      }
+      EXPECT_TRUE(reached);
+      Hook::onEvent = nullptr;
+      CWnd::ReleaseCapture();
+      if (view != nullptr && view->HasWindow()) {
+        if (view->IsZoomBoxMode()) view->SendMessage(WM_CHAR, VK_ESCAPE);
+        view->SendMessage(WM_CHAR, 'r');
+        Hook::Taken();
+        view->Move({101, 51});
+        view->Move({102, 51});
+        EXPECT_EQ(Hook::Taken().substr(0, 2), "2 ") << "it goes on";
+        EXPECT_EQ(view->UserToWindow(view->GetCurrentPos()), CPoint(102, 51));
+      }
+      EXPECT_FALSE(coregui::CZoomBox::Shared().IsInProgress());
+    }
   }
-  MakeView();
+}
+
+TEST_F(PlotView, AParentMayDestroyTheViewWhenItsMappingChanges) {
   parent.onChange = [this] { view.reset(); };
   view->SendMessage(WM_CHAR, 'z');
   view->Move({20, 42});
-  view->ZoomBox(CGUIBaseView::ZOOM_CLICK);
-  view->Move({60, 58});
-  view->ZoomBox(CGUIBaseView::ZOOM_CLICK);
+  view->Press(MK_LBUTTON, {20, 42});
+  view->Move({60, 58}, MK_LBUTTON);
+  view->Release(MK_LBUTTON, {60, 58});
   EXPECT_EQ(view, nullptr) << "the zoom of a box";
   EXPECT_FALSE(coregui::CZoomBox::Shared().IsInProgress());
 }
 
-TEST_F(PlotView, AHookMayChangeTheMappingAndOpenAModalBox) {
-  const coregui::test::NextWindow next([this](coregui::test::ShownWindow& box) {
+TEST_F(PlotView, WhileTheHookIsBusyMovesAreIgnoredAndNothingIsAKey) {
+  Hook::onEvent = [this](EVENT_TYPE) {
+    Hook::onEvent = nullptr;
     view->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(150, 20));
-    box.Key(VK_RETURN);
-  });
-  Hook::onEvent = [this](EVENT_TYPE event) {
-    if (event == EVENT_MOVE) {
-      Hook::onEvent = nullptr;
-      view->SetVertMode(CGUIBaseView::VERT_FILL);
-      view->InitView(FRect(0, 1, 1, 0), 3.0);
-      view->MessageBox(L"Delete this point?");
-    }
   };
   view->Move({60, 9});
-  EXPECT_EQ(view->GetVertRatio(), 1.0 / 200 / (1.0 / 100));
   EXPECT_EQ(Hook::Taken(), "2 12 ") << "the inner move is ignored";
+  Hook::onEvent = [this](EVENT_TYPE) {
+    Hook::onEvent = nullptr;
+    view->Press(MK_RBUTTON, {150, 20});
+  };
+  view->SendMessage(WM_CHAR, 'x');
+  EXPECT_EQ(Hook::Taken(), "6(x) 4 ") << "the button has no key code";
   view->DestroyWindow();
   view->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(1, 1));
   EXPECT_EQ(Hook::Taken(), "") << "nothing after the window is gone";
+}
+
+TEST_F(PlotView, AMasterForgetsItsSlaveWhoeverDiesFirst) {
+  auto slave = std::make_unique<TestView>(1.0, &parent);
+  {
+    TestView other(1.0, &parent);
+    other.SetSlaveView(slave.get());
+    view->SetSlaveView(slave.get());
+  }
+  view->SendMessage(WM_CHAR, 'm');
+  EXPECT_EQ(slave->GetScale(), 0.25) << "of two masters one is left";
+  slave.reset();
+  parent.changes = 0;
+  view->SendMessage(WM_CHAR, 'm');
+  EXPECT_EQ(parent.changes, 1) << "without a slave the parent hears";
+}
+
+TEST_F(PlotView, SizesThatAreNoNumbersBreakNothing) {
+  const std::vector<DWORD> empty = view->Picture();
+  double bad = 0.0;
+  view->AddLayer(0, [&bad](CGUIBaseView& plot) {
+    plot.PlotArrow({10, 2}, {90, 8}, bad);
+    plot.PlotDimension({10, 2}, {90, 8}, bad);
+    plot.PlotPoint({50, 5}, PlotMarker::plus, bad);
+    plot.PlotTitleBlock({L"Title"}, bad);
+    plot.PlotArc({50, 5}, 1e308, 0, 0);
+    plot.PlotCircle({50, 5}, bad);
+    PlotTextStyle text;
+    text.height = bad;
+    plot.SetPlotText(text);
+    plot.PlotText({50, 5}, L"text");
+  });
+  view->AddLayer(1, [&bad](CGUIBaseView& plot) {
+    if (std::isnan(bad)) return;
+    PlotRulerStyle ruler;
+    ruler.tick = ruler.labelGap = bad;
+    ruler.title = L"title";
+    for (const PlotSide side : {PlotSide::left, PlotSide::top, PlotSide::right, PlotSide::bottom}) {
+      plot.PlotRuler(side, ruler);
+    }
+    plot.PlotTable({{L"row", bad, true, {{50, L"50"}}}}, bad);
+  });
+  const double infinity = std::numeric_limits<double>::infinity();
+  for (const double size : {std::nan(""), infinity, -infinity, 1e300}) {
+    bad = size;
+    view->Invalidate();
+    const std::vector<DWORD> picture = view->Picture();
+    EXPECT_TRUE(!std::isnan(size) || picture == empty);
+  }
 }
 
 TEST_F(PlotView, PrintingFitsThePageAndPutsTheWindowBack) {

@@ -104,11 +104,12 @@ TEST(ZoomBox, ViewsShareOneBoxAndADestroyedOneLeavesNone) {
   EXPECT_FALSE(box.IsInProgress());
   box.Click(second, {1, 1});
   box.Move(second, {2, 2});
+  box.Move(first, {7, 7});
   second.Taken();
   second.dies = true;
   box.Click(first, {9, 9});
-  EXPECT_EQ(first.Taken(), "capture; 14; release; leave; zoom 1,1 2,2; 15")
-      << "the second click finishes the box";
+  EXPECT_EQ(first.Taken(), "capture; 14; leave; zoom 1,1 2,2; 15") << "the second click finishes the box";
+  EXPECT_EQ(second.Taken(), "draw 1,1 2,2; release") << "where it was drawn it is taken away";
   box.Click(second, {1, 1});
   box.Move(second, {2, 2});
   second.Taken();
