@@ -3,6 +3,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <vector>
 
 #include "platform/CToolTipCtrl.h"
 #include "platform/CWnd.h"
@@ -142,15 +143,13 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
   int GetDrawMode() const { return m_drawMode; }
   /// Shows a ruler; zooming out and panning stop at the fit from here on.
   void PlotRuler(PlotSide side, PlotRulerStyle const& style = {}) override;
+  void KeepInPlace(CRect const& part) override;
 
   // --- Printing
   /// Fits the extents into a page of so many dots and draws them on it.
   void Print(CDC* dc, CSize page);
   bool IsPrinting() const { return m_isPrinting; }
   CRect GetPrintRect() const { return m_printRect; }
-  /// Draws a page with a mapping of the caller's; the view's own is put back.
-  void PrintMapped(CDC& dc, CSize page, const coregui::CViewMapping& mapping,
-                   PrintPageNumber number = {1, 1});
   /// Which of how many pages is printed.
   struct PrintPageNumber {
     int number = 1;
@@ -158,6 +157,9 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
   };
   /// While a page is drawn.
   PrintPageNumber GetPrintPage() const { return m_printPage; }
+  /// Draws a page with a mapping of the caller's; the view's own is put back.
+  void PrintMapped(CDC& dc, CSize page, const coregui::CViewMapping& mapping,
+                   PrintPageNumber number = {1, 1});
 
  protected:
   const coregui::MessageTable& GetMessageTable() const override;
@@ -203,13 +205,13 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
 
   void ReadDotsPerInch();
   CSize ClientSize() const { return GetClientRectangle().Size(); }
-  void Notify();
-  void NotifyParent();
   /// Null: none, or it was destroyed.
   CGUIBaseView* GetSlave() const { return m_slaveLife.expired() ? nullptr : m_slave; }
   /// After a change of the mapping: the slave hears of it, otherwise the parent.
-  bool Tell(EVENT_TYPE event);
+  void Notify();
   bool NotifySlave();
+  void NotifyParent();
+  bool Tell(EVENT_TYPE event);
   bool TellButton(EVENT_TYPE event, UINT flags, char button);
   void NoteForHistory(coregui::CViewHistory::Gesture gesture = coregui::CViewHistory::Gesture::single);
   void ZoomTo(PNT_2D_record const& centre, double newScale, bool moveCursor);
@@ -217,6 +219,7 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
   void Track(UINT flags, CPoint point);
   bool PanStep(CPoint point);
   void ScrollFor(CSize moved);
+  void RedrawInPlace(CSize moved);
   PNT_2D_record Snapped(CPoint pointer) const;
   void ActivateTooltip();
   CString GetReadOut() const;
@@ -263,6 +266,8 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
   coregui::CPositionOverlay m_overlay;
   int m_overlayPauses = 0;
   coregui::CPanGesture m_pan;
+  bool m_isPainting = false;     ///< on the window
+  std::vector<CRect> m_inPlace;  ///< of the window, as it was painted last: what stands still in a pan
   bool m_initialised = false;
   bool m_zoomBoxMode = false;
   bool m_destroyed = false;
@@ -272,6 +277,7 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
   bool m_inKey = false;  ///< what the hook hears of comes from a key
   bool m_isPrinting = false;
   CRect m_printRect;
+  PrintPageNumber m_printPage;
   CString m_tooltip;
   std::unique_ptr<CToolTipCtrl> m_tips;  ///< made when the pointer first enters
   COLORREF m_background = 0xFFFFFF;
@@ -281,5 +287,4 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
   char m_lastKey = 0;
   HCURSOR m_cursor = nullptr;
   std::shared_ptr<int> m_life = std::make_shared<int>(0);
-  PrintPageNumber m_printPage;
 };

@@ -28,12 +28,21 @@ BOOL CGUIBaseView::OnEraseBkgnd(CDC* dc) {
 void CGUIBaseView::OnPaint() {
   const OverlayPause pause(*this);
   CPaintDC dc(this);
+  m_inPlace.clear();
+  m_isPainting = true;
   DrawTo(dc, GetClientRectangle());
+  m_isPainting = false;
   CPoint anchor;
   CPoint corner;
   if (coregui::CZoomBox::Shared().GetBox(*this, &anchor, &corner)) {
     // What was painted lies over the outline; it must be there to be removed later.
     DrawOutline(dc, R2_XORPEN, kBoxColour, anchor, corner);
+  }
+}
+
+void CGUIBaseView::KeepInPlace(CRect const& part) {
+  if (m_isPainting) {
+    m_inPlace.push_back(part);
   }
 }
 

@@ -79,6 +79,8 @@ void CGUIBaseView::ScrollFor(CSize moved) {
   }
   if (scroll.whole) {
     Invalidate(TRUE);
+  } else {
+    RedrawInPlace(moved);
   }
   CGUIBaseView* const slave = GetSlave();
   if (slave == nullptr) {
@@ -89,6 +91,16 @@ void CGUIBaseView::ScrollFor(CSize moved) {
   const CRect theirs = slave->GetClientRectangle();
   const CRect area = scroll.whole ? theirs : coregui::CPanGesture::DrawingArea(m_mapping, theirs);
   slave->ScrollWindow(moved.cx, 0, &area, &area, TRUE);
+  slave->RedrawInPlace({moved.cx, 0});
+}
+
+void CGUIBaseView::RedrawInPlace(CSize moved) {
+  for (const CRect& part : m_inPlace) {
+    InvalidateRect(&part, TRUE);
+    CRect carried = part;  // where its pixels are now
+    carried.OffsetRect(moved.cx, moved.cy);
+    InvalidateRect(&carried, TRUE);
+  }
 }
 
 // --- Touchpad

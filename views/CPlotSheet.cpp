@@ -46,6 +46,7 @@ void CPlotSheet::PlotRuler(PlotSide side, PlotRulerStyle const& style) {
   if (!IsPlotting()) {
     return;
   }
+  KeepMargins();
   const CRect area = GetDrawingArea();
   const bool across = IsAcross(side);
   const PNT_2D_record a = GetPlotMapping().WindowToUser(area.TopLeft());
@@ -92,10 +93,23 @@ void CPlotSheet::PlotRuler(PlotSide side, PlotRulerStyle const& style) {
   DrawDeviceText(across ? CPoint(middle.x, titlePlace) : CPoint(titlePlace, middle.y), style.title, text);
 }
 
+void CPlotSheet::KeepMargins() {
+  // With the lines that stand on the edges.
+  const double width = GetPlotPen().width;
+  const LONG room = Length(std::max(width, PixelsOfPoints(width)) / 2.0) + 2;
+  const CRect all = GetPlotArea();
+  const CRect area = GetDrawingArea();
+  KeepInPlace({all.left, all.top, area.left + room, all.bottom});
+  KeepInPlace({area.right - room, all.top, all.right, all.bottom});
+  KeepInPlace({all.left, all.top, all.right, area.top + room});
+  KeepInPlace({all.left, area.bottom - room, all.right, all.bottom});
+}
+
 void CPlotSheet::ClipToDrawing(bool on) {
   if (!IsPlotting()) {
     return;
   }
+  KeepMargins();  // what is moved across an edge is cut there
   const CRect area = GetDrawingArea();
   const CRect edges(area.left, area.top, area.right + 1, area.bottom + 1);
   GetPlotDC()->SelectClipRect(on ? &edges : nullptr);
@@ -105,6 +119,7 @@ void CPlotSheet::PlotFrame() {
   if (!IsPlotting()) {
     return;
   }
+  KeepMargins();
   const CRect r = GetDrawingArea();
   DrawDeviceLine({r.left, r.top}, {r.right, r.top});
   DrawDeviceLine({r.right, r.top}, {r.right, r.bottom});
@@ -116,6 +131,7 @@ void CPlotSheet::PlotTable(const std::vector<PlotTableRow>& rows, double skipPoi
   if (!IsPlotting()) {
     return;
   }
+  KeepMargins();
   const CRect area = GetDrawingArea();
   double down = PixelsOfPoints(skipPoints);
   for (const PlotTableRow& row : rows) {
@@ -180,6 +196,7 @@ void CPlotSheet::PlotTitleBlock(const std::vector<CString>& lines, double widthP
   const LONG width = Length(PixelsOfPoints(widthPoints));
   const CRect box(area.right - width - 1, area.bottom - step * static_cast<LONG>(lines.size()) - gap - 1,
                   area.right - 1, area.bottom - 1);
+  KeepInPlace({box.left, box.top, box.right + 1, box.bottom + 1});
   GetPlotDC()->FillSolidRect(box, RGB(255, 255, 255));
   DrawDeviceLine({box.left, box.top}, {box.right, box.top});
   DrawDeviceLine({box.right, box.top}, {box.right, box.bottom});

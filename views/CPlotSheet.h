@@ -46,8 +46,12 @@ class COREGUI_API CPlotSheet : public CPlotPrimitives {
   void PlotTitleBlock(const std::vector<CString>& lines, double widthPoints = 180.0);
   /// A thin frame around the drawing's area.
   void PlotFrame();
+  /// What is drawn in a part of the area (pixels) belongs to the window, not to the world: a pan, which moves
+  /// pixels, must leave it where it is. The operations above say so by themselves.
+  virtual void KeepInPlace(CRect const& /*part*/) {}
 
  private:
+  void KeepMargins();
   void DrawRulerLine(PlotSide side, double world, double lengthPoints);
   void DrawTableRow(const PlotTableRow& row, CRect const& place);
 };

@@ -39,11 +39,7 @@ void DeskWindow::Look(bool back) {
 void DeskWindow::OnSectionEvent(PNT_2D_record const& position, EVENT_TYPE event, char /*keyFlags*/,
                                 char /*key*/, CWnd* parent) {
   auto* self = dynamic_cast<DeskWindow*>(parent);
-  if (self != nullptr && event == EVENT_PAN) {
-    // A pan moves the pixels of rulers, table and frame along with those of the drawing.
-    self->m_section.Invalidate(TRUE);
-    self->m_difference.Invalidate(TRUE);
-  } else if (self != nullptr && (event == EVENT_MOVE || event == EVENT_LBUTTON_DOWN)) {
+  if (self != nullptr && (event == EVENT_MOVE || event == EVENT_LBUTTON_DOWN)) {
     self->FollowPointer(position.x, &position.y);
   }
 }

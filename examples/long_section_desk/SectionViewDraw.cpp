@@ -102,6 +102,8 @@ void SectionView::DrawLegend(const SectionColors& colors) {
   text.align = TA_LEFT | TA_TOP;
   SetPlotText(text);
   LONG top = area.top + pixels(5);
+  KeepInPlace(
+      {area.left, area.top, area.left + pixels(80), top + pixels(10) * static_cast<LONG>(entries.size())});
   for (const Entry& entry : entries) {
     const LONG left = area.left + pixels(6);
     const LONG middle = top + pixels(4);

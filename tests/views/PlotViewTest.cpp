@@ -379,6 +379,51 @@ TEST_F(PlotView, AMasterForgetsItsSlaveWhoeverDiesFirst) {
   EXPECT_EQ(parent.changes, 1) << "without a slave the parent hears";
 }
 
+TEST_F(PlotView, WhatStandsStillIsThereAfterEveryStepOfAPan) {
+  const auto draw = [](CGUIBaseView& plot) {
+    plot.ClipToDrawing(true);
+    plot.PlotPolyline({{-50, 2}, {30, 9}, {60, 1}, {150, 8}});
+    plot.ClipToDrawing(false);
+    plot.PlotFrame();
+    plot.PlotTable({{L"Row", 10, false, {{30, L"30"}, {60, L"60"}}}});
+    plot.PlotTitleBlock({L"Title"}, 40);
+    plot.PlotText(plot.WindowToUser(60, 40), L"Legend");
+    plot.KeepInPlace({60, 20, 110, 50});
+  };
+  const auto ruled = [draw](CGUIBaseView& plot) {
+    draw(plot);
+    plot.PlotRuler(PlotSide::left);
+    plot.PlotRuler(PlotSide::top);
+  };
+  TestView slave(2.0, &parent);
+  slave.CreateIn(parent, CRect(0, 100, 200, 200));
+  slave.InitView(FRect(0, 10, 100, 0), 2.0);
+  for (const bool ruler : {false, true}) {
+    for (TestView* plot : {view.get(), &slave}) {
+      plot->ClearLayers();
+      plot->AddLayer(0, ruler ? std::function<void(CGUIBaseView&)>(ruled) : draw);
+      plot->SetMargins(CRect(18, 12, 8, 20));
+    }
+    view->SetSlaveView(&slave);
+    view->Redraw();
+    view->Picture();
+    slave.Picture();
+    view->Press(MK_MBUTTON, {50, 50});
+    CPoint at(50, 50);
+    for (const CSize by : {CSize(7, -4), CSize(-12, 9), CSize(3, 0), CSize(0, 5)}) {
+      at = at + by;
+      view->Move(at, MK_MBUTTON);
+      if (by.cx == 7) continue;  // two steps between paintings
+      for (TestView* plot : {view.get(), &slave}) {
+        const std::vector<DWORD> panned = plot->Picture();
+        plot->Invalidate();
+        EXPECT_EQ(panned, plot->Picture()) << ruler << by.cx << (plot == &slave ? " slave" : "");
+      }
+    }
+    view->Release(MK_MBUTTON, at);
+  }
+}
+
 TEST_F(PlotView, SizesThatAreNoNumbersBreakNothing) {
   const std::vector<DWORD> empty = view->Picture();
   double bad = 0.0;
