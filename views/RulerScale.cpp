@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/Locale.h"
+
 namespace coregui {
 
 namespace {
@@ -87,12 +89,16 @@ CString FormatPlotNumber(double value, double step, PlotNumberFormat format, int
   // Rounded as a whole before it is taken apart, so that 999.9996 is 1+000.000 and -0.0001 has no sign.
   const double magnitude = std::round(std::fabs(value) * unit) / unit;
   const wchar_t* sign = value < 0.0 && magnitude > 0.0 ? L"-" : L"";
+  CString text;
   if (format == PlotNumberFormat::decimal || magnitude > 1e15) {
-    return CString::Formatted(L"%s%.*f", sign, places, magnitude);
+    text.Format(L"%s%.*f", sign, places, magnitude);
+  } else {
+    const double kilometres = std::floor(magnitude / 1000.0);
+    const double metres = magnitude - kilometres * 1000.0;
+    text.Format(L"%s%.0f+%0*.*f", sign, kilometres, places > 0 ? places + 4 : 3, places, metres);
   }
-  const double kilometres = std::floor(magnitude / 1000.0);
-  const double metres = magnitude - kilometres * 1000.0;
-  return CString::Formatted(L"%s%.0f+%0*.*f", sign, kilometres, places > 0 ? places + 4 : 3, places, metres);
+  text.Replace(L".", GetUserLocale().decimal);
+  return text;
 }
 
 }  // namespace coregui

@@ -30,7 +30,8 @@ COREGUI_API RulerTicks ChooseTicks(double from, double to, double pixels, double
 /// `pixels` of the stretch allow, or for a step that is not positive.
 COREGUI_API std::vector<double> MultiplesOf(double step, double from, double to, double pixels);
 
-/// Writes a value. `decimals` below 0: what `step` needs.
+/// Writes a value, with the user's decimal separator, as tables beside a plot do. `decimals` below 0: what
+/// `step` needs.
 COREGUI_API CString FormatPlotNumber(double value, double step, PlotNumberFormat format, int decimals = -1);
 
 }  // namespace coregui

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "platform/CBitmap.h"
+#include "platform/Locale.h"
 #include "views/CPlotSheet.h"
 #include "views/CViewMapping.h"
 #include "views/HatchPolygon.h"
@@ -254,7 +255,12 @@ TEST(PlotRuler, NumbersShowWhatTheStepNeeds) {
                       {123456, 100, chainage, -1, L"123+456"},
                       {kNaN, 1, plain, -1, L""}};
   for (const Row& row : rows) {
+    coregui::SetUserLocale(L"en_US");
     EXPECT_EQ(FormatPlotNumber(row.value, row.step, row.format, row.decimals), row.text);
+    coregui::SetUserLocale(L"de_DE");
+    CString german = row.text;
+    german.Replace(L".", L",");
+    EXPECT_EQ(FormatPlotNumber(row.value, row.step, row.format, row.decimals), german);
   }
 }
 
