@@ -105,6 +105,24 @@ wchar_t FindSeparator(const std::vector<std::wstring>& sample) {
   return best;
 }
 
+/// The records of a sample: lines that quotes hold together are one.
+std::vector<std::wstring> JoinLines(const std::vector<std::wstring>& lines, wchar_t separator) {
+  std::vector<std::wstring> records;
+  CsvLine split;
+  for (std::size_t at = 0; at < lines.size(); ++at) {
+    std::wstring record = lines[at];
+    std::size_t last = at;
+    bool complete = split.Split(record, separator);
+    while (!complete && last + 1 < lines.size() && last - at < kMostLinesOfAField) {
+      record += L'\n' + lines[++last];
+      complete = split.Split(record, separator);
+    }
+    records.push_back(complete ? record : lines[at]);
+    at = complete ? last : at;
+  }
+  return records;
+}
+
 /// For each column, over the lines from `first` on: are there numbers, and nothing but numbers?
 std::vector<bool> NumericColumns(const std::vector<std::wstring>& sample, std::size_t first,
                                  const CsvDialect& dialect) {
@@ -152,12 +170,13 @@ std::vector<int> Decimals(const std::vector<std::wstring>& sample, std::size_t f
 
 }  // namespace
 
-CsvDialect DetectDialect(const std::vector<std::wstring>& sample) {
+CsvDialect DetectDialect(const std::vector<std::wstring>& lines) {
   CsvDialect dialect;
-  if (sample.empty()) {
+  if (lines.empty()) {
     return dialect;
   }
-  dialect.separator = FindSeparator(sample);
+  dialect.separator = FindSeparator(lines);
+  const std::vector<std::wstring> sample = JoinLines(lines, dialect.separator);
   const auto countNumeric = [&](wchar_t decimal) {
     CsvDialect tried = dialect;
     tried.decimal = decimal;
@@ -171,16 +190,19 @@ CsvDialect DetectDialect(const std::vector<std::wstring>& sample) {
   CsvLine line;
   line.Split(sample.front(), dialect.separator);
   dialect.numeric.resize(std::max(dialect.numeric.size(), line.Fields().size()), false);
-  dialect.hasHeadings = sample.size() > 1;
+  const bool alone = sample.size() == 1;
+  dialect.hasHeadings = !alone || line.Fields().size() > 1;
   for (const std::wstring_view field : line.Fields()) {
     double value = 0.0;
-    dialect.hasHeadings = dialect.hasHeadings && !ParseNumber(field, dialect.decimal, value);
+    dialect.hasHeadings =
+        dialect.hasHeadings && !(alone && field.empty()) && !ParseNumber(field, dialect.decimal, value);
   }
   dialect.decimals = Decimals(sample, dialect.hasHeadings ? 1 : 0, dialect);
   for (std::size_t column = 0; column < dialect.numeric.size(); ++column) {
     const bool named = dialect.hasHeadings && column < line.Fields().size() && !line.Fields()[column].empty();
     dialect.headings.push_back(named ? std::wstring(line.Fields()[column])
                                      : L"Column " + std::to_wstring(column + 1));
+    std::replace(dialect.headings.back().begin(), dialect.headings.back().end(), L'\n', L' ');
   }
   return dialect;
 }

@@ -6,6 +6,10 @@
 
 namespace desk {
 
+/// A field with quotes may go on in the next lines, in so many at most: a quote that never closes is no
+/// reason to swallow a file.
+inline constexpr std::size_t kMostLinesOfAField = 64;
+
 /// Splits one record of separated text into its fields. A field may stand in double quotes, in which a
 /// separator is text and two quotes are one; quotes elsewhere in a field are text. The fields point into the
 /// record or into this object and are valid until the next call.
@@ -39,7 +43,7 @@ struct CsvDialect {
 
 /// Finds the dialect of a sample of lines: the separator (comma, semicolon, tab) that cuts most lines into
 /// the same number of fields, the decimal separator that reads more numbers, and whether the first line is
-/// headings: it holds no number where the lines below do.
-CsvDialect DetectDialect(const std::vector<std::wstring>& sample);
+/// headings: it holds no number. A single line is headings when it holds several texts.
+CsvDialect DetectDialect(const std::vector<std::wstring>& lines);
 
 }  // namespace desk

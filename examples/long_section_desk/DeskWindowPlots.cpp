@@ -109,7 +109,8 @@ void DeskWindow::ShowStation(long point, const double* pointerLevel) {
                                                                   PlotNumberFormat::chainage, 3);
   const auto append = [&text](const wchar_t* name, double value) {
     if (std::isfinite(value)) {
-      text += CString::Formatted(L"   %s %.3f", name, value);
+      text += CString::Formatted(L"   %s ", name) +
+              coregui::FormatPlotNumber(value, 0.001, PlotNumberFormat::decimal, 3);
     }
   };
   append(L"ground", m_data.ground.GetPoints()[index].y);

@@ -15,15 +15,10 @@ namespace {
 
 constexpr std::size_t kSampleLines = 200;
 constexpr std::size_t kMaxLine = 1U << 20U;
-constexpr int kMaxLinesOfAField = 64;
 constexpr std::uint64_t kRowsBetweenProgress = 20000;
 
 std::wstring WithThousands(std::uint64_t number) {
-  std::wstring text = std::to_wstring(number);
-  for (std::size_t at = text.size(); at > 3; at -= 3) {
-    text.insert(at - 3, 1, L',');
-  }
-  return text;
+  return coregui::FormatNumberText(CString(std::to_wstring(number)), 0).Str();
 }
 
 /// A sample of a text table has hardly any control characters.
@@ -76,7 +71,7 @@ class RecordReader {
     std::deque<std::wstring> taken;
     const std::uint64_t firstLine = m_line;
     std::wstring more;
-    while (taken.size() < kMaxLinesOfAField && NextLine(more)) {
+    while (taken.size() < kMostLinesOfAField && NextLine(more)) {
       taken.push_back(more);
       whole += L'\n' + more;
       if (split.Split(whole, separator)) {
@@ -176,9 +171,9 @@ SurveyReport ReadSurvey(const std::wstring& path, SurveySink& sink) {
   }
   report.dialect = DetectDialect({records.Sample().begin(), records.Sample().end()});
   sink.Begin(report.dialect);
-  std::wstring headings;
   if (report.dialect.hasHeadings) {
-    records.NextLine(headings);
+    CsvLine split;
+    records.NextRecord(split, report.dialect.separator, report.openQuotes);
   }
   std::error_code unknown;
   const auto size = std::filesystem::file_size(ToPath(path), unknown);
@@ -187,6 +182,7 @@ SurveyReport ReadSurvey(const std::wstring& path, SurveySink& sink) {
   report.cutShort = report.cutShort || reader.Tally().readError;
   report.foreignBytes = reader.Tally().foreignBytes;
   report.nulCharacters = reader.Tally().nulCharacters;
+  report.cutLines = reader.Tally().cutLines;
   return report;
 }
 
@@ -196,7 +192,7 @@ std::wstring SurveyReport::RowsText() const {
 
 bool SurveyReport::HasOddities() const {
   return notNumbers.count + moreFields.count + fewerFields.count + openQuotes.count + foreignBytes +
-                 nulCharacters >
+                 nulCharacters + cutLines >
              0 ||
          cutShort;
 }
@@ -205,7 +201,8 @@ std::wstring SurveyReport::Summary() const {
   if (!error.empty()) {
     return error;
   }
-  std::wstring text = RowsText() + L" in " + std::to_wstring(dialect.headings.size()) + L" columns";
+  std::wstring text = RowsText() + L" in " + WithThousands(dialect.headings.size()) +
+                      (dialect.headings.size() == 1 ? L" column" : L" columns");
   Append(text, notNumbers, L" value is no number", L" values are no numbers");
   Append(text, fewerFields, L" line is too short", L" lines are too short");
   Append(text, moreFields, L" line is too long, its rest left out",
@@ -216,6 +213,10 @@ std::wstring SurveyReport::Summary() const {
   }
   if (nulCharacters > 0) {
     text += L"; " + WithThousands(nulCharacters) + L" NUL characters left out";
+  }
+  if (cutLines > 0) {
+    text += L"; " + WithThousands(cutLines) + (cutLines == 1 ? L" line is" : L" lines are") +
+            L" cut off after a million characters";
   }
   if (cutShort) {
     text += L"; reading stopped before the end";

@@ -32,7 +32,8 @@ struct SurveyReport {
   Oddity openQuotes;   ///< quotes that never close; read as they stand
   std::uint64_t foreignBytes = 0;
   std::uint64_t nulCharacters = 0;
-  bool cutShort = false;  ///< reading stopped: a disk error, or the caller's wish
+  std::uint64_t cutLines = 0;  ///< lines too long to be taken whole
+  bool cutShort = false;       ///< reading stopped: a disk error, or the caller's wish
 
   /// "6,201 rows".
   std::wstring RowsText() const;

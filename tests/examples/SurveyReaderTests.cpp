@@ -72,6 +72,10 @@ TEST_F(SurveyReading, JoinsLinesThatQuotesHoldTogether) {
   Read("a,b\n1,\"two\nlines\"\n2,x\n");
   ASSERT_EQ(sink.rows.size(), 2U);
   EXPECT_EQ(sink.rows[0][1], L"two\nlines");
+  const auto report = Read("Chainage,\"Level\n[m]\"\n1,100\n2,101\n");
+  EXPECT_EQ(report.Summary(), L"2 rows in 2 columns");
+  EXPECT_EQ(report.dialect.headings, std::vector<std::wstring>({L"Chainage", L"Level [m]"}));
+  EXPECT_EQ(report.dialect.numeric, std::vector<bool>({true, true}));
 }
 
 TEST_F(SurveyReading, RefusesWhatIsNoTable) {
@@ -90,6 +94,11 @@ TEST_F(SurveyReading, RefusesWhatIsNoTable) {
 
 TEST_F(SurveyReading, OneLineWithoutEndIsATable) {
   EXPECT_EQ(Read("5.5;7,25").Summary(), L"1 row in 2 columns");
+  EXPECT_EQ(Read("x").Summary(), L"1 row in 1 column");
+  EXPECT_EQ(Read("Chainage,Level\n").Summary(), L"0 rows in 2 columns");
+  EXPECT_EQ(sink.rows.size(), 0U);
+  EXPECT_EQ(Read("a,b\n1," + std::string(1U << 21U, 'x') + "\n").Summary(),
+            L"1 row in 2 columns; 1 line is cut off after a million characters");
   EXPECT_EQ(Read("\xEF\xBB\xBFH\xF6he,x\n1,2\n").foreignBytes, 1U);
   EXPECT_EQ(sink.rows.size(), 1U);
 }
