@@ -32,6 +32,8 @@ void SurveyGrid::OnSetup() {
   SetHighlightRow(0);
   SetCurrentCellMode(3);  // focus rectangle, and highlighted without the focus too
   UseHints(1);
+  SetBallisticMode(2);  // a drag that leaves the table scrolls faster the further it goes
+  SetBallisticDelay(0);
   EnableMenu(1);
 }
 
@@ -139,12 +141,18 @@ void SurveyGrid::OnGetCell(int col, long row, CGridCell* cell) {
 }
 
 int SurveyGrid::WidthOf(int col, long row) {
+  CString text;
+  if (row >= 0) {
+    QuickGetText(col, row, &text);
+  }
+  return text.IsEmpty() ? 0 : WidthOf(text);
+}
+
+int SurveyGrid::WidthOf(const CString& text) {
   CWnd* body = GetGridWnd();
-  if (row < 0 || body == nullptr) {
+  if (body == nullptr) {
     return 0;
   }
-  CString text;
-  QuickGetText(col, row, &text);
   CClientDC dc(body);
   dc.SelectObject(GetDefFont());
   return dc.GetTextExtent(text, text.GetLength()).cx + 2 * GetMargin() + 1;
@@ -160,6 +168,17 @@ void SurveyGrid::OnKillFocus(int /*section*/, CWnd* /*newFocus*/) {
   if (m_focusHook) {
     m_focusHook();
   }
+}
+
+/// The whole of a text that its column or the window's edge cuts off.
+int SurveyGrid::OnHint(int col, long row, int /*section*/, CString* text) {
+  CRect cell;
+  QuickGetText(col, row, text);
+  if (text->IsEmpty() || GetGridWnd() == nullptr || GetCellRect(col, row, &cell) != 0) {
+    return 0;
+  }
+  const LONG edge = col < 0 ? cell.right : GetGridWnd()->GetClientRectangle().right;
+  return WidthOf(*text) > std::min(cell.right, edge) - cell.left ? 1 : 0;
 }
 
 int SurveyGrid::OnMenuStart(int col, long /*row*/, int /*section*/) {

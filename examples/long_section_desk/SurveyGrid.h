@@ -47,6 +47,7 @@ class SurveyGrid : public CGridCtrl {
   void OnKillFocus(int section, CWnd* newFocus) override;
   int OnMenuStart(int col, long row, int section) override;
   void OnMenuCommand(int col, long row, int section, int item) override;
+  int OnHint(int col, long row, int section, CString* text) override;
 
  private:
   /// The row whose field is the longest of its column, as far as characters tell.
@@ -56,6 +57,7 @@ class SurveyGrid : public CGridCtrl {
   };
 
   int WidthOf(int col, long row);
+  int WidthOf(const CString& text);
   std::unique_ptr<CGridMem> TakeSource();
   void UseSource(std::unique_ptr<CGridMem> cells);
   void HoldPainting(bool hold);

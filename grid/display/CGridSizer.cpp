@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kSizingOff = 0;  // of the user-sizing mode
 constexpr int kSizingOutline = 1;
+constexpr long kMostFitted = 100'000;  // rows that are measured without a wait that a person notices
 
 }  // namespace
 
@@ -229,7 +230,8 @@ bool CGridSizer::FitToContents() {
   if (!m_top || m_what != What::line) return false;
   const WindowRef alive(&m_window);
   m_sizing = false;
-  m_control.BestFit(static_cast<int>(m_index), static_cast<int>(m_index));
+  const auto col = static_cast<int>(m_index);
+  m_control.BestFit(col, col, m_control.GetNumberRows() <= kMostFitted ? -1 : kMostFitted);
   if (alive) EndLine();
   if (alive) m_control.RedrawAll();
   return true;

@@ -36,7 +36,8 @@ class COREGUI_API CGridSizer {
   void Begin() { m_sizing = IsHot(); }
   void Drag(CPoint point);
   void End();
-  /// Double click on a hot edge: a column is fitted to its contents. False where that does nothing.
+  /// Double click on a hot edge: a column is fitted to its contents, of a very long one to the rows from
+  /// those in view on. False where that does nothing.
   bool FitToContents();
 
  private:

@@ -59,6 +59,24 @@ TEST_F(Desk, ShowsATableWithItsOwnDecimalsAndHeadings) {
   EXPECT_TRUE(window.Section().HasData());
 }
 
+TEST_F(Desk, TipsShowTheTextsThatAreCutOff) {
+  ASSERT_TRUE(window.Open(Write("a.csv", "Chainage,Remark\n0,a nail in the kerb opposite the church\n5,\n")));
+  const auto tip = [this](int col, long row) {
+    CString text;
+    const int shown =
+        static_cast<coregui::CGridNotify&>(window.Grid()).OnHint(col, row, coregui::GRIDSECTION_GRID, &text);
+    return shown == 1 ? text : CString();
+  };
+  EXPECT_EQ(tip(1, 0), L"");
+  window.Grid().SetColWidth(1, 30);
+  EXPECT_EQ(tip(1, 0), L"a nail in the kerb opposite the church");
+  EXPECT_EQ(tip(1, -1), L"Remark");
+  EXPECT_EQ(tip(1, 1), L"");
+  window.Grid().SetColWidth(1, 600);
+  window.Grid().SetColWidth(0, window.Grid().GetGridWnd()->GetClientRectangle().Width() - 60);
+  EXPECT_EQ(tip(1, 0), L"a nail in the kerb opposite the church") << "by the window's edge";
+}
+
 TEST_F(Desk, KeepsItsTableWhenAnotherFileCannotBeRead) {
   ASSERT_TRUE(window.Open(Write("a.csv", "Chainage,Level\n0,101.50\n")));
   const NextWindow box([](ShownWindow& told) {

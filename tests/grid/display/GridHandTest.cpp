@@ -124,6 +124,8 @@ TEST_F(GridHandTest, ADialogThatOpensInADragEndsIt) {
     StepMouse(row.part, MouseStep::release, row.to);
     EXPECT_EQ(grid.TakeNotes(), row.notes);
   }
+  EXPECT_EQ(CSize(grid.GetColWidth(0), grid.GetRowHeight(0)), CSize(50, 20));
+  EXPECT_EQ(CSize(grid.GetSH_Width(), grid.GetTH_Height()), CSize(40, 40));
   grid.EnableColSwapping(1);
   StepMouse(Top(), MouseStep::press, {75, 30});
   StepMouse(Top(), MouseStep::move, {400, 30});
@@ -135,7 +137,7 @@ TEST_F(GridHandTest, ADialogThatOpensInADragEndsIt) {
 }
 
 TEST_F(GridHandTest, ADoubleClickOnAnEdgeFitsTheColumn) {
-  grid.QuickSetText(1, 5, L"A text that needs far more than fifty pixels");
+  grid.QuickSetText(1, 90, L"A text out of view that needs far more than fifty pixels");
   StepMouse(Top(), MouseStep::doubleClick, {99, 30});
   EXPECT_GT(grid.GetColWidth(1), 150);
   EXPECT_EQ(grid.TakeNotes(), "col 1 sized " + std::to_string(grid.GetColWidth(1)) + "; ");
