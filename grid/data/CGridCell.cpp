@@ -61,7 +61,7 @@ CGridCell::~CGridCell() = default;
 
 int CGridCell::SetDefaultInfo() {
   m_look.flags = static_cast<DWORD>(DEFAULT_FLAGS);
-  m_text.clear();
+  m_text.Clear();
   m_label.Empty();
   m_mask.Empty();
   m_look.format = nullptr;
@@ -93,9 +93,9 @@ int CGridCell::ClearAll() {
 }
 
 int CGridCell::SetText(const wchar_t* text) {
-  m_text.assign(text == nullptr ? L"" : text);  // which may be a part of this very text
+  m_text.Assign(text == nullptr ? L"" : text);  // which may be a part of this very text
   m_look.dataType = CELLDATA_TEXT;
-  if (m_text.empty()) {
+  if (m_text.IsEmpty()) {
     Unmark(CELLPROP_TEXT);
   } else {
     Mark(VALUE);
@@ -105,7 +105,7 @@ int CGridCell::SetText(const wchar_t* text) {
 
 int CGridCell::AppendText(const wchar_t* text) {
   if (!Has(CELLPROP_TEXT)) return 1;
-  if (text != nullptr) m_text += text;
+  if (text != nullptr) m_text.Append(text);
   Mark(VALUE);
   m_look.dataType = CELLDATA_TEXT;
   return 0;
@@ -117,22 +117,22 @@ const wchar_t* CGridCell::GetText() const {
     const coregui::NumberForm form{Has(CELLPROP_DECIMALS), m_look.decimals, !Has(CELLPROP_NOLOCALEFORMAT)};
     coregui::WriteNumber(m_number, form, m_text);
   }
-  return m_text.c_str();
+  return m_text.Characters();
 }
 
 int CGridCell::GetText(CString* text) const {
   const wchar_t* const own = GetText();
   if (own == nullptr) return 1;
-  *text = CString(m_text);
+  *text = CString(m_text.View());
   return 0;
 }
 
 int CGridCell::GetTextLength() const {
-  return Has(CELLPROP_TEXT) ? static_cast<int>(m_text.size()) : 0;
+  return Has(CELLPROP_TEXT) ? static_cast<int>(m_text.Size()) : 0;
 }
 
 int CGridCell::SetNumber(double number) {
-  m_text.clear();
+  m_text.Clear();
   Mark(VALUE);
   m_look.dataType = CELLDATA_NUMBER;
   m_number = number;
@@ -141,7 +141,7 @@ int CGridCell::SetNumber(double number) {
 
 double CGridCell::GetNumber() const {
   if (!Has(CELLPROP_TEXT)) return 0.0;
-  return IsNumeric(GetDataType()) ? m_number : coregui::ReadNumber(m_text);
+  return IsNumeric(GetDataType()) ? m_number : coregui::ReadNumber(m_text.View());
 }
 
 int CGridCell::GetNumber(double* number) const {
@@ -179,7 +179,7 @@ int CGridCell::GetNumberDecimals() const {
 }
 
 int CGridCell::SetBool(int value) {
-  m_text = value != 0 ? L"1" : L"0";
+  m_text.Assign(value != 0 ? L"1" : L"0");
   Mark(VALUE);
   m_look.dataType = CELLDATA_BOOL;
   return 0;
@@ -188,8 +188,9 @@ int CGridCell::SetBool(int value) {
 int CGridCell::GetBool() const {
   if (Has(CELLPROP_TEXT) && GetNumber() > 0) return 1;
   // Kept: without the property the stored text still counts; only T and t begin a truth, so "Yes" is false.
-  if (m_text.empty()) return 0;
-  return m_text[0] == L'T' || m_text[0] == L't' ? 1 : 0;
+  if (m_text.IsEmpty()) return 0;
+  const wchar_t first = m_text.View().front();
+  return first == L'T' || first == L't' ? 1 : 0;
 }
 
 int CGridCell::SetTime(short second, short minute, short hour, short day, short month, short year) {
@@ -202,7 +203,7 @@ int CGridCell::SetTime(short second, short minute, short hour, short day, short 
   time.wYear = year;
   DATE date = 0.0;
   const bool real = SystemTimeToVariantTime(time, &date);
-  m_text = real ? VarDateToStr(date).Str() : std::wstring();
+  m_text.Assign(real ? VarDateToStr(date).Str() : std::wstring());
   Mark(VALUE);
   m_look.dataType = CELLDATA_TIME;
   m_number = real ? date : 0.0;
@@ -212,7 +213,7 @@ int CGridCell::SetTime(short second, short minute, short hour, short day, short 
 int CGridCell::GetTime(int* second, int* minute, int* hour, int* day, int* month, int* year) const {
   // Kept: the label's bit, not the type, decides whether the number holds the date.
   double date = m_number;
-  const bool valid = Has(CELLPROP_LABEL) || ReadDate(m_text.c_str(), date);
+  const bool valid = Has(CELLPROP_LABEL) || ReadDate(m_text.Characters(), date);
   BreakDownDate(valid, date, second, minute, hour, day, month, year);
   return 0;
 }
@@ -228,8 +229,8 @@ int CGridCell::SetDataType(short type) {
 void CGridCell::ConvertValue(short type) {
   if (type == CELLDATA_NUMBER) {
     GetText();
-    m_number = coregui::ReadNumber(m_text);
-    m_text.clear();
+    m_number = coregui::ReadNumber(m_text.View());
+    m_text.Clear();
   } else if (type == CELLDATA_TIME) {
     ReadDate(GetText(), m_number);
   } else if (type == CELLDATA_CURRENCY && GetDataType() == CELLDATA_NUMBER) {
@@ -250,7 +251,7 @@ short CGridCell::GetDataType() const {
 int CGridCell::ClearDisplayText() {
   const short type = GetDataType();
   m_number = 0.0;
-  m_text.clear();
+  m_text.Clear();
   m_look.dataType = CELLDATA_TEXT;
   Unmark(CELLPROP_TEXT);
   return SetDataType(type);

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/Export.h"
+#include "grid/data/CellText.h"
 #include "platform/CObject.h"
 #include "platform/CString.h"
 #include "platform/Types.h"
@@ -260,7 +261,7 @@ class COREGUI_API CGridCell : public CObject {
 
   coregui::CellLook m_look;
   double m_number = 0.0;
-  mutable std::wstring m_text;  // for a number the text last made from it
+  mutable coregui::CellText m_text;  // for a number the text last made from it
   CString m_label;
   CString m_mask;
   int m_param = -1;

@@ -91,7 +91,7 @@ int CGridMem::GetPrevNonBlankCol(int* col, long row) {
   int last = 0;
   if (!m_store->HasRow(row) || !m_store->LastPosition(row, last)) return 1;
   if (*col <= m_store->Columns().First()) return 1;
-  std::wstring scratch;
+  coregui::CellText scratch;
   const int start = *col > last ? last : *col - 1;
   for (int at = start; at >= m_store->Columns().First(); --at) {
     const coregui::CellSlot slot = m_store->Find(at, row);

@@ -29,14 +29,14 @@ unsigned char* Characters(TextBlock& block) {
 }
 
 /// The least width that every character fits in.
-std::uint16_t WidthFor(const std::wstring& text) {
+std::uint16_t WidthFor(std::wstring_view text) {
   std::uint32_t all = 0;
   for (const wchar_t character : text) all |= static_cast<std::uint32_t>(character);
   return all <= 0xFF ? 1 : all <= 0xFFFF ? 2 : 4;
 }
 
 template <typename Unit>
-void Pack(const std::wstring& text, unsigned char* target) {
+void Pack(std::wstring_view text, unsigned char* target) {
   for (const wchar_t character : text) {
     const auto unit = static_cast<Unit>(character);
     std::memcpy(target, &unit, sizeof unit);
@@ -44,7 +44,7 @@ void Pack(const std::wstring& text, unsigned char* target) {
   }
 }
 
-void Pack(const std::wstring& text, std::uint16_t width, unsigned char* target) {
+void Pack(std::wstring_view text, std::uint16_t width, unsigned char* target) {
   if (width == 1) return Pack<std::uint8_t>(text, target);
   if (width == 2) return Pack<std::uint16_t>(text, target);
   Pack<std::uint32_t>(text, target);
@@ -56,7 +56,7 @@ bool NeedsExtras(const CellLook& look, const std::shared_ptr<CGridCell>& initial
 
 }  // namespace
 
-StoredText WideText(const std::wstring& text) {
+StoredText WideText(std::wstring_view text) {
   static_assert(sizeof(wchar_t) == 4);
   return {reinterpret_cast<const unsigned char*>(text.data()), static_cast<std::uint32_t>(text.size()), 4};
 }
@@ -82,13 +82,13 @@ CellSlot CellCodec::Make(CGridCell& cell) {
 
 CellSlot CellCodec::MakeValue(const CGridCell& cell, std::uint32_t look) {
   if (!cell.Has(CELLPROP_TEXT)) return {SlotKind::noValue, look};
-  const std::wstring& text = cell.m_text;
+  const std::wstring_view text = cell.m_text.View();
   if (text.empty()) return {SlotKind::number, look, std::bit_cast<std::uint64_t>(cell.m_number)};
   if (text.size() > LONGEST_BLOCK) return MakeBox(cell, look);
   return MakeText(text, cell.m_number, look);
 }
 
-CellSlot CellCodec::MakeText(const std::wstring& text, double number, std::uint32_t look) {
+CellSlot CellCodec::MakeText(std::wstring_view text, double number, std::uint32_t look) {
   const std::uint16_t width = WidthFor(text);
   const bool hasNumber = !IsPositiveZero(number);
   if (width == 1 && !hasNumber && text.size() <= INLINE_CAPACITY) {
@@ -107,7 +107,7 @@ CellSlot CellCodec::MakeText(const std::wstring& text, double number, std::uint3
 CellSlot CellCodec::MakeBox(const CGridCell& cell, std::uint32_t look) {
   auto* const box = ::new (m_pool.Allocate(sizeof(CellBox))) CellBox;
   if (cell.Has(CELLPROP_TEXT)) {
-    box->text = cell.m_text;
+    box->text = cell.m_text.View();
     box->number = cell.m_number;
   }
   if (cell.Has(CELLPROP_PARAM)) box->param = cell.m_param;
@@ -122,7 +122,7 @@ CellSlot CellCodec::MakeBox(const CGridCell& cell, std::uint32_t look) {
   return {SlotKind::box, look, reinterpret_cast<std::uintptr_t>(box)};
 }
 
-void CellCodec::MergeInto(const CellSlot& slot, CGridCell& cell) const {
+void CellCodec::MergeInto(CellSlot slot, CGridCell& cell) const {
   const CellLook& look = Look(slot);
   cell.m_look.flags |= look.flags;
   cell.m_look.CopySetFieldsFrom(look);
@@ -135,15 +135,14 @@ void CellCodec::MergeInto(const CellSlot& slot, CGridCell& cell) const {
   }
 }
 
-void CellCodec::MergeValue(const CellSlot& slot, CGridCell& cell) const {
+void CellCodec::MergeValue(CellSlot slot, CGridCell& cell) const {
   if (slot.Kind() == SlotKind::number) {
-    cell.m_text.clear();
+    cell.m_text.Clear();
     cell.m_number = slot.Number();
   } else if (slot.Kind() == SlotKind::inlineText) {
     // A fixed number of steps: all at once.
-    wchar_t wide[INLINE_CAPACITY];
-    std::copy_n(slot.Characters(), INLINE_CAPACITY, wide);
-    cell.m_text.assign(wide, slot.Length());
+    std::copy_n(slot.Characters(), INLINE_CAPACITY, cell.m_text.Open(INLINE_CAPACITY));
+    cell.m_text.Close(slot.Length());
     cell.m_number = 0.0;
   } else if (HasValue(slot)) {
     ReadText(TextField(slot), cell.m_text);
@@ -212,35 +211,36 @@ StoredText CellCodec::TextField(const CellSlot& slot) const {
   return {};
 }
 
-StoredText CellCodec::ShownText(const CellSlot& slot, std::wstring& scratch) const {
+StoredText CellCodec::ShownText(const CellSlot& slot, CellText& scratch) const {
   if (!HasValue(slot)) return {};
   if (DataType(slot) != CELLDATA_NUMBER) return TextField(slot);
   const CellLook& look = Look(slot);
   const NumberForm form{(look.flags & CELLPROP_DECIMALS) != 0, look.decimals,
                         (look.flags & CELLPROP_NOLOCALEFORMAT) == 0};
   WriteNumber(NumberField(slot), form, scratch);
-  return WideText(scratch);
+  return WideText(scratch.View());
 }
 
 std::wstring CellCodec::ShownString(const CellSlot& slot) const {
-  std::wstring scratch;
-  std::wstring shown;
+  CellText scratch;
+  CellText shown;
   ReadText(ShownText(slot, scratch), shown);
-  return shown;
+  return std::wstring(shown.View());
 }
 
 double CellCodec::NumberValue(const CellSlot& slot) const {
   if (!HasValue(slot)) return 0.0;
   const short type = DataType(slot);
   if (type == CELLDATA_NUMBER || type == CELLDATA_TIME || type == CELLDATA_CURRENCY) return NumberField(slot);
-  std::wstring text;
+  CellText text;
   ReadText(TextField(slot), text);
-  return ReadNumber(text);
+  return ReadNumber(text.View());
 }
 
-void CellCodec::ReadText(const StoredText& text, std::wstring& target) {
-  target.resize(text.length);
-  for (std::uint32_t i = 0; i < text.length; ++i) target[i] = text.At(i);
+void CellCodec::ReadText(const StoredText& text, CellText& target) {
+  wchar_t* const characters = target.Open(text.length);
+  for (std::uint32_t i = 0; i < text.length; ++i) characters[i] = text.At(i);
+  target.Close(text.length);
 }
 
 bool CellCodec::Check(const CellSlot& slot) const {

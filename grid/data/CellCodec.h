@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "grid/data/CGridCell.h"
 #include "grid/data/CellPool.h"
@@ -42,7 +43,7 @@ struct StoredText {
   wchar_t At(std::uint32_t index) const;
 };
 /// A text's characters; valid until it changes.
-StoredText WideText(const std::wstring& text);
+StoredText WideText(std::wstring_view text);
 
 /// Turns cells into slots and back. Its slots' blocks come from the store's pool, their looks from its table.
 class CellCodec {
@@ -52,7 +53,7 @@ class CellCodec {
   /// without extra memory loses its pointer.
   CellSlot Make(CGridCell& cell);
   /// Merges the stored cell over `cell`.
-  void MergeInto(const CellSlot& slot, CGridCell& cell) const;
+  void MergeInto(CellSlot slot, CGridCell& cell) const;
   void Release(const CellSlot& slot);
   void Clear();
 
@@ -69,8 +70,8 @@ class CellCodec {
   StoredText TextField(CellSlot&&) const = delete;
   /// What GetText of the stored cell gives; `scratch` keeps characters that had to be made. Empty without a
   /// value.
-  StoredText ShownText(const CellSlot& slot, std::wstring& scratch) const;
-  StoredText ShownText(CellSlot&&, std::wstring&) const = delete;
+  StoredText ShownText(const CellSlot& slot, CellText& scratch) const;
+  StoredText ShownText(CellSlot&&, CellText&) const = delete;
   std::wstring ShownString(const CellSlot& slot) const;
   /// What GetNumber of the stored cell gives.
   double NumberValue(const CellSlot& slot) const;
@@ -82,11 +83,11 @@ class CellCodec {
  private:
   CellSlot MakeValue(const CGridCell& cell, std::uint32_t look);
   CellSlot MakeBox(const CGridCell& cell, std::uint32_t look);
-  CellSlot MakeText(const std::wstring& text, double number, std::uint32_t look);
-  void MergeValue(const CellSlot& slot, CGridCell& cell) const;
+  CellSlot MakeText(std::wstring_view text, double number, std::uint32_t look);
+  void MergeValue(CellSlot slot, CGridCell& cell) const;
   static void MergeBox(const CellBox& box, DWORD flags, CGridCell& cell);
   void ReleasePayload(const CellSlot& slot);
-  static void ReadText(const StoredText& text, std::wstring& target);
+  static void ReadText(const StoredText& text, CellText& target);
 
   CellPool& m_pool;
   LookTable m_looks;

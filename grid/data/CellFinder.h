@@ -45,7 +45,7 @@ class CellFinder {
   bool m_numbersCount;                // a number's text can match
   std::array<wchar_t, 256> m_fold{};  // what the first 256 characters compare as
   std::vector<Column> m_columns;      // to look at in a row, in the order of the search
-  mutable std::wstring m_scratch;
+  mutable CellText m_scratch;
 };
 
 }  // namespace coregui

@@ -11,23 +11,33 @@
 namespace coregui {
 namespace {
 
-/// Asks for large pages where they fit whole. A wish: without them nothing changes but the time.
-void PreferLargePages([[maybe_unused]] std::byte* begin, [[maybe_unused]] std::size_t size) {
+/// What a large slab is made of where the system has such pages.
+constexpr std::align_val_t LARGE_PAGE{2UL * 1024 * 1024};
+
+/// A wish: without large pages nothing changes but the time.
+void PreferLargePages([[maybe_unused]] void* begin, [[maybe_unused]] std::size_t size) {
 #if defined(__linux__)
-  constexpr std::size_t PAGE = 2UL * 1024 * 1024;
-  void* inside = begin;
-  if (std::align(PAGE, PAGE, inside, size) != nullptr) madvise(inside, size / PAGE * PAGE, MADV_HUGEPAGE);
+  madvise(begin, size, MADV_HUGEPAGE);
 #endif
 }
 
 }  // namespace
 
+void CellPool::LargeSlabDelete::operator()(std::byte* slab) const {
+  ::operator delete[](slab, LARGE_PAGE);
+}
+
 void CellPool::AddSlab() {
-  const std::size_t size = m_slabs.size() < SMALL_SLABS ? SMALL_SLAB : LARGE_SLAB;
-  m_slabs.push_back(std::make_unique_for_overwrite<std::byte[]>(size));
-  m_next = m_slabs.back().get();
-  m_left = size;
-  if (size == LARGE_SLAB) PreferLargePages(m_next, size);
+  if (m_smallSlabs.size() < SMALL_SLABS) {
+    m_smallSlabs.push_back(std::make_unique_for_overwrite<std::byte[]>(SMALL_SLAB));
+    m_next = m_smallSlabs.back().get();
+    m_left = SMALL_SLAB;
+    return;
+  }
+  m_largeSlabs.emplace_back(::new (LARGE_PAGE) std::byte[LARGE_SLAB]);
+  m_next = m_largeSlabs.back().get();
+  m_left = LARGE_SLAB;
+  PreferLargePages(m_next, LARGE_SLAB);
 }
 
 void* CellPool::Allocate(std::size_t size) {
@@ -57,7 +67,8 @@ void CellPool::Release(void* block, std::size_t size) {
 
 void CellPool::Clear() {
   m_free = {};
-  m_slabs.clear();
+  m_smallSlabs.clear();
+  m_largeSlabs.clear();
   m_next = nullptr;
   m_left = 0;
   m_inUse = 0;

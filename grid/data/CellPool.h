@@ -34,9 +34,13 @@ class CellPool {
   struct Free {
     Free* next;
   };
+  struct LargeSlabDelete {
+    void operator()(std::byte* slab) const;
+  };
 
   std::array<Free*, LARGEST / STEP + 1> m_free{};  // by size in steps; borrowed from the slabs
-  std::vector<std::unique_ptr<std::byte[]>> m_slabs;
+  std::vector<std::unique_ptr<std::byte[]>> m_smallSlabs;
+  std::vector<std::unique_ptr<std::byte[], LargeSlabDelete>> m_largeSlabs;
   std::byte* m_next = nullptr;  // what is left of the last slab
   std::size_t m_left = 0;
   std::size_t m_inUse = 0;

@@ -3,13 +3,22 @@
 #include <algorithm>
 
 namespace coregui {
-CellStore::Place CellStore::Locate(std::int64_t row) {
-  std::int64_t inLeaf = row - m_nearStart;
-  if (m_nearLeaf == nullptr || inLeaf < 0 || inLeaf >= m_nearLeaf->count) {
+/// The leaf of a row that exists; `inLeaf` is the row's index in it.
+RowLeaf& CellStore::LeafOf(std::int64_t row, std::int64_t& inLeaf) {
+  inLeaf = row - m_nearStart;
+  // A row before the leaf has an index beyond any count.
+  if (m_nearLeaf == nullptr ||
+      static_cast<std::uint64_t>(inLeaf) >= static_cast<std::uint64_t>(m_nearLeaf->count)) {
     m_nearLeaf = m_rows.Find(row - m_firstRow, inLeaf);
     m_nearStart = row - inLeaf;
   }
-  return {m_nearLeaf, static_cast<int>(std::min<std::int64_t>(inLeaf, RowLeaf::ROWS)), inLeaf};
+  return *m_nearLeaf;
+}
+
+CellStore::Place CellStore::Locate(std::int64_t row) {
+  std::int64_t inLeaf = 0;
+  RowLeaf& leaf = LeafOf(row, inLeaf);
+  return {&leaf, static_cast<int>(std::min<std::int64_t>(inLeaf, RowLeaf::ROWS)), inLeaf};
 }
 
 void CellStore::IncludeRow(std::int64_t row) {
@@ -53,8 +62,9 @@ bool CellStore::HasPosition(int col, std::int64_t row) {
 CellSlot CellStore::Find(int col, std::int64_t row) {
   const int storage = m_columns.Find(col);
   if (storage == ColumnMap::NONE || !HasRow(row)) return {};
-  const Place place = Locate(row);
-  return place.leaf->FindCell(storage, place.row);
+  std::int64_t inLeaf = 0;
+  const RowLeaf& leaf = LeafOf(row, inLeaf);
+  return leaf.FindCell(storage, inLeaf);
 }
 
 bool CellStore::Get(int col, std::int64_t row, CGridCell& cell) {

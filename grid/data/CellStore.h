@@ -61,6 +61,7 @@ class CellStore {
     int row = 0;
     std::int64_t wide = 0;  // the index where the leaf is a run
   };
+  RowLeaf& LeafOf(std::int64_t row, std::int64_t& inLeaf);
   Place Locate(std::int64_t row);
   Place MakeRow(std::int64_t row);
   void IncludeRow(std::int64_t row);

@@ -14,7 +14,8 @@ namespace coregui {
 ///
 /// The cells of a column are mostly of one kind and look. Their tag then stands here once, beside the bits:
 /// it takes no room in the cells, and what to do with a cell is known before its value has come from memory.
-class ColumnChunk {
+/// No chunk lies across two cache lines, which would be two waits for memory.
+class alignas(32) ColumnChunk {
  public:
   static constexpr int ROWS = 64;
 

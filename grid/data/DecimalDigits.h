@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 namespace coregui {
@@ -7,13 +8,13 @@ namespace coregui {
 /// A number's magnitude in decimal: what stands before the point, and twenty places behind it.
 struct DecimalDigits {
   static constexpr int PLACES = 20;
-  static constexpr std::uint64_t HALF_UNIT = 10'000'000'000ULL;  ///< the first or the last ten places at most
+  /// The places behind the point in groups of 8, 8 and 4.
+  static constexpr std::array<int, 3> GROUPS{8, 8, 4};
 
   std::uint64_t whole = 0;
-  std::uint64_t upper = 0;  ///< the first ten places
-  std::uint64_t lower = 0;  ///< the last ten
+  std::array<std::uint64_t, 3> groups{};
 
-  bool IsWhole() const { return upper == 0 && lower == 0; }
+  bool IsWhole() const { return (groups[0] | groups[1] | groups[2]) == 0; }
 };
 
 /// Rounds the exact value to `decimals` places (0 to PLACES), a tie to the even digit as the C library does;

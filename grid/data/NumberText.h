@@ -1,8 +1,9 @@
 #pragma once
 
-#include <string>
+#include <string_view>
 
 #include "core/Export.h"
+#include "grid/data/CellText.h"
 
 namespace coregui {
 
@@ -16,10 +17,10 @@ struct NumberForm {
 
 /// The text of a number. Without fixed decimals it is the exact decimal value rounded to 20 places without
 /// the zeros at its ends: 0.5 is ".5" until the user's locale puts a leading zero, and 0 is "0".
-COREGUI_API void WriteNumber(double number, const NumberForm& form, std::wstring& text);
+COREGUI_API void WriteNumber(double number, const NumberForm& form, CellText& text);
 
 /// The number that a text begins with, read by the user's separators; currency symbols and group separators
 /// are skipped.
-COREGUI_API double ReadNumber(const std::wstring& text);
+COREGUI_API double ReadNumber(std::wstring_view text);
 
 }  // namespace coregui

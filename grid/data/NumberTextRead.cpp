@@ -56,10 +56,10 @@ locale_t PlainLocale() {
 
 }  // namespace
 
-double ReadNumber(const std::wstring& text) {
+double ReadNumber(std::wstring_view text) {
   double number = 0.0;
   const UserLocale& locale = GetUserLocale();
-  std::wstring plain = text;
+  std::wstring plain(text);
   ReplaceAll(plain, locale.thousands.Str(), L"");
   ReplaceAll(plain, locale.currency.Str(), L"");
   if (locale.decimal != L".") ReplaceAll(plain, locale.decimal.Str(), L".");

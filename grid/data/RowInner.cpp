@@ -4,17 +4,8 @@
 
 namespace coregui {
 
-RowNode* RowInner::Descend(std::int64_t& row) const {
-  // Children of equal size are found at once; others are near.
-  const std::int64_t total = starts[At(size)];
-  int at = static_cast<int>(static_cast<double>(row) * size / static_cast<double>(total));
-  at = std::min(at, size - 1);
-  if (starts[At(at)] > row || starts[At(at) + 1] <= row) {
-    const auto end = starts.begin() + size + 1;
-    at = static_cast<int>(std::upper_bound(starts.begin(), end, row) - starts.begin()) - 1;
-  }
-  row -= starts[At(at)];
-  return children[At(at)].get();
+void RowInner::Measure() {
+  m_childrenPerRow = size > 1 ? (size - 1) / static_cast<double>(starts[At(size - 1)]) : 0.0;
 }
 
 void RowInner::Insert(int at, std::unique_ptr<RowNode> child, std::int64_t rows) {
@@ -24,6 +15,7 @@ void RowInner::Insert(int at, std::unique_ptr<RowNode> child, std::int64_t rows)
   for (int i = size + 1; i > at; --i) starts[At(i)] = starts[At(i) - 1] + rows;
   ++size;
   for (int i = at; i < size; ++i) children[At(i)]->place = i;
+  Measure();
 }
 
 std::unique_ptr<RowNode> RowInner::Remove(int at) {
@@ -33,11 +25,13 @@ std::unique_ptr<RowNode> RowInner::Remove(int at) {
   --size;
   for (int i = at + 1; i <= size; ++i) starts[At(i)] = starts[At(i) + 1] - rows;
   for (int i = at; i < size; ++i) children[At(i)]->place = i;
+  Measure();
   return removed;
 }
 
 void RowInner::AddRows(int at, std::int64_t rows) {
   for (int i = at + 1; i <= size; ++i) starts[At(i)] += rows;
+  Measure();
 }
 
 }  // namespace coregui

@@ -31,8 +31,8 @@ class RowNode {
 };
 
 /// Neighbouring rows. A leaf with positions has at most 64 rows and keeps their cells; a leaf without stands
-/// for any number of rows that have no position at all.
-class RowLeaf final : public RowNode {
+/// for any number of rows that have no position at all. What finds a cell lies in one cache line.
+class alignas(64) RowLeaf final : public RowNode {
  public:
   static constexpr int ROWS = ColumnChunk::ROWS;
   /// The positions of each row: from the column `first`, 0 or below, to the one that the storage column
@@ -54,10 +54,10 @@ class RowLeaf final : public RowNode {
     return static_cast<std::size_t>(storage) < columns.size() ? &columns[static_cast<std::size_t>(storage)]
                                                               : nullptr;
   }
-  /// The cell, if there is one.
-  CellSlot FindCell(int storage, int row) const {
+  /// The cell of a row of this leaf, if there is one. A leaf without positions has no columns.
+  CellSlot FindCell(int storage, std::int64_t row) const {
     return static_cast<std::size_t>(storage) < columns.size()
-               ? columns[static_cast<std::size_t>(storage)].Find(row)
+               ? columns[static_cast<std::size_t>(storage)].Find(static_cast<int>(row))
                : CellSlot();
   }
   ColumnChunk& FindOrAdd(int storage);

@@ -16,13 +16,6 @@ std::int64_t RowsIn(const RowNode& node) {
 
 }  // namespace
 
-RowLeaf* RowTree::Find(std::int64_t row, std::int64_t& inLeaf) const {
-  RowNode* node = m_root.get();
-  inLeaf = row;
-  while (!node->IsLeaf()) node = static_cast<RowInner*>(node)->Descend(inLeaf);
-  return static_cast<RowLeaf*>(node);
-}
-
 void RowTree::AddRows(RowNode& node, std::int64_t rows) {
   m_count += rows;
   for (const RowNode* at = &node; at->parent != nullptr; at = at->parent)

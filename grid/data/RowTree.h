@@ -18,7 +18,12 @@ class RowTree {
   RowLeaf* First() const { return m_first; }
   RowLeaf* Last() const { return m_last; }
   /// The leaf that holds the row, and the row's index in it. 0 <= row < Count().
-  RowLeaf* Find(std::int64_t row, std::int64_t& inLeaf) const;
+  RowLeaf* Find(std::int64_t row, std::int64_t& inLeaf) const {
+    RowNode* node = m_root.get();
+    inLeaf = row;
+    while (!node->IsLeaf()) node = static_cast<RowInner*>(node)->Descend(inLeaf);
+    return static_cast<RowLeaf*>(node);
+  }
   /// A row without positions takes the index `row`, at most Count().
   void InsertRow(std::int64_t row);
   /// The row has no cells any more.

@@ -138,6 +138,12 @@ TEST(CGridCell, AppendedAndOwnTextsAreTaken) {
   EXPECT_EQ(0, cell.AppendText(L"0"));
   EXPECT_STREQ(L"50", cell.GetText());
   EXPECT_EQ(CELLDATA_TEXT, cell.GetDataType());
+  for (int i = 0; i < 5; ++i) cell.AppendText(cell.GetText());
+  const CGridCell copy = cell;
+  cell.SetText(cell.GetText() + 62);
+  EXPECT_STREQ(L"50", cell.GetText());
+  EXPECT_EQ(64, copy.GetTextLength()) << "a text that outgrew its record";
+  EXPECT_STREQ(L"5050505050505050505050505050505050505050505050505050505050505050", copy.GetText());
 }
 
 TEST(CGridCell, NumbersShowAsTheFlagsAndDecimalsSay) {

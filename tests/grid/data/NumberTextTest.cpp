@@ -53,13 +53,13 @@ std::vector<double> Numbers() {
 }
 
 void ExpectNaive() {
-  std::wstring text;
+  coregui::CellText text;
   for (const double number : Numbers()) {
     for (const bool locale : {false, true}) {
       for (const int decimals : {-1, 0, 1, 3, 10, 11, 20, 25}) {
         const coregui::NumberForm form{decimals >= 0, std::max(decimals, 0), locale};
         coregui::WriteNumber(number, form, text);
-        ASSERT_EQ(NaiveText(number, form), CString(text).ToUtf8())
+        ASSERT_EQ(NaiveText(number, form), CString(text.View()).ToUtf8())
             << std::hexfloat << number << " decimals " << decimals << " locale " << locale;
       }
     }
