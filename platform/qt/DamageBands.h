@@ -17,6 +17,7 @@ class DamageBands {
     if (!dots.IsRectEmpty()) AddToBands(dots);
     return first && !m_bounds.IsRectEmpty();
   }
+  bool IsEmpty() const { return m_bounds.IsRectEmpty(); }
   /// What was noted since the last call, as rectangles that do not overlap, top to bottom.
   std::vector<CRect> Take();
 

@@ -1,6 +1,8 @@
 #include "platform/qt/PaintedWindow.h"
 
+#include <QBackingStore>
 #include <QKeyEvent>
+#include <QPaintEngine>
 #include <QPaintEvent>
 #include <QPainter>
 #include <cmath>
@@ -15,6 +17,23 @@
 
 namespace coregui {
 namespace {
+
+/// Whether the object is a widget that lies on its parent, and shows.
+const QWidget* ShownChild(const QObject* object) {
+  const auto* child = object->isWidgetType() ? static_cast<const QWidget*>(object) : nullptr;
+  return child != nullptr && child->isVisible() && !child->isWindow() ? child : nullptr;
+}
+
+/// What of a part of the widget can be seen, or shines through what lies above.
+QRegion Seen(const QWidget& widget, QRegion part) {
+  for (const QObject* object : widget.children()) {
+    const QWidget* above = ShownChild(object);
+    if (above != nullptr && above->testAttribute(Qt::WA_OpaquePaintEvent) && above->mask().isEmpty()) {
+      part -= above->geometry();
+    }
+  }
+  return part;
+}
 
 /// Shows a surface. Painting it copies pixels and calls nothing of the library.
 class SurfaceWidget : public QWidget {
@@ -34,6 +53,7 @@ class SurfaceWidget : public QWidget {
   void paintEvent(QPaintEvent* event) override {
     if (devicePixelRatioF() != m_surface->Scale() && onOtherScale) onOtherScale();
     QPainter painter(this);
+    const bool onScreen = m_surface->HasDamage() && IsOnScreen(painter);
     const QRect client = rect().adjusted(border, border, -border, -border);
     if (border > 0) {
       const COLORREF colour = GetSysColor(COLOR_3DDKSHADOW);
@@ -47,9 +67,15 @@ class SurfaceWidget : public QWidget {
       m_surface->Expose(painter,
                         {part.left(), part.top(), part.left() + part.width(), part.top() + part.height()});
     }
+    if (onScreen && (Seen(*this, client) - event->region()).isEmpty()) m_surface->ForgetDamage();
   }
 
  private:
+  /// Not in a picture that somebody takes of the window.
+  bool IsOnScreen(const QPainter& painter) const {
+    return backingStore() != nullptr && painter.paintEngine()->paintDevice() == backingStore()->paintDevice();
+  }
+
   std::shared_ptr<Surface> m_surface;
 };
 
@@ -164,18 +190,16 @@ void PaintedWindow::Expose(const CRect& /*rect*/) {
 }
 
 void PaintedWindow::ShowDamage(bool now) {
-  constexpr std::size_t most = 8;  // pieces that are cheaper shown one by one
-  std::vector<CRect> pieces = m_surface->TakeDamage();
-  if (pieces.size() > most) {
-    CRect all;
-    for (const CRect& piece : pieces) all.UnionRect(all, piece);
-    pieces = {all};
-  }
+  constexpr int most = 8;  // pieces that are cheaper shown one by one
   const LONG border = Window().State().look.border;
-  for (std::size_t i = 0; i < pieces.size(); ++i) {
-    pieces[i].OffsetRect(border, border);
-    QtWindow::Expose(pieces[i], now && i + 1 == pieces.size());
+  QRegion changed;
+  for (const CRect& piece : m_surface->TakeDamage()) {
+    changed += QRect(piece.left + border, piece.top + border, piece.Width(), piece.Height());
   }
+  if (changed.rectCount() > most) changed = changed.boundingRect();
+  // The toolkit would paint what lies above once more, though nobody sees what changed below it.
+  if (GetWidget() != nullptr) changed = Seen(*GetWidget(), changed);
+  if (!changed.isEmpty()) QtWindow::Expose(changed, now);
 }
 
 bool PaintedWindow::MoveShown(const CRect& to, int dx, int dy) {
@@ -195,9 +219,9 @@ bool PaintedWindow::MoveShown(const CRect& to, int dx, int dy) {
   const QRect area(both.left / scale + border, both.top / scale + border, both.Width() / scale,
                    both.Height() / scale);
   // The toolkit would take the pixels of its children along.
-  for (const QObject* child : widget->children()) {
-    const auto* above = qobject_cast<const QWidget*>(child);
-    if (above != nullptr && above->isVisible() && above->geometry().intersects(area)) return false;
+  for (const QObject* object : widget->children()) {
+    const QWidget* above = ShownChild(object);
+    if (above != nullptr && above->geometry().intersects(area)) return false;
   }
   ShowDamage(false);  // what is not shown yet moves too
   widget->scroll(dx / scale, dy / scale, area);

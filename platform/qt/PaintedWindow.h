@@ -17,6 +17,7 @@ class PaintedWindow : public QtWindow {
   std::shared_ptr<DrawTarget> Target() override { return m_target; }
   double Scale() const override { return m_surface->Scale(); }
   void Expose(const CRect& rect) override;
+  bool HasDamage() const override { return m_surface->HasDamage(); }
   void ShowDamage(bool now) override;
   bool MovePixels(const CRect& rect, const CRect& clip, int dx, int dy) override;
   void PrintTo(CDC& dc) override;

@@ -108,7 +108,9 @@ void Pump::QueueExposure(QtWindow* window) {
 
 void Pump::Show() {
   // The last one takes the others along: one pass of the toolkit, and none that it has to be woken for.
-  const std::vector<QPointer<QtWindow>> windows = std::exchange(m_exposures, {});
+  std::vector<QPointer<QtWindow>> windows = std::exchange(m_exposures, {});
+  std::erase_if(windows,
+                [](const QPointer<QtWindow>& window) { return window == nullptr || !window->HasDamage(); });
   for (const QPointer<QtWindow>& window : windows) {
     if (window != nullptr) window->ShowDamage(&window == &windows.back());
   }

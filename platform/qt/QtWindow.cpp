@@ -258,17 +258,18 @@ void QtWindow::timerEvent(QTimerEvent* event) {
 }
 
 void QtWindow::Expose(const CRect& rect) {
-  Expose(rect, false);
+  Expose(ToQt(rect), false);
 }
 
-void QtWindow::Expose(const CRect& rect, bool now) {
+void QtWindow::Expose(const QRegion& part, bool now) {
   if (m_widget == nullptr) {
     return;
   }
-  if (now) {
-    m_widget->repaint(ToQt(rect));
+  if (part.rectCount() == 1) {  // the toolkit is quicker with these
+    const QRect& rect = *part.begin();
+    now ? m_widget->repaint(rect) : m_widget->update(rect);
   } else {
-    m_widget->update(ToQt(rect));
+    now ? m_widget->repaint(part) : m_widget->update(part);
   }
 }
 

@@ -62,6 +62,8 @@ class QtWindow : public QObject, public NativeWindow {
   void StopTimer(UINT id) override;
   std::shared_ptr<DrawTarget> Target() override { return nullptr; }
   void Expose(const CRect& rect) override;
+  /// Whether the surface changed since it was last shown.
+  virtual bool HasDamage() const { return false; }
   /// Shows what changed on the surface since the last call: now, with all else that waits to be shown, or
   /// with the next thing that is.
   virtual void ShowDamage(bool /*now*/) {}
@@ -84,7 +86,7 @@ class QtWindow : public QObject, public NativeWindow {
   virtual void NoteScale() {}
   virtual void NoteWidgetSize() {}
   /// Has the toolkit paint this part of the widget, at once or at its next chance.
-  void Expose(const CRect& rect, bool now);
+  void Expose(const QRegion& part, bool now);
 
  private:
   friend class EventRoad;

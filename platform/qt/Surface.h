@@ -72,6 +72,9 @@ class Surface {
   /// What changed since the last call, as logical pixels rounded outwards; at a fractional scale the pieces
   /// touch each other.
   std::vector<CRect> TakeDamage();
+  bool HasDamage() const { return !m_damage.IsEmpty(); }
+  /// All of the surface is shown as it is now.
+  void ForgetDamage() { m_damage.Take(); }
   std::function<void()> onDamage;
   /// Dots were moved as in MoveDots. True when what shows the surface moves them too, so that they need no
   /// exposure.

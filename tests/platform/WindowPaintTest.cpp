@@ -205,31 +205,37 @@ class WindowShown : public testing::Test {
     }
     CWinApp::PumpPending();
   }
-  /// The number of dots that differ, but for those of the first two that lie below the third. Between two
+  /// The number of dots of a window that the screen shows otherwise, but for those in `above`. Between two
   /// dots of the screen the last dot of a window may be cut off.
+  int WrongDotsOf(const CWnd& of, CPoint corner, const CRect& above = CRect()) {
+    const auto* screen = dynamic_cast<QImage*>(WidgetOf(&window)->backingStore()->paintDevice());
+    const auto* target = dynamic_cast<const coregui::RasterTarget*>(of.State().native->Target().get());
+    if (screen == nullptr || target == nullptr) return -1;
+    const QImage own = target->Pixels()->Snapshot();
+    const double scale = target->Scale();
+    const CRect place(corner, of.GetClientRectangle().Size());
+    const int left = static_cast<int>(std::floor(place.left * scale + 0.5));
+    const int top = static_cast<int>(std::floor(place.top * scale + 0.5));
+    int wrong = 0;
+    for (int y = top; y < top + static_cast<int>(place.Height() * scale); ++y) {
+      for (int x = left; x < left + static_cast<int>(place.Width() * scale); ++x) {
+        const CPoint at(static_cast<LONG>(x / scale), static_cast<LONG>(y / scale));
+        if (above.PtInRect(at)) continue;
+        wrong += screen->pixel(x, y) == own.pixel(x - left, y - top) ? 0 : 1;
+      }
+    }
+    return wrong;
+  }
+  /// Those of all children, but for the parts of the first two that lie below the third.
   int WrongDots() {
     CWinApp::PumpPending();
-    const auto* screen = dynamic_cast<QImage*>(WidgetOf(&window)->backingStore()->paintDevice());
-    if (screen == nullptr) return -1;
-    const QImage shown = screen->copy();
     int wrong = 0;
     CRect above = children[2].State().look.rect;
     above.InflateRect(1, 1);
     for (const Striped& child : children) {
-      CRect place = child.State().look.rect;
-      place.DeflateRect(child.State().look.border, child.State().look.border);
-      const auto* target = dynamic_cast<const coregui::RasterTarget*>(child.State().native->Target().get());
-      const QImage own = target->Pixels()->Snapshot();
-      const double scale = target->Scale();
-      const int left = static_cast<int>(std::floor(place.left * scale + 0.5));
-      const int top = static_cast<int>(std::floor(place.top * scale + 0.5));
-      for (int y = top; y < top + static_cast<int>(place.Height() * scale); ++y) {
-        for (int x = left; x < left + static_cast<int>(place.Width() * scale); ++x) {
-          const CPoint at(static_cast<LONG>(x / scale), static_cast<LONG>(y / scale));
-          if (&child != &children[2] && above.PtInRect(at)) continue;
-          wrong += shown.pixel(x, y) == own.pixel(x - left, y - top) ? 0 : 1;
-        }
-      }
+      CPoint corner = child.State().look.rect.TopLeft();
+      corner.Offset(child.State().look.border, child.State().look.border);
+      wrong += WrongDotsOf(child, corner, &child == &children[2] ? CRect() : above);
     }
     return wrong;
   }
@@ -243,12 +249,12 @@ TEST_F(WindowShown, EveryDotOfASurfaceIsThatOfTheScreenAfterAnyDrawing) {
   const auto any = [&random](int from, int to) {
     return std::uniform_int_distribution<int>(from, to)(random);
   };
-  for (int step = 0; step < 60; ++step) {
+  for (int step = 0; step < 90; ++step) {
     Striped& child = children[any(0, 2)];
     const CRect client = child.GetClientRectangle();
     const int x = any(0, client.Width() - 1);
     const int y = any(0, client.Height() - 1);
-    switch (any(0, 3)) {
+    switch (any(0, 5)) {
       case 0: {
         CClientDC dc(&child);
         dc.FillSolidRect(CRect(x, y, x + any(1, 90), y + any(1, 5)), RGB(step, 0, any(0, 255)));
@@ -265,6 +271,12 @@ TEST_F(WindowShown, EveryDotOfASurfaceIsThatOfTheScreenAfterAnyDrawing) {
         child.ScrollWindow(any(0, 2) == 0 ? any(-9, 9) : 0, any(-40, 40), &part, &part);
         break;
       }
+      case 3:  // below the others, who must not show it
+        CClientDC(&window).FillSolidRect(CRect(x, y, x + any(1, 300), y + any(1, 200)), RGB(0, step, 0));
+        break;
+      case 4:  // a picture that somebody takes is not the screen
+        WidgetOf(&child)->grab();
+        break;
       default:
         child.first = any(0, 200);
         child.RedrawWindow();
@@ -273,6 +285,9 @@ TEST_F(WindowShown, EveryDotOfASurfaceIsThatOfTheScreenAfterAnyDrawing) {
     if (any(0, 2) == 0) continue;  // the next drawing comes before this one is shown
     ASSERT_EQ(WrongDots(), 0) << "step " << step;
   }
+  for (Striped& child : children) child.ShowWindow(SW_HIDE);
+  CWinApp::PumpPending();
+  EXPECT_EQ(WrongDotsOf(window, {0, 0}), 0) << "what was drawn below them";
 }
 
 /// Between two dots of the screen, windows that touch leave none to nobody.
