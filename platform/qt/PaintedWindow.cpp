@@ -13,6 +13,7 @@
 #include "platform/System.h"
 #include "platform/Toolkit.h"
 #include "platform/WindowState.h"
+#include "platform/qt/PictureMemory.h"
 #include "platform/qt/Pump.h"
 
 namespace coregui {
@@ -53,7 +54,9 @@ class SurfaceWidget : public QWidget {
   void paintEvent(QPaintEvent* event) override {
     if (devicePixelRatioF() != m_surface->Scale() && onOtherScale) onOtherScale();
     QPainter painter(this);
-    const bool onScreen = m_surface->HasDamage() && IsOnScreen(painter);
+    const bool whole = event->region().boundingRect() == rect();
+    const bool onScreen = (whole || m_surface->HasDamage()) && IsOnScreen(painter);
+    if (onScreen && whole) ExpectPicture(*painter.paintEngine()->paintDevice());
     const QRect client = rect().adjusted(border, border, -border, -border);
     if (border > 0) {
       const COLORREF colour = GetSysColor(COLOR_3DDKSHADOW);
@@ -76,7 +79,17 @@ class SurfaceWidget : public QWidget {
     return backingStore() != nullptr && painter.paintEngine()->paintDevice() == backingStore()->paintDevice();
   }
 
+  /// The toolkit has made memory for the picture of the whole window, and is to fill it with this paint.
+  void ExpectPicture(const QPaintDevice& device) {
+    if (device.devType() != QInternal::Image) return;
+    const auto& picture = static_cast<const QImage&>(device);
+    const qint64 number = picture.cacheKey() >> 32;
+    if (std::exchange(m_picture, number) == number) return;
+    ExpectFill(picture.constBits(), static_cast<std::size_t>(picture.sizeInBytes()));
+  }
+
   std::shared_ptr<Surface> m_surface;
+  qint64 m_picture = 0;  ///< the number of the toolkit's picture of the window
 };
 
 /// A caption's frame is the desktop's.

@@ -4,6 +4,8 @@
 #include <cstring>
 #include <new>
 
+#include "platform/qt/PictureMemory.h"
+
 namespace coregui {
 namespace {
 
@@ -16,8 +18,11 @@ SlidingRows::SlidingRows(CSize room) : m_room(room) {
   const std::ptrdiff_t dots = std::ptrdiff_t{room.cx} * room.cy;
   if (dots >= kLeastDots) m_slack = room.cy / 2;
   const std::ptrdiff_t all = dots + m_slack * room.cx;
-  // Not value-initialised: memory that is not touched is not used.
-  m_memory.reset(new (std::nothrow) std::uint32_t[static_cast<std::size_t>(all)]);
+  // Not initialised: memory that is not touched is not used.
+  const std::size_t bytes = static_cast<std::size_t>(all) * sizeof(std::uint32_t);
+  const std::align_val_t alignment{bytes < kLargePage ? alignof(std::max_align_t) : kLargePage};
+  m_memory = std::unique_ptr<std::uint32_t[], FreeRows>(
+      static_cast<std::uint32_t*>(::operator new(bytes, alignment, std::nothrow)), FreeRows{alignment});
 }
 
 bool SlidingRows::CanSlide(int rows) const {

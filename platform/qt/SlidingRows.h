@@ -3,10 +3,16 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <new>
 
 #include "platform/Geometry.h"
 
 namespace coregui {
+
+struct FreeRows {
+  std::align_val_t alignment{alignof(std::uint32_t)};
+  void operator()(std::uint32_t* memory) const { ::operator delete(memory, alignment); }
+};
 
 /// Memory for rows of dots of which so many, one below the other, are the picture. The picture can slide
 /// along the memory: a scroll of a large picture then moves no dots but the few that are to stay in place.
@@ -29,7 +35,7 @@ class SlidingRows {
   CSize m_room;
   std::ptrdiff_t m_slack = 0;  ///< rows of memory beyond the picture's
   std::ptrdiff_t m_base = 0;   ///< the picture's first row
-  std::unique_ptr<std::uint32_t[]> m_memory;
+  std::unique_ptr<std::uint32_t[], FreeRows> m_memory;
 };
 
 }  // namespace coregui

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstring>
 
+#include "platform/qt/PictureMemory.h"
+
 namespace coregui {
 
 namespace {
@@ -77,6 +79,7 @@ bool Surface::Grow(CSize dots) {
 
 void Surface::FillMemory() const {
   m_isOneColour = false;
+  ExpectFill(m_bits, static_cast<std::size_t>(m_stride * m_dots.cy) * sizeof(std::uint32_t));
   std::fill_n(m_bits, m_stride * m_dots.cy, m_colour);
 }
 
