@@ -30,7 +30,7 @@ class COREGUI_API CPrinterDC : public CDC {
   bool StartDoc(const wchar_t* title);
   /// False outside a document or inside a page, or when the page cannot be begun.
   bool StartPage();
-  /// False when no page was begun.
+  /// False when no page was begun, or its own file could not be written.
   bool EndPage();
   /// Completes the output. False when no document was started or something could not be written.
   bool EndDoc();

@@ -6,7 +6,6 @@
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QSvgGenerator>
 #include <cmath>
 
 #include "platform/qt/Application.h"
@@ -102,16 +101,8 @@ bool PageTarget::MakeDevice() {
       m_device = std::move(writer);
       return true;
     }
-    case PrintOutput::svg: {
-      auto generator = std::make_unique<QSvgGenerator>();
-      generator->setFileName(FileOfSheet(m_sheets + 1));
-      generator->setResolution(m_page.dotsPerInch);
-      generator->setSize(QSize(m_dots.cx, m_dots.cy));
-      generator->setViewBox(QRect(0, 0, m_dots.cx, m_dots.cy));
-      generator->setTitle(m_title);
-      m_device = std::move(generator);
-      return true;
-    }
+    case PrintOutput::svg:
+      return true;  // each sheet is a file of its own
   }
   return false;
 }
@@ -137,7 +128,18 @@ bool PageTarget::StartDoc(const QString& title) {
   return m_inDocument;
 }
 
+QPainter* PageTarget::OpenPainter(const Clip& clip) {
+  if (!m_inPage) {
+    return nullptr;
+  }
+  return m_svg == nullptr ? m_painter.get() : m_svg->PainterFor(RegionOf(clip));
+}
+
 bool PageTarget::NextSheet() {
+  if (m_output == PrintOutput::svg) {
+    m_svg = std::make_unique<SvgSheet>(FileOfSheet(m_sheets + 1), m_page, m_dots, m_title);
+    return m_svg->IsOpen();
+  }
   if (m_painter == nullptr) {
     return (m_device != nullptr || MakeDevice()) && BeginPainter();
   }
@@ -159,12 +161,13 @@ bool PageTarget::EndPage() {
     return false;
   }
   m_inPage = false;
-  if (m_output == PrintOutput::svg) {
-    m_painter->end();
-    m_painter.reset();
-    m_device.reset();
+  if (m_svg == nullptr) {
+    return true;
   }
-  return true;
+  const bool good = m_svg->Finish();
+  m_svg.reset();
+  m_failed = m_failed || !good;
+  return good;
 }
 
 bool PageTarget::EndDoc() {

@@ -6,6 +6,7 @@
 
 #include "platform/CPrinterDC.h"
 #include "platform/qt/PainterTarget.h"
+#include "platform/qt/SvgSheet.h"
 
 class QPaintDevice;
 
@@ -28,7 +29,7 @@ class PageTarget final : public PainterTarget {
   void AbortDoc();
 
  protected:
-  QPainter* OpenPainter() override { return m_inPage ? m_painter.get() : nullptr; }
+  QPainter* OpenPainter(const Clip& clip) override;
 
  private:
   bool MakeDevice();
@@ -44,6 +45,7 @@ class PageTarget final : public PainterTarget {
   QString m_title;
   std::unique_ptr<QPaintDevice> m_device;
   std::unique_ptr<QPainter> m_painter;  ///< ends before the device goes
+  std::unique_ptr<SvgSheet> m_svg;      ///< the page, instead of device and painter
   int m_sheets = 0;
   bool m_inDocument = false;
   bool m_inPage = false;

@@ -65,20 +65,24 @@ double AngleOf(const CRect& rect, POINT point) {
 
 }  // namespace
 
+QRegion RegionOf(const Clip& clip) {
+  QRegion region;
+  clip.ForEach(clip.box, [&region](const CRect& piece) { region += ToQt(piece); });
+  return region;
+}
+
 QPainter* PainterTarget::Begin(const DrawAttributes& with) {
   if (with.clip.box.IsRectEmpty()) {
     return nullptr;
   }
-  QPainter* painter = OpenPainter();
+  QPainter* painter = OpenPainter(with.clip);
   if (painter == nullptr) {
     return nullptr;
   }
   if (with.clip.region == nullptr) {
     painter->setClipRect(ToQt(with.clip.box));
   } else {
-    QRegion region;
-    with.clip.ForEach(with.clip.box, [&region](const CRect& piece) { region += ToQt(piece); });
-    painter->setClipRegion(region);
+    painter->setClipRegion(RegionOf(with.clip));
   }
   painter->setCompositionMode(ModeOf(with.rop));
   painter->setRenderHint(QPainter::Antialiasing, with.smooth && with.rop == R2_COPYPEN);

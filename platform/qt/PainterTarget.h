@@ -31,8 +31,8 @@ class PainterTarget : public DrawTarget {
 
  protected:
   explicit PainterTarget(double scale) : DrawTarget(scale) {}
-  /// The painter in dots, open for the next call; null when there is no page.
-  virtual QPainter* OpenPainter() = 0;
+  /// The painter in dots, open for the next call under a clip; null when there is no page.
+  virtual QPainter* OpenPainter(const Clip& clip) = 0;
   /// The painter with clip, raster mode and smoothness of the call; null when nothing would show.
   QPainter* Begin(const DrawAttributes& with);
   /// Called after each call that drew, with the part of the device that may have changed.
@@ -48,6 +48,9 @@ class PainterTarget : public DrawTarget {
   std::shared_ptr<FontFace> m_face;      ///< of the font that was used last
   std::shared_ptr<FontData> m_faceFont;  ///< kept so that its address stays its own
 };
+
+/// A clip in the toolkit's form.
+QRegion RegionOf(const Clip& clip);
 
 /// A colour of ours in the toolkit's order, opaque.
 constexpr std::uint32_t Opaque(COLORREF colour) {

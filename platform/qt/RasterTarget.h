@@ -34,7 +34,7 @@ class RasterTarget : public PainterTarget {
   const std::shared_ptr<Surface>& Pixels() const { return m_surface; }
 
  protected:
-  QPainter* OpenPainter() override { return &m_surface->Painter(); }
+  QPainter* OpenPainter(const Clip& /*clip*/) override { return &m_surface->Painter(); }
   void Drawn(const CRect& dots) override { m_surface->Damage(dots); }
 
  private:

@@ -6,8 +6,12 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
+#include <QXmlStreamReader>
 #include <cmath>
 #include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
 
 #include "platform/CPrinterDC.h"
 #include "tests/support/FolderTest.h"
@@ -89,6 +93,58 @@ TEST_F(Printing, Svg_IsOneFileASheet) {
   EXPECT_THAT(Read("plot-2.svg"), HasSubstr("Second"));
   EXPECT_THAT(Read("plot.svg"), HasSubstr("viewBox=\"0 0 794 1123\""));
   EXPECT_THAT(Read("plot.svg"), HasSubstr("width=\"210"));
+}
+
+/// The texts of an SVG file in their order, each with the rectangles that it is clipped to; a note of what is
+/// wrong with the file.
+std::string ClippedTexts(const std::string& svg) {
+  QXmlStreamReader reader(QString::fromStdString(svg));
+  std::map<QString, std::string> clips;
+  QString defining;
+  std::vector<QString> groups;
+  std::string found;
+  while (!reader.atEnd()) {
+    reader.readNext();
+    const QXmlStreamAttributes with = reader.attributes();
+    if (reader.isEndElement()) {
+      groups.pop_back();
+    } else if (reader.isStartElement()) {
+      groups.push_back(with.value("clip-path").toString());
+      if (reader.name() == QStringLiteral("clipPath")) {
+        defining = QStringLiteral("url(#%1)").arg(with.value("id"));
+      } else if (reader.name() == QStringLiteral("rect") && !defining.isEmpty() &&
+                 clips.count(defining) == 0) {
+        for (const char* name : {"x", "y", "width", "height"}) {
+          clips[defining] += " " + with.value(QLatin1String(name)).toString().toStdString();
+        }
+      } else if (reader.name() == QStringLiteral("text")) {
+        found += reader.readElementText().trimmed().toStdString() + ":";
+        groups.pop_back();
+        for (const QString& group : groups) found += group.isEmpty() ? "" : clips[group];
+        found += "; ";
+      }
+    }
+  }
+  return found + reader.errorString().toStdString();
+}
+
+TEST_F(Printing, Svg_IsClippedAsItIsDrawn) {
+  const CString path = Wide("plot.svg");
+  CPrinterDC dc(PrintOutput::svg, path, {210.0, 297.0, 96});
+  ASSERT_TRUE(dc.StartDoc(L"Cut & <fill>"));
+  ASSERT_TRUE(dc.StartPage());
+  dc.TextOut(10, 10, L"whole", -1);
+  const CRect part(50, 60, 250, 160);
+  const int saved = dc.SaveDC();
+  dc.SelectClipRect(&part);
+  dc.TextOut(60, 100, L"a < b & c", -1);
+  dc.LineTo(900, 900);
+  dc.TextOut(60, 120, L"too", -1);
+  dc.RestoreDC(saved);
+  dc.TextOut(60, 300, L"after", -1);
+  EXPECT_TRUE(dc.EndDoc());
+  EXPECT_EQ(ClippedTexts(Read("plot.svg")), "whole:; a < b & c: 50 60 200 100; too: 50 60 200 100; after:; ");
+  EXPECT_THAT(Read("plot.svg"), HasSubstr("<title>Cut &amp; &lt;fill&gt;</title>"));
 }
 
 TEST_F(Printing, Failures_AreReported) {
