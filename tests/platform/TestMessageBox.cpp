@@ -1,20 +1,21 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QMenu>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
 #include <QTimer>
-#include <algorithm>
-#include <functional>
+#include <string>
+#include <vector>
 
 #include "platform/CMenu.h"
 #include "platform/MessageBox.h"
 #include "tests/support/ControlHost.h"
+#include "tests/support/ShownWindow.h"
 
 namespace {
 
@@ -22,82 +23,56 @@ using coregui::MessageBoxParams;
 using coregui::ShowMessageBox;
 using namespace coregui::test;
 
-/// Does something with the box once it is shown.
-template <class Widget>
-void WhenShown(std::function<void(Widget&)> act) {
-  QTimer::singleShot(0, [act = std::move(act)] {
-    QWidget* shown = QApplication::activeModalWidget();
-    if (shown == nullptr) shown = QApplication::activePopupWidget();
-    auto* widget = qobject_cast<Widget*>(shown);
-    ASSERT_NE(widget, nullptr);
-    act(*widget);
-  });
-}
-
-/// From left to right.
-QList<QAbstractButton*> ButtonsOf(const QMessageBox& box) {
-  QList<QAbstractButton*> buttons = box.buttons();
-  std::sort(buttons.begin(), buttons.end(), [](const auto* a, const auto* b) { return a->x() < b->x(); });
-  return buttons;
-}
-
-std::string Buttons(const QMessageBox& box) {
-  std::string texts;
-  for (const QAbstractButton* button : ButtonsOf(box))
-    texts += button->text().remove('&').toStdString() + " ";
-  return texts;
-}
-
 TEST(MessageBox, ShowsItsStyleAndAnswersTheWellKnownNumbers) {
+  using Texts = std::vector<std::string>;
   struct Row {
     UINT style;
-    const char* buttons;
+    Texts buttons;
+    const char* icon;
     int first;
-    int escape;  ///< 0: Esc does nothing
-    int last;
-    QMessageBox::Icon icon;
+    int escape;  ///< 0: neither Esc nor closing does anything
   };
-  constexpr Row rows[] = {
-      {MB_OK | MB_ICONSTOP, "OK ", IDOK, IDOK, IDOK, QMessageBox::Critical},
-      {MB_OKCANCEL | MB_ICONWARNING, "OK Cancel ", IDOK, IDCANCEL, IDCANCEL, QMessageBox::Warning},
-      {MB_ABORTRETRYIGNORE, "Abort Retry Ignore ", IDABORT, 0, IDIGNORE, QMessageBox::NoIcon},
-      {MB_YESNOCANCEL | MB_ICONQUESTION, "Yes No Cancel ", IDYES, IDCANCEL, IDCANCEL, QMessageBox::Question},
-      {MB_YESNO | MB_ICONINFORMATION, "Yes No ", IDYES, 0, IDNO, QMessageBox::Information},
-      {MB_YESNOCANCEL | MB_DEFBUTTON2, "Yes No Cancel ", IDNO, IDCANCEL, IDCANCEL, QMessageBox::NoIcon},
-      {MB_RETRYCANCEL, "Retry Cancel ", IDRETRY, IDCANCEL, IDCANCEL, QMessageBox::NoIcon}};
+  const Row rows[] = {
+      {MB_OK | MB_ICONSTOP, {"OK"}, "stop", IDOK, IDOK},
+      {MB_OKCANCEL | MB_ICONWARNING, {"OK", "Cancel"}, "warning", IDOK, IDCANCEL},
+      {MB_ABORTRETRYIGNORE, {"Abort", "Retry", "Ignore"}, "none", IDABORT, 0},
+      {MB_YESNOCANCEL | MB_ICONQUESTION, {"Yes", "No", "Cancel"}, "question", IDYES, IDCANCEL},
+      {MB_YESNO | MB_ICONINFORMATION, {"Yes", "No"}, "information", IDYES, 0},
+      {MB_YESNOCANCEL | MB_DEFBUTTON2, {"Yes", "No", "Cancel"}, "none", IDNO, IDCANCEL},
+      {MB_RETRYCANCEL, {"Retry", "Cancel"}, "none", IDRETRY, IDCANCEL}};
+  MessageBoxParams params;
+  params.caption = L"Caption";
+  params.text = L"100% <b>sure</b>?";
   for (const Row& row : rows) {
-    MessageBoxParams params;
-    params.text = L"100% <b>sure</b>?";
-    params.caption = L"Caption";
+    SCOPED_TRACE(row.style);
     params.style = row.style;
-    WhenShown<QMessageBox>([&](QMessageBox& box) {
-      EXPECT_EQ(Buttons(box), row.buttons);
-      EXPECT_EQ(box.icon(), row.icon);
-      EXPECT_EQ(box.windowTitle(), "Caption");
-      EXPECT_EQ(box.textFormat(), Qt::PlainText);
-      QTest::keyClick(&box, Qt::Key_Return);
+    {
+      const NextWindow next([&](ShownWindow& box) {
+        EXPECT_EQ(box.Buttons(), row.buttons);
+        EXPECT_EQ(box.Icon(), row.icon);
+        EXPECT_EQ(box.Title(), "Caption");
+        EXPECT_EQ(static_cast<QMessageBox*>(QApplication::activeModalWidget())->textFormat(), Qt::PlainText);
+        box.Key(VK_RETURN);
+      });
+      EXPECT_EQ(ShowMessageBox(params), row.first);
+    }
+    const NextWindow next([&](ShownWindow& box) {
+      box.Key(VK_ESCAPE);
+      if (row.escape != 0) return;
+      box.Close();
+      EXPECT_TRUE(box.IsOpen());
+      box.Click(row.buttons[1]);
     });
-    EXPECT_EQ(ShowMessageBox(params), row.first) << row.style;
-    WhenShown<QMessageBox>([&](QMessageBox& box) {
-      QTest::keyClick(&box, Qt::Key_Escape);
-      if (row.escape == 0) {
-        EXPECT_TRUE(box.isVisible()) << row.style;
-        box.close();
-        EXPECT_TRUE(box.isVisible()) << row.style;
-        ButtonsOf(box).last()->click();
-      }
-    });
-    const int answer = ShowMessageBox(params);
-    EXPECT_EQ(answer, row.escape != 0 ? row.escape : row.last) << row.style;
+    EXPECT_EQ(ShowMessageBox(params), row.escape != 0 ? row.escape : row.first + 1);
   }
 }
 
 TEST(MessageBox, AtMostFourButtonsOfTheCallers) {
   MessageBoxParams params;
   for (UINT i = 0; i < 6; ++i) params.buttons.push_back({100 + i, CString::Formatted(L"B%u", i)});
-  WhenShown<QMessageBox>([](QMessageBox& box) {
-    EXPECT_EQ(Buttons(box), "B0 B1 B2 B3 ");
-    ButtonsOf(box)[2]->click();
+  const NextWindow next([](ShownWindow& box) {
+    EXPECT_EQ(box.Buttons(), (std::vector<std::string>{"B0", "B1", "B2", "B3"}));
+    box.Click("B2");
   });
   EXPECT_EQ(ShowMessageBox(params), 102);
 }
@@ -108,17 +83,16 @@ TEST(MessageBox, ALongTextIsScrolledAndLeavesTheButtonsOnTheScreen) {
   for (const int lines : {3, 400}) {
     params.text = L"First";
     for (int i = 0; i < lines; ++i) params.text.AppendFormat(L"\nRow %d is not a number", i);
-    WhenShown<QMessageBox>([&](QMessageBox& box) {
+    const NextWindow next([&](ShownWindow& shown) {
+      const auto& box = static_cast<QMessageBox&>(*QApplication::activeModalWidget());
       EXPECT_LE(box.height(), box.screen()->availableSize().height());
-      EXPECT_EQ(box.text().count('\n'), lines);
       for (const QAbstractButton* button : box.buttons()) {
-        const QRect place(button->mapTo(&box, QPoint()), button->size());
-        EXPECT_TRUE(box.rect().contains(place));
+        EXPECT_TRUE(box.rect().contains(QRect(button->mapTo(&box, QPoint()), button->size())));
       }
       const auto* area = box.findChild<QScrollArea*>();
       const int scrolls = area == nullptr ? 0 : area->verticalScrollBar()->maximum();
       EXPECT_EQ(scrolls > 1000, lines > 3) << scrolls;
-      ButtonsOf(box).last()->click();
+      shown.Click("No");
     });
     EXPECT_EQ(ShowMessageBox(params), IDNO);
   }
@@ -134,7 +108,8 @@ TEST(Menu, AnswersTheChosenCommand) {
   CMenu* below = menu.AppendSubMenu(L"More");
   below->AppendMenu(MF_STRING | MF_CHECKED, 12, L"Deep");
   const auto choose = [](int downs) {
-    WhenShown<QMenu>([downs](QMenu& shown) {
+    QTimer::singleShot(0, [downs] {
+      auto& shown = static_cast<QMenu&>(*QApplication::activePopupWidget());
       EXPECT_TRUE(shown.actions()[1]->isSeparator());
       EXPECT_FALSE(shown.actions()[2]->isEnabled());
       EXPECT_TRUE(shown.actions()[3]->menu()->actions()[0]->isChecked());

@@ -132,6 +132,10 @@ void ShownWindow::Choose(const std::string& path) {
   Send(m_widget, Qt::Key_Return);
 }
 
+void ShownWindow::Close() {
+  m_widget.close();
+}
+
 bool ShownWindow::IsOpen() const {
   return m_widget.isVisible();
 }

@@ -43,6 +43,8 @@ class ShownWindow {
   void Type(const std::string& text);
   /// In a file or folder dialog: enters a path and accepts it.
   void Choose(const std::string& path);
+  /// Presses the frame's cross.
+  void Close();
   bool IsOpen() const;
   /// In a file or folder dialog: the folder shown, and whether a folder can be made.
   std::string Folder() const;
