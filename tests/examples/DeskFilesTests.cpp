@@ -3,66 +3,37 @@
 
 #include <clocale>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
+#include <regex>
 
 #include "DeskApp.h"
 #include "DeskMemory.h"
-#include "DeskWindow.h"
-#include "tests/support/Hand.h"
+#include "tests/examples/DeskTest.h"
 #include "tests/support/LogWatch.h"
 #include "tests/support/ShownWindow.h"
-#include "tests/support/TestEnvironment.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 using namespace coregui::test;
 
-constexpr char kSurvey[] = "Chainage,Ground level,Design level\n0,100,101\n10,102,101\n20,101,101\n";
-
-class DeskFiles : public testing::Test {
+class DeskFiles : public DeskTest {
  protected:
-  DeskFiles() {
-    fs::create_directories(folder);
-    EXPECT_TRUE(window.CreateDesk(CSize(1000, 700)));
-  }
-  ~DeskFiles() override {
-    window.SendMessage(WM_CLOSE);
-    EXPECT_FALSE(window.HasWindow());
-    fs::remove_all(folder);
-  }
-
-  std::wstring Write(const std::string& name, const std::string& bytes = kSurvey) const {
-    std::ofstream(folder / name, std::ios::binary) << bytes;
-    return CString::FromUtf8((folder / name).string()).Str();
-  }
-  std::string Read(const std::string& name) const {
-    std::ostringstream bytes;
-    bytes << std::ifstream(folder / name, std::ios::binary).rdbuf();
-    return bytes.str();
-  }
-  bool Has(const std::string& name) const { return fs::exists(folder / name); }
-
-  fs::path folder = fs::path(ScratchFolder()) / "deskfiles";
-  desk::DeskWindow window;
+  /// What a lock of our own holds.
+  const std::string own = "tester," + CString::Formatted(L"%X", GetMachineSerial()).ToUtf8() + "\n";
 };
 
 TEST_F(DeskFiles, TheLockGoesWithTheSurveyThatIsOpen) {
-  const std::wstring a = Write("a.csv");
-  const std::wstring b = Write("b.csv");
-  const std::string own = "tester," + CString::Formatted(L"%X", GetMachineSerial()).ToUtf8() + "\n";
-  ASSERT_TRUE(window.Open(a));
-  EXPECT_EQ(Read("a.lck"), own);
-  ASSERT_TRUE(window.Open(a));
-  EXPECT_EQ(Read("a.lck"), own);
-  ASSERT_TRUE(window.Open(b));
+  for (int i = 0; i < 2; ++i) {
+    ASSERT_TRUE(Open("a.csv"));
+    EXPECT_EQ(Read("a.lck"), own);
+  }
+  ASSERT_TRUE(Open("b.csv"));
   EXPECT_FALSE(Has("a.lck"));
   EXPECT_EQ(window.StateText(), L"locked for you");
+  Write("empty.csv", "");
   for (const char* bad : {"missing.csv", "empty.csv"}) {
-    Write("empty.csv", "");
     const NextWindow box([](ShownWindow& told) { told.Click("OK"); });
-    EXPECT_FALSE(window.Open((folder / bad).wstring()));
+    EXPECT_FALSE(window.Open(Path(bad)));
   }
   EXPECT_FALSE(Has("missing.lck") || Has("empty.lck"));
   EXPECT_TRUE(Has("b.lck"));
@@ -71,66 +42,57 @@ TEST_F(DeskFiles, TheLockGoesWithTheSurveyThatIsOpen) {
 }
 
 TEST_F(DeskFiles, WhatSomebodyElseHoldsIsOpenedForLookingOnly) {
-  const std::wstring path = Write("a.csv");
   Write("a.lck", "mary,1\n");
   {
     const NextWindow box([&](ShownWindow& told) {
-      EXPECT_EQ(told.Text(),
-                "Data file " + CString(path).ToUtf8() + "\nis marked as read-only.\nIn use by mary");
+      EXPECT_EQ(told.Text(), "Data file " + At("a.csv") + "\nis marked as read-only.\nIn use by mary");
       told.Click("OK");
     });
-    ASSERT_TRUE(window.Open(path));
+    ASSERT_TRUE(Open("a.csv"));
   }
   EXPECT_EQ(window.StateText(), L"read-only: in use by mary");
   EXPECT_EQ(window.GetWindowTextString(), L"a.csv (3 rows, read-only) - Long-section desk");
   // It is ours once she has let it go and it is read again.
-  fs::remove(folder / "a.lck");
-  ASSERT_TRUE(window.Open(path));
+  fs::remove(At("a.lck"));
+  ASSERT_TRUE(Open("a.csv"));
   EXPECT_EQ(window.StateText(), L"locked for you");
   // Somebody who took the lock away from us keeps it.
   Write("a.lck", "joe,2\n");
   {
     const NextWindow box([](ShownWindow& told) { told.Click("OK"); });
-    ASSERT_TRUE(window.Open(path));
+    ASSERT_TRUE(Open("a.csv"));
   }
   EXPECT_EQ(window.StateText(), L"read-only: in use by joe");
-  EXPECT_TRUE(window.Open(Write("b.csv")));
+  EXPECT_TRUE(Open("b.csv"));
   EXPECT_EQ(Read("a.lck"), "joe,2\n");
 }
 
 TEST_F(DeskFiles, ALockThatCannotBeMadeOrTakenIsNoObstacle) {
-  const std::wstring path = Write("a.csv");
-  fs::create_symlink(folder / "nowhere" / "x", folder / "a.lck");  // cannot be created, even by root
+  fs::create_symlink(At("nowhere/x"), At("a.lck"));  // cannot be created, even by root
   ExpectLog(L"... Unable to create lock file");
-  ASSERT_TRUE(window.Open(path));
+  ASSERT_TRUE(Open("a.csv"));
   EXPECT_EQ(window.StateText(), L"read-only: no lock can be made here");
   // A lock file read as a table is not its own lock, which closing it would delete.
-  const std::string own = "tester," + CString::Formatted(L"%X", GetMachineSerial()).ToUtf8() + "\n";
-  ASSERT_TRUE(window.Open(Write("c.lck", own)));
-  ASSERT_TRUE(window.Open(Write("b.csv")));
+  ASSERT_TRUE(Open("c.lck", own));
+  ASSERT_TRUE(Open("b.csv"));
   EXPECT_EQ(Read("c.lck"), own);
   // Of a longer path than a lock can have, another one's would be taken.
   const std::string deep = std::string(150, 'd') + "/" + std::string(150, 'd');
-  fs::create_directories(folder / deep);
-  ASSERT_TRUE(window.Open(Write(deep + "/a.csv")));
+  fs::create_directories(At(deep));
+  ASSERT_TRUE(Open(deep + "/a.csv"));
   EXPECT_EQ(window.StateText(), L"read-only: no lock can be made here");
 }
 
 TEST_F(DeskFiles, EscAndTheCloseButtonStopTheReading) {
-  std::string road = "Chainage,Level\n";
-  for (int i = 0; i < 100000; ++i) {
-    road += std::to_string(i) + ",1.5\n";
-  }
-  const std::wstring path = Write("a.csv", road);
   // Delivered when the reading lets the windows live.
   window.PostMessage(WM_KEYDOWN, VK_ESCAPE);
-  ASSERT_TRUE(window.Open(path));
+  ASSERT_TRUE(Open("a.csv", Road(100000)));
   EXPECT_TRUE(window.Report().cutShort);
   EXPECT_LT(window.Grid().GetNumberRows(), 100000);
   // What was read has its section all the same.
   EXPECT_EQ(window.Data().rows.size(), static_cast<std::size_t>(window.Grid().GetNumberRows()));
   window.PostMessage(WM_CLOSE);
-  EXPECT_FALSE(window.Open(path));
+  EXPECT_FALSE(window.Open(Path("a.csv")));
   EXPECT_TRUE(window.HasWindow());
   CWinApp::PumpPending();
   EXPECT_FALSE(window.HasWindow());
@@ -142,7 +104,7 @@ TEST_F(DeskFiles, TheCloseButtonEndsADeskThatSorts) {
   for (int i = 0; i < 60000; ++i) {
     road += std::to_string(i) + ",1.5," + std::to_string(i * 7919 % 60013) + "p\n";
   }
-  ASSERT_TRUE(window.Open(Write("a.csv", road)));
+  ASSERT_TRUE(Open("a.csv", road));
   window.PostMessage(WM_CLOSE);
   window.Sort(2, false);
   EXPECT_TRUE(window.HasWindow());  // no one pulls the window away from under its own sort
@@ -154,9 +116,7 @@ TEST_F(DeskFiles, TheCloseButtonEndsADeskThatSorts) {
 TEST_F(DeskFiles, NamesMayHaveAnyLettersInAnyLocale) {
   const std::string before = std::setlocale(LC_ALL, nullptr);
   std::setlocale(LC_ALL, "C");
-  Write("L\xC3\xA4ngsschnitt \xE8\xB7\xAF & 100%.csv");
-  EXPECT_TRUE(window.Open(
-      CString::FromUtf8((folder / "L\xC3\xA4ngsschnitt \xE8\xB7\xAF & 100%.csv").string()).Str()));
+  EXPECT_TRUE(Open("L\xC3\xA4ngsschnitt \xE8\xB7\xAF & 100%.csv"));
   EXPECT_TRUE(Has("L\xC3\xA4ngsschnitt \xE8\xB7\xAF & 100%.lck"));
   EXPECT_EQ(window.GetWindowTextString(),
             L"L\u00E4ngsschnitt \u8DEF & 100%.csv (3 rows) - Long-section desk");
@@ -167,12 +127,12 @@ TEST_F(DeskFiles, AnUnattendedDeskShowsNoBoxAndLeavesNothingBehind) {
   const NoWindow none;
   window.SetUnattended();
   Write("a.lck", "mary,1\n");
-  EXPECT_TRUE(window.Open(Write("a.csv")));
+  EXPECT_TRUE(Open("a.csv"));
   EXPECT_EQ(window.StateText(), L"read-only: in use by mary");
-  EXPECT_TRUE(window.Open(Write("b.csv")));
+  EXPECT_TRUE(Open("b.csv"));
   EXPECT_FALSE(Has("b.lck"));
   ExpectLog(L"The file does not exist.");
-  EXPECT_FALSE(window.Open((folder / "missing.csv").wstring()));
+  EXPECT_FALSE(window.Open(Path("missing.csv")));
   window.Find(L"not there");
   window.SendMessage(WM_CLOSE);
   EXPECT_TRUE(desk::RecallSurveys().empty());
@@ -180,7 +140,7 @@ TEST_F(DeskFiles, AnUnattendedDeskShowsNoBoxAndLeavesNothingBehind) {
 }
 
 TEST_F(DeskFiles, ACopyIsMadeUnlessSomebodyHoldsItsPlace) {
-  ASSERT_TRUE(window.Open(Write("a.csv")));
+  ASSERT_TRUE(Open("a.csv"));
   {
     const NextWindow progress([](ShownWindow& shown) {
       EXPECT_THAT(
@@ -189,7 +149,7 @@ TEST_F(DeskFiles, ACopyIsMadeUnlessSomebodyHoldsItsPlace) {
       shown.Window()->SendMessage(WM_TIMER, CFileCopyProgressDlg::kStartTimer);
       shown.Window()->SendMessage(WM_TIMER, CFileCopyProgressDlg::kCloseTimer);
     });
-    EXPECT_TRUE(window.SaveCopy((folder / "copy.csv").wstring()));
+    EXPECT_TRUE(window.SaveCopy(Path("copy.csv")));
   }
   EXPECT_EQ(Read("copy.csv"), kSurvey);
   Write("copy.csv", "hers");
@@ -198,54 +158,44 @@ TEST_F(DeskFiles, ACopyIsMadeUnlessSomebodyHoldsItsPlace) {
     EXPECT_THAT(told.Text(), testing::HasSubstr("in use by mary"));
     told.Click("OK");
   });
-  EXPECT_FALSE(window.SaveCopy((folder / "copy.csv").wstring()));
+  EXPECT_FALSE(window.SaveCopy(Path("copy.csv")));
   EXPECT_EQ(Read("copy.csv"), "hers");
 }
 
 TEST_F(DeskFiles, PrintsOnePageOrToScaleOnSeveral) {
-  std::string road = "Chainage,Ground level,Design level\n";
-  for (int i = 0; i <= 400; ++i) {
-    road += std::to_string(i) + "," + std::to_string(100 + i % 7) + ",101\n";
-  }
-  ASSERT_TRUE(window.Open(Write("a.csv", road)));
+  ASSERT_TRUE(Open("a.csv", Road(401)));
   const auto pages = [this](const char* name) {
     const std::string bytes = Read(name);
-    int count = 0;
-    for (auto at = bytes.find("/Type /Page\n"); at != std::string::npos;
-         at = bytes.find("/Type /Page\n", at + 1)) {
-      ++count;
-    }
-    return count;
+    const std::regex page("/Type /Page\n");
+    return std::distance(std::sregex_iterator(bytes.begin(), bytes.end(), page), std::sregex_iterator());
   };
-  ASSERT_TRUE(window.PrintToPdf((folder / "one.pdf").wstring()));
+  ASSERT_TRUE(window.PrintToPdf(Path("one.pdf")));
   EXPECT_EQ(pages("one.pdf"), 1);
   desk::PrintChoice choice;
   choice.toScale = true;
   // A3 shows some 370 mm of the road, which is 185 m at 1:500, and repeats 10 mm of it.
   EXPECT_EQ(window.Section().CountSheets(choice), 3);
   const CRect margins = window.Section().GetMapping().margins;
-  ASSERT_TRUE(window.PrintToPdf((folder / "scale.pdf").wstring(), choice));
+  ASSERT_TRUE(window.PrintToPdf(Path("scale.pdf"), choice));
   EXPECT_EQ(pages("scale.pdf"), 3);
   EXPECT_EQ(window.Section().GetMapping().margins, margins);
   choice.horizontal = 1.0;
   choice.vertical = 0.5;
   choice.paper = 0;
   EXPECT_EQ(window.Section().CountSheets(choice), 0);  // above ten thousand
-  EXPECT_FALSE(window.PrintToPdf((folder / "none.pdf").wstring(), choice));
+  EXPECT_FALSE(window.PrintToPdf(Path("none.pdf"), choice));
   EXPECT_FALSE(Has("none.pdf"));
-  EXPECT_FALSE(window.PrintToPdf((folder / "no folder" / "a.pdf").wstring()));
+  EXPECT_FALSE(window.PrintToPdf(Path("no folder/a.pdf")));
 }
 
 TEST_F(DeskFiles, RemembersSurveysSharesAndPlace) {
-  for (int i = 0; i < 11; ++i) {
-    ASSERT_TRUE(window.Open(Write("s" + std::to_string(i) + ".csv")));
-  }
-  ASSERT_TRUE(window.Open((folder / "s5.csv").wstring()));
+  for (int i = 0; i < 11; ++i) ASSERT_TRUE(Open("s" + std::to_string(i) + ".csv"));
+  ASSERT_TRUE(window.Open(Path("s5.csv")));
   const std::vector<std::wstring> surveys = desk::RecallSurveys();
   ASSERT_EQ(surveys.size(), 9U);
-  EXPECT_EQ(surveys[0], (folder / "s5.csv").wstring());
-  EXPECT_EQ(surveys[1], (folder / "s10.csv").wstring());
-  EXPECT_EQ(surveys[8], (folder / "s2.csv").wstring());
+  EXPECT_EQ(surveys[0], Path("s5.csv"));
+  EXPECT_EQ(surveys[1], Path("s10.csv"));
+  EXPECT_EQ(surveys[8], Path("s2.csv"));
   desk::ForgetSurvey(surveys[1]);
   EXPECT_EQ(desk::RecallSurveys().size(), 8U);
   EXPECT_EQ(desk::RecallSurveys()[1], surveys[2]);

@@ -1,14 +1,10 @@
-#include "DeskWindow.h"
-
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
-#include <fstream>
 
 #include "PrintDialog.h"
+#include "tests/examples/DeskTest.h"
 #include "tests/support/Hand.h"
 #include "tests/support/ShownWindow.h"
 
@@ -22,33 +18,10 @@ class ShownFrame : public CWnd {
   ~ShownFrame() override { DestroyWindow(); }
 };
 
-class Desk : public testing::Test {
- protected:
-  Desk() : folder(std::filesystem::temp_directory_path() / ("deskwindow" + std::to_string(::getpid()))) {
-    std::filesystem::create_directories(folder);
-    EXPECT_TRUE(window.CreateDesk(CSize(1000, 700)));
-  }
-  ~Desk() override {
-    window.DestroyWindow();
-    std::filesystem::remove_all(folder);
-  }
-
-  std::wstring Write(const std::string& name, const std::string& bytes) {
-    std::ofstream(folder / name, std::ios::binary) << bytes;
-    return (folder / name).wstring();
-  }
-  CString Text(int col, long row) {
-    CString text;
-    window.Grid().QuickGetText(col, row, &text);
-    return text;
-  }
-
-  std::filesystem::path folder;
-  desk::DeskWindow window;
-};
+using Desk = DeskTest;
 
 TEST_F(Desk, ShowsATableWithItsOwnDecimalsAndHeadings) {
-  ASSERT_TRUE(window.Open(Write("a.csv", "Chainage,Level,Remark\n0,101.50,nail\n1200.5,99.25,\n")));
+  ASSERT_TRUE(Open("a.csv", "Chainage,Level,Remark\n0,101.50,nail\n1200.5,99.25,\n"));
   EXPECT_EQ(window.Grid().GetNumberRows(), 2);
   EXPECT_EQ(Text(1, -1), L"Level");
   EXPECT_EQ(Text(0, 1), L"1,200.5");
@@ -60,7 +33,7 @@ TEST_F(Desk, ShowsATableWithItsOwnDecimalsAndHeadings) {
 }
 
 TEST_F(Desk, TipsShowTheTextsThatAreCutOff) {
-  ASSERT_TRUE(window.Open(Write("a.csv", "Chainage,Remark\n0,a nail in the kerb opposite the church\n5,\n")));
+  ASSERT_TRUE(Open("a.csv", "Chainage,Remark\n0,a nail in the kerb opposite the church\n5,\n"));
   const auto tip = [this](int col, long row) {
     CString text;
     const int shown =
@@ -78,30 +51,26 @@ TEST_F(Desk, TipsShowTheTextsThatAreCutOff) {
 }
 
 TEST_F(Desk, KeepsItsTableWhenAnotherFileCannotBeRead) {
-  ASSERT_TRUE(window.Open(Write("a.csv", "Chainage,Level\n0,101.50\n")));
+  ASSERT_TRUE(Open("a.csv", "Chainage,Level\n0,101.50\n"));
   const NextWindow box([](ShownWindow& told) {
     EXPECT_EQ(told.Title(), "Error");
     EXPECT_NE(told.Text().find("empty.csv: The file is empty."), std::string::npos);
     told.Click("OK");
   });
-  EXPECT_FALSE(window.Open(Write("empty.csv", "")));
+  EXPECT_FALSE(Open("empty.csv", ""));
   EXPECT_EQ(Text(1, 0), L"101.50");
   EXPECT_NE(window.StatusText().find(L"The file is empty."), std::wstring::npos);
   EXPECT_EQ(window.GetWindowTextString(), L"empty.csv (not read) - Long-section desk");
 }
 
 TEST_F(Desk, ATextTableHasNoSection) {
-  ASSERT_TRUE(window.Open(Write("words.csv", "a,b\nx,y\n")));
+  ASSERT_TRUE(Open("words.csv", "a,b\nx,y\n"));
   EXPECT_FALSE(window.Section().HasData());
-  EXPECT_FALSE(window.PrintToPdf((folder / "none.pdf").wstring()));
+  EXPECT_FALSE(window.PrintToPdf(Path("none.pdf")));
 }
 
 TEST_F(Desk, TheWheelAndTheMiddleButtonOverTheDifferenceMoveTheSection) {
-  std::string road = "Chainage,Ground level,Design level\n";
-  for (int i = 0; i <= 100; ++i) {
-    road += std::to_string(10 * i) + "," + std::to_string(100 + i % 9) + ",101\n";
-  }
-  ASSERT_TRUE(window.Open(Write("a.csv", road)));
+  ASSERT_TRUE(Open("a.csv", Road(101, 10)));
   desk::DifferenceView& slave = window.Difference();
   const CPoint at(slave.GetClientRectangle().Width() / 3, 10);
   POINT screen = at;
@@ -126,7 +95,7 @@ TEST_F(Desk, TheWheelAndTheMiddleButtonOverTheDifferenceMoveTheSection) {
 }
 
 TEST_F(Desk, TheTableAndTheSectionFollowEachOther) {
-  ASSERT_TRUE(window.Open(Write("a.csv", "Level,Chainage\n103,30\n101,10\n102,20\n104,\n")));
+  ASSERT_TRUE(Open("a.csv", "Level,Chainage\n103,30\n101,10\n102,20\n104,\n"));
   window.Grid().GotoRow(2);
   window.Grid().GotoRow(0);
   EXPECT_EQ(window.StatusText(), L"Station 0+030.000   ground 103.000");
@@ -150,8 +119,7 @@ TEST_F(Desk, TheTableAndTheSectionFollowEachOther) {
 }
 
 TEST_F(Desk, FindsInEveryColumnAndSaysWhenThereIsNothing) {
-  ASSERT_TRUE(
-      window.Open(Write("a.csv", "Chainage,Level,Remark\n0,101.50,nail\n1200.5,99.25,Kerb\n2,101.5,kerb\n")));
+  ASSERT_TRUE(Open("a.csv", "Chainage,Level,Remark\n0,101.50,nail\n1200.5,99.25,Kerb\n2,101.5,kerb\n"));
   const auto at = [this] { return std::pair(window.Grid().GetCurrentCol(), window.Grid().GetCurrentRow()); };
   window.Grid().GotoCell(0, 0);
   window.Find(L"kerb");
@@ -175,7 +143,7 @@ TEST_F(Desk, FindsInEveryColumnAndSaysWhenThereIsNothing) {
 }
 
 TEST_F(Desk, TheFindDialogSearchesBesideTheTable) {
-  ASSERT_TRUE(window.Open(Write("a.csv", "Chainage,Remark\n0,nail\n1,Kerb\n2,kerb\n")));
+  ASSERT_TRUE(Open("a.csv", "Chainage,Remark\n0,nail\n1,Kerb\n2,kerb\n"));
   window.ShowWindow(SW_SHOW);
   {
     const NextWindow find([](ShownWindow& dialog) {
@@ -195,17 +163,13 @@ TEST_F(Desk, TheFindDialogSearchesBesideTheTable) {
 }
 
 TEST_F(Desk, TheFindDialogStandsBesideTheCellThatItFound) {
-  std::string rows = "Chainage,Level,Remark\n";
-  for (int i = 0; i < 200; ++i) {
-    rows += std::to_string(i) + ",101.5,nail\n";
-  }
-  ASSERT_TRUE(window.Open(Write("a.csv", rows)));
+  ASSERT_TRUE(Open("a.csv", Road(200)));
   window.ShowWindow(SW_SHOW);
   window.MoveWindow(0, 0, 420, 500);
   const NextWindow find([this](ShownWindow& shown) {
     for (const auto& [row, y] : {std::pair(0L, 40), {12L, 90}, {199L, 400}}) {
       shown.Window()->MoveWindow(20, y, 300, 150);
-      window.Find(CString::Formatted(L"%ld.000", row));
+      window.Find(CString::Formatted(L"%ld", row));
       CRect cell;
       CRect dialog;
       ASSERT_EQ(window.Grid().GetCellRect(0, window.Grid().GetCurrentRow(), &cell), 0);
@@ -288,7 +252,7 @@ TEST(PrintDialog, ShowsAtOnceHowManySheetsAChoiceTakes) {
 }
 
 TEST_F(Desk, AZoomedSectionKeepsItsPlaceWhenTheWindowIsSized) {
-  ASSERT_TRUE(window.Open(Write("a.csv", "Chainage,Level\n0,100\n500,110\n1000,102\n")));
+  ASSERT_TRUE(Open("a.csv", "Chainage,Level\n0,100\n500,110\n1000,102\n"));
   desk::SectionView& section = window.Section();
   const auto middle = [&section] {
     return section.WindowToUser(desk::MiddleOf(section.GetClientRectangle()));
@@ -305,12 +269,12 @@ TEST_F(Desk, AZoomedSectionKeepsItsPlaceWhenTheWindowIsSized) {
   EXPECT_FALSE(section.Look(true));
   EXPECT_GT(section.GetScale(), scale);
   section.ZoomAt(section.OnLine(section.GetClientRectangle().Width() / 2), 4.0);
-  ASSERT_TRUE(window.Open(Write("b.csv", "Chainage,Level\n0,100\n500,110\n1000,102\n")));
+  ASSERT_TRUE(Open("b.csv", "Chainage,Level\n0,100\n500,110\n1000,102\n"));
   EXPECT_EQ(section.GetScale(), section.GetMapping().now.fitScale);
 }
 
 TEST_F(Desk, AnyExaggerationCanBeTyped) {
-  ASSERT_TRUE(window.Open(Write("a.csv", "Chainage,Level\n0,101.50\n100,102\n")));
+  ASSERT_TRUE(Open("a.csv", "Chainage,Level\n0,101.50\n100,102\n"));
   window.ShowWindow(SW_SHOW);
   const NextWindow box([](ShownWindow& dialog) {
     EXPECT_EQ(dialog.Title(), "Long-section");
@@ -322,7 +286,7 @@ TEST_F(Desk, AnyExaggerationCanBeTyped) {
 }
 
 TEST_F(Desk, TheSectionRunsAlongTheChainageWhateverTheOrderOfRows) {
-  ASSERT_TRUE(window.Open(Write("a.csv", "Level,Chainage\n103,30\n101,10\n,20\n104,\n")));
+  ASSERT_TRUE(Open("a.csv", "Level,Chainage\n103,30\n101,10\n,20\n104,\n"));
   const desk::SectionData& data = window.Data();
   EXPECT_EQ(data.rows, std::vector<long>({1, 2, 0}));
   EXPECT_TRUE(std::isnan(data.ground.GetPoints()[1].y));
@@ -349,7 +313,7 @@ TEST_F(Desk, TheSectionGatheredWhileReadingIsThatOfTheTable) {
     }
   }
   std::sort(stations.begin(), stations.end());  // of equal chainages the earlier row first
-  ASSERT_TRUE(window.Open(Write("a.csv", road)));
+  ASSERT_TRUE(Open("a.csv", road));
   const desk::SectionData& data = window.Data();
   ASSERT_EQ(data.rows.size(), stations.size());
   const auto faults = std::count_if(data.rows.begin(), data.rows.end(), [&](const long& row) {

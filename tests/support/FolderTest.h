@@ -27,6 +27,7 @@ class FolderTest : public testing::Test {
     std::ifstream file(At(name), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
   }
+  bool Has(const std::string& name) const { return std::filesystem::exists(At(name)); }
   /// How many files and folders lie in the folder, or in one below it.
   std::size_t Count(const std::string& below = "") const {
     const std::filesystem::directory_iterator first(At(below));
