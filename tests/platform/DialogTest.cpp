@@ -279,7 +279,7 @@ TEST(DialogAndWindowInterop, OurWindowStandsInAForeignLayoutAndGoesWithIt) {
   EXPECT_EQ(CWnd::FromHandle(coregui::HandleOf(host.get())), parent);
   ASSERT_TRUE(inside.OpenIn(*parent, CRect(0, 0, 10, 10)));
   rows->addWidget(WidgetOf(&inside));
-  inside.logsState = true;
+  inside.logs = kStates;
   host->show();
   CWinApp::PumpPending();
   EXPECT_EQ(inside.GetClientRectangle().Width(), WidgetOf(&inside)->width());

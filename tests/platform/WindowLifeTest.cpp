@@ -22,7 +22,7 @@ TEST(WindowWithoutNative, KeepsPlaceFamilyTextAndUpdateRegion) {
   LogWindow parent;
   LogWindow child;
   child.SetParent(&parent);
-  parent.logsState = true;
+  parent.logs = kStates;
   parent.MoveWindow(100, 50, 400, 300);
   child.MoveWindow(10, 20, 30, 40);
   child.SetDlgCtrlID(5);
@@ -60,14 +60,14 @@ TEST(WindowWithoutNative, AParentThatGoesLetsItsChildrenGo) {
 
 TEST(WindowLife, CreationAndDestructionSendTheirMessagesInOrder) {
   LogWindow window;
-  window.logsState = true;
+  window.logs = kStates;
   ASSERT_TRUE(window.Open(CRect(5, 6, 105, 56)));
   EXPECT_EQ(window.TakeLog(), "1 0 0,0;5 0 100,50;3 0 5,6;18 1 0,0;");
   EXPECT_FALSE(window.Open()) << "it exists already";
   const HWND handle = window.GetSafeHwnd();
   EXPECT_EQ(CWnd::FromHandle(handle), &window);
   LogWindow child;
-  child.logsState = true;
+  child.logs = kStates;
   ASSERT_TRUE(child.OpenIn(window, CRect(0, 0, 9, 9)));
   child.TakeLog();
   EXPECT_TRUE(window.DestroyWindow());
@@ -212,7 +212,7 @@ TEST(WindowPlace, WhatThePersonDoesWithTheFrameArrivesAsSizeAndMove) {
   ASSERT_TRUE(window.Open(CRect(10, 10, 110, 60)));
   CWinApp::PumpPending();
   window.TakeLog();
-  window.logsState = true;
+  window.logs = kStates;
   WidgetOf(&window)->setGeometry(20, 30, 200, 90);
   EXPECT_EQ(window.TakeLog(), "3 0 20,30;5 0 200,90;");
   window.MoveWindow(20, 30, 300, 90);
@@ -237,7 +237,7 @@ TEST(WindowPlace, MaximisedMinimisedAndRestoredSayOnceWhichAndHowLarge) {
   ASSERT_TRUE(window.Open(CRect(10, 10, 110, 60)));
   CWinApp::PumpPending();
   window.TakeLog();
-  window.logsState = true;
+  window.logs = kStates;
   window.ShowWindow(SW_SHOWMAXIMIZED);
   CWinApp::PumpPending();
   const CSize large = window.GetClientRectangle().Size();

@@ -439,7 +439,7 @@ TEST(WindowBorder, LiesRoundTheClientAreaUnlessThereIsACaption) {
   ASSERT_TRUE(child.OpenIn(window, CRect(10, 10, 30, 26)));
   LogWindow inner;
   ASSERT_TRUE(inner.OpenIn(child, CRect(0, 0, 4, 4)));
-  child.logsState = true;
+  child.logs = kStates;
   child.ModifyStyle(0, WS_BORDER);
   EXPECT_EQ(child.TakeLog(), "5 0 18,14;");
   EXPECT_EQ(child.GetClientRectangle(), CRect(0, 0, 18, 14));
@@ -454,7 +454,7 @@ TEST(WindowBorder, LiesRoundTheClientAreaUnlessThereIsACaption) {
   EXPECT_EQ(inner.State().look.rect, CRect(0, 0, 4, 4));
   child.MoveWindow(10, 10, 20, 15);
   EXPECT_EQ(child.TakeLog(), "5 0 18,13;");
-  child.logsState = false;
+  child.logs.clear();
   // A click reaches the client area with its own coordinates, and the border not at all.
   QTest::mouseClick(WidgetOf(&child), Qt::LeftButton, Qt::NoModifier, QPoint(6, 1));
   EXPECT_EQ(child.TakeLog(), "201 1 5,0;202 0 5,0;");

@@ -65,7 +65,7 @@ TEST_F(WindowRoad, AHandAndAMessageReachTheSameHandlerWithTheSameArguments) {
 }
 
 TEST_F(WindowRoad, AMoveAsksForTheCursorFirst) {
-  window.logsCursor = true;
+  window.logs = {WM_SETCURSOR};
   QMouseEvent move(QEvent::MouseMove, QPointF(30, 40), Widget()->mapToGlobal(QPointF(30, 40)), Qt::NoButton,
                    Qt::NoButton, Qt::NoModifier);
   QCoreApplication::sendEvent(Widget(), &move);
@@ -155,7 +155,7 @@ TEST_F(WindowRoad, APinchGivesItsFactorAndPlace) {
 }
 
 TEST_F(WindowRoad, TheMenuIsAskedForByTheRightButtonAndByKey) {
-  window.logsMenu = true;
+  window.logs = {WM_CONTEXTMENU};
   window.passes = true;
   const QPoint screen = Widget()->mapToGlobal(QPoint(3, 4));
   QTest::mouseClick(Widget(), Qt::RightButton, Qt::NoModifier, QPoint(3, 4));
