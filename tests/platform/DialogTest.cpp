@@ -76,11 +76,13 @@ TEST(Dialog, ModalRunsUntilItEndsAndGivesTheFocusBack) {
   EXPECT_EQ(dialog.DoModal(), IDOK);
   EXPECT_FALSE(dialog.HasWindow());
   EXPECT_EQ(CWnd::GetFocus(), &owner);
-  dialog.shown = [&] { QTest::keyClick(WidgetOf(&dialog.first), Qt::Key_Escape); };
-  EXPECT_EQ(dialog.DoModal(), IDCANCEL) << "it may run again";
-  EXPECT_EQ(dialog.inits, 2);
-  dialog.shown = [&] { WidgetOf(&dialog)->close(); };
-  EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+  for (const bool byKey : {true, false}) {  // it may run again
+    dialog.shown = [&] {
+      byKey ? QTest::keyClick(WidgetOf(&dialog.first), Qt::Key_Escape) : void(WidgetOf(&dialog)->close());
+    };
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+  }
+  EXPECT_EQ(dialog.inits, 3);
 }
 
 TEST(Dialog, EndsWithItsWindowItsObjectOrTheProgram) {
@@ -172,33 +174,27 @@ TEST(Dialog, TabGoesRoundTheStopsInTheOrderOfCreation) {
   EXPECT_FALSE(dialog.HasWindow());
 }
 
-TEST(Dialog, ItsFrameCannotBeDraggedButCodeSizesIt) {
+TEST(Dialog, ItsFrameCannotBeDraggedButCodeSizesItAndItsPictureIsAsLarge) {
   FormDialog dialog;
   dialog.SetClientSize(CSize(320, 200));
-  ASSERT_TRUE(dialog.CreateModeless());
-  for (const QSize wanted : {QSize(320, 200), QSize(240, 260)}) {
-    dialog.SetClientSize(CSize(wanted.width(), wanted.height()));
-    EXPECT_EQ(WidgetOf(&dialog)->minimumSize(), wanted);
-    EXPECT_EQ(WidgetOf(&dialog)->maximumSize(), wanted);
-    EXPECT_EQ(dialog.GetClientRectangle().Size(), CSize(wanted.width(), wanted.height()));
-  }
-  LogWindow framed;
-  ASSERT_TRUE(framed.Open());
-  EXPECT_GT(WidgetOf(&framed)->maximumWidth(), 10000);
-}
-
-TEST(Dialog, ItsPictureIsAsLargeAsItself) {
-  FormDialog dialog;
-  dialog.SetClientSize(CSize(240, 130));
-  dialog.shown = [] {
+  dialog.shown = [&] {
+    for (const QSize wanted : {QSize(320, 200), QSize(240, 260)}) {
+      dialog.SetClientSize(CSize(wanted.width(), wanted.height()));
+      EXPECT_EQ(WidgetOf(&dialog)->minimumSize(), wanted);
+      EXPECT_EQ(WidgetOf(&dialog)->maximumSize(), wanted);
+      EXPECT_EQ(dialog.GetClientRectangle().Size(), CSize(wanted.width(), wanted.height()));
+    }
     CBitmap picture;
     EXPECT_TRUE(coregui::DrawModalBox(picture));
-    EXPECT_EQ(picture.GetSize(), CSize(240, 130));
+    EXPECT_EQ(picture.GetSize(), CSize(240, 260));
     EXPECT_TRUE(coregui::CloseModalBox());
   };
   EXPECT_EQ(dialog.DoModal(), IDCANCEL);
   CBitmap none;
   EXPECT_FALSE(coregui::DrawModalBox(none));
+  LogWindow framed;
+  ASSERT_TRUE(framed.Open());
+  EXPECT_GT(WidgetOf(&framed)->maximumWidth(), 10000);
 }
 
 TEST(DialogPlaces, RowsShareTheWidthAndButtonsStandRight) {
@@ -216,25 +212,21 @@ TEST(DialogPlaces, RowsShareTheWidthAndButtonsStandRight) {
 // --- Tips
 
 TEST(TipTimes, FollowThePointerThroughTheAreas) {
+  using Action = TipClock::Action;
   TipClock clock;
   const CRect a(0, 0, 10, 10);
   const CRect b(10, 0, 20, 10);
-  EXPECT_EQ(clock.PointerAt(a), TipClock::Action::none);
-  EXPECT_EQ(clock.Timer(), 500U);
-  EXPECT_EQ(clock.Elapsed(), TipClock::Action::show);
-  EXPECT_EQ(clock.Timer(), 5000U);
-  EXPECT_EQ(clock.PointerAt(b), TipClock::Action::hide);
-  EXPECT_EQ(clock.Timer(), 100U) << "sooner when one was just shown";
-  EXPECT_EQ(clock.Elapsed(), TipClock::Action::show);
-  EXPECT_EQ(clock.Elapsed(), TipClock::Action::hide) << "it goes by itself";
-  EXPECT_EQ(clock.PointerAt(b), TipClock::Action::none);
-  EXPECT_EQ(clock.Timer(), 0U) << "and does not come again for the same area";
+  const auto then = [&clock](Action done) { return std::pair(done, clock.Timer()); };
+  EXPECT_EQ(then(clock.PointerAt(a)), std::pair(Action::none, 500U));
+  EXPECT_EQ(then(clock.Elapsed()), std::pair(Action::show, 5000U));
+  EXPECT_EQ(then(clock.PointerAt(b)), std::pair(Action::hide, 100U)) << "sooner when one was just shown";
+  EXPECT_EQ(clock.Elapsed(), Action::show);
+  EXPECT_EQ(clock.Elapsed(), Action::hide) << "it goes by itself";
+  EXPECT_EQ(then(clock.PointerAt(b)), std::pair(Action::none, 0U)) << "and does not come again";
   clock.PointerAt(a);
-  EXPECT_EQ(clock.Cancel(), TipClock::Action::none);
-  EXPECT_EQ(clock.Timer(), 0U);
+  EXPECT_EQ(then(clock.Cancel()), std::pair(Action::none, 0U));
   clock.PointerAway();
-  clock.PointerAt(a);
-  EXPECT_EQ(clock.Timer(), 500U);
+  EXPECT_EQ(then(clock.PointerAt(a)), std::pair(Action::none, 500U));
 }
 
 TEST(TipWindow, AsksForItsTextOnlyWhenItShows) {

@@ -50,17 +50,15 @@ TEST(Button, RadioButtonsExcludeEachOtherWithinTheirGroup) {
     buttons[i].Create(L"r", WS_CHILD | WS_VISIBLE | BS_AUTORADIOBUTTON | group,
                       CRect(5, 5 + 20 * i, 100, 22 + 20 * i), &host, static_cast<UINT>(i));
   }
-  buttons[0].Click();
-  buttons[3].Click();
-  buttons[1].Click();
-  EXPECT_EQ(buttons[0].GetCheck(), BST_UNCHECKED);
-  EXPECT_EQ(buttons[1].GetCheck(), BST_CHECKED);
-  EXPECT_EQ(buttons[2].GetCheck(), BST_UNCHECKED);
-  EXPECT_EQ(buttons[3].GetCheck(), BST_CHECKED);
-  buttons[1].Click();
-  EXPECT_EQ(buttons[1].GetCheck(), BST_CHECKED);
+  const auto checks = [&buttons] {
+    std::string text;
+    for (const CButton& button : buttons) text += std::to_string(button.GetCheck());
+    return text;
+  };
+  for (const int pressed : {0, 3, 1, 1}) buttons[pressed].Click();
+  EXPECT_EQ(checks(), "0101");
   buttons[1].SetCheck(BST_UNCHECKED);
-  EXPECT_EQ(buttons[1].GetCheck(), BST_UNCHECKED);
+  EXPECT_EQ(checks(), "0001");
 }
 
 TEST(Static, NamesTheControlBehindItAndItsAccessKeyLeadsThere) {
@@ -99,12 +97,13 @@ TEST(Static, HidesTheMarkOfItsAccessKeyAndTellsOfClicks) {
   ControlHost host;
   CStatic text;
   text.Create(L"&Find && go", WS_CHILD | WS_VISIBLE | SS_NOTIFY, CRect(5, 5, 100, 30), &host, 4);
-  EXPECT_EQ(static_cast<QLabel*>(WidgetOf(&text))->text(), "Find & go");
+  const auto* label = static_cast<QLabel*>(WidgetOf(&text));
+  EXPECT_EQ(label->text(), "Find & go");
   EXPECT_EQ(text.GetWindowTextString(), L"&Find && go");
   QTest::mouseClick(WidgetOf(&text), Qt::LeftButton);
   EXPECT_EQ(host.TakeLog(), L"4:0 ");
   text.SetWindowText(L"<b>5</b>");
-  EXPECT_EQ(static_cast<QLabel*>(WidgetOf(&text))->text(), "<b>5</b>");
+  EXPECT_EQ(label->text(), "<b>5</b>");
 }
 
 }  // namespace
