@@ -94,51 +94,45 @@ TEST(NumberFormat, OnlyOneDirectiveOfTheRightTypeIsUsed) {
   EXPECT_EQ(NumberFormat(NumberFormat::Kind::real, nullptr).Text(100000), L"100000");
 }
 
-/// A shown window with both kinds of boxes.
-class NumericEditTest : public testing::Test {
+/// Both kinds of boxes; the control beside the real one is `whole`.
+class NumericEdit : public coregui::test::EditTest<CFloatEdit> {
  protected:
-  NumericEditTest() {
-    constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER;
-    m_real.Create(kStyle, CRect(10, 10, 150, 34), &m_host, 1);
-    m_whole.Create(kStyle, CRect(10, 40, 150, 64), &m_host, 2);
-  }
-  static void Type(CWnd& window, const wchar_t* text) {
-    window.SetFocus();
-    static_cast<CEdit&>(window).SetSel(0, -1);
-    for (; *text != L'\0'; ++text) window.SendMessage(WM_CHAR, static_cast<WPARAM>(*text), 1);
+  NumericEdit() { whole.Create(coregui::test::kChild, coregui::test::PlaceAt(2), &host, 9); }
+  static void Type(CEdit& box, const wchar_t* text) {
+    box.SetFocus();
+    box.SetSel(0, -1);
+    for (; *text != L'\0'; ++text) box.SendMessage(WM_CHAR, static_cast<WPARAM>(*text), 1);
   }
   static CString Text(const CWnd& window) { return window.GetWindowTextString(); }
 
-  coregui::test::ControlHost m_host;
-  CFloatEdit m_real;
-  CIntEdit m_whole;
+  CIntEdit whole;
 };
 
-TEST_F(NumericEditTest, AValueThatIsSetKeepsItsDigitsAndItsRange) {
+TEST_F(NumericEdit, AValueThatIsSetKeepsItsDigitsAndItsRange) {
   coregui::SetUserLocale(L"de_DE");
-  EXPECT_EQ(Text(m_whole), L"0");
-  m_real.SetParameters(-100, 100, L"%.2f");
-  m_real.SetValue(12.3456);
-  EXPECT_EQ(Text(m_real), L"12,35");
-  EXPECT_EQ(m_real.GetValue(), 12.3456);
-  m_real.SetValue(1e9);
-  EXPECT_EQ(m_real.GetValue(), 100);
-  m_real.SetValue(std::numeric_limits<double>::quiet_NaN());
-  EXPECT_EQ(m_real.GetValue(), 0);
-  m_real.SetParameters(50, 20, L"%.1f");  // exchanged; the value follows the range
-  EXPECT_EQ(Text(m_real), L"20,0");
-  m_real.SetParameters(std::nan(""), INFINITY, L"%g");
-  m_real.SetValue(-DBL_MAX);
-  EXPECT_EQ(m_real.GetValue(), -DBL_MAX);
-  m_whole.SetParameters(INT_MIN, INT_MAX);
-  m_whole.SetValue(INT_MIN);
-  EXPECT_EQ(m_whole.GetValue(), INT_MIN);
-  EXPECT_EQ(Text(m_whole), L"-2147483648");
+  EXPECT_EQ(Text(whole), L"0");
+  edit.SetParameters(-100, 100, L"%.2f");
+  edit.SetValue(12.3456);
+  EXPECT_EQ(Text(edit), L"12,35");
+  EXPECT_EQ(edit.GetValue(), 12.3456);
+  edit.SetValue(1e9);
+  EXPECT_EQ(edit.GetValue(), 100);
+  edit.SetValue(std::numeric_limits<double>::quiet_NaN());
+  EXPECT_EQ(edit.GetValue(), 0);
+  edit.SetParameters(50, 20, L"%.1f");  // exchanged; the value follows the range
+  EXPECT_EQ(Text(edit), L"20,0");
+  edit.SetParameters(std::nan(""), INFINITY, L"%g");
+  edit.SetValue(-DBL_MAX);
+  EXPECT_EQ(edit.GetValue(), -DBL_MAX);
+  whole.SetParameters(INT_MIN, INT_MAX);
+  whole.SetValue(INT_MIN);
+  EXPECT_EQ(whole.GetValue(), INT_MIN);
+  EXPECT_EQ(Text(whole), L"-2147483648");
 }
 
-TEST_F(NumericEditTest, WhatIsTypedStaysAndIsMarkedUntilTheFocusLeaves) {
-  m_real.SetParameters(0, 100, L"%.1f");
-  m_real.SetValue(5);
+TEST_F(NumericEdit, WhatIsTypedStaysAndIsMarkedUntilTheFocusLeaves) {
+  edit.SetParameters(0, 100, L"%.1f");
+  edit.SetValue(5);
   struct Row {
     const wchar_t* typed;
     Content content;
@@ -153,65 +147,65 @@ TEST_F(NumericEditTest, WhatIsTypedStaysAndIsMarkedUntilTheFocusLeaves) {
                           {L"2*", Content::notANumber, 12.34, L"Not a number: 12.3 stays", L"12.3"}};
   for (const Row& row : rows) {
     const int beeps = GetBeepCount(MB_ICONEXCLAMATION_SOUND);
-    Type(m_real, row.typed);
-    EXPECT_EQ(Text(m_real), row.typed);
-    EXPECT_EQ(m_real.GetContent(), row.content) << CString(row.typed).ToUtf8();
-    EXPECT_EQ(m_real.GetValue(), row.value);
-    EXPECT_EQ(m_real.GetProblem(), row.problem);
-    m_real.SendMessage(WM_KILLFOCUS);  // to another program: what is half typed stays
-    EXPECT_EQ(Text(m_real), row.typed);
-    m_whole.SetFocus();
-    EXPECT_EQ(Text(m_real), row.after);
-    EXPECT_EQ(m_real.GetValue(), row.value);
-    EXPECT_EQ(m_real.GetProblem(), L"");
+    Type(edit, row.typed);
+    EXPECT_EQ(Text(edit), row.typed);
+    EXPECT_EQ(edit.GetContent(), row.content) << CString(row.typed).ToUtf8();
+    EXPECT_EQ(edit.GetValue(), row.value);
+    EXPECT_EQ(edit.GetProblem(), row.problem);
+    edit.SendMessage(WM_KILLFOCUS);  // to another program: what is half typed stays
+    EXPECT_EQ(Text(edit), row.typed);
+    whole.SetFocus();
+    EXPECT_EQ(Text(edit), row.after);
+    EXPECT_EQ(edit.GetValue(), row.value);
+    EXPECT_EQ(edit.GetProblem(), L"");
     EXPECT_EQ(GetBeepCount(MB_ICONEXCLAMATION_SOUND) - beeps, row.content == Content::number ? 0 : 1);
   }
 }
 
-TEST_F(NumericEditTest, AFractionWhereAWholeNumberIsWantedIsRoundedAndTold) {
-  m_whole.SetParameters(-10, 10);
-  Type(m_whole, L"5/2");
-  EXPECT_EQ(m_whole.GetContent(), Content::notWhole);
-  EXPECT_EQ(m_whole.GetProblem(), L"Not a whole number: 3 is taken");
-  EXPECT_EQ(m_whole.GetValue(), 3);
-  Type(m_whole, L"99999999999");
-  EXPECT_EQ(m_whole.GetValue(), 10);
-  EXPECT_EQ(m_whole.GetContent(), Content::outside);
-  m_whole.Commit();
-  EXPECT_EQ(Text(m_whole), L"10");
-  EXPECT_TRUE(m_whole.Undo());
-  EXPECT_EQ(Text(m_whole), L"99999999999");
+TEST_F(NumericEdit, AFractionWhereAWholeNumberIsWantedIsRoundedAndTold) {
+  whole.SetParameters(-10, 10);
+  Type(whole, L"5/2");
+  EXPECT_EQ(whole.GetContent(), Content::notWhole);
+  EXPECT_EQ(whole.GetProblem(), L"Not a whole number: 3 is taken");
+  EXPECT_EQ(whole.GetValue(), 3);
+  Type(whole, L"99999999999");
+  EXPECT_EQ(whole.GetValue(), 10);
+  EXPECT_EQ(whole.GetContent(), Content::outside);
+  whole.Commit();
+  EXPECT_EQ(Text(whole), L"10");
+  EXPECT_TRUE(whole.Undo());
+  EXPECT_EQ(Text(whole), L"99999999999");
 }
 
-TEST_F(NumericEditTest, KeysAndTheWheelStepWithinTheRange) {
-  m_real.SetParameters(0, 2, L"%.2f m");
-  m_real.SetFocus();
-  EXPECT_EQ(m_real.GetStep(), 0.1);
-  for (int i = 0; i < 3; ++i) m_real.SendMessage(WM_KEYDOWN, VK_UP);
-  EXPECT_EQ(m_real.GetValue(), 0.3);
-  EXPECT_EQ(Text(m_real), L"0.30 m");
-  m_real.SendMessage(WM_KEYDOWN, VK_NEXT);
-  EXPECT_EQ(m_real.GetValue(), 0);
-  m_real.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 2 * WHEEL_DELTA));
-  EXPECT_EQ(m_real.GetValue(), 0.2);
-  m_real.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(MK_CONTROL, static_cast<WORD>(-WHEEL_DELTA)));
-  EXPECT_EQ(m_real.GetValue(), 0);
-  Type(m_real, L"1+0.5");
-  m_real.SendMessage(WM_KEYDOWN, VK_DOWN);
-  EXPECT_EQ(Text(m_real), L"1.40 m");
-  m_whole.SetFocus();
-  m_real.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA));
-  EXPECT_EQ(Text(m_real), L"1.40 m");
-  m_whole.SetParameters(INT_MIN, INT_MAX);
-  m_whole.SetValue(INT_MAX);
-  m_whole.SendMessage(WM_KEYDOWN, VK_PRIOR);
-  EXPECT_EQ(m_whole.GetValue(), INT_MAX);
-  m_whole.SetReadOnly();
-  m_whole.SendMessage(WM_KEYDOWN, VK_DOWN);
-  EXPECT_EQ(m_whole.GetValue(), INT_MAX);
+TEST_F(NumericEdit, KeysAndTheWheelStepWithinTheRange) {
+  edit.SetParameters(0, 2, L"%.2f m");
+  edit.SetFocus();
+  EXPECT_EQ(edit.GetStep(), 0.1);
+  for (int i = 0; i < 3; ++i) edit.SendMessage(WM_KEYDOWN, VK_UP);
+  EXPECT_EQ(edit.GetValue(), 0.3);
+  EXPECT_EQ(Text(edit), L"0.30 m");
+  edit.SendMessage(WM_KEYDOWN, VK_NEXT);
+  EXPECT_EQ(edit.GetValue(), 0);
+  edit.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 2 * WHEEL_DELTA));
+  EXPECT_EQ(edit.GetValue(), 0.2);
+  edit.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(MK_CONTROL, static_cast<WORD>(-WHEEL_DELTA)));
+  EXPECT_EQ(edit.GetValue(), 0);
+  Type(edit, L"1+0.5");
+  edit.SendMessage(WM_KEYDOWN, VK_DOWN);
+  EXPECT_EQ(Text(edit), L"1.40 m");
+  whole.SetFocus();
+  edit.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA));
+  EXPECT_EQ(Text(edit), L"1.40 m");
+  whole.SetParameters(INT_MIN, INT_MAX);
+  whole.SetValue(INT_MAX);
+  whole.SendMessage(WM_KEYDOWN, VK_PRIOR);
+  EXPECT_EQ(whole.GetValue(), INT_MAX);
+  whole.SetReadOnly();
+  whole.SendMessage(WM_KEYDOWN, VK_DOWN);
+  EXPECT_EQ(whole.GetValue(), INT_MAX);
 }
 
-TEST_F(NumericEditTest, TheStepFollowsTheRangeUnlessItIsSet) {
+TEST_F(NumericEdit, TheStepFollowsTheRangeUnlessItIsSet) {
   struct Row {
     double least;
     double most;
@@ -221,30 +215,27 @@ TEST_F(NumericEditTest, TheStepFollowsTheRangeUnlessItIsSet) {
   constexpr Row rows[] = {{-DBL_MAX, DBL_MAX, L"%.3f", 1}, {0, 10, L"%.3f", 1},      {0, 9, L"%.3f", 0.1},
                           {0, 0.5, L"%.3f", 0.01},         {0, 0.05, L"%.2f", 0.01}, {3, 3, L"%.2f", 1}};
   for (const Row& row : rows) {
-    m_real.SetParameters(row.least, row.most, row.format);
-    EXPECT_DOUBLE_EQ(m_real.GetStep(), row.step) << row.most;
+    edit.SetParameters(row.least, row.most, row.format);
+    EXPECT_DOUBLE_EQ(edit.GetStep(), row.step) << row.most;
   }
-  m_real.SetStep(0.25);
-  EXPECT_EQ(m_real.GetStep(), 0.25);
+  edit.SetStep(0.25);
+  EXPECT_EQ(edit.GetStep(), 0.25);
 }
 
-TEST(NumericEdit, WithoutAWindowItHasAValueThatShowsOnceItIsMade) {
-  CFloatEdit edit;
+TEST_F(NumericEdit, WithoutAWindowItHasAValueThatShowsOnceItIsMade) {
+  edit.DestroyWindow();
   edit.SetParameters(0, 10, L"%.1f");
   edit.SetValue(2.5);
   EXPECT_EQ(edit.GetValue(), 2.5);
-  CWnd host;
-  host.Create(L"", L"host", WS_OVERLAPPEDWINDOW, CRect(0, 0, 300, 100), nullptr, 0);
-  edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 24), &host, 1);
-  EXPECT_EQ(edit.GetWindowTextString(), L"2.5");
+  Start();
+  EXPECT_EQ(Text(edit), L"2.5");
   EXPECT_EQ(edit.GetValue(), 2.5);
 }
 
-TEST(NumericEdit, TheParentMayDestroyItWhenItTells) {
+TEST_F(NumericEdit, TheParentMayDestroyItWhenItTells) {
   for (const UINT key : {VK_UP, static_cast<UINT>('7')}) {
-    coregui::test::ControlHost host;
-    CIntEdit edit;
-    edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 24), &host, 1);
+    host.destroys = false;
+    Start();
     host.destroys = true;
     edit.SendMessage(key == VK_UP ? WM_KEYDOWN : WM_CHAR, key, 1);
     EXPECT_FALSE(edit.HasWindow());

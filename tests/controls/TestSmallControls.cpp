@@ -72,26 +72,23 @@ TEST(WidthComboBox, KeepsWidthsInOrderAndDrawsThem) {
   EXPECT_EQ(combo.GetCount(), count);
   EXPECT_TRUE(combo.SetWidth(1.0 / 3));
   EXPECT_EQ(combo.GetCount(), count + 1);
-  EXPECT_DOUBLE_EQ(combo.GetWidth(), 0.33);
-  for (int i = 1; i < combo.GetCount(); ++i) {
-    EXPECT_LT(combo.GetItemData(i - 1), combo.GetItemData(i));
-  }
+  for (int i = 1; i <= count; ++i) EXPECT_LT(combo.GetItemData(i - 1), combo.GetItemData(i));
   for (const double bad : {-0.01, 10.01, std::numeric_limits<double>::quiet_NaN()}) {
     EXPECT_FALSE(combo.SetWidth(bad));
   }
   EXPECT_DOUBLE_EQ(combo.GetWidth(), 0.33);
   SetDpiScale(1.0);
-  EXPECT_GE(combo.Draw(0).Find(L"FillSolidRect 76,10,194,11"), 0);
-  combo.SetWidth(2.0);  // 7.56 pixels
-  EXPECT_GE(combo.Draw(combo.GetCurSel()).Find(L"FillSolidRect 76,7,194,15"), 0);
-  combo.SetWidth(10.0);  // no thicker than the item
-  EXPECT_GE(combo.Draw(combo.GetCurSel()).Find(L"FillSolidRect 76,1,194,21"), 0);
+  // The second is 7.56 pixels thick; none is thicker than the item.
+  constexpr std::pair<double, const wchar_t*> bars[] = {
+      {0.0, L"76,10,194,11"}, {2.0, L"76,7,194,15"}, {10.0, L"76,1,194,21"}};
+  for (const auto& [width, bar] : bars) {
+    EXPECT_TRUE(combo.SetWidth(width));
+    EXPECT_GE(combo.Draw(combo.GetCurSel()).Find(CString(L"FillSolidRect ") + bar), 0) << width;
+  }
   EXPECT_EQ(ShownPixel(combo, CPoint(120, 14)), GetSysColor(COLOR_WINDOWTEXT)) << "in the closed box, too";
   coregui::SetUserLocale(L"de_DE");
   combo.SetWidth(0.47);
-  CString text;
-  combo.GetLBText(combo.GetCurSel(), text);
-  EXPECT_EQ(text, L"0,47 mm");
+  EXPECT_EQ(combo.GetWindowTextString(), L"0,47 mm");
 }
 
 class TriedLink : public CLinkButton {
@@ -135,10 +132,14 @@ TEST(LinkButton, OpensItsLinkOrSendsItsCommand) {
   }
 }
 
-TEST(CustomTree, ItemsHaveLooksOfTheirOwn) {
+struct CustomTree : testing::Test {
+  CustomTree() { Start(); }
+  void Start() { tree.Create(kChild, CRect(10, 10, 210, 210), &host, 7); }
   ControlHost host;
   CCustomTreeCtrl tree;
-  tree.Create(kChild, CRect(10, 10, 210, 210), &host, 7);
+};
+
+TEST_F(CustomTree, ItemsHaveLooksOfTheirOwn) {
   const HTREEITEM road = tree.InsertItem(L"Road");
   const HTREEITEM kerb = tree.InsertItem(L"Kerb", road);
   const HTREEITEM plain = tree.InsertItem(L"Plain", road);
@@ -168,8 +169,17 @@ TEST(CustomTree, ItemsHaveLooksOfTheirOwn) {
   const HTREEITEM old = tree.InsertItem(L"Old");
   tree.SetItemCheckBox(old);
   tree.DestroyWindow();
-  tree.Create(kChild, CRect(10, 10, 210, 210), &host, 7);
+  Start();
   EXPECT_FALSE(tree.HasItemCheckBox(old)) << "a new item may have its handle";
+}
+
+TEST_F(CustomTree, ABoxThatIsNotCheckedStandsOutFromDarkGround) {
+  SetDarkTheme(true);
+  tree.SetItemCheckBox(tree.InsertItem(L""));
+  int strongest = 0;
+  for (int x = 0; x < 60; ++x)
+    strongest = std::max<int>(strongest, GetRValue(ShownPixel(tree, CPoint(x, 9))));
+  EXPECT_GT(strongest, GetRValue(GetSysColor(COLOR_WINDOW)) + 60);
 }
 
 TEST(EmptyTree, SaysWhyWhileItIsEmpty) {
@@ -189,19 +199,6 @@ TEST(EmptyTree, SaysWhyWhileItIsEmpty) {
   EXPECT_EQ(InkPixels(tree), written);
 }
 
-TEST(CustomTree, ABoxThatIsNotCheckedStandsOutFromDarkGround) {
-  SetDarkTheme(true);
-  ControlHost host;
-  CCustomTreeCtrl tree;
-  tree.Create(kChild, CRect(10, 10, 210, 110), &host, 7);
-  tree.SetItemCheckBox(tree.InsertItem(L""));
-  const int ground = GetRValue(GetSysColor(COLOR_WINDOW));
-  int strongest = 0;
-  for (int x = 0; x < 60; ++x)
-    strongest = std::max<int>(strongest, GetRValue(ShownPixel(tree, CPoint(x, 9))));
-  EXPECT_GT(strongest, ground + 60);
-}
-
 TEST(SpinControls, StepTheirBoxInsideItsRangeAndTellTheParent) {
   ControlHost host;
   CFloatEdit real;
@@ -217,20 +214,18 @@ TEST(SpinControls, StepTheirBoxInsideItsRangeAndTellTheParent) {
   real.SetParameters(-1.0, 1.0, L"%.2f");
   real.SetValue(0.5);
   realSpin.SetDelta(0.25);
+  for (const double value : {0.75, 1.0, 1.0}) {
+    PressKey(realSpin, VK_UP);
+    EXPECT_EQ(real.GetValue(), value);
+  }
+  EXPECT_EQ(real.GetWindowTextString(), L"1.00");
   whole.SetParameters(0, 10);
   whole.SetValue(9);
-  PressKey(realSpin, VK_UP);
-  EXPECT_EQ(real.GetWindowTextString(), L"0.75");
-  for (int i = 0; i < 3; ++i) PressKey(realSpin, VK_UP);
-  EXPECT_EQ(real.GetValue(), 1.0);
-  ClickAt(wholeSpin, CPoint(10, 6));
-  EXPECT_EQ(whole.GetValue(), 10);
-  ClickAt(wholeSpin, CPoint(10, 22));
-  ClickAt(wholeSpin, CPoint(10, 22));
+  for (const CPoint at : {CPoint(10, 6), CPoint(10, 6), CPoint(10, 22), CPoint(10, 22)})
+    ClickAt(wholeSpin, at);
   EXPECT_EQ(whole.GetValue(), 8);
   whole.SetReadOnly();
   PressKey(wholeSpin, VK_UP);
-  EXPECT_EQ(whole.GetValue(), 8);
   whole.SetReadOnly(FALSE);
   whole.EnableWindow(FALSE);
   PressKey(wholeSpin, VK_UP);

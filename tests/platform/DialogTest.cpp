@@ -78,7 +78,8 @@ TEST(Dialog, ModalRunsUntilItEndsAndGivesTheFocusBack) {
   EXPECT_EQ(CWnd::GetFocus(), &owner);
   for (const bool byKey : {true, false}) {  // it may run again
     dialog.shown = [&] {
-      byKey ? QTest::keyClick(WidgetOf(&dialog.first), Qt::Key_Escape) : void(WidgetOf(&dialog)->close());
+      if (byKey) return QTest::keyClick(WidgetOf(&dialog.first), Qt::Key_Escape);
+      WidgetOf(&dialog)->close();
     };
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
   }

@@ -44,16 +44,12 @@ TEST(WindowWithoutNative, KeepsPlaceFamilyTextAndUpdateRegion) {
   EXPECT_EQ(CWnd::GetFocus(), &child);
   EXPECT_FALSE(child.HasWindow());
   EXPECT_FALSE(child.DestroyWindow());
-}
-
-TEST(WindowWithoutNative, AParentThatGoesLetsItsChildrenGo) {
-  LogWindow child;
   {
-    LogWindow parent;
-    child.SetParent(&parent);
-    EXPECT_EQ(parent.SetParent(&child), nullptr) << "no window is inside itself";
+    LogWindow brief;
+    child.SetParent(&brief);
+    EXPECT_EQ(brief.SetParent(&child), nullptr) << "no window is inside itself";
   }
-  EXPECT_EQ(child.GetParent(), nullptr);
+  EXPECT_EQ(child.GetParent(), nullptr) << "a parent that goes lets its children go";
 }
 
 // --- Creation and destruction
@@ -96,16 +92,8 @@ TEST(WindowLife, AChildNeedsAParentWithAWindowAndMayBeRefused) {
   EXPECT_FALSE(late.HasWindow());
 }
 
-struct EndRow {
-  const char* name;
-  bool deletesObject;
-  bool deletesParent;
-};
-
-class WindowEnd : public testing::TestWithParam<EndRow> {};
-
 /// In the middle of a real press, a real key and a message, the window or its parent goes.
-TEST_P(WindowEnd, InItsOwnHandlerIsSafe) {
+TEST(WindowLife, MayEndInItsOwnHandlerByItselfOrWithItsObjectOrParent) {
   std::unique_ptr<LogWindow> parent;
   std::unique_ptr<LogWindow> child;
   QPointer<QWidget> widget;
@@ -119,7 +107,12 @@ TEST_P(WindowEnd, InItsOwnHandlerIsSafe) {
       {WM_SIZE, [&] { child->MoveWindow(0, 0, 60, 40); }},
       {WM_PAINT, [&] { child->Invalidate(), CWinApp::PumpPending(); }},
       {WM_DESTROY, [&] { parent->DestroyWindow(); }}};
-  for (const auto& [when, act] : rows) {
+  for (int end = 0; end < 4 * static_cast<int>(std::size(rows)); ++end) {
+    const bool deletesObject = end % 2 != 0;
+    const bool deletesParent = end / 2 % 2 != 0;
+    const auto& [when, act] = rows[end / 4];
+    SCOPED_TRACE(testing::Message() << when << (deletesObject ? " object" : "")
+                                    << (deletesParent ? " parent" : ""));
     parent = std::make_unique<LogWindow>();
     child = std::make_unique<LogWindow>();
     ASSERT_TRUE(parent->Open());
@@ -128,32 +121,22 @@ TEST_P(WindowEnd, InItsOwnHandlerIsSafe) {
     bool done = false;
     child->onMessage = [&, wanted = when](UINT message) {
       if (message != wanted || std::exchange(done, true)) return;
-      if (GetParam().deletesParent) parent.reset();
-      if (GetParam().deletesObject) {
-        child.reset();
-      } else {
-        child->DestroyWindow();
-      }
+      if (deletesParent) parent.reset();
+      if (deletesObject) return child.reset();
+      child->DestroyWindow();
     };
     widget = WidgetOf(child.get());
     const HWND handles[] = {parent->GetSafeHwnd(), child->GetSafeHwnd()};
     act();
-    EXPECT_TRUE(done) << when;
-    EXPECT_EQ(child == nullptr, GetParam().deletesObject);
+    EXPECT_TRUE(done);
     EXPECT_FALSE(child != nullptr && child->HasWindow());
-    EXPECT_FALSE(IsWindow(handles[1])) << when;
-    EXPECT_EQ(IsWindow(handles[0]), parent != nullptr && parent->HasWindow()) << when;
+    EXPECT_FALSE(IsWindow(handles[1]));
+    EXPECT_EQ(IsWindow(handles[0]), parent != nullptr && parent->HasWindow());
     CWinApp::PumpPending();
     EXPECT_TRUE(widget.isNull()) << "the widget goes when the event is over";
     EXPECT_EQ(CWnd::GetFocus(), nullptr);
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(Ends, WindowEnd,
-                         testing::Values(EndRow{"Window", false, false}, EndRow{"Object", true, false},
-                                         EndRow{"Parent", false, true},
-                                         EndRow{"ParentAndObject", true, true}),
-                         [](const auto& row) { return row.param.name; });
 
 // --- Family and state
 
@@ -226,36 +209,26 @@ TEST(WindowPlace, WhatThePersonDoesWithTheFrameArrivesAsSizeAndMove) {
 }
 
 TEST(WindowPlace, MaximisedMinimisedAndRestoredSayOnceWhichAndHowLarge) {
-  const auto sizes = [](const std::string& log) {
-    std::string found;
-    for (std::size_t at = 0; at < log.size(); at = log.find(';', at) + 1) {
-      if (log.compare(at, 2, "5 ") == 0) found += log.substr(at, log.find(';', at) + 1 - at);
-    }
-    return found;
-  };
   LogWindow window;
   ASSERT_TRUE(window.Open(CRect(10, 10, 110, 60)));
   CWinApp::PumpPending();
-  window.TakeLog();
-  window.logs = kStates;
-  window.ShowWindow(SW_SHOWMAXIMIZED);
-  CWinApp::PumpPending();
+  window.logs = {WM_SIZE};
+  const auto show = [&window](int how) {
+    window.TakeLog();
+    window.ShowWindow(how);
+    CWinApp::PumpPending();
+    return window.TakeLog();
+  };
+  const std::string log = show(SW_SHOWMAXIMIZED);
   const CSize large = window.GetClientRectangle().Size();
   EXPECT_GT(large.cx, 300);
-  const std::string size = CString::Formatted(L"%d,%d;", large.cx, large.cy).ToUtf8();
-  EXPECT_EQ(sizes(window.TakeLog()), "5 2 " + size);
-  window.ShowWindow(SW_MINIMIZE);
-  CWinApp::PumpPending();
-  EXPECT_EQ(window.TakeLog(), "5 1 0,0;");
+  EXPECT_EQ(log, CString::Formatted(L"5 2 %d,%d;", large.cx, large.cy).ToUtf8());
+  EXPECT_EQ(show(SW_MINIMIZE), "5 1 0,0;");
   EXPECT_EQ(window.GetClientRectangle().Size(), large) << "its place waits";
-  window.ShowWindow(SW_SHOWNORMAL);
-  CWinApp::PumpPending();
-  EXPECT_EQ(sizes(window.TakeLog()), "5 0 100,50;");
-  window.ShowWindow(SW_MINIMIZE);
-  CWinApp::PumpPending();
-  window.ShowWindow(SW_SHOWNORMAL);
-  CWinApp::PumpPending();
-  EXPECT_EQ(sizes(window.TakeLog()), "5 1 0,0;5 0 100,50;") << "the size is what it was";
+  EXPECT_EQ(show(SW_SHOWNORMAL), "5 0 100,50;");
+  window.logs = kStates;
+  EXPECT_EQ(show(SW_MINIMIZE), "5 1 0,0;");
+  EXPECT_EQ(show(SW_SHOWNORMAL), "5 0 100,50;") << "the size is what it was";
 }
 
 // --- Focus and capture
@@ -336,16 +309,11 @@ TEST_F(FocusPair, ADragWithoutCaptureGoesToTheWindowUnderThePointer) {
   QTest::mouseRelease(WidgetOf(&a), Qt::LeftButton, Qt::NoModifier, QPoint(5, 6));
 }
 
-struct ActivateRow {
-  int answer;
-  bool activates;
-  bool delivers;
-};
-
 TEST_F(FocusPair, TheFirstPressAsksWhetherToActivateTheWindow) {
-  for (const ActivateRow row :
-       {ActivateRow{MA_ACTIVATE, true, true}, ActivateRow{MA_ACTIVATEANDEAT, true, false},
-        ActivateRow{MA_NOACTIVATE, false, true}, ActivateRow{MA_NOACTIVATEANDEAT, false, false}}) {
+  for (const int answer : {MA_ACTIVATE, MA_ACTIVATEANDEAT, MA_NOACTIVATE, MA_NOACTIVATEANDEAT}) {
+    SCOPED_TRACE(answer);
+    const bool activates = answer == MA_ACTIVATE || answer == MA_ACTIVATEANDEAT;
+    const bool delivers = answer == MA_ACTIVATE || answer == MA_NOACTIVATE;
     LogWindow other;
     ASSERT_TRUE(other.Open());
     other.SetActiveWindow();
@@ -356,17 +324,15 @@ TEST_F(FocusPair, TheFirstPressAsksWhetherToActivateTheWindow) {
       ++asked;
       EXPECT_EQ(reinterpret_cast<HWND>(wParam), top.GetSafeHwnd());
       EXPECT_EQ(HIWORD(lParam), WM_LBUTTONDOWN);
-      return row.answer;
+      return answer;
     };
     a.TakeLog();
     QTest::mouseClick(WidgetOf(&a), Qt::LeftButton, Qt::NoModifier, QPoint(3, 4));
     EXPECT_EQ(asked, 1) << "the child's default asks its parent";
-    EXPECT_EQ(a.TakeLog(), row.delivers ? "201 1 3,4;202 0 3,4;" : "202 0 3,4;") << row.answer;
-    EXPECT_EQ(CWnd::GetActiveWindow(), row.activates ? &top : &other) << row.answer;
-    if (row.activates) {
-      QTest::mouseClick(WidgetOf(&a), Qt::LeftButton, Qt::NoModifier, QPoint(3, 4));
-      EXPECT_EQ(asked, 1) << "only while it is not active";
-    }
+    EXPECT_EQ(a.TakeLog(), delivers ? "201 1 3,4;202 0 3,4;" : "202 0 3,4;");
+    EXPECT_EQ(CWnd::GetActiveWindow(), activates ? &top : &other);
+    QTest::mouseClick(WidgetOf(&a), Qt::LeftButton, Qt::NoModifier, QPoint(3, 4));
+    EXPECT_EQ(asked, activates ? 1 : 2) << "only while it is not active";
   }
 }
 

@@ -19,6 +19,7 @@
 #include "platform/qt/RasterTarget.h"
 #include "platform/qt/interop.h"
 #include "tests/platform/LogWindow.h"
+#include "tests/support/Hand.h"
 
 // Everything here holds at any scale: the runs at other scales repeat it.
 
@@ -79,6 +80,9 @@ class WindowPaint : public testing::Test {
     ASSERT_TRUE(window.Create(L"", L"", WS_POPUP | WS_VISIBLE, CRect(0, 0, 100, 100), nullptr, 0));
     CWinApp::PumpPending();
     window.paints = window.erases = 0;
+    if (const char* wanted = std::getenv("COREGUI_TEST_SCALE")) {
+      ASSERT_EQ(window.GetScaleFactor(), std::stod(wanted));
+    }
   }
   CRect Update() {
     RECT rect;
@@ -175,14 +179,9 @@ TEST_F(WindowPaint, HeldBackWhileRedrawIsOffOrTheWindowIsHidden) {
   EXPECT_EQ(window.paints, 2);
 }
 
-TEST_F(WindowPaint, AnExposureCopiesTheSurfaceAndCallsNothing) {
-  QImage shown(100, 100, QImage::Format_RGB32);
-  coregui::WidgetOf(&window)->render(&shown);
+TEST_F(WindowPaint, AnExposureCopiesTheSurfaceAndAResizeKeepsItUntilTheNewPaint) {
+  EXPECT_EQ(ShownPixel(window, CPoint(50, 35)), Striped::ColourOf(3));
   EXPECT_EQ(window.paints, 0);
-  EXPECT_EQ(QColor(shown.pixel(50, 35)), QColor(3, 100, 200));
-}
-
-TEST_F(WindowPaint, AResizeKeepsThePixelsUntilTheNewPaint) {
   window.first = 100;
   window.MoveWindow(0, 0, 140, 120);
   EXPECT_EQ(window.At(50, 35), Striped::ColourOf(3));
@@ -336,81 +335,60 @@ TEST(WindowSeams, NoDotBetweenWindowsStaysUnpainted) {
   }
 }
 
-struct ScrollRow {
-  const char* name;
-  int dx;
-  int dy;
-  CRect rect;  ///< empty: null
-  CRect clip;
-  CRect pending;
-  CRect update;  ///< afterwards
-};
-
-class WindowScroll : public WindowPaint, public testing::WithParamInterface<ScrollRow> {};
-
 /// Held against moving the pixels one by one.
-TEST_P(WindowScroll, MovesPixelsUncoversABandAndCarriesThePendingRegion) {
-  const ScrollRow& row = GetParam();
-  {
-    CClientDC dc(&window);
-    for (int x = 0; x < 100; x += 10) dc.FillSolidRect(CRect(x, 0, x + 1, 100), RGB(x, 0, 0));
-  }
-  COLORREF before[100][100];
-  for (int y = 0; y < 100; ++y) {
-    for (int x = 0; x < 100; ++x) before[y][x] = window.At(x, y);
-  }
-  if (!row.pending.IsRectEmpty()) window.InvalidateRect(&row.pending, FALSE);
-  window.ScrollWindow(row.dx, row.dy, row.rect.IsRectEmpty() ? nullptr : &row.rect,
-                      row.clip.IsRectEmpty() ? nullptr : &row.clip);
-  const CRect client(0, 0, 100, 100);
-  const CRect area = row.rect.IsRectEmpty() ? client : row.rect;
-  const CRect clip = row.clip.IsRectEmpty() ? area : row.clip;
-  // Pixels are not moved by a part of a dot; what they would have reached is painted.
-  const double scale = window.GetScaleFactor();
-  const bool moves = std::fmod(row.dx * scale, 1.0) == 0.0 && std::fmod(row.dy * scale, 1.0) == 0.0;
-  CRect update = row.update;
-  if (!moves) update.UnionRect(update, clip);
-  EXPECT_EQ(Update(), update);
-  int wrong = 0;
-  for (int y = 0; y < 100; ++y) {
-    for (int x = 0; x < 100; ++x) {
-      const CPoint from(x - row.dx, y - row.dy);
-      const bool moved = moves && clip.PtInRect(CPoint(x, y)) && area.PtInRect(from) && client.PtInRect(from);
-      wrong += window.At(x, y) == (moved ? before[from.y][from.x] : before[y][x]) ? 0 : 1;
+TEST_F(WindowPaint, ScrollingMovesPixelsUncoversABandAndCarriesThePendingRegion) {
+  const CRect all(0, 0, 100, 100);
+  struct Row {
+    const char* name;
+    int dx;
+    int dy;
+    CRect update;   ///< afterwards
+    CRect pending;  ///< before
+    CRect area;     ///< empty: null
+    CRect clip;
+  };
+  const Row rows[] = {
+      {"up", 0, -10, CRect(0, 90, 100, 100), {}, {}, {}},
+      {"down", 0, 15, CRect(0, 0, 100, 15), {}, {}, {}},
+      {"left", -30, 0, CRect(70, 0, 100, 100), {}, {}, {}},
+      {"right", 7, 0, CRect(0, 0, 7, 100), {}, {}, {}},
+      {"diagonal", 20, -30, all, {}, {}, {}},
+      {"a part", 0, -10, CRect(20, 70, 80, 80), {}, CRect(20, 20, 80, 80), {}},
+      {"clipped", 0, 10, CRect(0, 0, 50, 10), {}, CRect(0, 0, 100, 50), CRect(0, 0, 50, 50)},
+      {"all gone", 0, -100, all, {}, {}, {}},
+      {"pending moves", 0, -10, CRect(0, 30, 100, 100), CRect(0, 40, 100, 50), {}, {}},
+      {"pending outside", 0, -10, CRect(0, 0, 100, 60), CRect(0, 0, 10, 10), CRect(0, 20, 100, 60), {}},
+      {"nowhere", 0, 0, CRect(), {}, {}, {}}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    window.RedrawWindow();
+    {
+      CClientDC dc(&window);
+      for (int x = 0; x < 100; x += 10) dc.FillSolidRect(CRect(x, 0, x + 1, 100), RGB(x, 0, 0));
     }
-  }
-  EXPECT_EQ(wrong, 0);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Scrolls, WindowScroll,
-    testing::Values(ScrollRow{"Up", 0, -10, {}, {}, {}, CRect(0, 90, 100, 100)},
-                    ScrollRow{"Down", 0, 15, {}, {}, {}, CRect(0, 0, 100, 15)},
-                    ScrollRow{"Left", -30, 0, {}, {}, {}, CRect(70, 0, 100, 100)},
-                    ScrollRow{"Right", 7, 0, {}, {}, {}, CRect(0, 0, 7, 100)},
-                    ScrollRow{"Diagonal", 20, -30, {}, {}, {}, CRect(0, 0, 100, 100)},
-                    ScrollRow{"PartOnly", 0, -10, CRect(20, 20, 80, 80), {}, {}, CRect(20, 70, 80, 80)},
-                    ScrollRow{
-                        "Clipped", 0, 10, CRect(0, 0, 100, 50), CRect(0, 0, 50, 50), {}, CRect(0, 0, 50, 10)},
-                    ScrollRow{"AllGone", 0, -100, {}, {}, {}, CRect(0, 0, 100, 100)},
-                    ScrollRow{"PendingMoves", 0, -10, {}, {}, CRect(0, 40, 100, 50), CRect(0, 30, 100, 100)},
-                    ScrollRow{"PendingOutsideStays",
-                              0,
-                              -10,
-                              CRect(0, 20, 100, 60),
-                              {},
-                              CRect(0, 0, 10, 10),
-                              CRect(0, 0, 100, 60)},
-                    ScrollRow{"Nowhere", 0, 0, {}, {}, {}, CRect()}),
-    [](const auto& row) { return row.param.name; });
-
-TEST_F(WindowPaint, TheSurfaceHasTheDotsOfTheScreensScale) {
-  EXPECT_EQ(window.GetScaleFactor(), coregui::WidgetOf(&window)->devicePixelRatioF());
-  CClientDC dc(&window);
-  EXPECT_EQ(dc.GetScaleFactor(), window.GetScaleFactor());
-  EXPECT_EQ(window.GetClientRectangle(), CRect(0, 0, 100, 100)) << "coordinates stay logical";
-  if (const char* wanted = std::getenv("COREGUI_TEST_SCALE")) {
-    EXPECT_EQ(window.GetScaleFactor(), std::stod(wanted));
+    COLORREF before[100][100];
+    for (int at = 0; at < 10'000; ++at) before[at / 100][at % 100] = window.At(at % 100, at / 100);
+    if (!row.pending.IsRectEmpty()) window.InvalidateRect(&row.pending, FALSE);
+    window.ScrollWindow(row.dx, row.dy, row.area.IsRectEmpty() ? nullptr : &row.area,
+                        row.clip.IsRectEmpty() ? nullptr : &row.clip);
+    const CRect area = row.area.IsRectEmpty() ? all : row.area;
+    const CRect clip = row.clip.IsRectEmpty() ? area : row.clip;
+    // Pixels are not moved by a part of a dot; what they would have reached is painted.
+    const double scale = window.GetScaleFactor();
+    const bool moves = std::fmod(row.dx * scale, 1.0) == 0.0 && std::fmod(row.dy * scale, 1.0) == 0.0;
+    CRect update = row.update;
+    if (!moves) update.UnionRect(update, clip);
+    EXPECT_EQ(Update(), update);
+    int wrong = 0;
+    for (int at = 0; at < 10'000; ++at) {
+      const CPoint to(at % 100, at / 100);
+      const CPoint from(to.x - row.dx, to.y - row.dy);
+      const bool moved = moves && clip.PtInRect(to) && area.PtInRect(from);
+      const CPoint source = moved ? from : to;
+      wrong += window.At(to.x, to.y) == before[source.y][source.x] ? 0 : 1;
+    }
+    EXPECT_EQ(wrong, 0);
+    window.ValidateRect(nullptr);
   }
 }
 
