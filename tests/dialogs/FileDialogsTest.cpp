@@ -18,31 +18,30 @@ using namespace coregui::test;
 class FileDialogsTest : public FolderTest {
  protected:
   FileDialogsTest() {
-    fs::create_directory(FolderTest::At("sub"));
+    fs::create_directory(At("sub"));
     Write("survey.csv", "x");
     Write("other.csv", "x");
   }
-  CString At(const char* name) const { return Wide(name); }
 };
 
-TEST_F(FileDialogsTest, AMissingFileIsFoundBesideTheOneThatNeedsIt) {
-  const NoWindow none;
-  CString path = L"C:\\data\\survey.csv";
-  EXPECT_TRUE(coreGetNewFilePath(path, L"Survey", L"csv", At("project.ini"), nullptr));
-  EXPECT_EQ(path, At("survey.csv"));
-}
-
-TEST_F(FileDialogsTest, WithoutAFolderToSearchTheUserIsAskedEvenForAFileThatExists) {
+TEST_F(FileDialogsTest, AMissingFileIsFoundBesideTheOneThatNeedsItOrElseTheUserIsAsked) {
+  {
+    const NoWindow none;
+    CString path = L"C:\\data\\survey.csv";
+    EXPECT_TRUE(coreGetNewFilePath(path, L"Survey", L"csv", Wide("project.ini"), nullptr));
+    EXPECT_EQ(path, Wide("survey.csv"));
+  }
+  // Without a folder to search the user is asked even for a file that exists.
   for (const wchar_t* searchIn : {L"", L"name only", static_cast<const wchar_t*>(nullptr)}) {
     const NextWindow next([&](ShownWindow& box) {
       EXPECT_EQ(box.Title(), "Confirmation");
-      EXPECT_EQ(box.Text(), "The following required file was not found:\n\n" + At("survey.csv").ToUtf8() +
+      EXPECT_EQ(box.Text(), "The following required file was not found:\n\n" + At("survey.csv") +
                                 "\n\nWould you like to look for the file yourself ?");
       box.Click("No");
     });
-    CString path = At("survey.csv");
+    CString path = Wide("survey.csv");
     EXPECT_FALSE(coreGetNewFilePath(path, L"Survey", L"csv", searchIn, nullptr));
-    EXPECT_EQ(path, At("survey.csv"));
+    EXPECT_EQ(path, Wide("survey.csv"));
   }
 }
 
@@ -64,15 +63,15 @@ TEST_F(FileDialogsTest, TheUserLooksForTheFile) {
       EXPECT_TRUE(dialog.IsOpen());
       dialog.Choose(m_folder + "/other.csv");
     });
-    CString path = At("lost.csv");
-    EXPECT_TRUE(coreGetNewFilePath(path, L"Survey", L"*.csv", At("sub/x"), &owner));
-    EXPECT_EQ(path, At("other.csv"));
+    CString path = Wide("lost.csv");
+    EXPECT_TRUE(coreGetNewFilePath(path, L"Survey", L"*.csv", Wide("sub/x"), &owner));
+    EXPECT_EQ(path, Wide("other.csv"));
   }
   coregui::Profile::Get().WriteInt(L"UnitTesting", L"PopupChoiceId", IDYES);
   const NextWindow next([&](ShownWindow& dialog) { dialog.Key(VK_ESCAPE); });
-  CString path = At("lost.csv");
+  CString path = Wide("lost.csv");
   EXPECT_FALSE(coreGetNewFilePath(path, L"Survey", L"csv", L"", &owner));
-  EXPECT_EQ(path, At("lost.csv"));
+  EXPECT_EQ(path, Wide("lost.csv"));
 }
 
 TEST_F(FileDialogsTest, FiltersAreTakenWholeOrMadeOfNameAndExtension) {
@@ -96,9 +95,9 @@ TEST_F(FileDialogsTest, FiltersAreTakenWholeOrMadeOfNameAndExtension) {
     EXPECT_FALSE(coreFileDialog(L"Open", path, row.text1, row.text2, true, 0));
   }
   const NextWindow next([&](ShownWindow& dialog) { dialog.Choose(m_folder + "/new"); });
-  CString path = At("draft.csv");
+  CString path = Wide("draft.csv");
   EXPECT_TRUE(coreFileDialog(L"Save", path, L"Survey", L".csv", false, OFN_OVERWRITEPROMPT));
-  EXPECT_EQ(path, At("new.csv"));
+  EXPECT_EQ(path, Wide("new.csv"));
 }
 
 TEST_F(FileDialogsTest, AFolderIsChosenAndNoneIsMade) {
@@ -110,12 +109,12 @@ TEST_F(FileDialogsTest, AFolderIsChosenAndNoneIsMade) {
       EXPECT_FALSE(dialog.CanMakeFolder());
       dialog.Key(VK_ESCAPE);
     });
-    EXPECT_FALSE(coreGetFolder(folder, L"Where to?", nullptr, At("").GetString()));
+    EXPECT_FALSE(coreGetFolder(folder, L"Where to?", nullptr, Wide("").GetString()));
     EXPECT_EQ(folder, L"before");
   }
   const NextWindow next([&](ShownWindow& dialog) { dialog.Choose(m_folder + "/sub"); });
   EXPECT_TRUE(coreGetFolder(folder, L"Where to?", nullptr, nullptr));
-  EXPECT_EQ(folder, At("sub"));
+  EXPECT_EQ(folder, Wide("sub"));
 }
 
 }  // namespace

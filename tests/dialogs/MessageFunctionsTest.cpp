@@ -44,12 +44,8 @@ TEST(MessageFunctions, CaptionsIconsButtonsAndAnswers) {
   const Row rows[] = {
       {"Confirmation", "question", yesNo, "No", [&] { return ConfirmMessage(text, noWindow); }, IDNO},
       {"Confirmation", "stop", yesNo, "Yes", [&] { return ConfirmMessage(text, kDesktop, true); }, IDYES},
-      {"C",
-       "warning",
-       {"Retry", "Cancel"},
-       "Retry",
-       [&] { return CustomMessage(text, L"C", MB_RETRYCANCEL | MB_ICONWARNING, noWindow); },
-       IDRETRY},
+      {"C", "warning", yesNo, "No",
+       [&] { return CustomMessage(text, L"C", MB_YESNO | MB_ICONWARNING, noWindow); }, IDNO},
       {"Error", "stop", ok, "OK", [&] { return ErrorMessage(text, kDesktop), 0; }, 0},
       {"Warning", "warning", ok, "OK", [&] { return WarningMessage(text, noWindow), 0; }, 0},
       {"Information", "information", ok, "OK", [&] { return InfoMessage(text, kDesktop), 0; }, 0}};

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 #include <random>
+#include <tuple>
 #include <vector>
 
 #include "platform/CDC.h"
@@ -31,14 +32,13 @@ class Drawing : public testing::TestWithParam<double> {
   std::uint32_t Dot(int x, int y) const { return surface->Row(y)[x] & 0xFFFFFFU; }
   int Edge(int logical) const { return static_cast<int>(std::floor(logical * GetParam() + 0.5)); }
   int CountDots(std::uint32_t colour) const {
+    const int width = surface->Dots().cx;
     int count = 0;
-    for (int y = 0; y < surface->Dots().cy; ++y) {
-      count +=
-          static_cast<int>(std::count_if(surface->Row(y), surface->Row(y) + surface->Dots().cx,
-                                         [=](std::uint32_t dot) { return (dot & 0xFFFFFFU) == colour; }));
-    }
+    for (int at = 0; at < AllDots(); ++at) count += Dot(at % width, at / width) == colour ? 1 : 0;
     return count;
   }
+  int AllDots() const { return surface->Dots().cx * surface->Dots().cy; }
+  void Clear() { dc.FillSolidRect(CRect(0, 0, 60, 40), white); }
 };
 
 INSTANTIATE_TEST_SUITE_P(Scales, Drawing, testing::Values(1.0, 1.25, 1.5, 2.0));
@@ -51,32 +51,27 @@ TEST_P(Drawing, Fill_CoversTheDotsBetweenRoundedEdges) {
   EXPECT_EQ(dc.GetPixel(9, 8), red);
   EXPECT_EQ(dc.GetPixel(10, 8), white);
   EXPECT_EQ(dc.GetPixel(-1, 0), 0xFFFFFFFFU);
-}
-
-TEST_P(Drawing, NeighbouringRectangles_NeitherGapNorOverlap) {
+  Clear();
   for (int x = 0; x < 60; x += 7) {
-    for (int y = 0; y < 40; y += 3) {
-      dc.InvertRect(CRect(x, y, x + 7, y + 3));
-    }
+    for (int y = 0; y < 40; y += 3) dc.InvertRect(CRect(x, y, x + 7, y + 3));
   }
-  EXPECT_EQ(CountDots(0), surface->Dots().cx * surface->Dots().cy);
+  EXPECT_EQ(CountDots(0), AllDots()) << "neighbours neither gap nor overlap";
 }
 
 TEST_P(Drawing, StraightLine_LeavesOutItsLastPixelInEitherDirection) {
   CPen pen(PS_SOLID, 1, red);
   dc.SelectObject(&pen);
   const int thick = std::max(1, static_cast<int>(std::floor(GetParam() + 0.5)));
-  dc.MoveTo(4, 10);
-  dc.LineTo(20, 10);
-  EXPECT_EQ(CountDots(0xFF0000), (Edge(20) - Edge(4)) * thick);
-  EXPECT_EQ(dc.GetPixel(19, 10), red);
-  EXPECT_EQ(dc.GetPixel(20, 10), white);
-  dc.FillSolidRect(CRect(0, 0, 60, 40), white);
-  dc.MoveTo(30, 20);
-  dc.LineTo(30, 5);
-  EXPECT_EQ(CountDots(0xFF0000), (Edge(21) - Edge(6)) * thick);
-  EXPECT_EQ(dc.GetPixel(30, 20), red);
-  EXPECT_EQ(dc.GetPixel(30, 5), white);
+  const std::tuple<CPoint, CPoint, int> rows[] = {{{4, 10}, {20, 10}, Edge(20) - Edge(4)},
+                                                  {{30, 20}, {30, 5}, Edge(21) - Edge(6)}};
+  for (const auto& [from, to, length] : rows) {
+    Clear();
+    dc.MoveTo(from.x, from.y);
+    dc.LineTo(to.x, to.y);
+    EXPECT_EQ(CountDots(0xFF0000), length * thick);
+    EXPECT_EQ(dc.GetPixel(from.x, from.y), red);
+    EXPECT_EQ(dc.GetPixel(to.x, to.y), white);
+  }
 }
 
 TEST_P(Drawing, Polyline_HasTheDotsOfItsSegments_UpAndDownInAColumnToo) {
@@ -90,13 +85,13 @@ TEST_P(Drawing, Polyline_HasTheDotsOfItsSegments_UpAndDownInAColumnToo) {
   CPen pen(PS_SOLID, 1, red);
   dc.SelectObject(&pen);
   for (const std::vector<POINT>& line : lines) {
-    dc.FillSolidRect(CRect(0, 0, 60, 40), white);
+    Clear();
     for (std::size_t i = 1; i < line.size(); ++i) {
       dc.MoveTo(line[i - 1].x, line[i - 1].y);
       dc.LineTo(line[i].x, line[i].y);
     }
     const QImage segments = surface->Snapshot();
-    dc.FillSolidRect(CRect(0, 0, 60, 40), white);
+    Clear();
     dc.Polyline(line.data(), static_cast<int>(line.size()));
     EXPECT_EQ(surface->Snapshot(), segments) << "the line from column " << line[0].x;
   }
@@ -106,7 +101,7 @@ TEST_P(Drawing, DiagonalHatches_FallAndRiseToTheRight) {
   CPen none(PS_NULL, 1, 0);
   dc.SelectObject(&none);
   for (const int hatch : {HS_FDIAGONAL, HS_BDIAGONAL}) {
-    dc.FillSolidRect(CRect(0, 0, 60, 40), white);
+    Clear();
     CBrush brush(hatch, red);
     dc.SelectObject(&brush);
     const POINT all[] = {{0, 0}, {60, 0}, {60, 40}, {0, 40}};
@@ -132,10 +127,10 @@ TEST_P(Drawing, Dashes_GoOnFromPartToPart) {
     dc.SelectObject(&pen);
     const POINT whole[] = {{2, 10}, {58, 10}};
     const POINT parts[] = {{2, 10}, {4, 10}, {9, 10}, {10, 10}, {23, 10}, {24, 10}, {58, 10}};
-    dc.FillSolidRect(CRect(0, 0, 60, 40), white);
+    Clear();
     dc.Polyline(whole, 2);
     const QImage line = surface->Snapshot();
-    dc.FillSolidRect(CRect(0, 0, 60, 40), white);
+    Clear();
     dc.Polyline(parts, 7);
     EXPECT_EQ(surface->Snapshot(), line) << style;
   }
@@ -183,8 +178,7 @@ TEST_P(Drawing, Clip_ConfinesEveryKindOfDrawing) {
   dc.Rectangle(CRect(0, 0, 60, 40));
   dc.Ellipse(CRect(0, 0, 60, 40));
   dc.TextOut(0, 0, L"WWWWWWWWWWWWWWWW \u05D0\u0301", -1);
-  EXPECT_EQ(CountDots(0xFFFFFF), surface->Dots().cx * surface->Dots().cy -
-                                     (Edge(31) - Edge(11)) * (Edge(23) - Edge(7)) +
+  EXPECT_EQ(CountDots(0xFFFFFF), AllDots() - (Edge(31) - Edge(11)) * (Edge(23) - Edge(7)) +
                                      (Edge(20) - Edge(15)) * (Edge(15) - Edge(10)));
   EXPECT_TRUE(dc.RectVisible(CRect(11, 7, 16, 11)));
   EXPECT_FALSE(dc.RectVisible(CRect(15, 10, 20, 15)));
@@ -199,7 +193,7 @@ TEST_P(Drawing, LineThroughAClip_HasTheDotsOfTheWholeLine) {
   const POINT line[] = {{-70, -33}, {101, 57}};
   dc.Polyline(line, 2);
   const QImage whole = surface->Snapshot();
-  dc.FillSolidRect(CRect(0, 0, 60, 40), white);
+  Clear();
   for (int x = 0; x < 60; x += 11) {
     for (int y = 0; y < 40; y += 9) {
       dc.SelectClipRect(nullptr);
@@ -321,8 +315,7 @@ TEST(DrawingState, RestoreDC_BringsBackTheLevelAskedFor) {
   dc.SetViewportOrg(3, 4);
   dc.SetROP2(R2_NOT);
   EXPECT_EQ(dc.SaveDC(), 3);
-  EXPECT_FALSE(dc.RestoreDC(4));
-  EXPECT_FALSE(dc.RestoreDC(0));
+  EXPECT_FALSE(dc.RestoreDC(4) || dc.RestoreDC(0));
   EXPECT_TRUE(dc.RestoreDC(2));
   EXPECT_EQ(dc.GetCurrentPen(), &pen);
   EXPECT_EQ(dc.GetCurrentFont(), nullptr);
@@ -382,19 +375,17 @@ TEST(SurfaceMemory, Moves_AreThoseOfPlainMemory) {
     const CRect dot(any(0, width - 40), any(0, height - 1), width, height);
     const COLORREF colour = RGB(any(0, 255), any(0, 255), 0);
     dc.FillSolidRect(dot, colour);
-    for (int y = dot.top; y < height; ++y) {
-      for (int x = dot.left; x < width; ++x) {
-        plain[static_cast<std::size_t>(y * width + x)] = coregui::Opaque(colour);
-      }
-    }
     ASSERT_TRUE(surface->MovePixels(area, dx, dy, area));
+    const auto at = [](auto& dots, int x, int y) -> auto& {
+      return dots[static_cast<std::size_t>(y * width + x)];
+    };
+    for (int y = dot.top; y < height; ++y) {
+      for (int x = dot.left; x < width; ++x) at(plain, x, y) = coregui::Opaque(colour);
+    }
     const std::vector<std::uint32_t> before = plain;
     for (int y = area.top; y < area.bottom; ++y) {
       for (int x = area.left; x < area.right; ++x) {
-        if (area.PtInRect(CPoint(x - dx, y - dy))) {
-          plain[static_cast<std::size_t>(y * width + x)] =
-              before[static_cast<std::size_t>((y - dy) * width + x - dx)];
-        }
+        if (area.PtInRect(CPoint(x - dx, y - dy))) at(plain, x, y) = at(before, x - dx, y - dy);
       }
     }
     for (int y = 0; y < height; ++y) {

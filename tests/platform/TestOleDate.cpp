@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 #include <string>
+#include <tuple>
 #include <utility>
 
 #include "platform/Locale.h"
@@ -55,25 +56,23 @@ TEST(OleDate, FractionsCountForwardsInTheYears100To9999) {
 }
 
 TEST(OleDate, FieldsOutsideARealDateAreRefused) {
-  SYSTEMTIME time;
-  time.wYear = 1899;
-  time.wMonth = 12;
-  time.wDay = 29;
-  time.wHour = 6;
+  struct Row {
+    WORD year, month, day, hour, second;
+    bool real;
+  };
+  constexpr Row rows[] = {{1900, 2, 29, 6, 0, false},  // no leap year
+                          {2000, 2, 29, 6, 0, true},
+                          {2000, 2, 29, 6, 60, false},
+                          {99, 2, 1, 6, 0, false},
+                          {1899, 12, 29, 6, 0, true}};
   DATE date = 7.0;
-  ASSERT_TRUE(SystemTimeToVariantTime(time, &date));
+  for (const Row& row : rows) {
+    SYSTEMTIME time;
+    std::tie(time.wYear, time.wMonth, time.wDay, time.wHour, time.wSecond) =
+        std::tie(row.year, row.month, row.day, row.hour, row.second);
+    EXPECT_EQ(SystemTimeToVariantTime(time, &date), row.real) << row.year << ' ' << row.second;
+  }
   EXPECT_EQ(date, -1.25);
-  time.wYear = 1900;
-  time.wMonth = 2;
-  EXPECT_FALSE(SystemTimeToVariantTime(time, &date));  // 1900 was no leap year
-  time.wYear = 2000;
-  EXPECT_TRUE(SystemTimeToVariantTime(time, &date));
-  time.wSecond = 60;
-  EXPECT_FALSE(SystemTimeToVariantTime(time, &date));
-  time.wSecond = 0;
-  time.wYear = 99;
-  time.wDay = 1;
-  EXPECT_FALSE(SystemTimeToVariantTime(time, &date));
 }
 
 TEST(DateText, IsReadInTheOrderOfTheLocaleWithNamesAndTimes) {

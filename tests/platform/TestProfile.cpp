@@ -29,7 +29,7 @@ class ProfileTest : public coregui::test::FolderTest {
   coregui::Profile m_profile;
 };
 
-TEST_F(ProfileTest, EntriesAreKeptAcrossObjects) {
+TEST_F(ProfileTest, EntriesAreKeptAcrossObjectsAndEveryTextComesBackAsItWas) {
   EXPECT_EQ(m_profile.GetInt(L"UnitTesting", L"PopupChoiceId", 7), 7);
   EXPECT_TRUE(m_profile.WriteInt(L"UnitTesting", L"PopupChoiceId", -5));
   EXPECT_TRUE(m_profile.WriteString(L"View", L"Title", L"L\u00E4nge = 5; # \"x\""));
@@ -38,9 +38,6 @@ TEST_F(ProfileTest, EntriesAreKeptAcrossObjects) {
   EXPECT_EQ(other.GetInt(L"unittesting", L"POPUPCHOICEID", 0), -5);
   EXPECT_EQ(other.GetString(L"View", L"Title"), L"L\u00E4nge = 5; # \"x\"");
   EXPECT_EQ(other.GetPath(), Wide(kFile));
-}
-
-TEST_F(ProfileTest, EveryTextComesBackAsItWas) {
   for (const wchar_t* text :
        {L"", L" ", L" a ", L"\"", L"\"\"", L"\"a\"", L"a\nb\r\nc", L"\\", L" \\n\\", L"[x]", L"=", L"\t;#"}) {
     ASSERT_TRUE(m_profile.WriteString(L"S", L"E", text));
@@ -63,18 +60,15 @@ TEST_F(ProfileTest, HandEditedFilesKeepTheirLines) {
   EXPECT_EQ(Contents(), "; mine\nstray\n[A]\nnew=3\n\n[ B ]\nY=4\nz\n[A]\nx=2\n\n");
 }
 
-TEST_F(ProfileTest, WhatAnotherProgramWritesIsSeen) {
-  WriteFile("[U]\nn=1\n");
-  EXPECT_EQ(m_profile.GetInt(L"U", L"n", 0), 1);
-  WriteFile("[U]\nn=4294967295\n");
-  EXPECT_EQ(m_profile.GetInt(L"U", L"n", 0), -1);
-}
-
-TEST_F(ProfileTest, NamesThatAFileCannotHoldAreRefused) {
+TEST_F(ProfileTest, WhatAnotherProgramWritesIsSeenAndNamesThatAFileCannotHoldAreRefused) {
   constexpr std::pair<const wchar_t*, const wchar_t*> rows[] = {
       {L"", L"e"}, {L"a]b", L"e"}, {L"a", L"e=f"}, {L"a", L";e"}, {L"a", L"e\nf"}};
   for (const auto& [section, entry] : rows) EXPECT_FALSE(m_profile.WriteInt(section, entry, 1));
-  EXPECT_FALSE(fs::exists(At(kFile)));
+  EXPECT_FALSE(Has(kFile));
+  for (const auto& [text, number] : {std::pair("1", 1), std::pair("4294967295", -1)}) {
+    WriteFile(std::string("[U]\nn=") + text);
+    EXPECT_EQ(m_profile.GetInt(L"U", L"n", 0), number);
+  }
 }
 
 TEST_F(ProfileTest, AnUnwritableFolderIsReportedOnceAndTheValuesLast) {

@@ -54,14 +54,14 @@ TEST(DpiScale, LengthsRoundAndNeverVanish) {
 
 TEST(KeyState, PressingTogglesTheLowBit) {
   EXPECT_EQ(GetKeyState(VK_SHIFT), 0);
-  SetKeyState(VK_SHIFT, true);
-  EXPECT_LT(GetKeyState(VK_SHIFT), 0);
-  SetKeyState(VK_SHIFT, true);
-  SetKeyState(VK_SHIFT, false);
-  EXPECT_EQ(GetKeyState(VK_SHIFT), 1);
-  SetKeyState(VK_SHIFT, true);
-  SetKeyState(VK_SHIFT, false);
-  EXPECT_EQ(GetKeyState(VK_SHIFT), 0);
+  for (const int toggled : {1, 0}) {
+    for (int presses = 0; presses < 2; ++presses) {  // the second one repeats
+      SetKeyState(VK_SHIFT, true);
+      EXPECT_LT(GetKeyState(VK_SHIFT), 0);
+    }
+    SetKeyState(VK_SHIFT, false);
+    EXPECT_EQ(GetKeyState(VK_SHIFT), toggled);
+  }
   SetKeyState(5000, true);
   EXPECT_EQ(GetKeyState(5000), 0);
 }
