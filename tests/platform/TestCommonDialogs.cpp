@@ -1,76 +1,159 @@
+// Message boxes, menus, file dialogs, finding and replacing.
+
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QCheckBox>
 #include <QLineEdit>
-#include <QProgressBar>
+#include <QMenu>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
+#include <QTimer>
 #include <filesystem>
+#include <string>
+#include <vector>
 
 #include "platform/CEdit.h"
 #include "platform/CFileDialog.h"
 #include "platform/CFindReplaceDialog.h"
-#include "platform/CProgressCtrl.h"
-#include "platform/CSliderCtrl.h"
-#include "platform/CSpinButtonCtrl.h"
+#include "platform/CMenu.h"
 #include "platform/DialogIds.h"
+#include "platform/MessageBox.h"
 #include "tests/support/ControlHost.h"
 #include "tests/support/FolderTest.h"
 #include "tests/support/ShownWindow.h"
 
 namespace {
 
+using coregui::MessageBoxParams;
+using coregui::ShowMessageBox;
 using namespace coregui::test;
 
-TEST(Slider, MovesByItselfAndTells) {
-  ControlHost host;
-  CSliderCtrl slider;
-  slider.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 24), &host, 2);
-  slider.SetRange(-10, 10);
-  slider.SetPos(99);
-  EXPECT_EQ(slider.GetPos(), 10);
-  EXPECT_EQ(host.TakeLog(), L"");
-  QTest::keyClick(WidgetOf(&slider), Qt::Key_Left);
-  EXPECT_EQ(slider.GetPos(), 9);
-  EXPECT_EQ(host.TakeLog(), L"h:0 h:8 ");
+TEST(MessageBox, ShowsItsStyleAndAnswersTheWellKnownNumbers) {
+  using Texts = std::vector<std::string>;
+  struct Row {
+    UINT style;
+    Texts buttons;
+    const char* icon;
+    int first;
+    int escape;  ///< 0: neither Esc nor closing does anything
+  };
+  const Row rows[] = {
+      {MB_OK | MB_ICONSTOP, {"OK"}, "stop", IDOK, IDOK},
+      {MB_OKCANCEL | MB_ICONWARNING, {"OK", "Cancel"}, "warning", IDOK, IDCANCEL},
+      {MB_ABORTRETRYIGNORE, {"Abort", "Retry", "Ignore"}, "none", IDABORT, 0},
+      {MB_YESNOCANCEL | MB_ICONQUESTION, {"Yes", "No", "Cancel"}, "question", IDYES, IDCANCEL},
+      {MB_YESNO | MB_ICONINFORMATION, {"Yes", "No"}, "information", IDYES, 0},
+      {MB_YESNOCANCEL | MB_DEFBUTTON2, {"Yes", "No", "Cancel"}, "none", IDNO, IDCANCEL},
+      {MB_RETRYCANCEL, {"Retry", "Cancel"}, "none", IDRETRY, IDCANCEL}};
+  MessageBoxParams params;
+  params.caption = L"Caption";
+  params.text = L"100% <b>sure</b>?";
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.style);
+    params.style = row.style;
+    {
+      const NextWindow next([&](ShownWindow& box) {
+        EXPECT_EQ(box.Buttons(), row.buttons);
+        EXPECT_EQ(box.Icon(), row.icon);
+        EXPECT_EQ(box.Title(), "Caption");
+        EXPECT_EQ(static_cast<QMessageBox*>(QApplication::activeModalWidget())->textFormat(), Qt::PlainText);
+        box.Key(VK_RETURN);
+      });
+      EXPECT_EQ(ShowMessageBox(params), row.first);
+    }
+    const NextWindow next([&](ShownWindow& box) {
+      box.Key(VK_ESCAPE);
+      if (row.escape != 0) return;
+      box.Close();
+      EXPECT_TRUE(box.IsOpen());
+      box.Click(row.buttons[1]);
+    });
+    EXPECT_EQ(ShowMessageBox(params), row.escape != 0 ? row.escape : row.first + 1);
+  }
 }
 
-/// Refuses to go down.
-class UpOnly : public CSpinButtonCtrl {
- protected:
-  bool OnDeltaPos(int /*position*/, int delta) override { return delta > 0; }
-};
-
-TEST(SpinButton, StepsShowInTheBuddy) {
-  ControlHost host;
-  CEdit buddy;
-  buddy.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 80, 24), &host, 1);
-  UpOnly spin;
-  spin.Create(WS_CHILD | WS_VISIBLE | UDS_SETBUDDYINT | UDS_WRAP, CRect(80, 0, 100, 24), &host, 2);
-  spin.SetBuddy(&buddy);
-  spin.SetRange32(5, 3);
-  spin.SetPos32(4);
-  host.TakeLog();
-  QTest::keyClick(WidgetOf(&spin), Qt::Key_Up);
-  EXPECT_EQ(buddy.GetWindowTextString(), L"5");
-  EXPECT_NE(host.TakeLog().Find(L"v:4 v:8 "), -1);
-  QTest::keyClick(WidgetOf(&spin), Qt::Key_Down);
-  EXPECT_EQ(spin.GetPos32(), 5);
-  QTest::keyClick(WidgetOf(&spin), Qt::Key_Up);
-  EXPECT_EQ(spin.GetPos32(), 3);
+TEST(MessageBox, AtMostFourButtonsOfTheCallers) {
+  MessageBoxParams params;
+  for (UINT i = 0; i < 6; ++i) params.buttons.push_back({100 + i, CString::Formatted(L"B%u", i)});
+  const NextWindow next([](ShownWindow& box) {
+    EXPECT_EQ(box.Buttons(), (std::vector<std::string>{"B0", "B1", "B2", "B3"}));
+    box.Click("B2");
+  });
+  EXPECT_EQ(ShowMessageBox(params), 102);
 }
 
-TEST(Progress, KeepsThePositionAndShowsTheRange) {
+TEST(MessageBox, ALongTextIsScrolledAndLeavesTheButtonsOnTheScreen) {
+  MessageBoxParams params;
+  params.style = MB_YESNO | MB_ICONSTOP;
+  for (const int lines : {3, 400}) {
+    params.text = L"First";
+    for (int i = 0; i < lines; ++i) params.text.AppendFormat(L"\nRow %d is not a number", i);
+    const NextWindow next([&](ShownWindow& shown) {
+      const auto& box = static_cast<QMessageBox&>(*QApplication::activeModalWidget());
+      EXPECT_LE(box.height(), box.screen()->availableSize().height());
+      for (const QAbstractButton* button : box.buttons()) {
+        EXPECT_TRUE(box.rect().contains(QRect(button->mapTo(&box, QPoint()), button->size())));
+      }
+      const auto* area = box.findChild<QScrollArea*>();
+      const int scrolls = area == nullptr ? 0 : area->verticalScrollBar()->maximum();
+      EXPECT_EQ(scrolls > 1000, lines > 3) << scrolls;
+      shown.Click("No");
+    });
+    EXPECT_EQ(ShowMessageBox(params), IDNO);
+  }
+}
+
+TEST(Menu, AnswersTheChosenCommand) {
   ControlHost host;
-  CProgressCtrl bar;
-  bar.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 24), &host, 2);
-  bar.SetRange32(0, 200);
-  EXPECT_EQ(bar.SetPos(201), 0);
-  EXPECT_EQ(bar.GetPos(), 201);
-  EXPECT_EQ(static_cast<QProgressBar*>(WidgetOf(&bar))->value(), 200);
-  bar.SetPos(195);
-  bar.StepIt();
-  EXPECT_EQ(bar.GetPos(), 0);
+  CMenu menu;
+  menu.CreatePopupMenu();
+  menu.AppendMenu(MF_STRING, 10, L"&Open\tCtrl+O");
+  menu.AppendMenu(MF_SEPARATOR);
+  menu.AppendMenu(MF_STRING | MF_GRAYED, 11, L"Shut");
+  CMenu* below = menu.AppendSubMenu(L"More");
+  below->AppendMenu(MF_STRING | MF_CHECKED, 12, L"Deep");
+  const auto choose = [](int downs) {
+    QTimer::singleShot(0, [downs] {
+      auto& shown = static_cast<QMenu&>(*QApplication::activePopupWidget());
+      EXPECT_TRUE(shown.actions()[1]->isSeparator());
+      EXPECT_FALSE(shown.actions()[2]->isEnabled());
+      EXPECT_TRUE(shown.actions()[3]->menu()->actions()[0]->isChecked());
+      for (int i = 0; i < downs; ++i) QTest::keyClick(&shown, Qt::Key_Down);
+      QTest::keyClick(&shown, downs == 0 ? Qt::Key_Escape : Qt::Key_Return);
+    });
+  };
+  choose(1);
+  EXPECT_EQ(menu.TrackPopupMenu(TPM_RETURNCMD, 50, 50, &host), 10);
+  choose(1);
+  EXPECT_EQ(menu.TrackPopupMenu(0, 50, 50, &host), 1);
+  EXPECT_EQ(host.TakeLog(), L"a:0 ");
+  choose(0);
+  EXPECT_EQ(menu.TrackPopupMenu(TPM_RETURNCMD, 50, 50, &host), 0);
+}
+
+TEST(Menu, ItemsAreFoundByIdBelowTooAndByPositionHere) {
+  CMenu menu;
+  menu.AppendMenu(MF_STRING, 10, L"a");
+  menu.AppendSubMenu(L"b")->AppendMenu(MF_STRING, 12, L"c");
+  EXPECT_EQ(menu.CheckMenuItem(12, MF_CHECKED), MF_UNCHECKED);
+  EXPECT_EQ(menu.CheckMenuItem(12, MF_UNCHECKED), MF_CHECKED);
+  EXPECT_EQ(menu.EnableMenuItem(99, MF_GRAYED), static_cast<UINT>(-1));
+  EXPECT_EQ(menu.EnableMenuItem(0, MF_BYPOSITION | MF_GRAYED), MF_ENABLED);
+  EXPECT_EQ(menu.GetMenuState(10, MF_BYCOMMAND), MF_GRAYED);
+  EXPECT_TRUE(menu.InsertMenu(12, MF_BYCOMMAND, 13, L"d"));
+  EXPECT_EQ(menu.GetSubMenu(1)->GetMenuItemID(0), 13U);
+  EXPECT_EQ(menu.GetMenuItemID(1), static_cast<UINT>(-1));
+  EXPECT_TRUE(menu.DeleteMenu(0, MF_BYPOSITION));
+  EXPECT_EQ(menu.GetMenuItemCount(), 1);
+  CString text;
+  EXPECT_EQ(menu.GetMenuString(0, text, MF_BYPOSITION), 1);
+  EXPECT_EQ(text, L"b");
 }
 
 class FileDialogTest : public FolderTest {

@@ -1,8 +1,16 @@
+// Numbers, amounts and dates as the user writes them.
+
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
 #include <optional>
+#include <string>
+#include <tuple>
+#include <utility>
 
 #include "platform/Locale.h"
+#include "platform/OleDate.h"
 
 namespace {
 
@@ -122,6 +130,153 @@ TEST(Currency, RefusesWhatIsNoAmount) {
     EXPECT_FALSE(Currency(text).has_value()) << CString(text).ToUtf8();
   }
   EXPECT_FALSE(Currency(nullptr).has_value());
+}
+
+std::string Iso(DATE date) {
+  SYSTEMTIME t;
+  if (!VariantTimeToSystemTime(date, &t)) return "none";
+  return CString::Formatted(L"%04d-%02d-%02d %02d:%02d:%02d.%03d", t.wYear, t.wMonth, t.wDay, t.wHour,
+                            t.wMinute, t.wSecond, t.wMilliseconds)
+      .ToUtf8();
+}
+
+/// Without the time at midnight.
+std::string Parsed(const wchar_t* text) {
+  DATE date = 0.0;
+  switch (VarDateFromStr(text, &date)) {
+    case DateResult::ok:
+      return Iso(date).substr(0, date == std::floor(date) ? 10 : 19);
+    case DateResult::overflow:
+      return "overflow";
+    case DateResult::typeMismatch:
+      break;
+  }
+  return "mismatch";
+}
+
+TEST(OleDate, FractionsCountForwardsInTheYears100To9999) {
+  // The last millisecond rounds into the next day.
+  constexpr std::pair<DATE, const char*> rows[] = {
+      {0.0, "1899-12-30 00:00:00.000"},
+      {-1.25, "1899-12-29 06:00:00.000"},
+      {-0.75, "1899-12-30 18:00:00.000"},
+      {36526.5, "2000-01-01 12:00:00.000"},
+      {1.0 - 1e-10, "1899-12-31 00:00:00.000"},
+      {-2.0 - (1.0 - 1e-10), "1899-12-29 00:00:00.000"},
+      {-657434.0, "0100-01-01 00:00:00.000"},
+      {-657434.75, "0100-01-01 18:00:00.000"},
+      {-657435.0, "none"},
+      {2958465.5, "9999-12-31 12:00:00.000"},
+      {2958465.9999999999, "none"},
+      {2958466.0, "none"},
+      {std::numeric_limits<double>::quiet_NaN(), "none"},
+  };
+  for (const auto& [date, text] : rows) EXPECT_EQ(Iso(date), text) << date;
+  EXPECT_EQ(VarDateToStr(1.0 - 1e-6), L"12/31/1899");  // 0.09 seconds before midnight
+  EXPECT_EQ(VarDateToStr(1e300), L"");
+}
+
+TEST(OleDate, FieldsOutsideARealDateAreRefused) {
+  struct Row {
+    WORD year, month, day, hour, second;
+    bool real;
+  };
+  constexpr Row rows[] = {{1900, 2, 29, 6, 0, false},  // no leap year
+                          {2000, 2, 29, 6, 0, true},
+                          {2000, 2, 29, 6, 60, false},
+                          {99, 2, 1, 6, 0, false},
+                          {1899, 12, 29, 6, 0, true}};
+  DATE date = 7.0;
+  for (const Row& row : rows) {
+    SYSTEMTIME time;
+    std::tie(time.wYear, time.wMonth, time.wDay, time.wHour, time.wSecond) =
+        std::tie(row.year, row.month, row.day, row.hour, row.second);
+    EXPECT_EQ(SystemTimeToVariantTime(time, &date), row.real) << row.year << ' ' << row.second;
+  }
+  EXPECT_EQ(date, -1.25);
+}
+
+TEST(DateText, IsReadInTheOrderOfTheLocaleWithNamesAndTimes) {
+  struct Row {
+    const wchar_t* locale;
+    const wchar_t* text;
+    const char* date;
+  };
+  // A field that fits nowhere in the locale's order is tried in others: the 25th of December.
+  constexpr Row rows[] = {
+      {L"en_US", L"1/2/2020", "2020-01-02"},
+      {L"de_DE", L"1.2.2020", "2020-02-01"},
+      {L"fr_CH", L"1/2-2020", "2020-02-01"},
+      {L"hi_IN", L"1 2 2020", "2020-02-01"},
+      {L"ja_JP", L"20/2/1", "2020-02-01"},
+      {L"de_DE", L"2020-02-01", "2020-02-01"},
+      {L"en_US", L"25/12/2020", "2020-12-25"},
+      {L"de_DE", L"12.25.2020", "2020-12-25"},
+      {L"en_US", L"2/30/2020", "mismatch"},
+      {L"en_US", L"1/2/29", "2029-01-02"},
+      {L"en_US", L"1/2/30", "1930-01-02"},
+      {L"en_US", L"2/29/1900", "mismatch"},
+      {L"en_US", L"3/2020", "2020-03-01"},
+      {L"en_US", L"1/1/99999", "overflow"},
+      {L"en_US", L"2/30/99999", "mismatch"},
+      {L"en_US", L"1/1/123456789", "mismatch"},
+      {L"en_US", L"Jan 5, 2020", "2020-01-05"},
+      {L"en_US", L"Sunday, 5th January 2020", "2020-01-05"},
+      {L"en_US", L"2020 JANUARY 5", "2020-01-05"},
+      {L"en_US", L"Feb 2020", "2020-02-01"},
+      {L"de_DE", L"5. M\u00E4rz 2020", "2020-03-05"},
+      {L"de_DE", L"5 march 20", "2020-03-05"},
+      {L"fr_CH", L"5 f\u00E9vr. 2020", "2020-02-05"},
+      {L"en_US", L"5 Foo 2020", "mismatch"},
+      {L"en_US", L"Jan Feb 2020", "mismatch"},
+      {L"en_US", L"January", "mismatch"},
+      {L"en_US", L"2020-02-01T13:14:15Z", "2020-02-01 13:14:15"},
+      {L"en_US", L"13:05", "1899-12-30 13:05:00"},
+      {L"en_US", L"1:05:09 pm", "1899-12-30 13:05:09"},
+      {L"en_US", L"12 AM", "1899-12-30"},
+      {L"en_US", L"12:00 p.m.", "1899-12-30 12:00:00"},
+      {L"en_US", L"1/2/2020 3 PM", "2020-01-02 15:00:00"},
+      {L"de_DE", L"23:59:59 1.2.2020", "2020-02-01 23:59:59"},
+      {L"en_US", L"1/2/1800 18:00", "1800-01-02 18:00:00"},
+      {L"en_US", L"24:00", "mismatch"},
+      {L"en_US", L"12:60", "mismatch"},
+      {L"en_US", L"13:00 PM", "mismatch"},
+      {L"en_US", L"1:2:3:4", "mismatch"},
+      {L"en_US", L"12:", "mismatch"},
+  };
+  for (const Row& row : rows) {
+    ASSERT_TRUE(coregui::SetUserLocale(row.locale));
+    EXPECT_EQ(Parsed(row.text), row.date)
+        << CString(row.locale).ToUtf8() << " " << CString(row.text).ToUtf8();
+  }
+  for (const wchar_t* text :
+       {L"", L"  ", L"5", L"abc", L"-1/2/2020", L"1/2/3/4", L"$5", L"PM", L"/", L"1+2"}) {
+    EXPECT_EQ(Parsed(text), "mismatch") << CString(text).ToUtf8();
+  }
+  EXPECT_EQ(Parsed(nullptr), "mismatch");
+}
+
+TEST(DateText, WhatIsWrittenIsReadAgainInEveryLocale) {
+  const wchar_t* locales[] = {L"en_US", L"de_DE", L"fr_CH", L"hi_IN", L"da_DK", L"fi_FI",
+                              L"ja_JP", L"ko_KR", L"zh_CN", L"hu_HU", L"ru_RU", L"en_GB"};
+  for (const wchar_t* locale : locales) {
+    ASSERT_TRUE(coregui::SetUserLocale(locale));
+    for (const DATE date : {43835.0, 43835.0 + 47109.0 / 86400, 20000.75, 0.25, 0.0, -1.25, -400000.5}) {
+      DATE back = 99.0;
+      const CString text = VarDateToStr(date);
+      EXPECT_EQ(VarDateFromStr(text, &back), DateResult::ok)
+          << CString(locale).ToUtf8() << " " << text.ToUtf8();
+      EXPECT_NEAR(back, date, 1e-7) << CString(locale).ToUtf8() << " " << text.ToUtf8();
+    }
+  }
+}
+
+TEST(DateText, IsWrittenInTheShortFormWithTheWholeYear) {
+  EXPECT_EQ(VarDateToStr(43835.0), L"1/5/2020");
+  EXPECT_EQ(VarDateToStr(0.75), L"6:00:00 PM");
+  EXPECT_EQ(VarDateToStr(0.0), L"12:00:00 AM");
+  coregui::SetUserLocale(L"de_DE");
+  EXPECT_EQ(VarDateToStr(43835.25), L"05.01.2020 06:00:00");
 }
 
 }  // namespace

@@ -1,18 +1,27 @@
-#include "core/TextReader.h"
+// Reading and writing text files.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <filesystem>
 
+#include "core/TextFile.h"
+#include "core/TextReader.h"
+#include "core/TextWriter.h"
 #include "tests/support/FolderTest.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/LogWatch.h"
 
 namespace {
 
+namespace fs = std::filesystem;
+using coregui::CoreFilePtr;
 using coregui::test::TakeLog;
-using testing::ElementsAre;
 using namespace std::string_literals;
+using testing::ElementsAre;
+
+// --- The reader
 
 class TextReader : public coregui::test::FolderTest {
  protected:
@@ -120,6 +129,123 @@ TEST_F(TextReader, OpensOnlyRegularFilesAndSaysWhyNot) {
   std::wstring line = L"left over";
   EXPECT_FALSE(reader.ReadLine(line));
   EXPECT_EQ(line, L"");
+}
+
+// --- The writer
+
+class TextWriter : public coregui::test::FolderTest {
+ protected:
+  TextWriter() { Write("a", "old"); }
+  coregui::TextWriter writer;
+};
+
+TEST_F(TextWriter, TheOldFileStaysUntilCommit) {
+  {
+    coregui::TextWriter given;
+    ASSERT_TRUE(given.Open(Wide("a")));
+    EXPECT_TRUE(given.WriteLine(L"given up"));
+  }
+  ASSERT_TRUE(writer.Open(Wide("a")));
+  EXPECT_TRUE(writer.WriteLine(L"n\u00E4w"));
+  EXPECT_TRUE(writer.WriteLine(L""));
+  EXPECT_EQ(Read("a"), "old");
+  EXPECT_TRUE(writer.Commit());
+  EXPECT_EQ(Read("a"), "n\u00E4w\n\n");
+  EXPECT_FALSE(writer.WriteLine(L"late"));
+  EXPECT_FALSE(writer.Commit());
+  EXPECT_EQ(Count(), 1U);
+}
+
+TEST_F(TextWriter, AFullDiskLosesNothing) {
+  const coregui::test::FullDisk disk(100'000);
+  ASSERT_TRUE(writer.Open(Wide("a")));
+  for (int i = 0; i < 50'000; ++i) writer.WriteLine(L"0123456789");
+  EXPECT_FALSE(writer.Commit());
+  EXPECT_EQ(errno, EFBIG);
+  EXPECT_EQ(Read("a"), "old");
+  EXPECT_EQ(Count(), 1U);
+}
+
+TEST_F(TextWriter, LinksAndAccessRightsSurvive) {
+  fs::create_symlink(At("a"), At("link"));
+  fs::permissions(At("a"), fs::perms{0640});
+  ASSERT_TRUE(writer.Open(Wide("link")));
+  EXPECT_TRUE(writer.WriteLine(L"new") && writer.Commit());
+  EXPECT_TRUE(fs::is_symlink(At("link")));
+  EXPECT_EQ(Read("a"), "new\n");
+  EXPECT_EQ(fs::status(At("a")).permissions(), fs::perms{0640});
+}
+
+TEST_F(TextWriter, OpenRefusesWhatCannotBeReplaced) {
+  EXPECT_FALSE(writer.Open(Wide("")));
+  EXPECT_EQ(errno, EISDIR);
+  EXPECT_FALSE(writer.Open(Wide("none/x")));
+  EXPECT_EQ(errno, ENOENT);
+  EXPECT_FALSE(writer.Open(nullptr));
+  EXPECT_EQ(Count(), 1U);
+}
+
+// --- Both at one place
+
+class TextFile : public coregui::test::FolderTest {
+ protected:
+  CoreFilePtr Open(const wchar_t* mode) const { return CoreFilePtr(coreFileOpen(Wide("a"), mode)); }
+};
+
+std::wstring ReadLine(const CoreFilePtr& file) {
+  std::wstring line;
+  return coreFileTxtRead(file.get(), line, 1024) ? line : L"(end)";
+}
+
+TEST_F(TextFile, WrittenLinesReadBackInEveryReadingMode) {
+  CoreFilePtr writer = Open(L"w+t");
+  ASSERT_TRUE(writer);
+  EXPECT_TRUE(coreFileTxtWrite(writer.get(), L"12,5 \u00E4\u20AC\U0001D11E"));
+  EXPECT_TRUE(coreFileTxtWrite(writer.get(), L""));
+  EXPECT_EQ(coreFileLength(writer.get()), 16U);
+  EXPECT_TRUE(coreFileClose(writer.release()));
+  EXPECT_EQ(Read("a"), "12,5 \u00E4\u20AC\U0001D11E\n\n");
+  for (const wchar_t* mode : {L"rt", L"rb", L"r+t"}) {
+    const CoreFilePtr reader = Open(mode);
+    for (const wchar_t* line : {L"12,5 \u00E4\u20AC\U0001D11E", L"", L"(end)"}) {
+      EXPECT_EQ(ReadLine(reader), line);
+    }
+  }
+}
+
+TEST_F(TextFile, ReadingAndWritingTakeTurnsAtOnePlace) {
+  Write("a", "one\ntwo\nsix\n");
+  const CoreFilePtr both = Open(L"r+t");
+  EXPECT_EQ(ReadLine(both), L"one");
+  EXPECT_TRUE(coreFileTxtWrite(both.get(), L"2nd"));
+  EXPECT_EQ(ReadLine(both), L"six");
+  EXPECT_TRUE(coreFileTxtWrite(both.get(), L"end"));
+  EXPECT_EQ(ReadLine(both), L"(end)");
+  EXPECT_EQ(Read("a"), "one\n2nd\nsix\nend\n");
+}
+
+TEST_F(TextFile, WriteFailuresAreKnownAtOnce) {
+  Write("a", "\xFF\xFE!");
+  EXPECT_FALSE(coreFileTxtWrite(Open(L"rt").get(), L"x"));
+  EXPECT_FALSE(coreFileTxtWrite(Open(L"r+t").get(), L"UTF-8 into UTF-16"));
+  EXPECT_EQ(Read("a"), "\xFF\xFE!");
+  const CoreFilePtr full(coreFileOpen(L"/dev/full", L"w+t"));
+  ASSERT_TRUE(full);
+  EXPECT_FALSE(coreFileTxtWrite(full.get(), L"x"));
+}
+
+TEST_F(TextFile, OpenRefusesWhatCannotServe) {
+  Write("a", "kept");
+  for (const wchar_t* mode : {L"", L"x", L"wx", L"a", L"rtt", static_cast<const wchar_t*>(nullptr)}) {
+    EXPECT_FALSE(Open(mode)) << testing::PrintToString(mode);
+  }
+  for (const wchar_t* mode : {L"rt", L"r+t", L"w+t"}) EXPECT_FALSE(coreFileOpen(Wide(""), mode)) << mode;
+  EXPECT_FALSE(coreFileOpen(nullptr, L"rt"));
+  EXPECT_FALSE(coreFileOpen(Wide("none/x"), L"w+t"));
+  EXPECT_FALSE(coreFileOpen(L"/dev/zero", L"rt"));
+  EXPECT_EQ(Read("a"), "kept");
+  EXPECT_TRUE(coreFileExist(Wide("a")));
+  EXPECT_FALSE(coreFileExist(Wide("")) || coreFileExist(Wide("x")) || coreFileExist(nullptr));
 }
 
 }  // namespace
