@@ -122,12 +122,12 @@ CellSlot CellCodec::MakeBox(const CGridCell& cell, std::uint32_t look) {
   return {SlotKind::box, look, reinterpret_cast<std::uintptr_t>(box)};
 }
 
-void CellCodec::MergeInto(CellSlot slot, CGridCell& cell) const {
-  const CellLook& look = Look(slot);
+void CellCodec::Merge(CellSlot slot, const UsualCell& kind, CGridCell& cell) const {
+  const CellLook& look = *kind.look;
   cell.m_look.flags |= look.flags;
   cell.m_look.CopySetFieldsFrom(look);
-  MergeValue(slot, cell);
-  if (slot.Kind() == SlotKind::box) {
+  MergeValue(slot, kind.kind, cell);
+  if (kind.kind == SlotKind::box) {
     MergeBox(*slot.Pointer<CellBox>(), look.flags, cell);
   } else {
     cell.m_extra.pointer = nullptr;
@@ -135,11 +135,11 @@ void CellCodec::MergeInto(CellSlot slot, CGridCell& cell) const {
   }
 }
 
-void CellCodec::MergeValue(CellSlot slot, CGridCell& cell) const {
-  if (slot.Kind() == SlotKind::number) {
+void CellCodec::MergeValue(CellSlot slot, SlotKind kind, CGridCell& cell) const {
+  if (kind == SlotKind::number) {
     cell.m_text.Clear();
     cell.m_number = slot.Number();
-  } else if (slot.Kind() == SlotKind::inlineText) {
+  } else if (kind == SlotKind::inlineText) {
     // A fixed number of steps: all at once.
     std::copy_n(slot.Characters(), INLINE_CAPACITY, cell.m_text.Open(INLINE_CAPACITY));
     cell.m_text.Close(slot.Length());

@@ -45,6 +45,14 @@ struct StoredText {
 /// A text's characters; valid until it changes.
 StoredText WideText(std::wstring_view text);
 
+/// What a column's cells mostly are, by the tag of the one read last. It is at hand before the next one's tag
+/// has come from memory: the guess which way the read goes on is right, or put right, without waiting.
+struct UsualCell {
+  std::uint32_t tag = 0;
+  SlotKind kind = SlotKind::none;
+  const CellLook* look = nullptr;  // borrowed from the table of looks
+};
+
 /// Turns cells into slots and back. Its slots' blocks come from the store's pool, their looks from its table.
 class CellCodec {
  public:
@@ -52,8 +60,11 @@ class CellCodec {
   /// A slot with what a stored cell keeps of `cell`: mask and set properties. As in every merge, a cell
   /// without extra memory loses its pointer.
   CellSlot Make(CGridCell& cell);
-  /// Merges the stored cell over `cell`.
-  void MergeInto(CellSlot slot, CGridCell& cell) const;
+  /// Merges the stored cell over `cell`. `usual` is what the cells of its column mostly are.
+  void MergeInto(CellSlot slot, UsualCell& usual, CGridCell& cell) const {
+    if (slot.Tag() != usual.tag) usual = {slot.Tag(), slot.Kind(), &Look(slot)};
+    Merge(slot, usual, cell);
+  }
   void Release(const CellSlot& slot);
   void Clear();
 
@@ -84,7 +95,8 @@ class CellCodec {
   CellSlot MakeValue(const CGridCell& cell, std::uint32_t look);
   CellSlot MakeBox(const CGridCell& cell, std::uint32_t look);
   CellSlot MakeText(std::wstring_view text, double number, std::uint32_t look);
-  void MergeValue(CellSlot slot, CGridCell& cell) const;
+  void Merge(CellSlot slot, const UsualCell& kind, CGridCell& cell) const;
+  void MergeValue(CellSlot slot, SlotKind kind, CGridCell& cell) const;
   static void MergeBox(const CellBox& box, DWORD flags, CGridCell& cell);
   void ReleasePayload(const CellSlot& slot);
   static void ReadText(const StoredText& text, CellText& target);

@@ -59,18 +59,28 @@ bool CellStore::HasPosition(int col, std::int64_t row) {
   return LeafHasPosition(*place.leaf, place.row, col);
 }
 
-CellSlot CellStore::Find(int col, std::int64_t row) {
-  const int storage = m_columns.Find(col);
+CellSlot CellStore::FindStored(int storage, std::int64_t row) {
   if (storage == ColumnMap::NONE || !HasRow(row)) return {};
   std::int64_t inLeaf = 0;
   const RowLeaf& leaf = LeafOf(row, inLeaf);
   return leaf.FindCell(storage, inLeaf);
 }
 
+CellSlot CellStore::Find(int col, std::int64_t row) {
+  return FindStored(m_columns.Find(col), row);
+}
+
+void CellStore::MakeUsual() {
+  m_usual.resize(static_cast<std::size_t>(m_columns.StorageCount()));
+}
+
 bool CellStore::Get(int col, std::int64_t row, CGridCell& cell) {
-  const CellSlot slot = Find(col, row);
+  const int storage = m_columns.Find(col);
+  const CellSlot slot = FindStored(storage, row);
   if (!slot.Exists()) return false;
-  m_codec.MergeInto(slot, cell);
+  const auto column = static_cast<std::size_t>(storage);
+  if (column >= m_usual.size()) MakeUsual();
+  m_codec.MergeInto(slot, m_usual[column], cell);
   return true;
 }
 
@@ -193,6 +203,7 @@ void CellStore::Clear() {
   }
   m_rows.Clear();
   m_columns.Clear();
+  m_usual.clear();
   m_codec.Clear();
   m_pool.Clear();
   m_firstRow = 0;

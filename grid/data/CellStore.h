@@ -63,6 +63,8 @@ class CellStore {
   };
   RowLeaf& LeafOf(std::int64_t row, std::int64_t& inLeaf);
   Place Locate(std::int64_t row);
+  CellSlot FindStored(int storage, std::int64_t row);
+  void MakeUsual();
   Place MakeRow(std::int64_t row);
   void IncludeRow(std::int64_t row);
   void ForgetPlace() { m_nearLeaf = nullptr; }
@@ -86,8 +88,9 @@ class CellStore {
   std::int64_t m_firstRow = 0;
   ColumnMap m_columns;
   CellCodec m_codec{m_pool};
-  RowLeaf* m_nearLeaf = nullptr;  // borrowed: the leaf used last, where the next access mostly falls
-  std::int64_t m_nearStart = 0;   // the row that it begins with
+  std::vector<UsualCell> m_usual;  // by storage column, of those that were read
+  RowLeaf* m_nearLeaf = nullptr;   // borrowed: the leaf used last, where the next access mostly falls
+  std::int64_t m_nearStart = 0;    // the row that it begins with
 };
 
 }  // namespace coregui

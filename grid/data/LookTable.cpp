@@ -23,12 +23,12 @@ bool SameBytes(const CellLook& a, const CellLook& b) {
 
 }  // namespace
 
-std::size_t LookTable::Hash::operator()(const CellLook& look) const noexcept {
-  return std::hash<std::string_view>()({reinterpret_cast<const char*>(&look), sizeof look});
+std::size_t LookTable::Hash::operator()(const CellLook* look) const noexcept {
+  return std::hash<std::string_view>()({reinterpret_cast<const char*>(look), sizeof *look});
 }
 
-bool LookTable::Equal::operator()(const CellLook& a, const CellLook& b) const noexcept {
-  return SameBytes(a, b);
+bool LookTable::Equal::operator()(const CellLook* a, const CellLook* b) const noexcept {
+  return SameBytes(*a, *b);
 }
 
 std::size_t LookTable::RecentPlace(const CellLook& look) {
@@ -43,27 +43,30 @@ std::uint32_t LookTable::Acquire(const CellLook& look) {
     ++m_entries[recent.id].count;
     return recent.id;
   }
-  const auto [place, isNew] = m_ids.try_emplace(Normalized(look), 0);
-  if (isNew) {
-    if (m_free.empty()) {
-      if (m_entries.size() == CellSlot::MAX_LOOKS) throw std::length_error("too many different cell looks");
-      m_free.push_back(static_cast<std::uint32_t>(m_entries.size()));
-      m_entries.emplace_back();
-    }
-    place->second = m_free.back();
-    m_free.pop_back();
-    m_entries[place->second] = {&place->first, 0};
-  }
-  recent = {look, place->second};
+  const CellLook normal = Normalized(look);
+  const auto place = m_ids.find(&normal);
+  recent = {look, place != m_ids.end() ? place->second : Add(normal)};
   ++m_entries[recent.id].count;
   return recent.id;
+}
+
+std::uint32_t LookTable::Add(const CellLook& normal) {
+  if (m_free.empty()) {
+    if (m_entries.size() == CellSlot::MAX_LOOKS) throw std::length_error("too many different cell looks");
+    m_free.push_back(static_cast<std::uint32_t>(m_entries.size()));
+    m_entries.emplace_back();
+  }
+  const std::uint32_t id = m_free.back();
+  m_free.pop_back();
+  *m_entries[id].look = normal;
+  m_ids.emplace(m_entries[id].look.get(), id);
+  return id;
 }
 
 void LookTable::Release(std::uint32_t id) {
   Entry& entry = m_entries[id];
   if (--entry.count != 0) return;
-  m_ids.erase(m_ids.find(*entry.look));
-  entry.look = nullptr;
+  m_ids.erase(entry.look.get());
   m_free.push_back(id);
   for (Recent& recent : m_recent) {
     if (recent.id == id) recent.id = NONE;
@@ -88,7 +91,7 @@ bool LookTable::Check() const {
       std::count_if(m_entries.begin(), m_entries.end(), [](const Entry& entry) { return entry.count != 0; });
   return static_cast<std::size_t>(used) == m_ids.size() && m_entries.size() == m_ids.size() + m_free.size() &&
          std::all_of(m_ids.begin(), m_ids.end(),
-                     [this](const auto& item) { return m_entries[item.second].look == &item.first; });
+                     [this](const auto& item) { return m_entries[item.second].look.get() == item.first; });
 }
 
 }  // namespace coregui

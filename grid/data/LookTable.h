@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -17,7 +18,8 @@ class LookTable {
   /// The number of a look whose set properties equal those of `look`, counted once more.
   std::uint32_t Acquire(const CellLook& look);
   void Release(std::uint32_t id);
-  /// Valid while a cell refers to it.
+  /// Valid while a cell refers to it. A number's look is at the same place as long as the table is not
+  /// cleared.
   const CellLook& Get(std::uint32_t id) const { return *m_entries[id].look; }
   void Clear();
   /// How many cells refer to the look.
@@ -28,14 +30,15 @@ class LookTable {
   bool Check() const;
 
  private:
+  // Looks are told apart by what they are, not by where.
   struct Hash {
-    std::size_t operator()(const CellLook& look) const noexcept;
+    std::size_t operator()(const CellLook* look) const noexcept;
   };
   struct Equal {
-    bool operator()(const CellLook& a, const CellLook& b) const noexcept;
+    bool operator()(const CellLook* a, const CellLook* b) const noexcept;
   };
   struct Entry {
-    const CellLook* look = nullptr;  // the key in m_ids; null when free
+    std::unique_ptr<CellLook> look = std::make_unique<CellLook>();  // of no meaning when free
     std::uint64_t count = 0;
   };
 
@@ -45,9 +48,10 @@ class LookTable {
     std::uint32_t id = NONE;
   };
   static constexpr std::uint32_t NONE = ~0U;
+  std::uint32_t Add(const CellLook& normal);
   static std::size_t RecentPlace(const CellLook& look);
 
-  std::unordered_map<CellLook, std::uint32_t, Hash, Equal> m_ids;
+  std::unordered_map<const CellLook*, std::uint32_t, Hash, Equal> m_ids;  // the keys are the entries'
   std::vector<Entry> m_entries;
   std::vector<std::uint32_t> m_free;
   std::array<Recent, 8> m_recent;  // cells of a few looks are written by turns

@@ -30,10 +30,10 @@ class OwnerCompare {
   }
 
  private:
-  void Read(const CellSlot& cell, CGridCell& target) const {
+  void Read(const CellSlot& cell, CGridCell& target) {
     target.ClearAll();
     target.SetPropertyFlags(0);
-    if (cell.Exists()) m_codec.MergeInto(cell, target);
+    if (cell.Exists()) m_codec.MergeInto(cell, m_usual, target);
   }
   int CompareKey(std::size_t key, std::uint32_t other) {
     Read(m_cells[key][other], m_other);
@@ -46,6 +46,7 @@ class OwnerCompare {
   std::vector<KeyCells> m_cells;
   std::vector<CGridCell> m_taken;
   CGridCell m_other;
+  UsualCell m_usual;
 };
 
 std::vector<std::uint32_t> InStoredOrder(std::size_t count) {

@@ -16,6 +16,14 @@ std::int64_t RowsIn(const RowNode& node) {
 
 }  // namespace
 
+RowLeaf* RowTree::Search(std::int64_t row, std::int64_t& inLeaf) const {
+  m_index.CountSearch(m_first, m_count);
+  RowNode* node = m_root.get();
+  inLeaf = row;
+  while (!node->IsLeaf()) node = static_cast<RowInner*>(node)->Descend(inLeaf);
+  return static_cast<RowLeaf*>(node);
+}
+
 void RowTree::AddRows(RowNode& node, std::int64_t rows) {
   m_count += rows;
   for (const RowNode* at = &node; at->parent != nullptr; at = at->parent)
@@ -106,9 +114,9 @@ void RowTree::AppendRun(std::int64_t rows) {
 }
 
 void RowTree::Prepend(std::int64_t rows) {
-  if (m_first == nullptr) {
-    Append(rows);
-  } else if (!m_first->HasPositions()) {
+  if (m_first == nullptr) return Append(rows);
+  m_index.Clear();
+  if (!m_first->HasPositions()) {
     m_first->count += rows;
     AddRows(*m_first, rows);
   } else {
@@ -148,6 +156,7 @@ void RowTree::InsertRow(std::int64_t row) {
   }
   std::int64_t inLeaf = 0;
   RowLeaf* leaf = Find(row, inLeaf);
+  m_index.Clear();
   if (!leaf->HasPositions()) {
     ++leaf->count;
     AddRows(*leaf, 1);
@@ -167,6 +176,7 @@ void RowTree::InsertRow(std::int64_t row) {
 void RowTree::EraseRow(std::int64_t row) {
   std::int64_t inLeaf = 0;
   RowLeaf* const leaf = Find(row, inLeaf);
+  m_index.Clear();
   if (leaf->HasPositions()) {
     leaf->EraseRow(static_cast<int>(inLeaf));
   } else {
@@ -219,6 +229,7 @@ void RowTree::Collapse() {
 }
 
 void RowTree::Clear() {
+  m_index.Clear();
   m_root.reset();
   m_first = m_last = nullptr;
   m_count = 0;
@@ -251,7 +262,7 @@ bool RowTree::Check() const {
   std::int64_t rows = 0;
   const RowLeaf* previous = nullptr;
   return m_root->parent == nullptr && CheckNode(*m_root, rows, previous) && rows == m_count &&
-         previous == m_last && m_last->next == nullptr;
+         previous == m_last && m_last->next == nullptr && m_index.Check(*m_first);
 }
 
 }  // namespace coregui

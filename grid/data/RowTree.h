@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "grid/data/LeafIndex.h"
 #include "grid/data/RowInner.h"
 
 namespace coregui {
@@ -19,10 +20,8 @@ class RowTree {
   RowLeaf* Last() const { return m_last; }
   /// The leaf that holds the row, and the row's index in it. 0 <= row < Count().
   RowLeaf* Find(std::int64_t row, std::int64_t& inLeaf) const {
-    RowNode* node = m_root.get();
-    inLeaf = row;
-    while (!node->IsLeaf()) node = static_cast<RowInner*>(node)->Descend(inLeaf);
-    return static_cast<RowLeaf*>(node);
+    RowLeaf* const leaf = m_index.Find(row, inLeaf);
+    return leaf != nullptr ? leaf : Search(row, inLeaf);
   }
   /// A row without positions takes the index `row`, at most Count().
   void InsertRow(std::int64_t row);
@@ -41,6 +40,7 @@ class RowTree {
   bool Check() const;
 
  private:
+  RowLeaf* Search(std::int64_t row, std::int64_t& inLeaf) const;
   std::unique_ptr<RowLeaf> MakeRun(std::int64_t rows) const;
   RowLeaf* InsertBeside(RowLeaf& leaf, bool after, std::unique_ptr<RowLeaf> added);
   void InsertNode(RowNode& neighbour, bool after, std::unique_ptr<RowNode> added, std::int64_t rows);
@@ -58,6 +58,7 @@ class RowTree {
   RowLeaf* m_first = nullptr;  // borrowed from the root
   RowLeaf* m_last = nullptr;
   std::int64_t m_count = 0;
+  mutable LeafIndex m_index;
 };
 
 }  // namespace coregui

@@ -102,9 +102,10 @@ class Pair {
     return m_store.GetNumRows() == m_model.Last() ? "" : "rows " + std::to_string(m_store.GetNumRows());
   }
 
+  /// Column by column, so that most reads are far from the one before.
   std::string CompareAll() {
-    for (long row = m_model.First() - 2; row <= m_model.Last() + 2; ++row) {
-      for (int col = -6; col < 40; ++col) {
+    for (int col = -6; col < 40; ++col) {
+      for (long row = m_model.First() - 2; row <= m_model.Last() + 2; ++row) {
         const std::string ours = ReadBack(m_store, col, row);
         if (ours == m_model.Get(col, row)) continue;
         return "cell " + std::to_string(col) + ", " + std::to_string(row) + ": '" + ours + "' for '" +
