@@ -73,7 +73,9 @@ bool DeskWindow::Open(const std::wstring& path) {
     return false;
   }
   if (!m_report.error.empty()) {
-    ShowTitle();
+    if (m_path.empty()) {
+      SetWindowText((m_opening + L" (not read) - " + kDeskName).c_str());
+    }
     Tell(whole + L": " + m_report.error);
     return false;
   }
@@ -143,9 +145,8 @@ void DeskWindow::Sort(int col, bool downwards) {
   const bool hasSection = !m_data.IsEmpty();
   SectionData section;
   std::unique_ptr<CGridMem> cells = m_grid.LendCells();
-  WorkBeside(L"Sorting " + m_report.RowsText() + L" by " +
-                 m_grid.Dialect().headings[static_cast<std::size_t>(column)] + L"...",
-             rows, [&](const std::atomic<bool>& /*stop*/) {
+  WorkBeside(L"Sorting by " + m_grid.Dialect().headings[static_cast<std::size_t>(column)] + L"...", rows,
+             [&](const std::atomic<bool>& /*stop*/) {
                const std::atomic<bool> never = false;
                cells->SortBy(column, downwards ? coregui::SORT_DESCENDING : 0);
                section = hasSection ? TakeSection(*cells, rows, columns, never) : SectionData();
@@ -177,6 +178,7 @@ void DeskWindow::Begin(const CsvDialect& dialect) {
   m_difference.Invalidate();
   m_disposal.Take(std::pair(std::move(section), m_grid.BeginTable(dialect)));
   m_maker.Begin(FindSectionColumns(dialect.headings, dialect.numeric));
+  SetWindowText((m_opening + L" - " + kDeskName).c_str());
 }
 
 void DeskWindow::Row(std::uint64_t row, const std::vector<std::wstring_view>& fields) {
@@ -185,6 +187,7 @@ void DeskWindow::Row(std::uint64_t row, const std::vector<std::wstring_view>& fi
 }
 
 bool DeskWindow::Progress(double part) {
+  m_grid.ShowBeginning();
   m_status.Show(L"Reading " + m_opening + L", " + std::to_wstring(static_cast<int>(part * 100.0)) +
                 L" % (Esc stops)");
   return (m_unattended || CWinApp::PumpPending()) && !m_stop;
@@ -206,9 +209,7 @@ LRESULT DeskWindow::HandleDrop(WPARAM wParam, LPARAM /*lParam*/) {
 
 void DeskWindow::ShowTitle() {
   std::wstring title = kDeskName;
-  if (!m_report.error.empty()) {
-    title = m_opening + L" (not read) - " + title;
-  } else if (!m_path.empty()) {
+  if (!m_path.empty()) {
     const bool readOnly =
         m_lock.GetState() == SurveyLock::State::others || m_lock.GetState() == SurveyLock::State::unavailable;
     title = std::wstring(coreExtractFileName(m_path.c_str())) + L" (" + m_report.RowsText() +

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace desk {
 
@@ -70,6 +71,8 @@ void SurveyGrid::GiveCells(std::unique_ptr<CGridMem> cells) {
 std::unique_ptr<CGridMem> SurveyGrid::BeginTable(const CsvDialect& dialect) {
   m_dialect = dialect;
   m_longest.assign(dialect.headings.size(), Longest());
+  m_stored = 0;
+  m_beginningShown = false;
   EnableUpdate(0);
   std::unique_ptr<CGridMem> before = TakeSource();
   UseSource(std::make_unique<CGridMem>());
@@ -93,6 +96,7 @@ std::unique_ptr<CGridMem> SurveyGrid::BeginTable(const CsvDialect& dialect) {
 
 void SurveyGrid::StoreRow(std::uint64_t row, const std::vector<std::wstring_view>& fields) {
   const auto gridRow = static_cast<long>(row);
+  m_stored = row + 1;
   if (gridRow >= GetNumberRows()) {
     SetNumberRows(std::max(kFirstRows, gridRow * 2), 0);
   }
@@ -113,6 +117,12 @@ void SurveyGrid::StoreRow(std::uint64_t row, const std::vector<std::wstring_view
     if (fields[column].size() > m_longest[column].characters) {
       m_longest[column] = {fields[column].size(), gridRow};
     }
+  }
+}
+
+void SurveyGrid::ShowBeginning() {
+  if (!std::exchange(m_beginningShown, true)) {
+    EndTable(m_stored);
   }
 }
 

@@ -27,6 +27,8 @@ class SurveyGrid : public CGridCtrl {
   void StoreRow(std::uint64_t row, const std::vector<std::wstring_view>& fields);
   /// What the row stored last holds: for each column its number, NaN where it is empty or a text.
   const std::vector<double>& StoredNumbers() const { return m_numbers; }
+  /// Shows the rows stored so far, the first time that it is called for a table; more may come.
+  void ShowBeginning();
   /// Sets the number of rows, sizes the columns to what they hold and shows the table.
   void EndTable(std::uint64_t rows);
   /// Opens the context menu below the current cell.
@@ -68,6 +70,8 @@ class SurveyGrid : public CGridCtrl {
   std::function<void(long)> m_rowHook;
   std::function<void(int, bool)> m_sortHook;
   std::function<void()> m_focusHook;
+  std::uint64_t m_stored = 0;  ///< rows stored so far
+  bool m_beginningShown = false;
   std::vector<Longest> m_longest;  ///< for each column
   std::vector<double> m_numbers;   ///< of the row stored last
   CGridCell m_cell;                ///< reused for every cell stored
