@@ -146,6 +146,10 @@ void CGUIBaseView::NoteForHistory(coregui::CViewHistory::Gesture gesture) {
 }
 
 void CGUIBaseView::ShowPlace() {
+  const OverlayPause pause(*this);
+  if (m_tracking) {
+    m_currentPos = m_mapping.WindowToUser(m_pointer);  // the cross-hair stays under it
+  }
   Invalidate(TRUE);
   Notify();
 }

@@ -272,6 +272,7 @@ class COREGUI_API CGUIBaseView : public CWnd, public coregui::CPlotSheet, privat
   bool m_zoomBoxMode = false;
   bool m_destroyed = false;
   bool m_hasPosition = false;  ///< the pointer is inside, or the program set a position: the cross-hair shows
+  CPoint m_pointer;            ///< where it moved last
   bool m_tracking = false;     ///< the pointer is inside and a leave notification is asked for
   bool m_inMouseMove = false;
   bool m_inKey = false;  ///< what the hook hears of comes from a key

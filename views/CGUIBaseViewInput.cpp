@@ -142,6 +142,7 @@ void CGUIBaseView::OnMouseMove(UINT flags, CPoint point) {
   }
   const Life life = m_life;
   m_inMouseMove = true;
+  m_pointer = point;
   if (m_pan.IsActive()) {
     m_keyFlags = KeyFlagsOf(flags);
     PanStep(point);

@@ -84,11 +84,20 @@ void CPlotPrimitives::StrokeSink(const CPolylineSink& sink) {
                      static_cast<int>(sink.GetCounts().size()));
 }
 
+PNT_2D_record CPlotPrimitives::PlaceOf(PNT_2D_record const& p) const {
+  const PNT_2D_record at = GetPlotMapping().UserToDevice(p);
+  if (m_smooth || !CPlotSeries::IsDrawable(at)) {
+    return at;
+  }
+  const CPoint pixel = GetPlotMapping().UserToWindow(p);
+  return {static_cast<double>(pixel.x), static_cast<double>(pixel.y)};
+}
+
 std::vector<PNT_2D_record> CPlotPrimitives::ToDevice(const std::vector<PNT_2D_record>& points) const {
   std::vector<PNT_2D_record> device;
   device.reserve(points.size());
   for (const PNT_2D_record& p : points) {
-    const PNT_2D_record at = GetPlotMapping().UserToDevice(p);
+    const PNT_2D_record at = PlaceOf(p);
     if (CPlotSeries::IsDrawable(at)) {
       device.push_back(at);
     }

@@ -98,6 +98,9 @@ class COREGUI_API CPlotPrimitives {
   void DrawHead(PNT_2D_record const& from, PNT_2D_record const& tip, double pixels);
   void Hatch(const std::vector<PNT_2D_record>& outline);
   void FillDevice(const std::vector<PNT_2D_record>& devicePoints);
+  /// Where a point is drawn: on hard lines the pixel of the mapping, whichever way it rounds, so that shapes,
+  /// markers and lines through one point meet.
+  PNT_2D_record PlaceOf(PNT_2D_record const& p) const;
   std::vector<PNT_2D_record> ToDevice(const std::vector<PNT_2D_record>& points) const;
   std::vector<PNT_2D_record> CurvePoints(PNT_2D_record const& centre, PNT_2D_record const& radii,
                                          double start, double sweep) const;

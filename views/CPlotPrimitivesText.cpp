@@ -100,7 +100,7 @@ void CPlotPrimitives::PlotPoint(PNT_2D_record const& at, PlotMarker marker, doub
   if (!IsPlotting() || !CPlotSeries::IsDrawable(at) || !std::isfinite(sizePoints)) {
     return;
   }
-  const PNT_2D_record c = GetPlotMapping().UserToDevice(at);
+  const PNT_2D_record c = PlaceOf(at);
   const double h = std::max(1.0, PixelsOfPoints(sizePoints) / 2.0);
   if (!CPlotSeries::IsDrawable(c) || c.x + h < m_area.left || c.x - h > m_area.right ||
       c.y + h < m_area.top || c.y - h > m_area.bottom) {
@@ -165,8 +165,7 @@ void CPlotPrimitives::PlotArrow(PNT_2D_record const& from, PNT_2D_record const& 
     return;
   }
   PlotLine(from, to);
-  DrawHead(GetPlotMapping().UserToDevice(from), GetPlotMapping().UserToDevice(to),
-           PixelsOfPoints(headPoints));
+  DrawHead(PlaceOf(from), PlaceOf(to), PixelsOfPoints(headPoints));
 }
 
 void CPlotPrimitives::PlotDimension(PNT_2D_record const& a, PNT_2D_record const& b, double offsetPoints,
@@ -175,8 +174,8 @@ void CPlotPrimitives::PlotDimension(PNT_2D_record const& a, PNT_2D_record const&
       !std::isfinite(offsetPoints)) {
     return;
   }
-  const PNT_2D_record from = GetPlotMapping().UserToDevice(a);
-  const PNT_2D_record to = GetPlotMapping().UserToDevice(b);
+  const PNT_2D_record from = PlaceOf(a);
+  const PNT_2D_record to = PlaceOf(b);
   const double length = std::hypot(to.x - from.x, to.y - from.y);
   if (!(length > 0.0) || !std::isfinite(length)) {
     return;

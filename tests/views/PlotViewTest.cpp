@@ -494,8 +494,10 @@ TEST_F(PlotView, OptionsHoldThePointerGoBackAndSnap) {
   EXPECT_TRUE(view->GoBack());
   EXPECT_EQ(view->GetScale(), 0.5);
   EXPECT_FALSE(view->GoBack());
+  view->Move({120, 40});
   EXPECT_TRUE(view->GoForward());
   EXPECT_DOUBLE_EQ(view->GetScale(), 0.4);
+  EXPECT_EQ(view->UserToWindow(view->GetCurrentPos()), CPoint(120, 40)) << "the pointer has not moved";
   view->Redraw();
   const CPlotSeries series({{10.3, 5}, {50, 5}});
   view->SetSnapSeries(&series);

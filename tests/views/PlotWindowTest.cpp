@@ -67,6 +67,39 @@ TEST_F(PlotWindow, DrawsWhatItShowsAndAHookMayDestroyIt) {
   EXPECT_EQ(window, nullptr);
 }
 
+TEST_F(PlotWindow, ShapesMarkersAndArrowsStandOnThePixelsOfTheMapping) {
+  CGUIBaseView view(1.0, &parent);
+  ASSERT_TRUE(view.Create(L"", L"", WS_CHILD, CRect(0, 0, 200, 100), &parent, 2));
+  view.InitView(FRect(20, 100, 220, 0), 1.0);
+  window->UserInit(0, 200, 0, 100);
+  const auto drawn = [](auto& plot, PNT_2D_record const& at) {
+    CRecordingDC dc;
+    plot.BeginPlot(dc, CRect(-100, 0, 200, 100), CSize(72, 72));
+    plot.PlotRectangle(FRect(at, {at.x + 20, at.y - 20}));
+    plot.PlotPoint(at, PlotMarker::plus, 6);
+    plot.PlotArrow(at, {at.x + 20, at.y - 20});
+    plot.EndPlot();
+    return dc.GetLog().Str();
+  };
+  const auto expectMet = [&drawn](auto& plot, PNT_2D_record const& at) {
+    const CPoint p = plot.UserToWindow(at);
+    const std::wstring log = drawn(plot, at);
+    const auto has = [&log](CPoint a, const wchar_t* mark) {
+      return log.find(CString::Formatted(mark, a.x, a.y).Str()) != std::wstring::npos;
+    };
+    EXPECT_TRUE(has(p, L"Polyline %d,%d ")) << "rectangle and arrow at " << at.x;
+    EXPECT_TRUE(has(p + CSize(-3, 0), L"Polyline %d,%d ")) << "marker at " << at.x;
+    EXPECT_TRUE(has(plot.UserToWindow({at.x + 20, at.y - 20}), L"Polygon %d,%d ")) << "head at " << at.x;
+  };
+  for (const double x : {10.3, 10.7, 18.8, 99.6}) {
+    expectMet(view, {x, 50.4});  // left of the extents too, where the mapping rounds the other way
+    for (const bool mirrored : {false, true}) {
+      window->SetMirrored(mirrored);
+      expectMet(*window, {x, 50.4});
+    }
+  }
+}
+
 TEST_F(PlotWindow, TheDialogViewDrawsSmoothLines) {
   CGUIBaseViewWnd view(1.0, &parent);
   ASSERT_TRUE(view.Create(CRect(0, 100, 200, 200), &parent, 2));
