@@ -84,7 +84,7 @@ class Plot : public coregui::CPlotPrimitives {
   const coregui::CPlotMapping& GetPlotMapping() const override { return mapping; }
 };
 
-double Ours(const CPlotSeries& series, double zoom) {
+double Ours(const CPlotSeries& series, double zoom, bool smooth = false) {
   CBitmap bitmap;
   bitmap.CreateCompatibleBitmap(nullptr, kWidth, kHeight);
   CMemoryDC dc(nullptr, &bitmap);
@@ -93,6 +93,7 @@ double Ours(const CPlotSeries& series, double zoom) {
     plot.mapping = MappingAt(zoom, frame);
     dc.FillSolidRect(CRect(0, 0, kWidth, kHeight), RGB(255, 255, 255));
     plot.BeginPlot(dc, CRect(0, 0, kWidth, kHeight), CSize(96, 96));
+    plot.SetPlotAntiAliasing(smooth);
     plot.PlotPolyline(series);
     plot.EndPlot();
   });
@@ -172,6 +173,9 @@ void Frames() {
       const std::string at = zoom == 1.0 ? "fit" : std::to_string(static_cast<int>(zoom)) + "x";
       PrintBenchRow({"plot frame, " + std::to_string(count) + " points at " + at, ours, "ms", peer,
                      Target(count, zoom)});
+      if (zoom == 1.0) {
+        PrintBenchRow({"the same, smooth", Ours(series, zoom, true), "ms", {"ours, hard", ours}});
+      }
     }
   }
   // The fourth root of a thousand times the points.

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "views/CLineStraightener.h"
 #include "views/CPolylineSink.h"
 #include "views/ClipPolygon.h"
 #include "views/DeviceNumbers.h"
@@ -16,14 +17,31 @@ namespace {
 
 /// Filled shapes are clipped this far outside the area: their edges keep their slopes and stay out of sight.
 constexpr double kFillRoom = 4096.0;
-/// Smooth lines go through the toolkit point by point up to here; beyond, hard pixels look the same and are
-/// fast.
+/// Smooth shapes that reach further out are drawn hard: their parts outside are dropped then.
 constexpr double kSmoothLimit = 1e6;
-constexpr double kHatchPixels = 8.0;  // from line to line along a row, as on the screen
-constexpr std::size_t kMostSmoothPoints = 8000;
+constexpr double kStraightPlaces = 0.5;  // by which points of a smooth line may be off a straight part
+/// Pixels of smooth slanted lines that are drawn in a quarter of a second.
+constexpr double kMostSlanted = 4e6;
+constexpr std::size_t kMostDashed = 8000;  // points of a smooth dashed line, which is the toolkit's
+constexpr double kHatchPixels = 8.0;       // from line to line along a row, as on the screen
 
 bool AreDrawable(std::initializer_list<PNT_2D_record> points) {
   return std::all_of(points.begin(), points.end(), CPlotSeries::IsDrawable);
+}
+
+/// The length of the parts of a line that are not upright, inside an area or nearly; points of NaN part it.
+double SlantedLength(const std::vector<PNT_2D_record>& points, CRect const& area) {
+  constexpr double kUpright = 64.0;  // pixels up or down that an upright part takes for one aside
+  const auto size = [](double a, double b, LONG low, LONG high) {
+    return std::fabs(std::clamp<double>(a, low, high) - std::clamp<double>(b, low, high));
+  };
+  double length = 0.0;
+  for (std::size_t i = 1; i < points.size(); ++i) {
+    const double right = size(points[i].x, points[i - 1].x, area.left, area.right);
+    const double down = size(points[i].y, points[i - 1].y, area.top, area.bottom);
+    length += right >= 0.0 ? right + std::min(down, right * kUpright) : 0.0;
+  }
+  return length;
 }
 
 CPoint Rounded(PNT_2D_record const& p) {
@@ -105,15 +123,19 @@ std::vector<PNT_2D_record> CPlotPrimitives::ToDevice(const std::vector<PNT_2D_re
   return device;
 }
 
+void CPlotPrimitives::StrokeFractional(const std::vector<PNT_2D_record>& devicePoints) {
+  SelectPen();
+  const bool before = m_dc->SetAntiAliasing(true);
+  m_dc->PolylineF(&devicePoints[0].x, static_cast<int>(devicePoints.size()));
+  m_dc->SetAntiAliasing(before);
+}
+
 void CPlotPrimitives::StrokeDevice(const std::vector<PNT_2D_record>& devicePoints) {
   const bool near = std::all_of(devicePoints.begin(), devicePoints.end(), [](PNT_2D_record const& p) {
     return std::fabs(p.x) < kSmoothLimit && std::fabs(p.y) < kSmoothLimit;
   });
   if (m_smooth && near && devicePoints.size() > 1) {
-    SelectPen();
-    const bool before = m_dc->SetAntiAliasing(true);
-    m_dc->PolylineF(&devicePoints[0].x, static_cast<int>(devicePoints.size()));
-    m_dc->SetAntiAliasing(before);
+    StrokeFractional(devicePoints);
     return;
   }
   CPolylineSink sink(VisibleForPen());
@@ -124,15 +146,47 @@ void CPlotPrimitives::StrokeDevice(const std::vector<PNT_2D_record>& devicePoint
   StrokeSink(sink);
 }
 
-bool CPlotPrimitives::StrokeSmoothly(const PNT_2D_record* points, std::size_t count) {
-  if (!m_smooth || count > kMostSmoothPoints) {
+int CPlotPrimitives::PlacesFor(const CPlotSeries& series) const {
+  constexpr double kPlaces = 8.0;                     // in a dot, or on paper in a pixel of the screen
+  constexpr double kMost = (1 << 30) >> kPlaceShift;  // that whole numbers hold with room to spare
+  FRect bounds;
+  if (!series.GetBounds(&bounds)) {
+    return 0;
+  }
+  double reach = 1.0;
+  for (const PNT_2D_record& corner : {bounds.TopLeft(), bounds.BottomRight()}) {
+    const PNT_2D_record at = GetPlotMapping().UserToDevice(corner);
+    reach = std::max({reach, std::fabs(at.x), std::fabs(at.y)});
+  }
+  const double places = std::round(kPlaces * (IsPaper() ? 96.0 / m_dpi.cy : m_dc->GetScaleFactor()));
+  return TruncateToDevice(std::min(std::max(1.0, places), kMost / reach));
+}
+
+bool CPlotPrimitives::StrokeSmoothly(const CPlotSeries& series) {
+  const int places = PlacesFor(series);
+  if (places == 0) {
     return false;
   }
-  const PNT_2D_record* const end = points + count;
-  while (points != end) {
-    const PNT_2D_record* const gap = std::find_if_not(points, end, CPlotSeries::IsDrawable);
-    StrokeDevice(ToDevice({points, gap}));
-    points = std::find_if(gap, end, CPlotSeries::IsDrawable);
+  const int units = places << kPlaceShift;
+  const CRect visible = VisibleForPen();
+  CPolylineSink sink(
+      CRect(visible.left * units, visible.top * units, visible.right * units, visible.bottom * units));
+  ReduceSeriesToPlaces(series, GetPlotMapping(), places, sink);
+  // All parts at once, gaps between them: where they overlap the line is drawn once.
+  CLineStraightener line(kStraightPlaces / places);
+  const POINT* point = sink.GetPoints().data();
+  for (const DWORD count : sink.GetCounts()) {
+    for (const POINT* const end = point + count; point != end; ++point) {
+      line.Add({point->x / static_cast<double>(units), point->y / static_cast<double>(units)});
+    }
+    line.Break();
+  }
+  const bool tooDense = m_pen.style != PS_SOLID && line.GetPoints().size() > kMostDashed;
+  if (tooDense || SlantedLength(line.GetPoints(), m_area) > kMostSlanted) {
+    return false;
+  }
+  if (!line.GetPoints().empty()) {
+    StrokeFractional(line.GetPoints());
   }
   return true;
 }
@@ -189,10 +243,7 @@ void CPlotPrimitives::PlotLine(PNT_2D_record const& from, PNT_2D_record const& t
 }
 
 void CPlotPrimitives::PlotPolyline(const std::vector<PNT_2D_record>& points) {
-  if (!IsPlotting()) {
-    return;
-  }
-  if (!StrokeSmoothly(points.data(), points.size())) {
+  if (IsPlotting()) {
     PlotPolyline(CPlotSeries(points));
   }
 }
@@ -215,13 +266,8 @@ void CPlotPrimitives::PlotPolyline(const CPlotSeries& series) {
     StrokeSink(sink);
     return;
   }
-  std::size_t first = 0;
-  std::size_t last = series.GetCount();
-  if (m_smooth) {
-    FindVisible(series, GetPlotMapping(), VisibleForPen(), &first, &last);  // all, where x turns back
-    if (StrokeSmoothly(series.GetPoints().data() + first, last - first)) {
-      return;
-    }
+  if (m_smooth && StrokeSmoothly(series)) {
+    return;
   }
   CPolylineSink sink(VisibleForPen());
   ReduceSeries(series, GetPlotMapping(), sink);

@@ -36,7 +36,12 @@ class COREGUI_API CPlotPrimitives {
   void SetPlotPen(PlotPen const& pen) { m_pen = pen; }
   void SetPlotFill(PlotFill const& fill) { m_fill = fill; }
   void SetPlotText(PlotTextStyle const& style) { m_text = style; }
-  /// Smooth edges, and places between pixels, for lines that are not too dense to tell the difference.
+  /// Smooth edges, and places between pixels. However many points a line of PlotPolyline has, no part of it
+  /// is drawn further than an eighth of a dot (on paper of a pixel of the screen) from where every point
+  /// would put it, and where it passes a dot several times the dot gets no darker.
+  ///
+  /// A line of more than four million pixels in view, most of them on others, is drawn hard, and so is one
+  /// that reaches out thirty million pixels.
   void SetPlotAntiAliasing(bool smooth) { m_smooth = smooth; }
 
   // --- Primitives
@@ -90,10 +95,14 @@ class COREGUI_API CPlotPrimitives {
   int PenPixels() const;
   void SelectPen();
   void StrokeSink(const CPolylineSink& sink);
+  void StrokeFractional(const std::vector<PNT_2D_record>& devicePoints);
   void StrokeDevice(const std::vector<PNT_2D_record>& devicePoints);
   /// Dots too fine to be seen one by one.
   bool IsPaper() const { return m_dpi.cy >= 200; }
-  bool StrokeSmoothly(const PNT_2D_record* points, std::size_t count);
+  /// False when the line is one that is drawn hard.
+  bool StrokeSmoothly(const CPlotSeries& series);
+  /// Into how many places the sides of a pixel are divided for a smooth line; 0 where it reaches too far.
+  int PlacesFor(const CPlotSeries& series) const;
   /// The filled head of an arrow from `from` to `tip`, in device pixels.
   void DrawHead(PNT_2D_record const& from, PNT_2D_record const& tip, double pixels);
   void Hatch(const std::vector<PNT_2D_record>& outline);

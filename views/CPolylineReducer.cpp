@@ -16,12 +16,17 @@ void CPolylineReducer::Flush() {
   if (m_rows.IsEmpty()) {
     return;  // all on one pixel
   }
+  const auto [low, high] = std::minmax(m_first.y, m_last.y);
+  if (m_columnShift > 0 && m_rows.lowest >= low && m_rows.highest <= high) {
+    m_sink.Add(m_last);  // one way from end to end
+    return;
+  }
   // The shortest way, but never straight from an extreme to the last point on it: the pixel that a line ends
   // on is not filled, and the extreme's is.
-  const bool lowestFirst = m_last == m_rows.lowest || (m_last != m_rows.highest && m_first.y <= m_last);
+  const bool lowestFirst = m_last.y == m_rows.lowest || (m_last.y != m_rows.highest && m_first.y <= m_last.y);
   m_sink.Add({m_first.x, lowestFirst ? m_rows.lowest : m_rows.highest});
   m_sink.Add({m_first.x, lowestFirst ? m_rows.highest : m_rows.lowest});
-  m_sink.Add({m_first.x, m_last});
+  m_sink.Add({m_first.x, m_last.y});
 }
 
 bool CPolylineReducer::IsCovered(CRect const& rows) {
@@ -36,9 +41,10 @@ bool CPolylineReducer::IsCovered(CRect const& rows) {
 }
 
 void CPolylineReducer::Finish(CPoint last) {
-  const bool inside = m_oneColumn && last.x == m_first.x;
-  const CRect rows(m_first.x, std::min({m_rows.lowest, m_last, last.y}), m_first.x,
-                   std::max({m_rows.highest, m_last, last.y}));
+  const bool inside = m_oneColumn && ColumnOf(last) == ColumnOf(m_first);
+  const LONG column = ColumnOf(m_first);
+  const CRect rows(column, std::min({m_rows.lowest, m_last.y, last.y}), column,
+                   std::max({m_rows.highest, m_last.y, last.y}));
   if (!inside || !IsCovered(rows)) {
     Flush();
     m_sink.Add(last);

@@ -17,24 +17,27 @@ namespace coregui {
 /// point comes last and leaves out those just before it on the same pixel; the rest follows.
 class COREGUI_API CPolylineReducer {
  public:
-  explicit CPolylineReducer(CPolylineSink& sink) : m_sink(sink) {}
+  /// With a `columnShift` above 0 a column is 1 << columnShift wide, and a run is moved across it: to its
+  /// first point, or onto the straight way to its last one where it reaches no further up or down.
+  explicit CPolylineReducer(CPolylineSink& sink, int columnShift = 0)
+      : m_sink(sink), m_columnShift(columnShift) {}
 
-  void Add(CPoint p) { AddRun(p, kNoRow, p.y); }
+  void Add(CPoint p) { AddRun(p, kNoRow, p); }
   /// Consecutive points in one column at once: the first; the rows of those before the last stretch that
-  /// stays on the last one's pixel (kNoRow when there are none); the last one's row.
+  /// stays on the last one's pixel (kNoRow when there are none); the last.
   struct Rows {
     LONG lowest;
     LONG highest;
     bool IsEmpty() const { return lowest > highest; }
   };
   static constexpr Rows kNoRow{std::numeric_limits<LONG>::max(), std::numeric_limits<LONG>::min()};
-  void AddRun(CPoint first, Rows rows, LONG last) {
-    if (!m_open || first.x != m_first.x) {
+  void AddRun(CPoint first, Rows rows, CPoint last) {
+    if (!m_open || ColumnOf(first) != ColumnOf(m_first)) {
       Start(first);
       m_rows = rows;
     } else if (!rows.IsEmpty() || last != m_last) {  // it leaves the pixel where it stood
-      m_rows.lowest = std::min({m_rows.lowest, m_last, rows.lowest});
-      m_rows.highest = std::max({m_rows.highest, m_last, rows.highest});
+      m_rows.lowest = std::min({m_rows.lowest, m_last.y, rows.lowest});
+      m_rows.highest = std::max({m_rows.highest, m_last.y, rows.highest});
     }
     m_last = last;
   }
@@ -42,17 +45,19 @@ class COREGUI_API CPolylineReducer {
   void Finish(CPoint last);
 
  private:
+  LONG ColumnOf(CPoint p) const { return p.x >> m_columnShift; }
   void Start(CPoint p);
   void Flush();
   /// Many short lines in one column (gaps) need no more than their union: true when `rows` are drawn already.
   bool IsCovered(CRect const& rows);
 
   CPolylineSink& m_sink;
+  const int m_columnShift;
   bool m_open = false;
   bool m_oneColumn = true;  ///< the polyline at hand has not left its first column
   CPoint m_first;
   Rows m_rows = kNoRow;  ///< that are filled: a line leaves out the pixel that it ends on
-  LONG m_last = 0;
+  CPoint m_last;
   CRect m_covered;  ///< rows between `top` and `bottom` of column `left`, drawn by overlapping polylines
 };
 

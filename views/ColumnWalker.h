@@ -30,8 +30,9 @@ class ColumnWalker {
         m_reducer.Add(first);  // where the line leaves; nothing behind it can be seen
         return;
       }
-      const std::size_t looked = m_length < kFew ? AddFew(at, end, first.x) : 0;
-      at = looked > 0 && looked < kFew ? at + looked : AddColumn(at, looked, end, first.x);
+      const LONG column = ColumnOf(first);
+      const std::size_t looked = m_length < kFew ? AddFew(at, end, column) : 0;
+      at = looked > 0 && looked < kFew ? at + looked : AddColumn(at, looked, end, column);
     }
   }
 
@@ -63,6 +64,7 @@ class ColumnWalker {
   static constexpr std::size_t kFew = 8;  ///< up to so many points of a column are looked at one by one
   static constexpr std::size_t kAhead = 2;
 
+  static LONG ColumnOf(CPoint p) { return p.x >> Mapping::kColumnShift; }
   CPoint PixelOf(std::size_t i) const { return m_mapping.UserToWindow(m_points[i]); }
 
   /// The last point before the visible columns.
@@ -81,7 +83,7 @@ class ColumnWalker {
     const std::size_t most = std::min(end - at, kFew);
     for (m_length = 0; m_length < most; ++m_length) {
       const CPoint p = PixelOf(at + m_length);
-      if (p.x != column) {
+      if (ColumnOf(p) != column) {
         break;
       }
       m_reducer.Add(p);
@@ -96,7 +98,7 @@ class ColumnWalker {
     m_series.PrefetchAround(next + kAhead * m_length);
     if (added < m_length) {
       const CPoint last = PixelOf(next - 1);
-      m_reducer.AddRun(PixelOf(at + added), RowsBeforeStay(at + added, next, last), last.y);
+      m_reducer.AddRun(PixelOf(at + added), RowsBeforeStay(at + added, next, last), last);
     }
     return next;
   }
@@ -131,7 +133,7 @@ class ColumnWalker {
   /// The first point after `at` in another column. Columns are mostly about as long as the one before, so the
   /// search starts there and goes away from it in doubling steps.
   std::size_t EndOfColumn(std::size_t at, std::size_t end, LONG column) const {
-    const auto isIn = [&](std::size_t i) { return PixelOf(i).x == column; };
+    const auto isIn = [&](std::size_t i) { return ColumnOf(PixelOf(i)) == column; };
     std::size_t inside = at;
     std::size_t outside = end;
     const std::size_t guess = std::min(at + std::max<std::size_t>(m_length, 1), end);
@@ -151,9 +153,9 @@ class ColumnWalker {
       }
       inside = outside - inside > step ? outside - step : inside;
     }
-    const PNT_2D_record* edge =
-        std::partition_point(m_points + inside + 1, m_points + outside,
-                             [&](PNT_2D_record const& p) { return m_mapping.UserToWindow(p).x == column; });
+    const PNT_2D_record* edge = std::partition_point(
+        m_points + inside + 1, m_points + outside,
+        [&](PNT_2D_record const& p) { return ColumnOf(m_mapping.UserToWindow(p)) == column; });
     return static_cast<std::size_t>(edge - m_points);
   }
 

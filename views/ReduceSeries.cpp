@@ -5,10 +5,31 @@
 #include "views/CPolylineReducer.h"
 #include "views/CViewMapping.h"
 #include "views/ColumnWalker.h"
+#include "views/DeviceNumbers.h"
 
 namespace coregui {
 
 namespace {
+
+/// Whole pixels, each a column and a row.
+template <class Base>
+struct PixelMapping {
+  static constexpr int kColumnShift = 0;
+  const Base& base;
+  CPoint UserToWindow(PNT_2D_record const& p) const { return base.UserToWindow(p); }
+};
+
+/// Units of a place; the places are the columns and rows.
+template <class Base>
+struct PlaceMapping {
+  static constexpr int kColumnShift = kPlaceShift;
+  const Base& base;
+  double units;  ///< in a pixel
+  CPoint UserToWindow(PNT_2D_record const& p) const {
+    const PNT_2D_record at = base.UserToDevice(p);
+    return {TruncateToDevice(at.x * units + 0.5), TruncateToDevice(at.y * units + 0.5)};
+  }
+};
 
 /// Gives the points of one polyline at a time. Where x turns back it walks the pyramid: a node that lies in
 /// one pixel column or row, or wholly beyond one side, gives a few points; any other is opened.
@@ -20,7 +41,7 @@ class SeriesWalker {
         m_points(series.GetPoints().data()),
         m_mapping(mapping),
         m_visible(sink.GetVisible()),
-        m_reducer(sink),
+        m_reducer(sink, Mapping::kColumnShift),
         m_columns(series, mapping, sink.GetVisible(), m_reducer) {}
 
   /// Draws the points from `begin` to before `end`, among which is no gap.
@@ -72,7 +93,7 @@ class SeriesWalker {
         m_reducer.Add(PixelOf(node.last));
         return;
       }
-      if (node.whole && (low.x == high.x || low.y == high.y)) {
+      if (node.whole && (IsOne(low.x, high.x) || IsOne(low.y, high.y))) {
         AddNode(node);
         return;
       }
@@ -111,6 +132,9 @@ class SeriesWalker {
     }
   }
 
+  /// Whether two coordinates are of the same column or row.
+  static bool IsOne(LONG a, LONG b) { return a >> Mapping::kColumnShift == b >> Mapping::kColumnShift; }
+
   bool IsHidden(CPoint a, CPoint b) const {
     return (a.x < m_visible.left && b.x < m_visible.left) ||
            (a.x > m_visible.right && b.x > m_visible.right) || (a.y < m_visible.top && b.y < m_visible.top) ||
@@ -143,32 +167,20 @@ void Reduce(const CPlotSeries& series, const Mapping& mapping, CPolylineSink& si
 void ReduceSeries(const CPlotSeries& series, const CPlotMapping& mapping, CPolylineSink& sink) {
   // The view's mapping is the one of the large drawings; known by its type, its arithmetic is inlined.
   if (const auto* view = dynamic_cast<const CViewMapping*>(&mapping)) {
-    Reduce(series, *view, sink);
+    Reduce(series, PixelMapping<CViewMapping>{*view}, sink);
   } else {
-    Reduce(series, mapping, sink);
+    Reduce(series, PixelMapping<CPlotMapping>{mapping}, sink);
   }
 }
 
-bool FindVisible(const CPlotSeries& series, const CPlotMapping& mapping, CRect const& visible,
-                 std::size_t* first, std::size_t* last) {
-  const std::vector<PNT_2D_record>& points = series.GetPoints();
-  if (!series.IsMonotone() || points.empty() || series.FindGap(0) < points.size()) {
-    return false;
+void ReduceSeriesToPlaces(const CPlotSeries& series, const CPlotMapping& mapping, int places,
+                          CPolylineSink& sink) {
+  const auto units = static_cast<double>(places << kPlaceShift);
+  if (const auto* view = dynamic_cast<const CViewMapping*>(&mapping)) {
+    Reduce(series, PlaceMapping<CViewMapping>{*view, units}, sink);
+  } else {
+    Reduce(series, PlaceMapping<CPlotMapping>{mapping, units}, sink);
   }
-  const auto pixel = [&](PNT_2D_record const& p) { return mapping.UserToWindow(p).x; };
-  const bool rises = pixel(points.front()) <= pixel(points.back());
-  const LONG from = rises ? visible.left : visible.right;
-  const LONG to = rises ? visible.right : visible.left;
-  const auto begin = std::partition_point(points.begin(), points.end(), [&](PNT_2D_record const& p) {
-    return rises ? pixel(p) < from : pixel(p) > from;
-  });
-  const auto end = std::partition_point(
-      begin, points.end(), [&](PNT_2D_record const& p) { return rises ? pixel(p) <= to : pixel(p) >= to; });
-  *first = static_cast<std::size_t>(begin - points.begin());
-  *last = static_cast<std::size_t>(end - points.begin());
-  *first -= *first > 0 ? 1 : 0;
-  *last += *last < points.size() ? 1 : 0;
-  return true;
 }
 
 }  // namespace coregui

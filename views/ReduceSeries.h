@@ -15,9 +15,15 @@ namespace coregui {
 /// where a pixel is a dot, in copy mode. A line that is all on one pixel gives nothing.
 COREGUI_API void ReduceSeries(const CPlotSeries& series, const CPlotMapping& mapping, CPolylineSink& sink);
 
-/// The points of a series whose x is monotone that a visible rectangle needs: those inside and one more on
-/// each side, from `first` to before `last`. False when x turns back or the series has gaps.
-COREGUI_API bool FindVisible(const CPlotSeries& series, const CPlotMapping& mapping, CRect const& visible,
-                             std::size_t* first, std::size_t* last);
+/// The same for smooth lines, whose points lie between pixels. A pixel has `places` places along each side, a
+/// place 1 << kPlaceShift units; the sink, its visible rectangle included, is in these units, (0, 0) in the
+/// middle of its pixel.
+///
+/// Inside one column of places a line that goes up and down becomes its first, lowest, highest and last
+/// point. So every point of the drawn line is at most one place away from a point of the line, and the other
+/// way round.
+COREGUI_API void ReduceSeriesToPlaces(const CPlotSeries& series, const CPlotMapping& mapping, int places,
+                                      CPolylineSink& sink);
+inline constexpr int kPlaceShift = 2;
 
 }  // namespace coregui

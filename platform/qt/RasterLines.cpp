@@ -1,11 +1,13 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <vector>
 
 #include "platform/qt/HardLine.h"
 #include "platform/qt/RasterTarget.h"
+#include "platform/qt/SmoothLine.h"
 
-// Lines of a raster: hard ones straight into the rows.
+// Lines of a raster: straight into the rows.
 
 namespace coregui {
 
@@ -109,7 +111,25 @@ int RasterTarget::PutUpAndDown(const DrawAttributes& with, const POINT* points, 
   return next;
 }
 
+void RasterTarget::SmoothPolylineF(const DrawAttributes& with, const double* xy, int count) {
+  std::vector<double> dots(2 * static_cast<std::size_t>(count));
+  for (std::size_t i = 0; i < dots.size(); i += 2) {
+    // A whole coordinate names the middle of its pixel, so that smooth and hard lines lie on each other.
+    dots[i] = (xy[i] + with.origin.x + 0.5) * Scale();
+    dots[i + 1] = (xy[i + 1] + with.origin.y + 0.5) * Scale();
+  }
+  const double width = std::max(1.0, with.pen->GetWidth() * Scale());
+  with.clip.ForEach(with.clip.box, [&](const CRect& part) {
+    DrawSmoothLine(*m_surface, part, Opaque(with.pen->GetColor()), width, dots.data(), dots.size() / 2);
+  });
+  m_surface->Damage(with.clip.box);
+}
+
 void RasterTarget::PolylineF(const DrawAttributes& with, const double* xy, int count) {
+  if (with.smooth && with.rop == R2_COPYPEN && with.pen->GetStyle() == PS_SOLID) {
+    SmoothPolylineF(with, xy, count);
+    return;
+  }
   if (!DrawsHard(with)) {
     PainterTarget::PolylineF(with, xy, count);
     return;

@@ -52,6 +52,8 @@ class RasterTarget : public PainterTarget {
   int PutUpAndDown(const DrawAttributes& with, const POINT* points, int i, int count, const LinePen& pen);
   /// One segment; returns the dots among which it lies.
   CRect StraightLine(const DrawAttributes& with, POINT from, POINT to, const LinePen& pen);
+  /// A solid line in copy mode; see DrawSmoothLine.
+  void SmoothPolylineF(const DrawAttributes& with, const double* xy, int count);
   bool PutGlyphs(const DrawAttributes& with, FontFace& face, CPoint start, const wchar_t* text, int length);
 
   std::shared_ptr<Surface> m_surface;

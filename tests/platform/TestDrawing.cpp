@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <limits>
+#include <numbers>
 #include <random>
 #include <tuple>
 #include <vector>
@@ -190,18 +191,76 @@ TEST_P(Drawing, Clip_ConfinesEveryKindOfDrawing) {
 TEST_P(Drawing, LineThroughAClip_HasTheDotsOfTheWholeLine) {
   CPen pen(PS_SOLID, 1, 0);
   dc.SelectObject(&pen);
-  const POINT line[] = {{-70, -33}, {101, 57}};
-  dc.Polyline(line, 2);
-  const QImage whole = surface->Snapshot();
-  Clear();
-  for (int x = 0; x < 60; x += 11) {
-    for (int y = 0; y < 40; y += 9) {
-      dc.SelectClipRect(nullptr);
-      dc.IntersectClipRect(CRect(x, y, x + 11, y + 9));
-      dc.Polyline(line, 2);
+  const POINT hard[] = {{-70, -33}, {101, 57}};
+  const double smooth[] = {-70.3, -33, 101, 57.8, 20, 4, 20, 30};
+  for (const bool isSmooth : {false, true}) {
+    dc.SetAntiAliasing(isSmooth);
+    const auto draw = [&] { isSmooth ? dc.PolylineF(smooth, 4) : dc.Polyline(hard, 2); };
+    dc.SelectClipRect(nullptr);
+    Clear();
+    draw();
+    const QImage whole = surface->Snapshot();
+    Clear();
+    for (int x = 0; x < 60; x += 11) {
+      for (int y = 0; y < 40; y += 9) {
+        dc.SelectClipRect(nullptr);
+        dc.IntersectClipRect(CRect(x, y, x + 11, y + 9));
+        draw();
+      }
+    }
+    EXPECT_EQ(surface->Snapshot(), whole) << isSmooth;
+  }
+}
+
+TEST_P(Drawing, SmoothLine_InksItsWidthTimesItsLength_HoweverManyPointsAndPasses) {
+  dc.SetAntiAliasing(true);
+  for (const int width : {1, 4}) {
+    for (int degrees = 0; degrees < 360; degrees += 15) {
+      CPen pen(PS_SOLID, width, 0);
+      dc.SelectObject(&pen);
+      const double x = 15 * std::cos(degrees * std::numbers::pi / 180),
+                   y = 15 * std::sin(degrees * std::numbers::pi / 180);
+      std::vector<double> xy;
+      for (const int to : {1, -1, 1}) {  // there, back and there again by many small steps
+        for (int i = -500; i <= 500; ++i) {
+          xy.insert(xy.end(), {30.3 + to * i * x / 500, 20.1 + to * i * y / 500});
+        }
+      }
+      Clear();
+      dc.PolylineF(xy.data(), static_cast<int>(xy.size() / 2));
+      double ink = 0;
+      for (int row = 0; row < surface->Dots().cy; ++row) {
+        for (int column = 0; column < surface->Dots().cx; ++column) {
+          ink += 1.0 - (Dot(column, row) & 0xFFU) / 255.0;
+        }
+      }
+      const double caps = std::numbers::pi * width * width / 4;
+      const double wanted = (30.0 * width + caps) * GetParam() * GetParam();
+      EXPECT_NEAR(ink, wanted, wanted * 0.03) << width << " wide at " << degrees;
     }
   }
-  EXPECT_EQ(surface->Snapshot(), whole);
+}
+
+TEST_P(Drawing, SmoothLine_TurnsRoundCornersAndThroughSmallSteps) {
+  // A ring, from points so near to each other that every step by itself is next to nothing.
+  std::vector<double> xy;
+  for (int i = 0; i <= 3000; ++i) {
+    const double angle = i * 2.0 * std::numbers::pi / 3000;
+    xy.insert(xy.end(), {30 + 2.5 * std::cos(angle), 20 + 2.5 * std::sin(angle)});
+  }
+  CPen pen(PS_SOLID, 5, 0);
+  dc.SelectObject(&pen);
+  dc.SetAntiAliasing(true);
+  dc.PolylineF(xy.data(), static_cast<int>(xy.size() / 2));
+  EXPECT_NEAR(CountDots(0), std::numbers::pi * 25 * GetParam() * GetParam(), 22 * GetParam())
+      << "a disc without holes but for its rim";
+  Clear();
+  const double corner[] = {10, 30, 30, 30, 30, 10, 40, 30, 40, 30};
+  dc.PolylineF(corner, 5);
+  EXPECT_EQ(dc.GetPixel(31, 31), 0U) << "outside both parts, inside the corner";
+  Clear();
+  dc.PolylineF(corner + 6, 2);
+  EXPECT_EQ(CountDots(0xFFFFFF), surface->Dots().cx * surface->Dots().cy) << "no length, no line";
 }
 
 TEST_P(Drawing, SmoothLine_LiesOnTheHardOne) {

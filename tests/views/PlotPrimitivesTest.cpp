@@ -163,11 +163,20 @@ TEST_F(PlotPrimitives, GridLinesStandAtTheMultiples) {
 TEST_F(PlotPrimitives, SmoothLinesStandBetweenPixels) {
   sheet.SetPlotAntiAliasing(true);
   sheet.PlotPolyline({{10.5, 20.5}, {30.25, 40}});
-  EXPECT_EQ(Log(), L"PolylineF 2 #000000");
+  EXPECT_EQ(Log(), L"PolylineF 3 #000000");
   sheet.PlotPolyline({{10, 20}, {20, 20}, {kNaN, 0}, {30, 20}, {40, 20}});
-  EXPECT_EQ(Log(), L"PolylineF 2 #000000\nPolylineF 2 #000000") << "a gap parts them";
-  sheet.PlotPolyline(CPlotSeries({{10, 20}, {30, 50}, {20, 80}}));
-  EXPECT_EQ(Log(), L"PolylineF 3 #000000") << "x turns back";
+  EXPECT_EQ(Log(), L"PolylineF 6 #000000") << "two lines at once, a gap behind each";
+  std::vector<PNT_2D_record> straight(100000);
+  for (std::size_t i = 0; i < straight.size(); ++i) {
+    straight[i] = {static_cast<double>(i) * 0.001, 20 + static_cast<double>(i) * 0.0003};
+  }
+  sheet.PlotPolyline(straight);
+  EXPECT_EQ(Log(), L"PolylineF 3 #000000") << "what lies on the way is left out";
+  for (std::size_t i = 0; i < straight.size(); ++i) {
+    straight[i] = {i % 2 == 0 ? 0.0 : 200.0, static_cast<double>(i) * 0.001};
+  }
+  sheet.PlotPolyline(straight);
+  EXPECT_EQ(Log().substr(0, 9), L"Polyline ") << "millions of pixels to and fro on a few thousand";
 }
 
 TEST_F(PlotPrimitives, RulersMarkRoundValuesOutsideTheDrawing) {

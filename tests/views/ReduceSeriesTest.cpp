@@ -4,7 +4,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <cstdlib>
 #include <functional>
+#include <iterator>
 #include <limits>
 #include <map>
 #include <random>
@@ -13,6 +16,7 @@
 #include "platform/CBitmap.h"
 #include "platform/CDC.h"
 #include "platform/CWnd.h"
+#include "views/CPlotPrimitives.h"
 #include "views/CViewMapping.h"
 
 namespace {
@@ -29,20 +33,37 @@ using Points = std::vector<PNT_2D_record>;
 
 using Lines = std::function<void(CDC& dc)>;
 
-/// What lines drawn with a pen look like, dot by dot, on a bitmap at the scale of the windows.
-std::string Picture(const CDC& like, int penWidth, const Lines& draw) {
+/// The rows of dots of a picture, each dot as its green part: 0 to 255.
+using Greys = std::vector<std::string>;
+
+/// What is drawn with a pen, on a bitmap at the scale of the windows.
+Greys Picture(const CDC& like, const Lines& draw) {
   CBitmap bitmap;
   bitmap.CreateCompatibleBitmap(&like, kWidth, kHeight);
   CMemoryDC dc(&like, &bitmap);
-  CPen pen(PS_SOLID, penWidth, 0);
   dc.FillSolidRect(CRect(0, 0, kWidth, kHeight), 0xFFFFFF);
-  dc.SelectObject(&pen);
   draw(dc);
-  std::string text;
+  Greys rows;
   for (int y = 0; bitmap.GetPixel(0, y) != 0xFFFFFFFF; ++y) {
+    rows.emplace_back();
     for (int x = 0; bitmap.GetPixel(x, y) != 0xFFFFFFFF; ++x) {
-      text += bitmap.GetPixel(x, y) == 0 ? '#' : '.';
+      rows.back() += static_cast<char>(bitmap.GetPixel(x, y) & 0xFF);
     }
+  }
+  return rows;
+}
+
+/// The same as text, for hard lines.
+std::string HardPicture(const CDC& like, int penWidth, const Lines& draw) {
+  const Greys rows = Picture(like, [&](CDC& dc) {
+    CPen pen(PS_SOLID, penWidth, 0);
+    dc.SelectObject(&pen);
+    draw(dc);
+  });
+  std::string text;
+  for (const std::string& row : rows) {
+    std::transform(row.begin(), row.end(), std::back_inserter(text),
+                   [](char c) { return c == 0 ? '#' : '.'; });
     text += '\n';
   }
   return text;
@@ -173,12 +194,74 @@ TEST(ReduceSeries, ThePictureIsThatOfEveryPoint) {
       const bool wide =
           (view == "fit" || view == "10x") && points.size() > 100 && like.GetScaleFactor() == 1.0;
       for (const int width : wide ? std::vector<int>{1, 3} : std::vector<int>{1}) {
-        const std::string reduced = Picture(like, width, [&](CDC& dc) {
+        const std::string reduced = HardPicture(like, width, [&](CDC& dc) {
           dc.PolyPolyline(sink.GetPoints().data(), sink.GetCounts().data(),
                           static_cast<int>(sink.GetCounts().size()));
         });
         const auto every = [&data = points, &at = mapping](CDC& dc) { DrawEveryPoint(dc, data, at); };
-        EXPECT_EQ(reduced, Picture(like, width, every)) << name << ", " << view << ", " << width;
+        EXPECT_EQ(reduced, HardPicture(like, width, every)) << name << ", " << view << ", " << width;
+      }
+    }
+  }
+}
+
+/// Draws smooth lines through a mapping.
+class SmoothPlot : public coregui::CPlotPrimitives {
+ public:
+  explicit SmoothPlot(const CViewMapping& mapping) : m_mapping(mapping) {}
+  void Draw(CDC& dc, double width, const CPlotSeries& series) {
+    BeginPlot(dc, CRect(0, 0, kWidth, kHeight), CSize(96, 96));
+    SetPlotAntiAliasing(true);
+    SetPlotPen({0, width});
+    PlotPolyline(series);
+    EndPlot();
+  }
+
+ protected:
+  const coregui::CPlotMapping& GetPlotMapping() const override { return m_mapping; }
+
+ private:
+  const CViewMapping& m_mapping;
+};
+
+void DrawEveryPointSmoothly(CDC& dc, int width, const Points& points, const CViewMapping& mapping) {
+  Points device;
+  for (const PNT_2D_record& p : points) {
+    device.push_back(CPlotSeries::IsDrawable(p) ? mapping.UserToDevice(p) : PNT_2D_record{kGap, kGap});
+  }
+  CPen pen(PS_SOLID, width, 0);
+  dc.SelectObject(&pen);
+  dc.SetAntiAliasing(true);
+  if (!device.empty()) dc.PolylineF(&device[0].x, static_cast<int>(device.size()));
+}
+
+int MostDifference(const Greys& a, const Greys& b) {
+  int most = 0;
+  for (std::size_t y = 0; y < a.size(); ++y) {
+    for (std::size_t x = 0; x < a[y].size(); ++x) {
+      most = std::max(most,
+                      std::abs(static_cast<std::uint8_t>(a[y][x]) - static_cast<std::uint8_t>(b[y].at(x))));
+    }
+  }
+  return most;
+}
+
+TEST(ReduceSeries, ASmoothLineLooksAsEveryPointDoes) {
+  CWnd window;
+  ASSERT_TRUE(window.Create(L"", L"", WS_POPUP, CRect(0, 0, 10, 10), nullptr, 0));
+  const CClientDC like(&window);
+  for (const auto& [name, points] : AwkwardData()) {
+    const CPlotSeries series(points);
+    for (const auto& [view, mapping] : Views()) {
+      for (const int width : {1, 3}) {
+        const auto plot = [&, &at = mapping](CDC& dc) { SmoothPlot(at).Draw(dc, width, series); };
+        const auto draw = [&, &data = points, &at = mapping](CDC& dc) {
+          DrawEveryPointSmoothly(dc, width, data, at);
+        };
+        const Greys reduced = Picture(like, plot);
+        const Greys every = Picture(like, draw);
+        // Two edges of the line may lie in a dot, each off by up to an eighth.
+        EXPECT_LE(MostDifference(reduced, every), 64) << name << ", " << view << ", " << width;
       }
     }
   }
