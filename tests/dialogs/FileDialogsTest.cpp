@@ -33,14 +33,11 @@ TEST_F(FileDialogsTest, AMissingFileIsFoundBesideTheOneThatNeedsItOrElseTheUserI
   }
   // Without a folder to search the user is asked even for a file that exists.
   for (const wchar_t* searchIn : {L"", L"name only", static_cast<const wchar_t*>(nullptr)}) {
-    const NextWindow next([&](ShownWindow& box) {
-      EXPECT_EQ(box.Title(), "Confirmation");
-      EXPECT_EQ(box.Text(), "The following required file was not found:\n\n" + At("survey.csv") +
-                                "\n\nWould you like to look for the file yourself ?");
-      box.Click("No");
-    });
     CString path = Wide("survey.csv");
-    EXPECT_FALSE(coreGetNewFilePath(path, L"Survey", L"csv", searchIn, nullptr));
+    const auto find = [&] { EXPECT_FALSE(coreGetNewFilePath(path, L"Survey", L"csv", searchIn, nullptr)); };
+    EXPECT_EQ(Told(find, "No"), "Confirmation (question): The following required file was not found:\n\n" +
+                                    At("survey.csv") +
+                                    "\n\nWould you like to look for the file yourself ? [Yes, No]");
     EXPECT_EQ(path, Wide("survey.csv"));
   }
 }

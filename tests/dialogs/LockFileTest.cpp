@@ -107,14 +107,9 @@ TEST_F(LockFileTest, WhoseLockItIs) {
 TEST_F(LockFileTest, SomeoneElsesLockIsToldUnlessOnlyChecked) {
   for (const char* holder : {"100%s,1234ABCD", ""}) {
     WriteLock(holder);
-    const NextWindow next([&](ShownWindow& box) {
-      EXPECT_EQ(box.Title(), "Error");
-      EXPECT_EQ(box.Icon(), "stop");
-      EXPECT_EQ(box.Text(), "Data file " + m_data.ToUtf8() + "\nis marked as read-only.\nIn use by " +
-                                (*holder == '\0' ? "" : "100%s"));
-      box.Click("OK");
-    });
-    EXPECT_FALSE(Check(false));
+    EXPECT_EQ(Told([this] { EXPECT_FALSE(Check(false)); }), "Error (stop): Data file " + m_data.ToUtf8() +
+                                                                "\nis marked as read-only.\nIn use by " +
+                                                                (*holder == '\0' ? "" : "100%s"));
     EXPECT_EQ(Lock(), holder);
   }
   const NoWindow none;

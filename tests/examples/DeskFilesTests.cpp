@@ -32,8 +32,7 @@ TEST_F(DeskFiles, TheLockGoesWithTheSurveyThatIsOpen) {
   EXPECT_EQ(window.StateText(), L"locked for you");
   Write("empty.csv", "");
   for (const char* bad : {"missing.csv", "empty.csv"}) {
-    const NextWindow box([](ShownWindow& told) { told.Click("OK"); });
-    EXPECT_FALSE(window.Open(Path(bad)));
+    Told([&] { EXPECT_FALSE(window.Open(Path(bad))); });
   }
   EXPECT_FALSE(Has("missing.lck") || Has("empty.lck"));
   EXPECT_TRUE(Has("b.lck"));
@@ -43,13 +42,8 @@ TEST_F(DeskFiles, TheLockGoesWithTheSurveyThatIsOpen) {
 
 TEST_F(DeskFiles, WhatSomebodyElseHoldsIsOpenedForLookingOnly) {
   Write("a.lck", "mary,1\n");
-  {
-    const NextWindow box([&](ShownWindow& told) {
-      EXPECT_EQ(told.Text(), "Data file " + At("a.csv") + "\nis marked as read-only.\nIn use by mary");
-      told.Click("OK");
-    });
-    ASSERT_TRUE(Open("a.csv"));
-  }
+  EXPECT_EQ(Told([this] { ASSERT_TRUE(Open("a.csv")); }),
+            "Error (stop): Data file " + At("a.csv") + "\nis marked as read-only.\nIn use by mary");
   EXPECT_EQ(window.StateText(), L"read-only: in use by mary");
   EXPECT_EQ(window.GetWindowTextString(), L"a.csv (3 rows, read-only) - Long-section desk");
   // It is ours once she has let it go and it is read again.
@@ -58,10 +52,7 @@ TEST_F(DeskFiles, WhatSomebodyElseHoldsIsOpenedForLookingOnly) {
   EXPECT_EQ(window.StateText(), L"locked for you");
   // Somebody who took the lock away from us keeps it.
   Write("a.lck", "joe,2\n");
-  {
-    const NextWindow box([](ShownWindow& told) { told.Click("OK"); });
-    ASSERT_TRUE(Open("a.csv"));
-  }
+  Told([this] { ASSERT_TRUE(Open("a.csv")); });
   EXPECT_EQ(window.StateText(), L"read-only: in use by joe");
   EXPECT_TRUE(Open("b.csv"));
   EXPECT_EQ(Read("a.lck"), "joe,2\n");
@@ -154,11 +145,8 @@ TEST_F(DeskFiles, ACopyIsMadeUnlessSomebodyHoldsItsPlace) {
   EXPECT_EQ(Read("copy.csv"), kSurvey);
   Write("copy.csv", "hers");
   Write("copy.lck", "mary,1\n");
-  const NextWindow box([](ShownWindow& told) {
-    EXPECT_THAT(told.Text(), testing::HasSubstr("in use by mary"));
-    told.Click("OK");
-  });
-  EXPECT_FALSE(window.SaveCopy(Path("copy.csv")));
+  EXPECT_THAT(Told([this] { EXPECT_FALSE(window.SaveCopy(Path("copy.csv"))); }),
+              testing::HasSubstr("in use by mary"));
   EXPECT_EQ(Read("copy.csv"), "hers");
 }
 

@@ -57,12 +57,9 @@ TEST_F(Desk, KeepsItsTableWhenAnotherFileCannotBeRead) {
     EXPECT_EQ(window.GetWindowTextString(), L"empty.csv (not read) - Long-section desk");
   }
   ASSERT_TRUE(Open("a.csv", "Chainage,Level\n0,101.50\n"));
-  const NextWindow box([](ShownWindow& told) {
-    EXPECT_EQ(told.Title(), "Error");
-    EXPECT_NE(told.Text().find("empty.csv: The file is empty."), std::string::npos);
-    told.Click("OK");
-  });
-  EXPECT_FALSE(Open("empty.csv", ""));
+  const std::string told = Told([this] { EXPECT_FALSE(Open("empty.csv", "")); });
+  EXPECT_EQ(told.find("Error (stop): "), 0U);
+  EXPECT_NE(told.find("empty.csv: The file is empty."), std::string::npos);
   EXPECT_EQ(Text(1, 0), L"101.50");
   EXPECT_NE(window.StatusText().find(L"The file is empty."), std::wstring::npos);
   EXPECT_EQ(window.GetWindowTextString(), L"a.csv (1 row) - Long-section desk");
@@ -139,12 +136,7 @@ TEST_F(Desk, FindsInEveryColumnAndSaysWhenThereIsNothing) {
     window.Find(number);
     EXPECT_EQ(at(), std::pair(0, 1L)) << CString(number).ToUtf8();
   }
-  const NextWindow box([](ShownWindow& told) {
-    EXPECT_EQ(told.Title(), "Information");
-    EXPECT_EQ(told.Text(), "\"%s\" is not in the table.");
-    told.Click("OK");
-  });
-  window.Find(L"%s");
+  EXPECT_EQ(Told([this] { window.Find(L"%s"); }), "Information (information): \"%s\" is not in the table.");
 }
 
 TEST_F(Desk, TheFindDialogSearchesBesideTheTable) {

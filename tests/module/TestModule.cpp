@@ -92,23 +92,15 @@ TEST(CoreGUIApp, TellsWhichHelpFileIsMissing) {
   const std::string folder = ScratchFolder() + "/help";
   std::filesystem::create_directory(folder);
   app.SetHelpFolder(CString::FromUtf8(folder));
-  const auto failure = [&app] {
-    std::string told;
-    const NextWindow box([&told](ShownWindow& window) {
-      told = window.Title() + ": " + window.Text();
-      window.Key(VK_RETURN);
-    });
-    EXPECT_FALSE(app.OpenHelp());
-    return told;
-  };
-  EXPECT_EQ(failure(), "Error: The help file \"" + folder + "/Strandmere.chm\" was not found.");
+  const auto failure = [&app] { return Told([&app] { EXPECT_FALSE(app.OpenHelp()); }); };
+  EXPECT_EQ(failure(), "Error (stop): The help file \"" + folder + "/Strandmere.chm\" was not found.");
   EXPECT_EQ(app.shown, L"");
   std::ofstream(folder + "/Strandmere.chm") << "x";
   EXPECT_TRUE(app.OpenHelp());
   EXPECT_EQ(app.shown.ToUtf8(), folder + "/Strandmere.chm");
   app.viewer = false;
-  EXPECT_EQ(failure(),
-            "Error: There is no program to open the help file \"" + folder + "/Strandmere.chm\" with.");
+  EXPECT_EQ(failure(), "Error (stop): There is no program to open the help file \"" + folder +
+                           "/Strandmere.chm\" with.");
 }
 
 }  // namespace

@@ -210,6 +210,21 @@ NextWindow::~NextWindow() {
   EXPECT_TRUE(m_watch->WasMet()) << "the expected window was never shown";
 }
 
+std::string Told(const std::function<void()>& run, const std::string& press) {
+  std::string told;
+  const NextWindow next([&](ShownWindow& box) {
+    told = box.Title() + " (" + box.Icon() + "): " + box.Text();
+    std::vector<std::string> choices = box.Buttons();
+    if (!box.CheckBox().empty()) choices.insert(choices.begin(), box.CheckBox());
+    for (std::size_t i = 0; choices.size() > 1 && i < choices.size(); ++i)
+      told += (i == 0 ? " [" : ", ") + choices[i];
+    if (choices.size() > 1) told += "]";
+    box.Click(press);
+  });
+  run();
+  return told;
+}
+
 class NoWindow::Watch : public QObject {
  public:
   Watch() { qApp->installEventFilter(this); }

@@ -75,6 +75,10 @@ class NextWindow {
   std::unique_ptr<Watch> m_watch;
 };
 
+/// Runs what shows a message box, presses a button of it, and gives the box in words: "title (icon): text",
+/// with the check box and the buttons in brackets where there is more to press than one button.
+std::string Told(const std::function<void()>& run, const std::string& press = "OK");
+
 /// Fails the test when a window is shown during this object's life, and closes it.
 class NoWindow {
  public:
