@@ -22,6 +22,8 @@ endif()
 
 install(TARGETS coregui EXPORT CoreGUITargets
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development)
+get_property(modules GLOBAL PROPERTY COREGUI_MODULES)
+install(TARGETS ${modules} LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}/${COREGUI_MODULE_FOLDER}" COMPONENT runtime)
 install(EXPORT CoreGUITargets NAMESPACE CoreGUI:: DESTINATION "${package_folder}" COMPONENT development)
 export(EXPORT CoreGUITargets NAMESPACE CoreGUI:: FILE "${PROJECT_BINARY_DIR}/CoreGUITargets.cmake")
 

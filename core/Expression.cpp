@@ -1,14 +1,12 @@
 #include "core/Expression.h"
 
-#include <muParser.h>
-
-#include <cmath>
 #include <cstddef>
 #include <exception>
-#include <numbers>
 #include <stdexcept>
 
+#include "core/LateModule.h"
 #include "core/Utf8.h"
+#include "core/late/ExpressionParser.h"
 
 namespace {
 
@@ -17,15 +15,10 @@ constexpr std::size_t kLongestExpression = 4096;
 
 double Evaluate(const std::wstring& expression) {
   if (expression.size() > kLongestExpression) throw std::length_error("The expression is too long.");
-  mu::Parser parser;
-  parser.DefineConst("pi", std::numbers::pi);
-  parser.DefineConst("e", std::numbers::e);
-  parser.SetExpr(coregui::ToUtf8(expression));
-  int results = 0;
-  const mu::value_type* values = parser.Eval(results);
-  if (results != 1) throw std::domain_error("More than one value; the decimal sign is a point.");
-  if (!std::isfinite(values[0])) throw std::domain_error("The result is not a finite number.");
-  return values[0];
+  static const auto evaluate = reinterpret_cast<decltype(&coregui_evaluate_expression)>(
+      coregui::LateFunction("expressions", "coregui_evaluate_expression"));
+  if (evaluate == nullptr) throw std::runtime_error("The module for expressions is not installed.");
+  return evaluate(coregui::ToUtf8(expression));
 }
 
 }  // namespace
@@ -35,8 +28,6 @@ bool coreEvaluateExpression(const wchar_t* expression, double& value, std::wstri
   try {
     value = Evaluate(expression == nullptr ? L"" : expression);
     return true;
-  } catch (const mu::ParserError& error) {
-    failure = error.GetMsg();
   } catch (const std::exception& error) {
     failure = error.what();
   }

@@ -4,11 +4,10 @@
 #include <QFileInfo>
 #include <QPageLayout>
 #include <QPdfWriter>
-#include <QPrinter>
-#include <QPrinterInfo>
 #include <cmath>
 
 #include "platform/qt/Application.h"
+#include "platform/qt/PageModule.h"
 
 namespace coregui {
 
@@ -62,16 +61,16 @@ int PageTarget::Capability(int index) const {
 }
 
 bool PageTarget::MakePrinter() {
-  const QPrinterInfo info =
-      m_where.isEmpty() ? QPrinterInfo::defaultPrinter() : QPrinterInfo::printerInfo(m_where);
-  if (info.isNull()) {
+  const PageDevices* devices = LoadPageDevices();
+  if (devices == nullptr) {
     return false;
   }
-  auto printer = std::make_unique<QPrinter>(info, QPrinter::HighResolution);
-  printer->setFullPage(true);
-  printer->setPageLayout(LayoutOf(m_page));
-  m_page.dotsPerInch = printer->resolution();
-  m_device = std::move(printer);
+  PageDevices::Printer printer = devices->OpenPrinter(m_where, LayoutOf(m_page));
+  if (printer.device == nullptr) {
+    return false;
+  }
+  m_page.dotsPerInch = printer.dotsPerInch;
+  m_device = std::move(printer.device);
   return true;
 }
 
@@ -90,7 +89,7 @@ bool PageTarget::MakeDevice() {
       if (m_device == nullptr && !MakePrinter()) {
         return false;
       }
-      static_cast<QPrinter&>(*m_device).setDocName(m_title);
+      LoadPageDevices()->SetTitle(*m_device, m_title);
       return true;
     }
     case PrintOutput::pdf: {
@@ -189,7 +188,7 @@ void PageTarget::AbortDoc() {
     return;
   }
   if (m_output == PrintOutput::printer) {
-    static_cast<QPrinter&>(*m_device).abort();
+    LoadPageDevices()->Abort(*m_device);
   }
   const int sheets = std::max(1, m_sheets);
   EndDoc();

@@ -2,6 +2,8 @@
 
 #include <QRegularExpression>
 
+#include "platform/qt/PageModule.h"
+
 namespace coregui {
 
 namespace {
@@ -33,7 +35,7 @@ QByteArray ClipPath(int number, const QRegion& clip) {
 
 SvgSheet::SvgSheet(const QString& path, const PrintPage& page, CSize dots, const QString& title)
     : m_file(path), m_page(page), m_all(0, 0, dots.cx, dots.cy), m_title(title) {
-  m_file.open(QIODevice::WriteOnly);
+  if (LoadPageDevices() != nullptr) m_file.open(QIODevice::WriteOnly);
 }
 
 QPainter* SvgSheet::PainterFor(const QRegion& clip) {
@@ -49,11 +51,7 @@ void SvgSheet::BeginPart(const QRegion& clip) {
   m_parts.push_back({clip, {}});
   m_buffer.close();
   m_buffer.setData({});
-  m_generator = std::make_unique<QSvgGenerator>();
-  m_generator->setOutputDevice(&m_buffer);
-  m_generator->setResolution(m_page.dotsPerInch);
-  m_generator->setSize(m_all.size());
-  m_generator->setViewBox(m_all);
+  m_generator = LoadPageDevices()->MakeSvg(m_buffer, m_all, m_page.dotsPerInch);
   m_painter = std::make_unique<QPainter>(m_generator.get());
 }
 

@@ -4,7 +4,6 @@
 #include <QFile>
 #include <QPainter>
 #include <QRegion>
-#include <QSvgGenerator>
 #include <memory>
 #include <vector>
 
@@ -16,7 +15,7 @@ namespace coregui {
 /// is drawn under each of them is written apart and put together in clipped groups at the end.
 class SvgSheet {
  public:
-  /// Begins the file; `dots` are the page's.
+  /// Begins the file, where the installation has the toolkit's writer; `dots` are the page's.
   SvgSheet(const QString& path, const PrintPage& page, CSize dots, const QString& title);
   bool IsOpen() const { return m_file.isOpen(); }
   /// The painter for what is clipped to a region of the page, until the next call.
@@ -41,7 +40,7 @@ class SvgSheet {
   QString m_title;
   std::vector<Part> m_parts;  ///< the last one is open while there is a painter
   QBuffer m_buffer;
-  std::unique_ptr<QSvgGenerator> m_generator;
+  std::unique_ptr<QPaintDevice> m_generator;
   std::unique_ptr<QPainter> m_painter;  ///< ends before the generator goes
 };
 
