@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -93,11 +94,45 @@ class ViewTest : public ::testing::Test {
     if (initialise) {
       view->InitView(FRect(0, 10, 100, 0), 1.0);
     }
+    m_at = CPoint();
+    m_held = 0;
     Hook::Taken();
+  }
+
+  /// What a person does, in words: ">60,58" moves the pointer, "L+" and "L-" press and release a button (L, R
+  /// or M) there, "'m" types a character, "^C" with Ctrl, "esc", "space", "wheel+" and "wheel-" one notch,
+  /// "lose" has another window take the mouse. Ends where the view is gone.
+  void Do(const std::string& words) {
+    std::istringstream steps(words);
+    for (std::string step; view != nullptr && steps >> step;) {
+      const char first = step[0];
+      const UINT button = first == 'L' ? MK_LBUTTON : first == 'R' ? MK_RBUTTON : MK_MBUTTON;
+      if (first == '>') {
+        m_at = CPoint(std::stoi(step.substr(1)), std::stoi(step.substr(step.find(',') + 1)));
+        view->Move(m_at, m_held);
+      } else if (step.substr(1) == "+" || step.substr(1) == "-") {
+        m_held = step[1] == '+' ? button : 0;
+        step[1] == '+' ? view->Press(button, m_at) : view->Release(button, m_at);
+      } else if (first == '\'' || first == '^') {
+        SetKeyState(VK_CONTROL, first == '^');
+        view->SendMessage(WM_CHAR, static_cast<WPARAM>(first == '^' ? step[1] - 64 : step[1]));
+        SetKeyState(VK_CONTROL, false);
+      } else if (first == 'w') {
+        view->Wheel(step[5] == '+' ? 1 : -1);
+      } else if (step == "lose") {
+        parent.SetCapture();
+      } else {
+        view->Key(step == "esc" ? VK_ESCAPE : VK_SPACE);
+      }
+    }
   }
 
   ParentWindow parent;
   std::unique_ptr<TestView> view;
+
+ private:
+  CPoint m_at;      ///< of the pointer
+  UINT m_held = 0;  ///< the button that is pressed
 };
 
 }  // namespace coregui::test
