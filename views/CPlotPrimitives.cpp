@@ -2,13 +2,16 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <numbers>
+#include <utility>
 
 #include "views/CLineStraightener.h"
 #include "views/CPolylineSink.h"
 #include "views/ClipPolygon.h"
 #include "views/DeviceNumbers.h"
 #include "views/HatchPolygon.h"
+#include "views/ReduceDashes.h"
 #include "views/ReduceSeries.h"
 
 namespace coregui {
@@ -22,8 +25,15 @@ constexpr double kSmoothLimit = 1e6;
 constexpr double kStraightPlaces = 0.5;  // by which points of a smooth line may be off a straight part
 /// Pixels of smooth slanted lines that are drawn in a quarter of a second.
 constexpr double kMostSlanted = 4e6;
-constexpr std::size_t kMostDashed = 8000;  // points of a smooth dashed line, which is the toolkit's
-constexpr double kHatchPixels = 8.0;       // from line to line along a row, as on the screen
+// Points that dashed lines are drawn with one by one: thin ones between two places where the dashes begin
+// anew, wide ones likewise, which take the toolkit far longer, and all points of smooth ones.
+constexpr std::size_t kMostThin = 32768;
+constexpr std::size_t kMostWide = 4096;
+constexpr std::size_t kMostSmooth = 4000;
+constexpr double kHatchPixels = 8.0;  // from line to line along a row, as on the screen
+
+constexpr PNT_2D_record kGap = {std::numeric_limits<double>::quiet_NaN(),
+                                std::numeric_limits<double>::quiet_NaN()};
 
 bool AreDrawable(std::initializer_list<PNT_2D_record> points) {
   return std::all_of(points.begin(), points.end(), CPlotSeries::IsDrawable);
@@ -138,12 +148,46 @@ void CPlotPrimitives::StrokeDevice(const std::vector<PNT_2D_record>& devicePoint
     StrokeFractional(devicePoints);
     return;
   }
-  CPolylineSink sink(VisibleForPen());
-  for (const PNT_2D_record& p : devicePoints) {
-    sink.Add(Rounded(p));
+  const auto putIn = [&](CPolylineSink sink) {
+    for (const PNT_2D_record& p : devicePoints) {
+      sink.Add(Rounded(p));
+    }
+    sink.Break();
+    return sink;
+  };
+  const CPolylineSink seen = putIn(CPolylineSink(VisibleForPen()));
+  const bool needsAll = m_pen.style != PS_SOLID && !seen.GetCounts().empty();
+  StrokeSink(needsAll ? putIn(CPolylineSink(CPolylineSink::Everywhere())) : seen);  // dashes follow all of it
+}
+
+bool CPlotPrimitives::StrokeDashedSmoothly(const CPlotSeries& series) {
+  if (!m_smooth || series.GetCount() > kMostSmooth) {
+    return false;
   }
-  sink.Break();
-  StrokeSink(sink);
+  std::vector<PNT_2D_record> device;
+  for (const PNT_2D_record& p : series.GetPoints()) {
+    device.push_back(CPlotSeries::IsDrawable(p) ? GetPlotMapping().UserToDevice(p) : kGap);
+  }
+  const auto isFar = [](PNT_2D_record const& p) {
+    return std::fabs(p.x) > kSmoothLimit || std::fabs(p.y) > kSmoothLimit;
+  };
+  if (std::any_of(device.begin(), device.end(), isFar)) {
+    return false;
+  }
+  StrokeFractional(device);
+  return true;
+}
+
+void CPlotPrimitives::StrokeDashed(const CPlotSeries& series) {
+  if (series.GetCount() < 2 || StrokeDashedSmoothly(series)) {
+    return;
+  }
+  const DashedLine line =
+      ReduceDashes(series, GetPlotMapping(), VisibleForPen(), PenPixels() > 1 ? kMostWide : kMostThin);
+  StrokeSink(line.dashes);
+  const int style = std::exchange(m_pen.style, PS_SOLID);
+  StrokeSink(line.solid);
+  m_pen.style = style;
 }
 
 int CPlotPrimitives::PlacesFor(const CPlotSeries& series) const {
@@ -181,8 +225,7 @@ bool CPlotPrimitives::StrokeSmoothly(const CPlotSeries& series) {
     }
     line.Break();
   }
-  const bool tooDense = m_pen.style != PS_SOLID && line.GetPoints().size() > kMostDashed;
-  if (tooDense || SlantedLength(line.GetPoints(), m_area) > kMostSlanted) {
+  if (SlantedLength(line.GetPoints(), m_area) > kMostSlanted) {
     return false;
   }
   if (!line.GetPoints().empty()) {
@@ -264,6 +307,10 @@ void CPlotPrimitives::PlotPolyline(const CPlotSeries& series) {
     }
     sink.Break();
     StrokeSink(sink);
+    return;
+  }
+  if (m_pen.style != PS_SOLID) {
+    StrokeDashed(series);
     return;
   }
   if (m_smooth && StrokeSmoothly(series)) {

@@ -33,6 +33,8 @@ class COREGUI_API CPlotPrimitives {
   CRect GetPlotArea() const { return m_area; }
 
   // --- Styles, in force until changed; BeginPlot goes back to the default ones.
+  /// Dashes are measured along the line from its first point (of a large series: from places of the data at
+  /// least 2,000 pixels apart), so that they stay on it when the view moves.
   void SetPlotPen(PlotPen const& pen) { m_pen = pen; }
   void SetPlotFill(PlotFill const& fill) { m_fill = fill; }
   void SetPlotText(PlotTextStyle const& style) { m_text = style; }
@@ -99,7 +101,9 @@ class COREGUI_API CPlotPrimitives {
   void StrokeDevice(const std::vector<PNT_2D_record>& devicePoints);
   /// Dots too fine to be seen one by one.
   bool IsPaper() const { return m_dpi.cy >= 200; }
-  /// False when the line is one that is drawn hard.
+  void StrokeDashed(const CPlotSeries& series);
+  /// False when the line is one that is drawn hard; likewise the next.
+  bool StrokeDashedSmoothly(const CPlotSeries& series);
   bool StrokeSmoothly(const CPlotSeries& series);
   /// Into how many places the sides of a pixel are divided for a smooth line; 0 where it reaches too far.
   int PlacesFor(const CPlotSeries& series) const;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <limits>
 #include <vector>
 
 #include "core/Export.h"
@@ -21,6 +22,13 @@ class COREGUI_API CPolylineSink {
   void Add(CPoint p);
   /// Ends the polyline at hand.
   void Break();
+
+  /// Of a sink that leaves out nothing.
+  static CRect Everywhere() {
+    constexpr LONG least = std::numeric_limits<LONG>::min();
+    constexpr LONG most = std::numeric_limits<LONG>::max();
+    return {least, least, most, most};
+  }
 
   const CRect& GetVisible() const { return m_visible; }
   /// All points of all polylines, and how many each has (2 at least).

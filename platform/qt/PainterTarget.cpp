@@ -100,12 +100,14 @@ QPointF PainterTarget::DotPoint(const DrawAttributes& with, double x, double y) 
 }
 
 QPen PainterTarget::PenOf(const DrawAttributes& with) const {
+  // A hair more than a dot: the toolkit's own way for lines of one dot loses the place of dashes at the edge.
+  constexpr double kLeastSmooth = 1.0 + 1.0 / 256.0;
   const double width =
-      with.smooth ? std::max(1.0, with.pen->GetWidth() * Scale()) : DotWidth(with.pen->GetWidth());
+      with.smooth ? std::max(kLeastSmooth, with.pen->GetWidth() * Scale()) : DotWidth(with.pen->GetWidth());
   QPen pen(QColor::fromRgb(Opaque(with.pen->GetColor())), width, StyleOf(with.pen->GetStyle()));
   pen.setCapStyle(Qt::RoundCap);
   pen.setJoinStyle(Qt::RoundJoin);
-  if (width <= 1.0 || with.pen->GetStyle() != PS_SOLID) {
+  if (width <= kLeastSmooth || with.pen->GetStyle() != PS_SOLID) {
     pen.setCapStyle(Qt::FlatCap);
     pen.setJoinStyle(Qt::MiterJoin);
   }

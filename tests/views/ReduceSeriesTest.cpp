@@ -42,6 +42,7 @@ Greys Picture(const CDC& like, const Lines& draw) {
   bitmap.CreateCompatibleBitmap(&like, kWidth, kHeight);
   CMemoryDC dc(&like, &bitmap);
   dc.FillSolidRect(CRect(0, 0, kWidth, kHeight), 0xFFFFFF);
+  dc.SetBkMode(TRANSPARENT);
   draw(dc);
   Greys rows;
   for (int y = 0; bitmap.GetPixel(0, y) != 0xFFFFFFFF; ++y) {
@@ -54,9 +55,9 @@ Greys Picture(const CDC& like, const Lines& draw) {
 }
 
 /// The same as text, for hard lines.
-std::string HardPicture(const CDC& like, int penWidth, const Lines& draw) {
+std::string HardPicture(const CDC& like, int penWidth, const Lines& draw, int style = PS_SOLID) {
   const Greys rows = Picture(like, [&](CDC& dc) {
-    CPen pen(PS_SOLID, penWidth, 0);
+    CPen pen(style, penWidth, 0);
     dc.SelectObject(&pen);
     draw(dc);
   });
@@ -205,14 +206,14 @@ TEST(ReduceSeries, ThePictureIsThatOfEveryPoint) {
   }
 }
 
-/// Draws smooth lines through a mapping.
-class SmoothPlot : public coregui::CPlotPrimitives {
+/// Draws lines through a mapping.
+class LinePlot : public coregui::CPlotPrimitives {
  public:
-  explicit SmoothPlot(const CViewMapping& mapping) : m_mapping(mapping) {}
-  void Draw(CDC& dc, double width, const CPlotSeries& series) {
+  explicit LinePlot(const CViewMapping& mapping) : m_mapping(mapping) {}
+  void Draw(CDC& dc, bool smooth, PlotPen const& pen, const CPlotSeries& series) {
     BeginPlot(dc, CRect(0, 0, kWidth, kHeight), CSize(96, 96));
-    SetPlotAntiAliasing(true);
-    SetPlotPen({0, width});
+    SetPlotAntiAliasing(smooth);
+    SetPlotPen(pen);
     PlotPolyline(series);
     EndPlot();
   }
@@ -254,7 +255,9 @@ TEST(ReduceSeries, ASmoothLineLooksAsEveryPointDoes) {
     const CPlotSeries series(points);
     for (const auto& [view, mapping] : Views()) {
       for (const int width : {1, 3}) {
-        const auto plot = [&, &at = mapping](CDC& dc) { SmoothPlot(at).Draw(dc, width, series); };
+        const auto plot = [&, &at = mapping](CDC& dc) {
+          LinePlot(at).Draw(dc, true, {0, width * 1.0}, series);
+        };
         const auto draw = [&, &data = points, &at = mapping](CDC& dc) {
           DrawEveryPointSmoothly(dc, width, data, at);
         };
@@ -262,6 +265,75 @@ TEST(ReduceSeries, ASmoothLineLooksAsEveryPointDoes) {
         const Greys every = Picture(like, draw);
         // Two edges of the line may lie in a dot, each off by up to an eighth.
         EXPECT_LE(MostDifference(reduced, every), 64) << name << ", " << view << ", " << width;
+      }
+    }
+  }
+}
+
+TEST(ReduceSeries, ADashedLineLooksAsEveryPointDoes) {
+  CWnd window;
+  ASSERT_TRUE(window.Create(L"", L"", WS_POPUP, CRect(0, 0, 10, 10), nullptr, 0));
+  const CClientDC like(&window);
+  std::map<std::string, Points> data = AwkwardData();
+  data["dense wave"] = Generated(300000, [](std::size_t i, auto&) {
+    const double x = static_cast<double>(i) / 300;
+    return PNT_2D_record{x, 50 + 40 * std::sin(x * 0.02)};
+  });
+  data["dense noise"] = Generated(300000, [](std::size_t i, auto& random) {
+    return PNT_2D_record{static_cast<double>(i) / 300, Noise(random, 20, 80)};
+  });
+  for (const auto& [name, points] : data) {
+    const CPlotSeries series(points);
+    for (const std::string view : {"fit", "10x"}) {
+      const CViewMapping mapping = Views()[view];
+      const auto draw = [&points = points, &mapping](CDC& dc) { DrawEveryPoint(dc, points, mapping); };
+      const auto plot = [&](CDC& dc) {
+        LinePlot(mapping).Draw(dc, false, {0, 1, PlotUnit::pixels, PS_DASH}, series);
+      };
+      const std::string every = HardPicture(like, 1, draw, PS_DASH);
+      const std::string reduced = HardPicture(like, 1, plot);
+      int off = 0;
+      for (std::size_t i = 0; i < every.size(); ++i) {
+        off += every[i] != reduced[i] ? 1 : 0;
+      }
+      // Many points are drawn but for where a dash ends inside a column.
+      const auto drawn = std::count(every.begin(), every.end(), '#');
+      EXPECT_LE(off, points.size() > 30000 ? drawn / 50 : 0) << name << ", " << view;
+    }
+  }
+}
+
+TEST(ReduceSeries, DashesStayOnTheLineWhenTheViewMoves) {
+  CWnd window;
+  ASSERT_TRUE(window.Create(L"", L"", WS_POPUP, CRect(0, 0, 10, 10), nullptr, 0));
+  const CClientDC like(&window);
+  const auto wave = [](std::size_t count) {
+    return Generated(count, [count](std::size_t i, auto&) {
+      const double x = 1000.0 * static_cast<double>(i) / static_cast<double>(count);
+      return PNT_2D_record{x, 50 + 40 * std::sin(x * 0.02)};
+    });
+  };
+  const auto dots = static_cast<std::size_t>(std::lround(8 * like.GetScaleFactor()));
+  for (const Points& points : {wave(30), wave(300000), AwkwardData()["spiral"]}) {
+    const CPlotSeries series(points);
+    for (const double zoom : {1.0, 4.0, 100.0}) {
+      for (const bool smooth : {false, true}) {
+        CViewMapping mapping = Fitted(1000, 100);
+        mapping.Zoom({500, 50}, mapping.now.scale / zoom, CSize(kWidth, kHeight));
+        const auto plot = [&](CDC& dc) {
+          LinePlot(mapping).Draw(dc, smooth, {0, 1, PlotUnit::pixels, PS_DASH}, series);
+        };
+        const Greys before = Picture(like, plot);
+        mapping.Pan(CSize(-8, 0));
+        const Greys after = Picture(like, plot);
+        int most = 0;
+        for (std::size_t y = 0; y < before.size(); ++y) {
+          for (std::size_t x = dots; x < before[y].size(); ++x) {
+            most = std::max(most, std::abs(static_cast<std::uint8_t>(before[y][x]) -
+                                           static_cast<std::uint8_t>(after[y][x - dots])));
+          }
+        }
+        EXPECT_EQ(most, 0) << points.size() << " points, " << zoom << "x, " << smooth;
       }
     }
   }
