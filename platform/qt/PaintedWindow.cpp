@@ -14,6 +14,7 @@
 #include "platform/Toolkit.h"
 #include "platform/WindowState.h"
 #include "platform/qt/PictureMemory.h"
+#include "platform/qt/AccessibleWindow.h"
 #include "platform/qt/Pump.h"
 
 namespace coregui {
@@ -103,6 +104,7 @@ std::unique_ptr<NativeWindow> MakePaintedWindow(CWnd& window, const CREATESTRUCT
   if (!EnsureToolkit()) {
     return nullptr;
   }
+  DescribePaintedWindows();
   return std::make_unique<PaintedWindow>(window, create);
 }
 

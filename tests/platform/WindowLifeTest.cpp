@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QLineEdit>
 #include <QTest>
+#include <QWidget>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -411,6 +413,32 @@ TEST_F(WidgetControl, AClickFocusesByTheSameRoad) {
   EXPECT_EQ(journal, "edit gets from top;");
   EXPECT_EQ(CWnd::GetFocus(), &edit);
   EXPECT_EQ(edit.TakeLog(), "201 1 4,4;202 0 4,4;");
+}
+
+TEST(WindowLife, ScreenReadersLearnWhatAPaintedWindowIs) {
+  LogWindow window;
+  window.Open();
+  LogWindow table;
+  table.OpenIn(window, CRect(0, 0, 90, 60));
+  table.SetAccessibleName(L"Survey table");
+  LogWindow body;
+  body.OpenIn(table, CRect(0, 0, 90, 60));
+  const auto spoken = [](const CWnd& told) {
+    return QAccessible::queryAccessibleInterface(coregui::WidgetOf(&told));
+  };
+  EXPECT_EQ(spoken(window)->role(), QAccessible::Window);
+  EXPECT_EQ(spoken(table)->role(), QAccessible::Canvas);
+  EXPECT_EQ(spoken(body)->role(), QAccessible::Pane);
+  EXPECT_EQ(spoken(body)->text(QAccessible::Name), "");
+  EXPECT_FALSE(spoken(body)->state().focusable);
+  CWinApp::PumpPending();
+  body.SetFocus();
+  EXPECT_EQ(spoken(body)->text(QAccessible::Name), "Survey table");
+  EXPECT_TRUE(spoken(body)->state().focusable && spoken(body)->state().focused);
+  LogWindow dialog;
+  dialog.Create(L"", L"ask", WS_POPUP | WS_CAPTION | WS_VISIBLE, CRect(0, 0, 90, 60), &window, 0);
+  EXPECT_EQ(spoken(dialog)->role(), QAccessible::Dialog);
+  EXPECT_EQ(spoken(dialog)->text(QAccessible::Name), "ask");
 }
 
 }  // namespace
