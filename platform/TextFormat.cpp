@@ -45,7 +45,10 @@ void AppendField(std::wstring& out, const Directive& directive, std::wstring_vie
 std::string NarrowFormat(const Directive& directive, const char* size) {
   std::string format = "%" + directive.flags;
   if (directive.width > 0) format += std::to_string(directive.width);
-  if (directive.precision >= 0) format += "." + std::to_string(directive.precision);
+  if (directive.precision >= 0) {
+    format += '.';
+    format += std::to_string(directive.precision);
+  }
   return format + size + static_cast<char>(directive.conversion);
 }
 
@@ -73,13 +76,14 @@ void AppendAscii(std::wstring& out, const std::string& text) {
 }
 
 /// The process's locale may write another decimal sign than '.'.
-void AppendReal(std::wstring& out, std::string text) {
-  const char* sign = std::localeconv()->decimal_point;
-  if (std::strcmp(sign, ".") != 0) {
-    const std::size_t found = text.find(sign);
-    if (found != std::string::npos) text.replace(found, std::strlen(sign), ".");
+void AppendReal(std::wstring& out, const std::string& text) {
+  const std::string sign = std::localeconv()->decimal_point;
+  const std::size_t found = sign.empty() ? std::string::npos : text.find(sign);
+  AppendAscii(out, text.substr(0, found));
+  if (found != std::string::npos) {
+    out += L'.';
+    AppendAscii(out, text.substr(found + sign.size()));
   }
-  AppendAscii(out, text);
 }
 
 // Two sizes may be one type here and not elsewhere.
