@@ -20,8 +20,8 @@ struct SectionColors {
 };
 
 /// Both plots begin and end at the same place, so that a chainage stands below itself.
-inline constexpr int kLeftMargin = 66;  // points
-inline constexpr int kRightMargin = 10;
+inline constexpr int kLeftMargin = 66;   // points
+inline constexpr int kRightMargin = 20;  // half a chainage of the ruler
 
 inline CPoint MiddleOf(const CRect& rect) {
   return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
