@@ -30,49 +30,58 @@ CViewMapping MappingOf(FRect const& extents, VertMode mode, CRect const& client,
 
 const FRect kWide(0, 10, 100, 0);
 
-TEST(ViewMapping, ExtentsThatAreWiderOrTallerAreCentred) {
-  const CViewMapping wide = MappingOf(kWide, VertMode::keepRatio, CRect(0, 0, 200, 100));
-  EXPECT_EQ(wide.now.scale, 0.5);
-  EXPECT_EQ(wide.now.fitScale, 0.5);
-  EXPECT_EQ(wide.now.offsetX, 0);
-  EXPECT_EQ(wide.now.offsetY, -40);
-  EXPECT_EQ(wide.UserToWindow({0, 10}), CPoint(0, 40));
-  EXPECT_EQ(wide.UserToWindow({100, 0}), CPoint(200, 60));
-  EXPECT_EQ(wide.WindowToUser({100, 50}).y, 5);
-  // 10 wide, 100 high in 200 x 100: the height needs 1 unit per pixel; wp = T(10 / (96/72) + 0.5) = 8 points,
-  // U = 8 * 96 / 72 = 10 pixels, so (200 - 10) / 2 = 95 pixels stay free on each side.
-  const CViewMapping tall = MappingOf(FRect(0, 100, 10, 0), VertMode::keepRatio, CRect(0, 0, 200, 100));
-  EXPECT_EQ(tall.now.scale, 1.0);
-  EXPECT_EQ(tall.now.offsetX, -95);
-  EXPECT_EQ(tall.now.offsetY, 0);
-}
-
-TEST(ViewMapping, MarginsAreAddedInPointsBeforeTheyBecomePixels) {
-  // 10 + 10 points are 26 pixels at 96 dots per inch; each alone is 13.
-  // 7 + 7 points are 18 pixels, although each alone is only 9.
-  CViewMapping mapping = MappingOf(kWide, VertMode::fill, CRect(10, 20, 236, 138), CRect(10, 7, 10, 7));
-  EXPECT_EQ(mapping.now.offsetX, -13);
-  EXPECT_EQ(mapping.now.offsetY, -9);
-  EXPECT_EQ(mapping.now.scale, 100.0 / 200);
-  EXPECT_EQ(mapping.now.vertRatio, 0.5 / (10.0 / 100));
-  EXPECT_EQ(mapping.UserToWindow({0, 10}), CPoint(13, 9));
-  EXPECT_EQ(mapping.UserToWindow({100, 0}), CPoint(213, 109));
-  mapping = MappingOf(kWide, VertMode::fill, CRect(0, 0, 100, 100), CRect(1, 0, 1, 0));
-  EXPECT_EQ(mapping.GetMarginPixels(), CRect(1, 0, 1, 0));
-  EXPECT_EQ(mapping.now.scale, 100.0 / 98);
-  mapping = MappingOf(kWide, VertMode::fill, CRect(0, 0, 100, 100), CRect(2, 0, 2, 0));
-  EXPECT_EQ(mapping.now.scale, 100.0 / 95) << "two margins of 2 points are 5 pixels, not twice 2";
-}
-
-TEST(ViewMapping, PointModeMeasuresDownwardsFromTheTop) {
-  const CViewMapping mapping = MappingOf(FRect(0, 0, 100, -300), VertMode::points, CRect(0, 0, 200, 100));
-  EXPECT_EQ(mapping.now.vertRatio, 96 / 72.0);
-  EXPECT_EQ(mapping.UserToWindow({50, -72}), CPoint(100, 96));
-  EXPECT_EQ(mapping.WindowToUser({100, 96}).y, -72);
-  EXPECT_EQ(mapping.GetPointSize().y, 1.0);
-  EXPECT_EQ(mapping.GetPointSize().x, 96 * 0.5 / 72);
-  EXPECT_EQ(mapping.WindowToUserHeight(96), 72);
-  EXPECT_EQ(mapping.WindowToUserWidth(10), 5);
+TEST(ViewMapping, AFitShowsTheExtentsBetweenTheMargins) {
+  struct Row {
+    FRect extents;
+    VertMode mode;
+    CRect client;
+    CRect margins;
+    double scale;
+    double vertRatio;  ///< 1 before
+    CPoint corner;     ///< the pixel of the upper left corner: the offsets negated
+    CPoint opposite;
+  };
+  const FRect tall(0, 100, 10, 0);
+  const Row rows[] = {
+      // The height needs 10 / 100, less than the width's 0.5: 15 points or 20 pixels high, 40 free above.
+      {kWide, VertMode::keepRatio, {0, 0, 200, 100}, {}, 0.5, 1.0, {0, 40}, {200, 60}},
+      // The height needs 1 unit a pixel: T(10 / (96/72) + 0.5) = 8 points, 10 pixels wide, 95 free at the
+      // left.
+      {tall, VertMode::keepRatio, {0, 0, 200, 100}, {}, 1.0, 1.0, {95, 0}, {105, 100}},
+      // 10 + 10 points are 26 pixels at 96 dots an inch, each alone is 13; 7 + 7 are 18, each alone is 9.
+      {kWide, VertMode::fill, {10, 20, 236, 138}, {10, 7, 10, 7}, 0.5, 5.0, {13, 9}, {213, 109}},
+      {kWide, VertMode::fill, {0, 0, 100, 100}, {1, 0, 1, 0}, 100.0 / 98, 1000.0 / 98, {1, 0}, {99, 100}},
+      // Two margins of 2 points are 5 pixels, not twice 2: they are added before they become pixels.
+      {kWide, VertMode::fill, {0, 0, 100, 100}, {2, 0, 2, 0}, 100.0 / 95, 1000.0 / 95, {2, 0}, {97, 100}},
+      // 10 units of y are 10 points downwards, 13 pixels.
+      {kWide, VertMode::points, {0, 0, 200, 100}, {}, 0.5, 96 / 72.0, {0, 0}, {200, 13}},
+      {FRect(0, 0, 100, -72),
+       VertMode::points,
+       {0, 0, 200, 100},
+       {0, 3, 0, 0},
+       0.5,
+       96 / 72.0,
+       {0, 4},
+       {200, 100}}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(&row - rows);
+    const CViewMapping mapping = MappingOf(row.extents, row.mode, row.client, row.margins);
+    EXPECT_EQ(mapping.now.scale, row.scale);
+    EXPECT_EQ(mapping.now.fitScale, row.scale);
+    EXPECT_DOUBLE_EQ(mapping.now.vertRatio, row.vertRatio);
+    EXPECT_EQ(CPoint(-mapping.now.offsetX, -mapping.now.offsetY), row.corner);
+    EXPECT_EQ(mapping.UserToWindow(row.extents.TopLeft()), row.corner);
+    EXPECT_EQ(mapping.UserToWindow(row.extents.BottomRight()), row.opposite);
+    const PNT_2D_record back = mapping.WindowToUser(row.corner);
+    EXPECT_EQ(back.x, row.extents.GetLeft());
+    EXPECT_EQ(back.y, row.extents.GetTop());
+    EXPECT_DOUBLE_EQ(mapping.WindowToUserWidth(10), 10 * row.scale);
+    const double vertical = row.mode == VertMode::points ? 1.0 : row.scale;
+    EXPECT_DOUBLE_EQ(mapping.WindowToUserHeight(96), 96 * vertical / row.vertRatio);
+    EXPECT_DOUBLE_EQ(mapping.GetPointSize().x, 96 * row.scale / 72);
+    EXPECT_DOUBLE_EQ(mapping.GetPointSize().y, vertical / row.vertRatio * 96 / 72);
+    EXPECT_TRUE(row.mode != VertMode::points || mapping.GetPointSize().y == 1.0) << "exactly";
+  }
 }
 
 TEST(ViewMapping, TruncationTowardsZeroIsKept) {
@@ -119,6 +128,12 @@ TEST(ViewMapping, ZoomPutsTheCentreInTheMiddle) {
   EXPECT_EQ(mapping.Zoom({30, 4}, 0.125, CSize(201, 101)), CViewMapping::ZoomResult::zoomed);
   EXPECT_EQ(mapping.UserToWindow({30, 4}), CPoint(100, 50));
   EXPECT_EQ(mapping.now.fitScale, 100.0 / 201) << "only a fit sets the limit";
+  mapping.margins.left = 10;
+  for (const bool zeroX : {false, true}) {
+    mapping.zeroX = zeroX;
+    mapping.Zoom({0, 4}, 0.125, CSize(201, 101));
+    EXPECT_EQ(mapping.UserToWindow({0, 5}).x, zeroX ? 13 : 100) << "the left edge stays at the margin";
+  }
   mapping.vertMode = VertMode::points;
   mapping.Zoom({30, 4}, 0.25, CSize(201, 101));
   EXPECT_EQ(mapping.now.offsetY, 0);
@@ -134,16 +149,6 @@ TEST(ViewMapping, WithARulerZoomingOutStopsAtTheFit) {
   EXPECT_EQ(mapping.Zoom({50, 5}, 0.5 - 1e-11, client), CViewMapping::ZoomResult::zoomed);
   mapping.now.scale = 0.5;
   EXPECT_EQ(mapping.Zoom({50, 5}, 0.5, client), CViewMapping::ZoomResult::refused);
-}
-
-TEST(ViewMapping, ZeroXKeepsTheLeftEdgeAtTheMargin) {
-  CViewMapping mapping = MappingOf(kWide, VertMode::keepRatio, CRect(0, 0, 226, 100), CRect(10, 0, 10, 0));
-  mapping.zeroX = true;
-  mapping.Zoom({0, 5}, 0.1, CSize(226, 100));
-  EXPECT_EQ(mapping.UserToWindow({0, 5}).x, 13);
-  mapping.zeroX = false;
-  mapping.Zoom({0, 5}, 0.1, CSize(226, 100));
-  EXPECT_EQ(mapping.UserToWindow({0, 5}).x, 113);
 }
 
 TEST(ViewMapping, ScaleOfARectangleIgnoresMarginsAndCountsTheExaggeration) {

@@ -8,9 +8,9 @@ namespace {
 
 using coregui::CWindowMapping;
 
-CWindowMapping Sized(LONG width, LONG height, LONG dpiY = 96) {
+CWindowMapping Sized(LONG width, LONG height) {
   CWindowMapping mapping;
-  mapping.device = {width, height, 96, dpiY, 0};
+  mapping.device = {width, height, 96, 96, 0};
   return mapping;
 }
 
@@ -22,49 +22,48 @@ void ExpectRect(FRect const& rect, double left, double top, double right, double
 }
 
 TEST(WindowMapping, ShowsAllOfTheRectangleAtTrueAspect) {
-  CWindowMapping mapping = Sized(200, 100);
-  mapping.Init(FRect(0, 100, 100, 0), true);
-  ExpectRect(mapping.window, -50, 100, 150, 0);
-  EXPECT_EQ(mapping.currentPos.x, -50);
-  EXPECT_EQ(mapping.currentPos.y, 100);
-  mapping.Init(FRect(0, 10, 100, 0), false);
-  ExpectRect(mapping.window, 0, 30, 100, -20);
-  EXPECT_EQ(mapping.currentPos.x, -50) << "kept unless asked for";
-  mapping.Resize({200, 100, 96, 48, 0});
-  ExpectRect(mapping.window, 0, 55, 100, -45);
+  struct Row {
+    FRect limits;
+    int scale;  ///< asked for; 1 to 10 are taken
+    LONG dpiY;
+    LONG pane;  ///< lowers the centre by half of its height in what was shown before
+    FRect window;
+  };
+  const Row rows[] = {
+      {{0, 100, 100, 0}, 1, 96, 0, {-50, 100, 150, 0}}, {{0, 10, 100, 0}, 1, 96, 0, {0, 30, 100, -20}},
+      {{0, 10, 100, 0}, 0, 96, 0, {0, 30, 100, -20}},   {{0, 10, 100, 0}, 5, 96, 0, {0, 10, 100, 0}},
+      {{0, 10, 100, 0}, 11, 96, 0, {0, 7.5, 100, 2.5}}, {{0, 10, 100, 0}, 1, 48, 0, {0, 55, 100, -45}},
+      {{0, 100, 200, 0}, 1, 96, 20, {0, 90, 200, -10}}, {{0, 100, 200, 0}, 1, 0, 0, {0, 100, 200, 0}},
+      {{0, 5, 100, 5}, 1, 96, 0, {0, 100, 200, 0}},     {{5, 10, 5 + 1e-13, 0}, 1, 96, 0, {0, 100, 200, 0}}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(&row - rows);
+    CWindowMapping mapping = Sized(200, 100);
+    mapping.Init(FRect(0, 100, 200, 0), true);
+    ExpectRect(mapping.window, 0, 100, 200, 0);
+    mapping.SetScale(row.scale);
+    mapping.device.dpiY = row.dpiY;
+    mapping.device.detailPane = row.pane;
+    mapping.SetViewLimits(row.limits);
+    ExpectRect(mapping.window, row.window.GetLeft(), row.window.GetTop(), row.window.GetRight(),
+               row.window.GetBottom());
+    ExpectRect(mapping.zoomBase, 0, 100, 200, 0);
+    EXPECT_EQ(mapping.currentPos.y, 100) << "set to the upper left corner only by Init";
+  }
 }
 
-TEST(WindowMapping, ExaggerationIsClampedAndShrinksTheHeightShown) {
+TEST(WindowMapping, ASizeOfNothingIsForgottenWithTheNextSize) {
+  for (const CSize none : {CSize(0, 0), CSize(200, 0), CSize(0, 100)}) {
+    CWindowMapping mapping = Sized(none.cx, none.cy);
+    mapping.device.detailPane = 20;
+    mapping.Init(FRect(0, 100, 200, 0), true);
+    mapping.UserToWindow({50, 50});
+    mapping.Resize({200, 100, 96, 96, 0});
+    mapping.Resize({200, 100, 96, 96, 20});
+    ExpectRect(mapping.window, 0, 90, 200, -10);
+  }
   CWindowMapping mapping = Sized(200, 100);
-  mapping.SetScale(0);
-  EXPECT_EQ(mapping.GetScale(), 1);
-  mapping.SetScale(5);
-  mapping.Init(FRect(0, 10, 100, 0), false);
-  ExpectRect(mapping.window, 0, 10, 100, 0);
-  mapping.SetScale(11);
-  EXPECT_EQ(mapping.GetScale(), 10);
-}
-
-TEST(WindowMapping, FlatRectanglesAndUnknownDevicesChangeNothing) {
-  CWindowMapping mapping = Sized(200, 100);
-  mapping.Init(FRect(0, 10, 100, 0), false);
-  mapping.WindowScale(FRect(0, 5, 100, 5), 1, 1);
-  mapping.WindowScale(FRect(5, 10, 5 + 1e-13, 0), 1, 1);
-  ExpectRect(mapping.window, 0, 30, 100, -20);
   mapping.WindowScale(FRect(1, 2, 3, 0), 0, 1);
   ExpectRect(mapping.window, 1, 2, 3, 0);
-  mapping.device.dpiX = 0;
-  mapping.WindowScale(FRect(0, 10, 100, 0), 1, 1);
-  ExpectRect(mapping.window, 1, 2, 3, 0);
-}
-
-TEST(WindowMapping, TheDetailPaneLowersTheCentre) {
-  CWindowMapping mapping = Sized(200, 100);
-  mapping.Init(FRect(0, 100, 200, 0), false);
-  mapping.device.detailPane = 20;
-  mapping.SetViewLimits(FRect(0, 100, 200, 0));
-  ExpectRect(mapping.window, 0, 90, 200, -10);
-  ExpectRect(mapping.zoomBase, 0, 100, 200, 0);
 }
 
 TEST(WindowMapping, PixelsAreTruncatedWithoutRoundingIsKept) {
