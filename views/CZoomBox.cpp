@@ -57,8 +57,8 @@ void CZoomBox::Finish(CZoomBoxHost& host) {
   }
   std::exchange(m_host, nullptr)->ReleaseFromBox();
   host.LeaveZoomBoxMode();
-  // Kept: the outline is not erased in its own view. The repaint of the zoom removes it; a degenerate box has
-  // none to speak of.
+  // Kept: the outline is not erased in its own view. The repaint of the zoom removes it; the line of a flat
+  // box stays until the next one.
   const CPoint anchor = m_anchor;
   const CPoint corner = m_corner;
   if (anchor.x != corner.x && anchor.y != corner.y && !host.ZoomToBox(anchor, corner)) {

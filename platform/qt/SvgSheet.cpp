@@ -1,6 +1,7 @@
 #include "platform/qt/SvgSheet.h"
 
 #include <QRegularExpression>
+#include <utility>
 
 #include "platform/qt/PageModule.h"
 
@@ -33,8 +34,8 @@ QByteArray ClipPath(int number, const QRegion& clip) {
 
 }  // namespace
 
-SvgSheet::SvgSheet(const QString& path, const PrintPage& page, CSize dots, const QString& title)
-    : m_file(path), m_page(page), m_all(0, 0, dots.cx, dots.cy), m_title(title) {
+SvgSheet::SvgSheet(const QString& path, const PrintPage& page, CSize dots, QString title)
+    : m_file(path), m_page(page), m_all(0, 0, dots.cx, dots.cy), m_title(std::move(title)) {
   if (LoadPageDevices() != nullptr) m_file.open(QIODevice::WriteOnly);
 }
 

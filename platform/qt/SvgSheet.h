@@ -16,7 +16,7 @@ namespace coregui {
 class SvgSheet {
  public:
   /// Begins the file, where the installation has the toolkit's writer; `dots` are the page's.
-  SvgSheet(const QString& path, const PrintPage& page, CSize dots, const QString& title);
+  SvgSheet(const QString& path, const PrintPage& page, CSize dots, QString title);
   bool IsOpen() const { return m_file.isOpen(); }
   /// The painter for what is clipped to a region of the page, until the next call.
   QPainter* PainterFor(const QRegion& clip);

@@ -72,24 +72,20 @@ TEST_F(PlotWindow, ShapesMarkersAndArrowsStandOnThePixelsOfTheMapping) {
   ASSERT_TRUE(view.Create(L"", L"", WS_CHILD, CRect(0, 0, 200, 100), &parent, 2));
   view.InitView(FRect(20, 100, 220, 0), 1.0);
   window->UserInit(0, 200, 0, 100);
-  const auto drawn = [](auto& plot, PNT_2D_record const& at) {
+  const auto expectMet = [](auto& plot, PNT_2D_record const& at) {
+    const PNT_2D_record to{at.x + 20, at.y - 20};
     CRecordingDC dc;
     plot.BeginPlot(dc, CRect(-100, 0, 200, 100), CSize(72, 72));
-    plot.PlotRectangle(FRect(at, {at.x + 20, at.y - 20}));
+    plot.PlotRectangle(FRect(at, to));
     plot.PlotPoint(at, PlotMarker::plus, 6);
-    plot.PlotArrow(at, {at.x + 20, at.y - 20});
+    plot.PlotArrow(at, to);
     plot.EndPlot();
-    return dc.GetLog().Str();
-  };
-  const auto expectMet = [&drawn](auto& plot, PNT_2D_record const& at) {
-    const CPoint p = plot.UserToWindow(at);
-    const std::wstring log = drawn(plot, at);
-    const auto has = [&log](CPoint a, const wchar_t* mark) {
-      return log.find(CString::Formatted(mark, a.x, a.y).Str()) != std::wstring::npos;
+    const auto has = [log = dc.GetLog().Str()](const wchar_t* call, CPoint p) {
+      return log.find(CString::Formatted(L"%s %d,%d ", call, p.x, p.y).Str()) != std::wstring::npos;
     };
-    EXPECT_TRUE(has(p, L"Polyline %d,%d ")) << "rectangle and arrow at " << at.x;
-    EXPECT_TRUE(has(p + CSize(-3, 0), L"Polyline %d,%d ")) << "marker at " << at.x;
-    EXPECT_TRUE(has(plot.UserToWindow({at.x + 20, at.y - 20}), L"Polygon %d,%d ")) << "head at " << at.x;
+    EXPECT_TRUE(has(L"Polyline", plot.UserToWindow(at))) << "rectangle and arrow at " << at.x;
+    EXPECT_TRUE(has(L"Polyline", plot.UserToWindow(at) + CSize(-3, 0))) << "marker at " << at.x;
+    EXPECT_TRUE(has(L"Polygon", plot.UserToWindow(to))) << "head at " << at.x;
   };
   for (const double x : {10.3, 10.7, 18.8, 99.6}) {
     expectMet(view, {x, 50.4});  // left of the extents too, where the mapping rounds the other way
