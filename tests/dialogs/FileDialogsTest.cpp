@@ -4,9 +4,9 @@
 
 #include <filesystem>
 
-#include "platform/CWnd.h"
 #include "platform/DialogIds.h"
 #include "platform/Profile.h"
+#include "tests/support/ControlHost.h"
 #include "tests/support/FolderTest.h"
 #include "tests/support/ShownWindow.h"
 
@@ -43,9 +43,7 @@ TEST_F(FileDialogsTest, AMissingFileIsFoundBesideTheOneThatNeedsItOrElseTheUserI
 }
 
 TEST_F(FileDialogsTest, TheUserLooksForTheFile) {
-  CWnd owner;
-  ASSERT_TRUE(
-      owner.Create(L"", L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 300, 200), nullptr, 0));
+  ControlHost owner;
   {
     coregui::Profile::Get().WriteInt(L"UnitTesting", L"PopupChoiceId", IDYES);
     const NextWindow next([&](ShownWindow& dialog) {

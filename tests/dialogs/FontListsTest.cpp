@@ -5,15 +5,13 @@
 #include <set>
 
 #include "dialogs/FontFamilyCache.h"
-#include "platform/CComboBox.h"
-#include "platform/CWnd.h"
 #include "platform/FontFamilies.h"
+#include "tests/support/ControlHost.h"
 
 namespace {
 
 TEST(FontLists, EveryFamilyOnceInPlaceOfWhatWasThere) {
-  CWnd host;
-  ASSERT_TRUE(host.Create(L"", L"host", WS_OVERLAPPEDWINDOW, CRect(0, 0, 300, 200), nullptr, 0));
+  coregui::test::ControlHost host;
   CComboBox combo;
   ASSERT_TRUE(combo.Create(WS_CHILD | CBS_DROPDOWNLIST, CRect(0, 0, 200, 24), &host, 1));
   combo.AddString(L"old");

@@ -5,9 +5,9 @@
 #include <cerrno>
 #include <functional>
 
-#include "platform/CWnd.h"
 #include "platform/Profile.h"
 #include "platform/System.h"
+#include "tests/support/ControlHost.h"
 #include "tests/support/ShownWindow.h"
 
 namespace {
@@ -52,9 +52,7 @@ TEST(MessageFunctions, CaptionsIconsButtonsAndAnswers) {
 }
 
 TEST(MessageFunctions, TheBoxStandsInFrontOfItsOwner) {
-  CWnd owner;
-  ASSERT_TRUE(
-      owner.Create(L"", L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 300, 200), nullptr, 0));
+  ControlHost owner;
   for (const bool byHandle : {false, true}) {
     const NextWindow next([&](ShownWindow& box) {
       EXPECT_EQ(box.Owner(), &owner);

@@ -5,18 +5,13 @@
 
 #include "PrintDialog.h"
 #include "tests/examples/DeskTest.h"
+#include "tests/support/ControlHost.h"
 #include "tests/support/Hand.h"
 #include "tests/support/ShownWindow.h"
 
 namespace {
 
 using namespace coregui::test;
-
-class ShownFrame : public CWnd {
- public:
-  ShownFrame() { Create(L"", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 900, 200), nullptr, 0); }
-  ~ShownFrame() override { DestroyWindow(); }
-};
 
 using Desk = DeskTest;
 
@@ -184,7 +179,8 @@ TEST_F(Desk, TheFindDialogStandsBesideTheCellThatItFound) {
 }
 
 TEST(CommandBar, WhatHasNoRoomStandsInTheMenu) {
-  ShownFrame frame;
+  ControlHost frame;
+  frame.MoveWindow(0, 0, 900, 200);
   desk::CommandBar bar;
   ASSERT_TRUE(bar.CreateBar(&frame, {{1, L"&Open...", L""}, {2, L"&Print...", L""}, {3, L"&Help", L""}}));
   bar.EnableCommand(3, false);

@@ -14,15 +14,13 @@
 
 namespace {
 
-using coregui::test::LogWindow;
+using namespace coregui::test;
 
 /// Takes files as a program does, and writes down their paths.
 class DropTarget : public LogWindow {
  public:
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-    if (message != WM_DROPFILES) {
-      return LogWindow::WindowProc(message, wParam, lParam);
-    }
+    if (message != WM_DROPFILES) return LogWindow::WindowProc(message, wParam, lParam);
     drop = reinterpret_cast<HDROP>(wParam);
     for (UINT i = 0; i < DragQueryFile(drop, DRAG_COUNT, nullptr, 0); ++i) {
       std::wstring path(DragQueryFile(drop, i, nullptr, 0) + 1, L'?');
@@ -47,7 +45,7 @@ class FileDrop : public testing::Test {
   /// Drags over a window and lets go where that is allowed; what the source is told to do.
   static Qt::DropAction Drop(CWnd& on, const QMimeData& data,
                              Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction | Qt::LinkAction) {
-    QWidget* widget = coregui::WidgetOf(&on);
+    QWidget* widget = WidgetOf(&on);
     QDragEnterEvent enter(QPoint(3, 3), offered, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(widget, &enter);
     if (!enter.isAccepted()) {
@@ -86,10 +84,9 @@ TEST_F(FileDrop, FilesReachTheWindowAfterTheirSourceIsDone) {
 TEST_F(FileDrop, IsRefusedWhereNothingTakesIt) {
   QMimeData text;
   text.setText("/d.csv");
-  QMimeData link;
-  link.setUrls({QUrl("http://somewhere/c.csv")});
   EXPECT_EQ(Drop(window, text), Qt::IgnoreAction);
-  EXPECT_EQ(Drop(window, link), Qt::IgnoreAction);
+  text.setUrls({QUrl("http://somewhere/c.csv")});
+  EXPECT_EQ(Drop(window, text), Qt::IgnoreAction);
   EXPECT_EQ(Drop(window, files, Qt::MoveAction), Qt::IgnoreAction);  // the source would delete them
   EXPECT_EQ(Drop(window, files, Qt::LinkAction | Qt::MoveAction), Qt::LinkAction);
   CWinApp::PumpPending();
@@ -97,9 +94,9 @@ TEST_F(FileDrop, IsRefusedWhereNothingTakesIt) {
   {
     LogWindow modal;
     modal.Open();
-    coregui::WidgetOf(&modal)->hide();
-    coregui::WidgetOf(&modal)->setWindowModality(Qt::ApplicationModal);
-    coregui::WidgetOf(&modal)->show();
+    WidgetOf(&modal)->hide();
+    WidgetOf(&modal)->setWindowModality(Qt::ApplicationModal);
+    WidgetOf(&modal)->show();
     EXPECT_EQ(Drop(window, files), Qt::IgnoreAction);
   }
   window.EnableWindow(FALSE);

@@ -156,36 +156,27 @@ TEST(Menu, ItemsAreFoundByIdBelowTooAndByPositionHere) {
   EXPECT_EQ(text, L"b");
 }
 
-class FileDialogTest : public FolderTest {
- protected:
-  FileDialogTest() {
-    std::filesystem::create_directory(At("sub"));
-    Write("road.csv", "x");
-  }
-};
+using FileDialogs = FolderTest;
 
-TEST_F(FileDialogTest, OpensWhatExists) {
-  CFileDialog dialog(TRUE, L"csv", Wide("road.csv"), OFN_FILEMUSTEXIST, L"Survey (*.csv)|*.csv||");
-  dialog.SetTitle(L"Open survey");
-  const NextWindow next([&](ShownWindow& shown) {
+TEST_F(FileDialogs, StartBesideTheirFileAndGiveItsParts) {
+  std::filesystem::create_directory(At("sub"));
+  Write("road.csv", "x");
+  CFileDialog open(TRUE, L"csv", Wide("road.csv"), OFN_FILEMUSTEXIST, L"Survey (*.csv)|*.csv||");
+  open.SetTitle(L"Open survey");
+  const NextWindow first([&](ShownWindow& shown) {
     EXPECT_EQ(shown.Title(), "Open survey");
     EXPECT_EQ(shown.Folder(), m_folder);
     shown.Choose("road.csv");
   });
-  EXPECT_EQ(dialog.DoModal(), IDOK);
-  EXPECT_EQ(dialog.GetPathName(), Wide("road.csv"));
-  EXPECT_EQ(dialog.GetFileName(), L"road.csv");
-  EXPECT_EQ(dialog.GetFileTitle(), L"road");
-  EXPECT_EQ(dialog.GetFileExt(), L"csv");
-}
-
-TEST_F(FileDialogTest, SavesWithTheExtensionAndCancelKeepsThePath) {
-  CFileDialog dialog(FALSE, L"csv", Wide("sub"), 0, nullptr);
+  EXPECT_EQ(open.DoModal(), IDOK);
+  EXPECT_EQ(open.GetPathName(), Wide("road.csv"));
+  EXPECT_EQ(open.GetFileName() + L"|" + open.GetFileTitle() + L"|" + open.GetFileExt(), L"road.csv|road|csv");
+  CFileDialog save(FALSE, L"csv", Wide("sub"), 0, nullptr);
   for (const int answer : {IDOK, IDCANCEL}) {
     const NextWindow next(
         [answer](ShownWindow& shown) { answer == IDOK ? shown.Choose("new") : shown.Key(VK_ESCAPE); });
-    EXPECT_EQ(dialog.DoModal(), answer);
-    EXPECT_EQ(dialog.GetPathName(), Wide("sub/new.csv"));
+    EXPECT_EQ(save.DoModal(), answer);
+    EXPECT_EQ(save.GetPathName(), Wide("sub/new.csv"));
   }
 }
 

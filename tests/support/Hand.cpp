@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QWheelEvent>
 #include <QWidget>
+#include <algorithm>
 #include <array>
 
 #include "platform/CToolTipCtrl.h"
@@ -180,7 +181,6 @@ COLORREF ShownPixel(CWnd& window, CPoint at) {
 std::vector<DWORD> ShownDots(CWnd& window) {
   const QImage picture = Picture(window);
   std::vector<DWORD> dots;
-  dots.reserve(static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(picture.height()));
   for (int y = 0; y < picture.height(); ++y) {
     for (int x = 0; x < picture.width(); ++x) dots.push_back(picture.pixel(x, y) & 0xFFFFFF);
   }
@@ -188,13 +188,10 @@ std::vector<DWORD> ShownDots(CWnd& window) {
 }
 
 int InkPixels(CWnd& window) {
-  const QImage picture = Picture(window);
-  const QRgb ground = picture.pixel(picture.width() / 2, 2);
-  int count = 0;
-  for (int y = 0; y < picture.height(); ++y) {
-    for (int x = 0; x < picture.width(); ++x) count += picture.pixel(x, y) != ground ? 1 : 0;
-  }
-  return count;
+  const std::vector<DWORD> dots = ShownDots(window);
+  const auto width = static_cast<std::size_t>(Picture(window).width());
+  const auto ground = std::count(dots.begin(), dots.end(), dots[2 * width + width / 2]);
+  return static_cast<int>(dots.size()) - static_cast<int>(ground);
 }
 
 CString AccessibleDescription(CWnd& window) {
