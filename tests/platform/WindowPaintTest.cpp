@@ -392,24 +392,6 @@ TEST_F(WindowPaint, ScrollingMovesPixelsUncoversABandAndCarriesThePendingRegion)
   }
 }
 
-TEST_F(WindowPaint, PrintingTakesTheWindowAndItsChildren) {
-  CWnd child;
-  ASSERT_TRUE(child.Create(L"", L"", WS_CHILD | WS_VISIBLE, CRect(40, 40, 60, 60), &window, 0));
-  {
-    CClientDC dc(&child);
-    dc.FillSolidRect(CRect(0, 0, 20, 20), kRed);
-  }
-  child.RedrawWindow();  // the default erases
-  CClientDC screen(&window);
-  CBitmap bitmap;
-  ASSERT_TRUE(bitmap.CreateCompatibleBitmap(&screen, 100, 100));
-  CMemoryDC dc(&screen, &bitmap);
-  window.PrintTo(&dc);
-  EXPECT_EQ(dc.GetPixel(5, 25), Striped::ColourOf(2));
-  EXPECT_EQ(dc.GetPixel(50, 50), GetSysColor(COLOR_WINDOW));
-  EXPECT_EQ(dc.GetPixel(65, 65), Striped::ColourOf(6));
-}
-
 TEST(WindowBorder, LiesRoundTheClientAreaUnlessThereIsACaption) {
   LogWindow window;
   ASSERT_TRUE(window.Open(CRect(0, 0, 60, 40)));
@@ -417,6 +399,8 @@ TEST(WindowBorder, LiesRoundTheClientAreaUnlessThereIsACaption) {
   ASSERT_TRUE(child.OpenIn(window, CRect(10, 10, 30, 26)));
   LogWindow inner;
   ASSERT_TRUE(inner.OpenIn(child, CRect(0, 0, 4, 4)));
+  LogWindow later;
+  ASSERT_TRUE(later.OpenIn(window, CRect(40, 10, 50, 20)));
   child.logs = kStates;
   child.ModifyStyle(0, WS_BORDER);
   EXPECT_EQ(child.TakeLog(), "5 0 18,14;");
@@ -444,28 +428,27 @@ TEST(WindowBorder, LiesRoundTheClientAreaUnlessThereIsACaption) {
     dc.FillSolidRect(CRect(0, 0, 18, 13), kBlue);
     CClientDC own(&inner);
     own.FillSolidRect(CRect(0, 0, 4, 4), kRed);
+    CClientDC(&later).FillSolidRect(CRect(0, 0, 10, 10), kRed);
   }
   CWinApp::PumpPending();
-  const QColor edge =
-      QColor::fromRgb(GetRValue(GetSysColor(COLOR_3DDKSHADOW)), GetGValue(GetSysColor(COLOR_3DDKSHADOW)),
-                      GetBValue(GetSysColor(COLOR_3DDKSHADOW)));
   const QImage shown = WidgetOf(&window)->grab().toImage();
   CBitmap bitmap;
   const CClientDC screen(&window);
   ASSERT_TRUE(bitmap.CreateCompatibleBitmap(&screen, 60, 40));
   CMemoryDC printed(&screen, &bitmap);
   window.PrintTo(&printed);
-  const auto expect = [&](CPoint at, const QColor& colour) {
+  const auto expect = [&](CPoint at, COLORREF colour) {
     const double scale = shown.devicePixelRatio();
-    const int x = static_cast<int>((at.x + 0.5) * scale);
-    EXPECT_EQ(shown.pixelColor(x, static_cast<int>((at.y + 0.5) * scale)), colour) << at.x << ',' << at.y;
-    const COLORREF dot = printed.GetPixel(at.x, at.y);
-    EXPECT_EQ(QColor(GetRValue(dot), GetGValue(dot), GetBValue(dot)), colour) << at.x << ',' << at.y;
+    const QRgb dot =
+        shown.pixel(static_cast<int>((at.x + 0.5) * scale), static_cast<int>((at.y + 0.5) * scale));
+    EXPECT_EQ(RGB(qRed(dot), qGreen(dot), qBlue(dot)), colour) << at.x << ',' << at.y;
+    EXPECT_EQ(printed.GetPixel(at.x, at.y), colour) << at.x << ',' << at.y;
   };
-  for (const CPoint at : {CPoint(10, 10), CPoint(29, 17), CPoint(15, 24)}) expect(at, edge);
-  for (const CPoint at : {CPoint(20, 11), CPoint(28, 23), CPoint(11, 20)}) expect(at, Qt::blue);
-  for (const CPoint at : {CPoint(11, 11), CPoint(14, 14)}) expect(at, Qt::red);
-  expect(CPoint(0, 0), Qt::white);  // the desktop's frame is enough
+  for (const CPoint at : {CPoint(10, 10), CPoint(29, 17), CPoint(15, 24)})
+    expect(at, GetSysColor(COLOR_3DDKSHADOW));
+  for (const CPoint at : {CPoint(20, 11), CPoint(28, 23), CPoint(11, 20)}) expect(at, kBlue);
+  for (const CPoint at : {CPoint(11, 11), CPoint(14, 14), CPoint(45, 15)}) expect(at, kRed);
+  expect(CPoint(0, 0), RGB(255, 255, 255));  // the desktop's frame is enough
 }
 
 }  // namespace
