@@ -28,28 +28,19 @@ int CountOf(const wchar_t* text, int length) {
   return static_cast<int>(std::min(std::wcslen(text), limit));
 }
 
+/// Where something of a size begins between two ends: at the first one unless it is to stand at the last one
+/// or in the middle.
+LONG Aligned(std::int64_t first, std::int64_t last, int size, bool atLast, bool inMiddle) {
+  if (atLast) return Saturated(last - size);
+  return Saturated(inMiddle ? first + (last - first - size) / 2 : first);
+}
+
 LONG LineStart(const RECT& rect, int width, UINT format) {
-  const std::int64_t left = rect.left;
-  const std::int64_t right = rect.right;
-  if ((format & DT_RIGHT) != 0) {
-    return Saturated(right - width);
-  }
-  if ((format & DT_CENTER) != 0) {
-    return Saturated(left + (right - left - width) / 2);
-  }
-  return rect.left;
+  return Aligned(rect.left, rect.right, width, (format & DT_RIGHT) != 0, (format & DT_CENTER) != 0);
 }
 
 LONG SingleLineTop(const RECT& rect, int height, UINT format) {
-  const std::int64_t top = rect.top;
-  const std::int64_t bottom = rect.bottom;
-  if ((format & DT_BOTTOM) != 0) {
-    return Saturated(bottom - height);
-  }
-  if ((format & DT_VCENTER) != 0) {
-    return Saturated(top + (bottom - top - height) / 2);
-  }
-  return rect.top;
+  return Aligned(rect.top, rect.bottom, height, (format & DT_BOTTOM) != 0, (format & DT_VCENTER) != 0);
 }
 
 }  // namespace

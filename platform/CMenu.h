@@ -59,6 +59,8 @@ class COREGUI_API CMenu : public CObject {
  private:
   struct Item;
   Item* Find(UINT at, UINT flags, CMenu** owner = nullptr, std::size_t* position = nullptr);
+  /// Sets those of an item's flags that `mask` names; gives what they were, or -1 without the item.
+  UINT ExchangeFlags(UINT at, UINT flags, UINT mask);
   friend class CMenuView;
 
   std::vector<std::unique_ptr<Item>> m_items;

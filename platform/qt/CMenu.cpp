@@ -103,20 +103,20 @@ CMenu::Item* CMenu::Find(UINT at, UINT flags, CMenu** owner, std::size_t* positi
   return nullptr;
 }
 
-UINT CMenu::CheckMenuItem(UINT at, UINT flags) {
+UINT CMenu::ExchangeFlags(UINT at, UINT flags, UINT mask) {
   Item* item = Find(at, flags);
   if (item == nullptr) return kNone;
-  const UINT old = item->flags & MF_CHECKED;
-  item->flags = (item->flags & ~MF_CHECKED) | (flags & MF_CHECKED);
+  const UINT old = item->flags & mask;
+  item->flags = (item->flags & ~mask) | (flags & mask);
   return old;
 }
 
+UINT CMenu::CheckMenuItem(UINT at, UINT flags) {
+  return ExchangeFlags(at, flags, MF_CHECKED);
+}
+
 UINT CMenu::EnableMenuItem(UINT at, UINT flags) {
-  Item* item = Find(at, flags);
-  if (item == nullptr) return kNone;
-  const UINT old = item->flags & kGreyed;
-  item->flags = (item->flags & ~kGreyed) | (flags & kGreyed);
-  return old;
+  return ExchangeFlags(at, flags, kGreyed);
 }
 
 UINT CMenu::GetMenuItemID(int position) const {

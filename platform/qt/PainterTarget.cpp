@@ -99,6 +99,13 @@ QPointF PainterTarget::DotPoint(const DrawAttributes& with, double x, double y) 
   return {Sane(std::floor(dotX + 0.5)), Sane(std::floor(dotY + 0.5))};
 }
 
+QPolygonF PainterTarget::DotPoints(const DrawAttributes& with, const POINT* points, int count) const {
+  QPolygonF dots;
+  dots.reserve(count);
+  for (int i = 0; i < count; ++i) dots << DotPoint(with, points[i].x, points[i].y);
+  return dots;
+}
+
 QPen PainterTarget::PenOf(const DrawAttributes& with) const {
   // A hair more than a dot: the toolkit's own way for lines of one dot loses the place of dashes at the edge.
   constexpr double kLeastSmooth = 1.0 + 1.0 / 256.0;
@@ -135,14 +142,9 @@ void PainterTarget::Polyline(const DrawAttributes& with, const POINT* points, in
   if (painter == nullptr) {
     return;
   }
-  QPolygonF line;
-  line.reserve(count);
-  for (int i = 0; i < count; ++i) {
-    line << DotPoint(with, points[i].x, points[i].y);
-  }
   painter->setPen(PenOf(with));
   painter->setBrush(Qt::NoBrush);
-  painter->drawPolyline(line);
+  painter->drawPolyline(DotPoints(with, points, count));
   Drawn(with.clip.box);
 }
 
@@ -173,14 +175,9 @@ void PainterTarget::Polygon(const DrawAttributes& with, const POINT* points, int
   if (painter == nullptr) {
     return;
   }
-  QPolygonF outline;
-  outline.reserve(count);
-  for (int i = 0; i < count; ++i) {
-    outline << DotPoint(with, points[i].x, points[i].y);
-  }
   painter->setPen(PenOf(with));
   painter->setBrush(BrushOf(*with.brush));
-  painter->drawPolygon(outline, Qt::OddEvenFill);
+  painter->drawPolygon(DotPoints(with, points, count), Qt::OddEvenFill);
   Drawn(with.clip.box);
 }
 

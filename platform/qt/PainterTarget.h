@@ -42,6 +42,7 @@ class PainterTarget : public DrawTarget {
 
  private:
   QPointF DotPoint(const DrawAttributes& with, double x, double y) const;
+  QPolygonF DotPoints(const DrawAttributes& with, const POINT* points, int count) const;
   QPen PenOf(const DrawAttributes& with) const;
   QBrush BrushOf(const CBrush& brush) const;
 
