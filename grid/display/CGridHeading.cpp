@@ -52,7 +52,7 @@ void CGridHeading::Moved() {
     return;
   }
   if (m_painter.IsViewStale()) m_painter.HintAll();
-  if (m_painter.Hints().GetRanges().empty()) return;
+  if (m_painter.Hints().GetRanges().empty() || GetClientRectangle().IsRectEmpty()) return;
   CClientDC dc(this);
   if (dc.IsValid()) m_painter.Paint(dc, GetClientRectangle());
 }
