@@ -46,13 +46,17 @@ const MessageTable& CGridHeading::GetMessageTable() const {
 
 void CGridHeading::Moved() {
   if (!HasWindow() || m_painter.IsPainting() || m_control->GetPaintMode() == 0) return;
+  if (GetClientRectangle().IsRectEmpty()) {
+    m_painter.Hints().ClearHints();  // with room to show them, all of its cells are painted
+    return;
+  }
   RECT update;
   if (GetUpdateRect(&update)) {
     UpdateWindow();
     return;
   }
   if (m_painter.IsViewStale()) m_painter.HintAll();
-  if (m_painter.Hints().GetRanges().empty() || GetClientRectangle().IsRectEmpty()) return;
+  if (m_painter.Hints().GetRanges().empty()) return;
   CClientDC dc(this);
   if (dc.IsValid()) m_painter.Paint(dc, GetClientRectangle());
 }

@@ -6,6 +6,7 @@
 #include "grid/control/CGridDrawHint.h"
 #include "grid/control/CGridInfo.h"
 #include "grid/data/CGridCell.h"
+#include "grid/display/CGridHeading.h"
 #include "tests/grid/display/ShowcaseGrid.h"
 #include "tests/support/LogWatch.h"
 
@@ -201,6 +202,24 @@ TEST_F(GridPictureTest, AnyWayOfScrollingEndsInTheSamePictureAsPaintingAnew) {
   grid.QuickSetText(3, 9, L"changed");
   grid.RedrawCell(3, 9);
   check("one cell");
+}
+
+TEST_F(GridPictureTest, AHeadingWithoutRoomGathersNothingAndIsWholeOnceItHasRoom) {
+  Open();
+  CWnd& side = *grid.GetSideHdgWnd();
+  const int width = side.GetClientRectangle().Width();
+  grid.SetTopRow(3);
+  const std::vector<DWORD> shown = ShownDots(side);
+  grid.SetSH_Width(0);
+  grid.AdjustComponentSizes();
+  for (const long top : {0, 2, 1, 3}) {
+    grid.SetTopRow(top);
+    EXPECT_TRUE(dynamic_cast<CGridHeading&>(side).GetDrawHints().GetRanges().empty());
+  }
+  grid.SetSH_Width(width);
+  grid.AdjustComponentSizes();
+  CWinApp::PumpPending();
+  EXPECT_TRUE(ShownDots(side) == shown);
 }
 
 TEST_F(GridPictureTest, ACheckBoxTogglesWithAClickInItsBox) {
