@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
+#include "tests/support/ShownWindow.h"
 #include "tests/views/ViewFixture.h"
 #include "views/CGUIBaseViewWnd.h"
 #include "views/CGUIBaseWnd.h"
@@ -14,12 +17,15 @@ class PlotWindow : public ::testing::Test {
     Hook::onEvent = nullptr;
     ASSERT_TRUE(
         parent.Create(L"", L"plot", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 400, 300), nullptr, 0));
+    MakeWindow();
+  }
+  void TearDown() override { Hook::onEvent = nullptr; }
+  void MakeWindow() {
     window = std::make_unique<CGUIBaseWnd>();
     ASSERT_TRUE(window->Create(L"plot", L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 100), &parent, 1));
     window->SetFuncHook(&Hook::Note);
     Hook::Taken();
   }
-  void TearDown() override { Hook::onEvent = nullptr; }
   CWnd parent;
   std::unique_ptr<CGUIBaseWnd> window;
 };
@@ -53,18 +59,39 @@ TEST_F(PlotWindow, SizingShowsTheLimitsAgainAndScaleRedraws) {
   EXPECT_DOUBLE_EQ(window->GetViewLimits().Height(), 10);
 }
 
-TEST_F(PlotWindow, DrawsWhatItShowsAndAHookMayDestroyIt) {
+TEST_F(PlotWindow, AtEveryEventAHookMayDestroyItOrShowNothingBehindAModalBox) {
+  const std::tuple<EVENT_TYPE, UINT, WPARAM> events[] = {{EVENT_LBUTTON_DOWN, WM_LBUTTONDOWN, MK_LBUTTON},
+                                                         {EVENT_BUTTON_UP, WM_LBUTTONUP, 0},
+                                                         {EVENT_MOVE, WM_MOUSEMOVE, 0},
+                                                         {EVENT_OTHER_DOWN, WM_RBUTTONDOWN, MK_RBUTTON},
+                                                         {EVENT_KEY, WM_CHAR, 'q'},
+                                                         {EVENT_ESCAPE, WM_CHAR, VK_ESCAPE}};
+  for (const bool destroys : {false, true}) {
+    for (const auto& [event, message, wParam] : events) {
+      MakeWindow();
+      window->UserInit(0, 200, 0, 100);
+      window->SetDraw([](CGUIBaseWnd& plot) { plot.PlotLine({0, 50}, {200, 50}); });
+      window->UpdateWindow();
+      Hook::onEvent = [&, expected = event](EVENT_TYPE heard) {
+        Hook::onEvent = nullptr;
+        EXPECT_EQ(heard, expected);
+        if (destroys) return window.reset();
+        const coregui::test::NextWindow next([](coregui::test::ShownWindow& box) { box.Key(VK_RETURN); });
+        window->InitView(FRect(5, 5, 5, 5), true);
+        window->MessageBox(L"Delete this point?");
+      };
+      window->SendMessage(message, wParam, MAKELPARAM(10, 10));
+      EXPECT_EQ(Hook::onEvent, nullptr) << "reached";
+      EXPECT_EQ(window == nullptr, destroys);
+    }
+  }
+  MakeWindow();
   window->UserInit(0, 200, 0, 100);
   window->SetDraw([](CGUIBaseWnd& plot) { plot.PlotLine({0, 50}, {200, 50}); });
   window->UpdateWindow();
-  {
-    CClientDC dc(window.get());
-    EXPECT_EQ(dc.GetPixel(100, 50), 0U);
-    EXPECT_EQ(dc.GetPixel(100, 49), 0xFFFFFFU);
-  }
-  Hook::onEvent = [this](EVENT_TYPE) { window.reset(); };
-  window->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(10, 10));
-  EXPECT_EQ(window, nullptr);
+  CClientDC dc(window.get());
+  EXPECT_EQ(dc.GetPixel(100, 50), 0U);
+  EXPECT_EQ(dc.GetPixel(100, 49), 0xFFFFFFU);
 }
 
 TEST_F(PlotWindow, ShapesMarkersAndArrowsStandOnThePixelsOfTheMapping) {
