@@ -19,22 +19,17 @@ using coregui::ParseCurrency;
 using coregui::SetUserLocale;
 
 TEST(Locale, TextsFollowTheNamedLocale) {
-  struct Row {
-    const wchar_t* locale;
-    const wchar_t* text;  ///< of -1234567.5 to two digits
-    int currencyDigits;
-  };
-  constexpr Row rows[] = {
+  constexpr std::tuple<const wchar_t*, const wchar_t*, int> rows[] = {
       {L"en_US", L"-1,234,567.50", 2},           {L"C", L"-1,234,567.50", 2},
       {L"de_DE", L"-1.234.567,50", 2},           {L"de_CH", L"-1\u2019234\u2019567.50", 2},
       {L"fr_CH", L"-1\u202F234\u202F567,50", 2}, {L"hi_IN", L"-1,234,567.50", 2},
       {L"sv_SE", L"-1\u00A0234\u00A0567,50", 2}, {L"ja_JP", L"-1,234,567.50", 0},
   };
-  for (const Row& row : rows) {
-    ASSERT_TRUE(SetUserLocale(row.locale)) << CString(row.locale).ToUtf8();
-    EXPECT_EQ(FormatNumberText(L"-1234567.5", 2).ToUtf8(), CString(row.text).ToUtf8())
-        << CString(row.locale).ToUtf8();
-    EXPECT_EQ(coregui::GetUserLocale().currencyDigits, row.currencyDigits) << CString(row.locale).ToUtf8();
+  for (const auto& [locale, text, currencyDigits] : rows) {
+    ASSERT_TRUE(SetUserLocale(locale)) << CString(locale).ToUtf8();
+    EXPECT_EQ(FormatNumberText(L"-1234567.5", 2).ToUtf8(), CString(text).ToUtf8())
+        << CString(locale).ToUtf8();
+    EXPECT_EQ(coregui::GetUserLocale().currencyDigits, currencyDigits) << CString(locale).ToUtf8();
   }
 }
 
@@ -50,20 +45,15 @@ TEST(Locale, UnknownNameChangesNothing) {
 }
 
 TEST(NumberText, RoundsHalfAwayFromZeroOnTheDigitsThemselves) {
-  struct Row {
-    const wchar_t* number;
-    int decimals;
-    const wchar_t* text;
-  };
-  constexpr Row rows[] = {
+  constexpr std::tuple<const wchar_t*, int, const wchar_t*> rows[] = {
       {L"0.5", 0, L"1"},          {L"-0.5", 0, L"-1"},     {L"2.5", 0, L"3"},
       {L"0.49999", 0, L"0"},      {L"1.005", 2, L"1.01"},  {L"999.995", 2, L"1,000.00"},
       {L"99.99", 1, L"100.0"},    {L".5", 1, L"0.5"},      {L"-.004", 2, L"0.00"},
       {L"-0", 0, L"0"},           {L"007", 0, L"7"},       {L"5.", 2, L"5.00"},
       {L"123456", 0, L"123,456"}, {L"1234", -3, L"1,234"}, {L"0.1", 20, L"0.10000000000000000000"},
   };
-  for (const Row& row : rows) {
-    EXPECT_EQ(FormatNumberText(row.number, row.decimals), row.text) << CString(row.number).ToUtf8();
+  for (const auto& [number, decimals, text] : rows) {
+    EXPECT_EQ(FormatNumberText(number, decimals), text) << CString(number).ToUtf8();
   }
 }
 
@@ -177,33 +167,25 @@ TEST(OleDate, FractionsCountForwardsInTheYears100To9999) {
 }
 
 TEST(OleDate, FieldsOutsideARealDateAreRefused) {
-  struct Row {
-    WORD year, month, day, hour, second;
-    bool real;
-  };
-  constexpr Row rows[] = {{1900, 2, 29, 6, 0, false},  // no leap year
-                          {2000, 2, 29, 6, 0, true},
-                          {2000, 2, 29, 6, 60, false},
-                          {99, 2, 1, 6, 0, false},
-                          {1899, 12, 29, 6, 0, true}};
+  constexpr std::tuple<WORD, WORD, WORD, WORD, WORD, bool> rows[] = {
+      {1900, 2, 29, 6, 0, false},  // no leap year
+      {2000, 2, 29, 6, 0, true},
+      {2000, 2, 29, 6, 60, false},
+      {99, 2, 1, 6, 0, false},
+      {1899, 12, 29, 6, 0, true}};
   DATE date = 7.0;
-  for (const Row& row : rows) {
+  for (const auto& [year, month, day, hour, second, real] : rows) {
     SYSTEMTIME time;
     std::tie(time.wYear, time.wMonth, time.wDay, time.wHour, time.wSecond) =
-        std::tie(row.year, row.month, row.day, row.hour, row.second);
-    EXPECT_EQ(SystemTimeToVariantTime(time, &date), row.real) << row.year << ' ' << row.second;
+        std::tie(year, month, day, hour, second);
+    EXPECT_EQ(SystemTimeToVariantTime(time, &date), real) << year << ' ' << second;
   }
   EXPECT_EQ(date, -1.25);
 }
 
 TEST(DateText, IsReadInTheOrderOfTheLocaleWithNamesAndTimes) {
-  struct Row {
-    const wchar_t* locale;
-    const wchar_t* text;
-    const char* date;
-  };
   // A field that fits nowhere in the locale's order is tried in others: the 25th of December.
-  constexpr Row rows[] = {
+  constexpr std::tuple<const wchar_t*, const wchar_t*, const char*> rows[] = {
       {L"en_US", L"1/2/2020", "2020-01-02"},
       {L"de_DE", L"1.2.2020", "2020-02-01"},
       {L"fr_CH", L"1/2-2020", "2020-02-01"},
@@ -244,10 +226,9 @@ TEST(DateText, IsReadInTheOrderOfTheLocaleWithNamesAndTimes) {
       {L"en_US", L"1:2:3:4", "mismatch"},
       {L"en_US", L"12:", "mismatch"},
   };
-  for (const Row& row : rows) {
-    ASSERT_TRUE(coregui::SetUserLocale(row.locale));
-    EXPECT_EQ(Parsed(row.text), row.date)
-        << CString(row.locale).ToUtf8() << " " << CString(row.text).ToUtf8();
+  for (const auto& [locale, text, date] : rows) {
+    ASSERT_TRUE(coregui::SetUserLocale(locale));
+    EXPECT_EQ(Parsed(text), date) << CString(locale).ToUtf8() << " " << CString(text).ToUtf8();
   }
   for (const wchar_t* text :
        {L"", L"  ", L"5", L"abc", L"-1/2/2020", L"1/2/3/4", L"$5", L"PM", L"/", L"1+2"}) {

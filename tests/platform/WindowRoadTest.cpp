@@ -3,6 +3,7 @@
 #include <QNativeGestureEvent>
 #include <QTest>
 #include <QWheelEvent>
+#include <tuple>
 #include <type_traits>
 
 #include "platform/CDC.h"
@@ -39,28 +40,22 @@ void DoubleClick(QWidget* widget, Qt::MouseButton button, QPoint at) {
   QTest::mouseRelease(widget, button, Qt::NoModifier, at);
 }
 
-struct ButtonRow {
-  Qt::MouseButton button;
-  UINT down;
-  UINT flag;
-};
-
 TEST_F(WindowRoad, AHandAndAMessageReachTheSameHandlerWithTheSameArguments) {
-  const ButtonRow rows[] = {{Qt::LeftButton, WM_LBUTTONDOWN, MK_LBUTTON},
-                            {Qt::RightButton, WM_RBUTTONDOWN, MK_RBUTTON},
-                            {Qt::MiddleButton, WM_MBUTTONDOWN, MK_MBUTTON}};
-  for (const ButtonRow& row : rows) {
+  const std::tuple<Qt::MouseButton, UINT, UINT> rows[] = {{Qt::LeftButton, WM_LBUTTONDOWN, MK_LBUTTON},
+                                                          {Qt::RightButton, WM_RBUTTONDOWN, MK_RBUTTON},
+                                                          {Qt::MiddleButton, WM_MBUTTONDOWN, MK_MBUTTON}};
+  for (const auto& [button, down, flag] : rows) {
     const LPARAM at = MAKELPARAM(12, 34);
-    QTest::mousePress(Widget(), row.button, Qt::ControlModifier, QPoint(12, 34));
-    QTest::mouseRelease(Widget(), row.button, Qt::ShiftModifier, QPoint(12, 34));
-    DoubleClick(Widget(), row.button, QPoint(12, 34));
+    QTest::mousePress(Widget(), button, Qt::ControlModifier, QPoint(12, 34));
+    QTest::mouseRelease(Widget(), button, Qt::ShiftModifier, QPoint(12, 34));
+    DoubleClick(Widget(), button, QPoint(12, 34));
     const std::string byHand = window.TakeLog();
-    window.SendMessage(row.down, row.flag | MK_CONTROL, at);
-    window.SendMessage(row.down + 1, MK_SHIFT, at);
-    for (const UINT message : {row.down, row.down + 1, row.down + 2, row.down + 1}) {
-      window.SendMessage(message, message == row.down + 1 ? 0 : row.flag, at);
+    window.SendMessage(down, flag | MK_CONTROL, at);
+    window.SendMessage(down + 1, MK_SHIFT, at);
+    for (const UINT message : {down, down + 1, down + 2, down + 1}) {
+      window.SendMessage(message, message == down + 1 ? 0 : flag, at);
     }
-    EXPECT_EQ(byHand, window.TakeLog()) << row.down;
+    EXPECT_EQ(byHand, window.TakeLog()) << down;
   }
 }
 
@@ -72,14 +67,8 @@ TEST_F(WindowRoad, AMoveAsksForTheCursorFirst) {
   EXPECT_EQ(window.TakeLog(), "cursor 1,512;200 0 30,40;");
 }
 
-struct KeyRow {
-  int key;
-  Qt::KeyboardModifiers modifiers;
-  const char* log;
-};
-
 TEST_F(WindowRoad, KeysGiveTheirCodesAndCharacters) {
-  const KeyRow rows[] = {
+  const std::tuple<Qt::Key, Qt::KeyboardModifiers, const char*> rows[] = {
       {Qt::Key_A, Qt::NoModifier, "100 65;102 97;101 65;"},
       {Qt::Key_V, Qt::ControlModifier, "100 17;100 86;102 22;101 86;101 17;"},
       {Qt::Key_Left, Qt::NoModifier, "100 37;101 37;"},
@@ -95,9 +84,9 @@ TEST_F(WindowRoad, KeysGiveTheirCodesAndCharacters) {
       {Qt::Key_Home, Qt::ControlModifier, "100 17;100 36;101 36;101 17;"},
       {Qt::Key_X, Qt::AltModifier, "104 18;104 88;101 88;101 18;"},
   };
-  for (const KeyRow& row : rows) {
-    QTest::keyClick(Widget(), static_cast<Qt::Key>(row.key), row.modifiers);
-    EXPECT_EQ(window.TakeLog(), row.log) << row.key;
+  for (const auto& [key, modifiers, log] : rows) {
+    QTest::keyClick(Widget(), key, modifiers);
+    EXPECT_EQ(window.TakeLog(), log) << key;
   }
 }
 
