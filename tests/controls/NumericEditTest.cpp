@@ -4,6 +4,7 @@
 #include <climits>
 #include <cmath>
 #include <limits>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -70,22 +71,17 @@ TEST(NumberInput, ReadsWhatTheLocaleWrites) {
 
 TEST(NumberFormat, OnlyOneDirectiveOfTheRightTypeIsUsed) {
   using coregui::NumberFormat;
-  struct Row {
-    const wchar_t* format;
-    const wchar_t* text;  ///< of 1234.56789
-    int decimals;
-  };
-  constexpr Row rows[] = {
+  constexpr std::tuple<const wchar_t*, const wchar_t*, int> rows[] = {
       {L"%.2f", L"1234,57", 2},     {L"%f", L"1234,567890", 6}, {L"St. %+09.1f m", L"St. +001234,6 m", 1},
       {L"%.3f%%", L"1234,568%", 3}, {L"%s", L"1234,56789", 0},  {L"%d", L"1234,56789", 0},
       {L"%n", L"1234,56789", 0},    {L"%*f", L"1234,56789", 0}, {L"%.999f", L"1234,56789", 0},
       {L"%f %f", L"1234,56789", 0}, {L"%", L"1234,56789", 0},   {L"%.", L"1234,56789", 0},
       {L"none", L"1234,56789", 0},  {L"", L"1234,56789", 0},    {nullptr, L"1234,56789", 0}};
   ASSERT_TRUE(coregui::SetUserLocale(L"de_DE"));
-  for (const Row& row : rows) {
-    const NumberFormat format(NumberFormat::Kind::real, row.format);
-    EXPECT_EQ(format.Text(1234.56789), row.text) << CString(row.format).ToUtf8();
-    EXPECT_EQ(format.Decimals(), row.decimals) << CString(row.format).ToUtf8();
+  for (const auto& [pattern, text, decimals] : rows) {
+    const NumberFormat format(NumberFormat::Kind::real, pattern);
+    EXPECT_EQ(format.Text(1234.56789), text) << CString(pattern).ToUtf8();
+    EXPECT_EQ(format.Decimals(), decimals) << CString(pattern).ToUtf8();
   }
   const NumberFormat whole(NumberFormat::Kind::whole, L"%05d pcs");
   EXPECT_EQ(whole.Text(-42), L"-0042 pcs");
@@ -133,32 +129,26 @@ TEST_F(NumericEdit, AValueThatIsSetKeepsItsDigitsAndItsRange) {
 TEST_F(NumericEdit, WhatIsTypedStaysAndIsMarkedUntilTheFocusLeaves) {
   edit.SetParameters(0, 100, L"%.1f");
   edit.SetValue(5);
-  struct Row {
-    const wchar_t* typed;
-    Content content;
-    double value;
-    const wchar_t* problem;
-    const wchar_t* after;
-  };
-  constexpr Row rows[] = {{L"2*12.5", Content::number, 25, L"", L"25.0"},
-                          {L"1000", Content::outside, 100, L"More than 100: 100 is taken", L"100.0"},
-                          {L"-0.5", Content::outside, 0, L"Less than 0: 0 is taken", L"0.0"},
-                          {L"12.34", Content::number, 12.34, L"", L"12.3"},
-                          {L"2*", Content::notANumber, 12.34, L"Not a number: 12.3 stays", L"12.3"}};
-  for (const Row& row : rows) {
+  constexpr std::tuple<const wchar_t*, Content, double, const wchar_t*, const wchar_t*> rows[] = {
+      {L"2*12.5", Content::number, 25, L"", L"25.0"},
+      {L"1000", Content::outside, 100, L"More than 100: 100 is taken", L"100.0"},
+      {L"-0.5", Content::outside, 0, L"Less than 0: 0 is taken", L"0.0"},
+      {L"12.34", Content::number, 12.34, L"", L"12.3"},
+      {L"2*", Content::notANumber, 12.34, L"Not a number: 12.3 stays", L"12.3"}};
+  for (const auto& [typed, content, value, problem, after] : rows) {
     const int beeps = GetBeepCount(MB_ICONEXCLAMATION_SOUND);
-    Type(edit, row.typed);
-    EXPECT_EQ(Text(edit), row.typed);
-    EXPECT_EQ(edit.GetContent(), row.content) << CString(row.typed).ToUtf8();
-    EXPECT_EQ(edit.GetValue(), row.value);
-    EXPECT_EQ(edit.GetProblem(), row.problem);
+    Type(edit, typed);
+    EXPECT_EQ(Text(edit), typed);
+    EXPECT_EQ(edit.GetContent(), content) << CString(typed).ToUtf8();
+    EXPECT_EQ(edit.GetValue(), value);
+    EXPECT_EQ(edit.GetProblem(), problem);
     edit.SendMessage(WM_KILLFOCUS);  // to another program: what is half typed stays
-    EXPECT_EQ(Text(edit), row.typed);
+    EXPECT_EQ(Text(edit), typed);
     whole.SetFocus();
-    EXPECT_EQ(Text(edit), row.after);
-    EXPECT_EQ(edit.GetValue(), row.value);
+    EXPECT_EQ(Text(edit), after);
+    EXPECT_EQ(edit.GetValue(), value);
     EXPECT_EQ(edit.GetProblem(), L"");
-    EXPECT_EQ(GetBeepCount(MB_ICONEXCLAMATION_SOUND) - beeps, row.content == Content::number ? 0 : 1);
+    EXPECT_EQ(GetBeepCount(MB_ICONEXCLAMATION_SOUND) - beeps, content == Content::number ? 0 : 1);
   }
 }
 
@@ -206,17 +196,12 @@ TEST_F(NumericEdit, KeysAndTheWheelStepWithinTheRange) {
 }
 
 TEST_F(NumericEdit, TheStepFollowsTheRangeUnlessItIsSet) {
-  struct Row {
-    double least;
-    double most;
-    const wchar_t* format;
-    double step;
-  };
-  constexpr Row rows[] = {{-DBL_MAX, DBL_MAX, L"%.3f", 1}, {0, 10, L"%.3f", 1},      {0, 9, L"%.3f", 0.1},
-                          {0, 0.5, L"%.3f", 0.01},         {0, 0.05, L"%.2f", 0.01}, {3, 3, L"%.2f", 1}};
-  for (const Row& row : rows) {
-    edit.SetParameters(row.least, row.most, row.format);
-    EXPECT_DOUBLE_EQ(edit.GetStep(), row.step) << row.most;
+  constexpr std::tuple<double, double, const wchar_t*, double> rows[] = {
+      {-DBL_MAX, DBL_MAX, L"%.3f", 1}, {0, 10, L"%.3f", 1},      {0, 9, L"%.3f", 0.1},
+      {0, 0.5, L"%.3f", 0.01},         {0, 0.05, L"%.2f", 0.01}, {3, 3, L"%.2f", 1}};
+  for (const auto& [least, most, format, step] : rows) {
+    edit.SetParameters(least, most, format);
+    EXPECT_DOUBLE_EQ(edit.GetStep(), step) << most;
   }
   edit.SetStep(0.25);
   EXPECT_EQ(edit.GetStep(), 0.25);

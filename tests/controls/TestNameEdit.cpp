@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "controls/CHexEdit.h"
 #include "controls/CNameEdit.h"
 #include "platform/Clipboard.h"
@@ -87,26 +89,20 @@ TEST_F(NameEdit, WithoutASetEveryCharacterIsAllowed) {
 }
 
 TEST_F(NameEdit, PastingFiltersAllAndKeepsWhatFollowsTheCaret) {
-  struct Row {
-    const wchar_t* text;
-    int start;
-    int end;
-    const wchar_t* pasted;
-    const wchar_t* shown;
-  };
-  constexpr Row rows[] = {{L"", 0, 0, L"a1.b2", L"a1b2|"},
-                          {L"xyz", 1, 1, L".q.", L"xq|yz"},
-                          {L"abcdef", 1, 3, L"1.2", L"a12|def"},
-                          {L"abc", 0, 3, L"...", L"|"},
-                          {L"abc", 0, 0, L"n\r\nm", L"nm|abc"},
-                          {L"a.b", 1, 1, L"c", L"a|cb"},  // the caret counts what followed before filtering
-                          {L"a...", 0, 0, L"", L"|a"}};
-  for (const Row& row : rows) {
-    edit.SetValue(row.text);
-    edit.SetSel(row.start, row.end);
-    coregui::SetClipboardText(row.pasted);
+  constexpr std::tuple<const wchar_t*, int, int, const wchar_t*, const wchar_t*> rows[] = {
+      {L"", 0, 0, L"a1.b2", L"a1b2|"},
+      {L"xyz", 1, 1, L".q.", L"xq|yz"},
+      {L"abcdef", 1, 3, L"1.2", L"a12|def"},
+      {L"abc", 0, 3, L"...", L"|"},
+      {L"abc", 0, 0, L"n\r\nm", L"nm|abc"},
+      {L"a.b", 1, 1, L"c", L"a|cb"},  // the caret counts what followed before filtering
+      {L"a...", 0, 0, L"", L"|a"}};
+  for (const auto& [text, start, end, pasted, shown] : rows) {
+    edit.SetValue(text);
+    edit.SetSel(start, end);
+    coregui::SetClipboardText(pasted);
     PressKey(edit, 'V', true);
-    EXPECT_EQ(Shown(), row.shown) << CString(row.text).ToUtf8() << " + " << CString(row.pasted).ToUtf8();
+    EXPECT_EQ(Shown(), shown) << CString(text).ToUtf8() << " + " << CString(pasted).ToUtf8();
   }
   EXPECT_EQ(Beeps(), 0);
   edit.SetValue(L"keep");

@@ -13,6 +13,7 @@
 #include <QScrollBar>
 #include <QTest>
 #include <limits>
+#include <tuple>
 
 #include "platform/CButton.h"
 #include "platform/CComboBox.h"
@@ -36,29 +37,25 @@ using namespace coregui::test;
 
 TEST(Button, EveryKindNotifiesOfAClick) {
   ControlHost host;
-  struct Kind {
-    DWORD style;
-    int state;  ///< after one click
-    int next;   ///< and after a press of the space bar
-  };
-  constexpr Kind kinds[] = {
+  constexpr std::tuple<DWORD, int, int> kinds[] = {
+      // the state after one click, and after a press of the space bar
       {BS_PUSHBUTTON, BST_UNCHECKED, BST_UNCHECKED},   {BS_DEFPUSHBUTTON, BST_UNCHECKED, BST_UNCHECKED},
       {BS_CHECKBOX, BST_UNCHECKED, BST_UNCHECKED},     {BS_AUTOCHECKBOX, BST_CHECKED, BST_UNCHECKED},
       {BS_AUTO3STATE, BST_INDETERMINATE, BST_CHECKED}, {BS_AUTORADIOBUTTON, BST_CHECKED, BST_CHECKED}};
-  for (const Kind& kind : kinds) {
+  for (const auto& [style, state, next] : kinds) {
     CButton button;
-    ASSERT_TRUE(button.Create(L"&Go", WS_CHILD | WS_VISIBLE | kind.style, CRect(5, 5, 100, 30), &host, 9));
+    ASSERT_TRUE(button.Create(L"&Go", WS_CHILD | WS_VISIBLE | style, CRect(5, 5, 100, 30), &host, 9));
     QTest::mouseClick(WidgetOf(&button), Qt::LeftButton, {}, QPoint(8, 12));
-    EXPECT_EQ(host.TakeLog(), L"9:0 ") << kind.style;
-    EXPECT_EQ(button.GetCheck(), kind.state) << kind.style;
-    button.SetCheck(kind.state);
-    EXPECT_EQ(host.TakeLog(), L"") << kind.style;
+    EXPECT_EQ(host.TakeLog(), L"9:0 ") << style;
+    EXPECT_EQ(button.GetCheck(), state) << style;
+    button.SetCheck(state);
+    EXPECT_EQ(host.TakeLog(), L"") << style;
     QTest::keyClick(WidgetOf(&button), Qt::Key_Space);
-    EXPECT_EQ(host.TakeLog(), L"9:0 ") << kind.style;
-    EXPECT_EQ(button.GetCheck(), kind.next) << kind.style;
+    EXPECT_EQ(host.TakeLog(), L"9:0 ") << style;
+    EXPECT_EQ(button.GetCheck(), next) << style;
     button.EnableWindow(FALSE);
     button.Click();
-    EXPECT_EQ(host.TakeLog(), L"") << kind.style;
+    EXPECT_EQ(host.TakeLog(), L"") << style;
   }
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "platform/CDC.h"
 
 namespace {
@@ -54,15 +56,7 @@ TEST(Recording, Log_WritesCallsAndTextsWithWhatTheyDrawWith) {
 // --- The layout of DrawText, by characters of 7 by 13.
 
 TEST(DrawTextLayout, CalcRect_GivesTheSizeOfTheText) {
-  struct Row {
-    const char* name;
-    const wchar_t* text;
-    UINT format;
-    int room;
-    int width;  ///< of the result of DT_CALCRECT
-    int height;
-  };
-  constexpr Row rows[] = {
+  constexpr std::tuple<const char*, const wchar_t*, UINT, int, int, int> rows[] = {
       {"OneLine", L"abc", DT_SINGLELINE, 100, 21, 13},
       {"LineBreaksOfAllKinds", L"a\rbb\nccc\r\nd", 0, 100, 21, 52},
       {"LastBreakOpensNoLine", L"a\n", 0, 100, 7, 13},
@@ -83,11 +77,11 @@ TEST(DrawTextLayout, CalcRect_GivesTheSizeOfTheText) {
       {"WordEllipsisCutsAtBlank", L"abc defghij", DT_SINGLELINE | DT_WORD_ELLIPSIS, 62, 49, 13},
   };
 
-  for (const Row& row : rows) {
+  for (const auto& [name, text, format, room, width, height] : rows) {
     CRecordingDC dc;
-    RECT rect = CRect(10, 20, 10 + row.room, 25);
-    EXPECT_EQ(dc.DrawText(row.text, -1, &rect, row.format | DT_CALCRECT), row.height) << row.name;
-    EXPECT_EQ(CRect(rect), CRect(10, 20, 10 + row.width, 20 + row.height)) << row.name;
+    RECT rect = CRect(10, 20, 10 + room, 25);
+    EXPECT_EQ(dc.DrawText(text, -1, &rect, format | DT_CALCRECT), height) << name;
+    EXPECT_EQ(CRect(rect), CRect(10, 20, 10 + width, 20 + height)) << name;
   }
 }
 

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
+#include <tuple>
 #include <vector>
 
 #include "platform/CString.h"
@@ -203,17 +204,12 @@ TEST_F(FileCopyTest, OnlyPlainFilesThatDifferAreCopied) {
   fs::create_hard_link(At("a"), At("other name"));
   fs::create_directory(At("d"));
   ASSERT_EQ(::mkfifo(At("pipe").c_str(), S_IRUSR | S_IWUSR), 0);
-  struct Row {
-    const char* from;
-    const char* to;
-    int reason;
-  };
-  constexpr Row rows[] = {{"missing", "b", ENOENT},   {"a", "a", EINVAL},   {"a", "other name", EINVAL},
-                          {".", "b", EISDIR},         {"a", "d", EISDIR},   {"pipe", "b", EINVAL},
-                          {"a", "nowhere/b", ENOENT}, {"a", "pipe", EINVAL}};
-  for (const Row& row : rows) {
-    EXPECT_FALSE(Copy(row.from, row.to)) << row.from << " to " << row.to;
-    EXPECT_EQ(errno, row.reason) << row.from << " to " << row.to;
+  constexpr std::tuple<const char*, const char*, int> rows[] = {
+      {"missing", "b", ENOENT}, {"a", "a", EINVAL},    {"a", "other name", EINVAL}, {".", "b", EISDIR},
+      {"a", "d", EISDIR},       {"pipe", "b", EINVAL}, {"a", "nowhere/b", ENOENT},  {"a", "pipe", EINVAL}};
+  for (const auto& [from, to, reason] : rows) {
+    EXPECT_FALSE(Copy(from, to)) << from << " to " << to;
+    EXPECT_EQ(errno, reason) << from << " to " << to;
   }
   EXPECT_EQ(Read("a"), "x");
   EXPECT_EQ(Count(), 4U);
