@@ -69,6 +69,15 @@ class COREGUI_API CGridAxis {
   long LockedInView() const;
   /// The last entry that is at least partly in view (from First() on); First() when the view has no room.
   long LastInView() const;
+  /// Calls `call(index)` for the locked entries in view, then for the scrollable ones; hidden ones too.
+  template <class Call>
+  void ForEachInView(Call call) const {
+    if (m_extent <= 0) return;
+    const long lockedEnd = LockedInView();
+    const long end = LastInView() + 1;
+    for (long index = 0; index < lockedEnd; ++index) call(index);
+    for (long index = m_first; index < end; ++index) call(index);
+  }
   /// The first entry that a view must start with to show `index` in full, starting at First() or later;
   /// never behind `index` itself.
   long FirstThatShows(long index) const;

@@ -44,6 +44,7 @@ int CGridJoins::Join(const Block& block) {
   if (!IsValid(block)) {
     return 1;
   }
+  UnJoin(block);  // a block that loses cells to this one is none any more
   CGridCell cell;
   for (long row = block.startRow; row <= block.endRow; ++row) {
     for (int col = block.startCol; col <= block.endCol; ++col) {
@@ -66,9 +67,9 @@ int CGridJoins::UnJoin(const Block& range) {
   for (int col = range.startCol; col <= range.endCol; ++col) {
     for (long row = m_cells.NextJoined(col, range.startRow); row <= range.endRow;
          row = m_cells.NextJoined(col, row + 1)) {
-      Block block{};
-      if (FindStored(col, row, block)) {
-        Dissolve(block);
+      Block block{col, row, col, row};
+      if (FindStored(col, row, block) || LinkOf(m_cells, col, row)) {
+        Dissolve(block);  // or what is left of a torn one
         result = 0;
       }
     }
@@ -91,17 +92,26 @@ void CGridJoins::Dissolve(const Block& block) {
   }
 }
 
-/// A block that begins in a heading shows in each window from its first cell there, which stands for the
-/// block as the origin does elsewhere: it may have been deleted, moved or joined to others since.
+bool CGridJoins::LeadsTo(const Block& block, int col, long row) {
+  const std::optional<Link> link = LinkOf(m_cells, col, row);
+  return link && !link->isFirst && col + link->across == block.startCol && row + link->down == block.startRow;
+}
+
+/// The first row and the last cell tell whether the block's columns and rows are still its own. A block that
+/// begins in a heading shows in each window from its first cell there, which stands for the block as the
+/// origin does elsewhere: it may have been deleted, moved or joined to others since.
 bool CGridJoins::IsWholeAt(int col, long row, const Block& block) {
+  for (int inner = block.startCol + 1; inner <= block.endCol; ++inner) {
+    if (!LeadsTo(block, inner, block.startRow)) {
+      return false;
+    }
+  }
+  if (block.endRow > block.startRow && !LeadsTo(block, block.endCol, block.endRow)) {
+    return false;
+  }
   const int firstCol = col < 0 ? block.startCol : std::max(block.startCol, 0);
   const long firstRow = row < 0 ? block.startRow : std::max(block.startRow, 0L);
-  if (firstCol == block.startCol && firstRow == block.startRow) {
-    return true;
-  }
-  const std::optional<Link> first = LinkOf(m_cells, firstCol, firstRow);
-  return first && !first->isFirst && firstCol + first->across == block.startCol &&
-         firstRow + first->down == block.startRow;
+  return (firstCol == block.startCol && firstRow == block.startRow) || LeadsTo(block, firstCol, firstRow);
 }
 
 bool CGridJoins::Find(int col, long row, Block& block) {

@@ -8,8 +8,8 @@ class CGridCells;
 class CGridSheets;
 
 /// Joined blocks of cells. Each cell of a block stores the way back to the first cell, the first one the
-/// extent. Sorting, deleting and overwriting can tear a block apart; what no longer leads to a first cell
-/// that covers it counts as not joined.
+/// extent. Sorting, deleting, overwriting and moving columns can tear a block apart; then none of its cells
+/// counts as joined.
 class CGridJoins {
  public:
   /// An inclusive block of cells.
@@ -22,10 +22,11 @@ class CGridJoins {
 
   CGridJoins(CGridSheets& sheets, CGridCells& cells) : m_sheets(sheets), m_cells(cells) {}
 
-  /// 1 when the block is turned round or reaches out of the sheet; then nothing is stored.
+  /// 1 when the block is turned round or reaches out of the sheet; then nothing is stored. Blocks that share
+  /// a cell with this one are dissolved.
   int Join(const Block& block);
-  /// Dissolves every joined block that has a cell in the range, also while joins are off. 1 when there is
-  /// none.
+  /// Dissolves every joined block that has a cell in the range, also while joins are off, and what torn ones
+  /// have left in it. 1 when there is neither.
   int UnJoin(const Block& range);
   /// The block that holds the cell; false, with `block` the cell alone, when it is not joined, joins are off,
   /// or the block's first cell in the cell's own window belongs to it no more.
@@ -34,6 +35,7 @@ class CGridJoins {
  private:
   bool IsValid(const Block& block) const;
   bool FindStored(int col, long row, Block& block);
+  bool LeadsTo(const Block& block, int col, long row);
   bool IsWholeAt(int col, long row, const Block& block);
   void Dissolve(const Block& block);
 

@@ -23,16 +23,17 @@ bool CGridMoveSelection::IsHeld(UINT key, UINT flag) const {
   return GetKeyState(key) < 0 || (view.mouseEvent != MouseEvent::none && (view.mouseFlags & flag) != 0);
 }
 
-void CGridMoveSelection::Restart() {
+bool CGridMoveSelection::Restart() {
   const CGridInfo& info = m_sheets.Current();
   const CellPlace current = CurrentOf(info);
   if (info.view.multiSelectMode == 0 || info.view.keepSelectionOnGoto != 0 || !current.IsCell() ||
       IsHeld(VK_SHIFT, MK_SHIFT) || IsHeld(VK_CONTROL, MK_CONTROL)) {
-    return;
+    return false;
   }
   info.selection->AddTotalRangeToDrawHints(m_screen.BodyHints());
   info.selection->ClearAll();
   info.selection->StartBlock(current.col, current.row);
+  return true;
 }
 
 void CGridMoveSelection::Follow(const CellPlace& cell) {

@@ -15,7 +15,7 @@ class CGridMoveSelection {
 
   /// Before a move along one direction: the selection starts again at the current cell, unless Shift or Ctrl
   /// is held or the mouse selects.
-  void Restart();
+  bool Restart();
   /// The move goes to `cell`; the current cell is still the one that is left. A press of the mouse, a drag
   /// and a key each have their own rule.
   void Follow(const CellPlace& cell);

@@ -80,7 +80,28 @@ int CGridNavigator::GotoCell(int col, long row) {
 }
 
 int CGridNavigator::GotoCol(int col) {
-  m_rooms.selection.Restart();
+  const CellPlace before = Drag();
+  const bool restarted = m_rooms.selection.Restart();
+  const int result = GoOnToCol(col);
+  return ShowRestart(restarted && Drag() == before, result);
+}
+
+int CGridNavigator::GotoRow(long row) {
+  const CellPlace before = Drag();
+  const bool restarted = m_rooms.selection.Restart();
+  const int result = GoOnToRow(row);
+  return ShowRestart(restarted && Drag() == before, result);
+}
+
+/// A selection that starts again is shown with the move; where nothing moves, by itself.
+int CGridNavigator::ShowRestart(bool alone, int result) {
+  if (alone) {
+    m_rooms.screen.ShowMoved();
+  }
+  return result;
+}
+
+int CGridNavigator::GoOnToCol(int col) {
   if (col == Cols().drag) {
     return moveMade;
   }
@@ -97,8 +118,7 @@ int CGridNavigator::GotoCol(int col) {
   return FinishMove(Along::cols, col);
 }
 
-int CGridNavigator::GotoRow(long row) {
-  m_rooms.selection.Restart();
+int CGridNavigator::GoOnToRow(long row) {
   if (row == Rows().drag) {
     return moveMade;
   }

@@ -73,6 +73,9 @@ class CGridNavigator {
   CellPlace Current() const;
   CellPlace Drag() const;
   CellPlace View() const;
+  int GoOnToCol(int col);
+  int GoOnToRow(long row);
+  int ShowRestart(bool alone, int result);
   bool MayShow(const CellPlace& view);
   void TakeDrag(Along along, long target);
   int FinishMove(Along along, long target);

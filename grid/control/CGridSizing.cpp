@@ -28,22 +28,6 @@ int ResizeHeading(std::vector<int>& sizes, int count, int size) {
   return change;
 }
 
-/// The locked entries in view, then the scrollable ones.
-template <class Call>
-void ForEachInView(const CGridAxis& axis, Call call) {
-  if (axis.Extent() <= 0) {
-    return;
-  }
-  const long locked = axis.LockedInView();
-  const long last = axis.LastInView();
-  for (long index = 0; index < locked; ++index) {
-    call(index);
-  }
-  for (long index = axis.First(); index <= last; ++index) {
-    call(index);
-  }
-}
-
 }  // namespace
 
 CGridAxis& CGridSizing::Cols() const {
@@ -54,7 +38,7 @@ CGridAxis& CGridSizing::Rows() const {
 }
 
 int CGridSizing::ToldWidth(int col, int width) {
-  ForEachInView(Rows(), [&](long row) {
+  Rows().ForEachInView([&](long row) {
     if (CGridCellDelegate* const type = m_rooms.types.Of(col, row)) {
       type->OnChangedCellWidth(col, row, &width);
     }
@@ -63,7 +47,7 @@ int CGridSizing::ToldWidth(int col, int width) {
 }
 
 int CGridSizing::ToldHeight(long row, int height) {
-  ForEachInView(Cols(), [&](long at) {
+  Cols().ForEachInView([&](long at) {
     const auto col = static_cast<int>(at);
     if (CGridCellDelegate* const type = m_rooms.types.Of(col, row)) {
       type->OnChangedCellHeight(col, row, &height);
@@ -167,7 +151,7 @@ int CGridSizing::BestFit(int startCol, int endCol, long rows) {
       widen(row);
     }
     if (rows == 0) {
-      ForEachInView(Rows(), widen);
+      Rows().ForEachInView(widen);
       return;
     }
     const long locked = Rows().LockedInView();

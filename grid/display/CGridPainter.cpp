@@ -9,6 +9,7 @@
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridInfo.h"
 #include "grid/control/CGridMultiSelect.h"
+#include "grid/control/CellPlace.h"
 #include "grid/control/DarkInk.h"
 #include "platform/CDC.h"
 #include "platform/System.h"
@@ -26,6 +27,7 @@ struct CGridPainter::Pass {
   bool allRows = true;  ///< the walk reached the last row
   bool hasFocusCell = false;
   CRect focus;
+  CRect focusPane;  ///< where it may be drawn
 };
 
 CGridPainter::CGridPainter(CGridCtrl& control, CWnd& owner)
@@ -40,7 +42,8 @@ void CGridPainter::Paint(const PaintSurface& surface) {
             false,
             true,
             false,
-            CRect()};
+            CRect(),
+            surface.client};
   m_painting = true;
   m_drawn.clear();
   Run(pass);
@@ -97,7 +100,33 @@ bool CGridPainter::Begin(Pass& pass) {
   info.rows.last = info.rows.Count();
   WalkLines(m_columns, LineOrder(columns.Locked(), columns.First()), columns.Count(), columns.Extent(),
             [&columns](long col) { return columns.SizeOf(col); });
+  HintBlocksFromOutOfView();
   return true;
+}
+
+/// A joined block looks as its first cell does. Where that one is scrolled out of view and hinted, what is in
+/// view of the block has to be drawn.
+void CGridPainter::HintBlocksFromOutOfView() {
+  const CGridInfo& info = m_control.GetInfo();
+  const auto firstCol = static_cast<int>(info.columns.First());
+  const long firstRow = info.rows.First();
+  const auto isHinted = [this](auto reaches) {
+    return std::any_of(m_hints.GetRanges().begin(), m_hints.GetRanges().end(), reaches);
+  };
+  const auto hint = [this](int col, long row) {
+    CellPlace start{col, row};
+    if (m_control.GetJoinStartCell(&start.col, &start.row) == 0 &&
+        m_hints.IsInvalid(start.col, start.row) != 0) {
+      m_hints.AddHint(col, row);
+    }
+  };
+  using Range = CGridDrawHint::Range;
+  if (isHinted([&](const Range& r) { return r.startRow < firstRow && r.endRow >= info.rows.Locked(); })) {
+    for (const ShownLine& line : m_columns.lines) hint(static_cast<int>(line.index), firstRow);
+  }
+  if (isHinted([&](const Range& r) { return r.startCol < firstCol && r.endCol >= info.columns.Locked(); })) {
+    info.rows.ForEachInView([&](long row) { hint(firstCol, row); });
+  }
 }
 
 bool CGridPainter::WalkRows(Pass& pass) {
@@ -229,6 +258,8 @@ CRect CGridPainter::PaneOf(const CGridCellPainter::Cell& cell) const {
   return pane;
 }
 
+/// The dot by which each line goes on belongs to the cell behind, which may be a joined block without a
+/// separator there. A block that reaches out of what is locked has one where it is cut off.
 void CGridPainter::DrawSeparators(CDC& dc, const CRect& rect, int col, long row) const {
   const CGridInfo& info = m_control.GetInfo();
   const long lockedCols = info.columns.Locked();
@@ -243,6 +274,7 @@ void CGridPainter::DrawSeparators(CDC& dc, const CRect& rect, int col, long row)
     dc.LineTo(rect.right + 1, y);
   };
   const int saved = dc.SaveDC();
+  dc.IntersectClipRect(CRect(rect.left - 1, rect.top - 1, rect.right, rect.bottom));
   CPen light(PS_SOLID, 1, LineInk(GetSysColor(COLOR_WINDOW)));
   if (light.GetColor() == 0) {
     dc.SelectStockObject(StockObject::blackPen);
@@ -250,9 +282,9 @@ void CGridPainter::DrawSeparators(CDC& dc, const CRect& rect, int col, long row)
     dc.SelectObject(&light);  // black lines would not be seen under a dark theme
   }
   if (lockedCols > 0 && col == info.columns.First()) vertical(rect.left - 1);
-  if (lockedCols > 0 && col == lockedCols - 1) vertical(rect.right - 1);
+  if (col < lockedCols && rect.right == info.columns.LockedSize()) vertical(rect.right - 1);
   if (lockedRows > 0 && row == info.rows.First()) horizontal(rect.top - 1);
-  if (lockedRows > 0 && row == lockedRows - 1) horizontal(rect.bottom - 1);
+  if (row < lockedRows && rect.bottom == info.rows.LockedSize()) horizontal(rect.bottom - 1);
   dc.RestoreDC(saved);
 }
 
@@ -269,8 +301,10 @@ void CGridPainter::RememberFocus(Pass& pass, long row, int height) {
     int startCol = 0;
     long startRow = 0;
     const int col = static_cast<int>(info.columns.current);
-    if (m_control.GetJoinStartCell(&startCol, &startRow, col, row) == 0)
+    if (m_control.GetJoinStartCell(&startCol, &startRow, col, row) == 0) {
       m_control.GetCellRect(col, row, &pass.focus);
+      pass.focusPane = PaneOf({startCol, startRow, pass.focus, true});
+    }
   }
 }
 
@@ -329,6 +363,7 @@ void CGridPainter::DrawFocusRect(Pass& pass) {
   RECT rect = pass.focus;
   CDC* const screen = pass.surface.screen;
   const int saved = screen->SaveDC();
+  screen->IntersectClipRect(pass.focusPane);
   if (before == pass.focus && pass.surface.memory == nullptr) ExcludeWhatStayed(*screen, before);
   CGridCellDelegate* const type = m_control.GetCellDelegate(m_screen.col, m_screen.row);
   if (type->OnDrawFocusRect(screen, &rect, m_screen.col, m_screen.row) == 0 && pass.alive) {

@@ -73,6 +73,7 @@ class COREGUI_API CGridPainter {
   };
   bool Run(Pass& pass);
   bool Begin(Pass& pass);
+  void HintBlocksFromOutOfView();
   bool WalkRows(Pass& pass);
   bool GrowRows(Pass& pass, long next, long before);
   bool DrawRow(Pass& pass, long row, int height);

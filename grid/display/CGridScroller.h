@@ -36,6 +36,9 @@ class COREGUI_API CGridScroller {
   static void Move(CDC& dc, const Shift& shift);
 
  private:
+  void HintAcrossLockedCols();
+  void HintAcrossLockedRows();
+
   CGridCtrl& m_control;
   CGridPainter& m_painter;
 };

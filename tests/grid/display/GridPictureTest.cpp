@@ -1,12 +1,16 @@
 // The grid in a real window, from its pixels.
 
 #include <array>
+#include <functional>
 #include <random>
 
 #include "grid/control/CGridDrawHint.h"
 #include "grid/control/CGridInfo.h"
+#include "grid/control/CGridMultiSelect.h"
 #include "grid/data/CGridCell.h"
 #include "grid/display/CGridHeading.h"
+#include "platform/Keys.h"
+#include "tests/grid/GridOperations.h"
 #include "tests/grid/display/ShowcaseGrid.h"
 #include "tests/support/LogWatch.h"
 
@@ -168,40 +172,156 @@ TEST_F(GridPictureTest, GridLinesFollowTheThemeUntilTheirColourIsChosen) {
   EXPECT_EQ(pen.GetColor(), RGB(255, 0, 0));
 }
 
-TEST_F(GridPictureTest, AnyWayOfScrollingEndsInTheSamePictureAsPaintingAnew) {
-  Open();
-  grid.GetGridWnd()->SetFocus();
-  const auto check = [this](const char* what) {
+// --- Any row of operations ends in the picture of painting anew
+
+/// A grid of two sheets under a person's hand.
+struct HandledGrid : ShowcaseTest {
+  HandledGrid() {
+    Open();
+    grid.MoveWindow(CRect(0, 0, 500, 300));
+    grid.SetMultiSelectMode(1);
+    grid.SetNumberSheets(2);
+    grid.SetTabWidth(100);
+    grid.SetFocus();
     CWinApp::PumpPending();
-    EXPECT_EQ(DifferenceToFresh(), "") << what;
+  }
+  void TestBody() override {}
+  std::string Difference() {
+    CWinApp::PumpPending();
+    return DifferenceToFresh();
+  }
+};
+
+void Press(CGridCtrl& grid, UINT key, bool shift, bool control) {
+  SetKeyState(VK_SHIFT, shift);
+  SetKeyState(VK_CONTROL, control);
+  grid.GetGridWnd()->SendMessage(WM_KEYDOWN, key);
+  grid.GetGridWnd()->SendMessage(WM_KEYUP, key);
+  SetKeyState(VK_SHIFT, false);
+  SetKeyState(VK_CONTROL, false);
+}
+
+void DragMouse(CGridCtrl& grid, const GridStep& s) {
+  CWnd& body = *grid.GetGridWnd();
+  const UINT keys[] = {0, MK_CONTROL, MK_SHIFT};
+  const LPARAM from = MAKELPARAM(s.a * 40, s.b * 25);
+  body.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON | keys[std::abs(s.c) % 3], from);
+  body.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(s.c * 50, s.a * 30));
+  body.SendMessage(WM_LBUTTONUP, 0, from);
+}
+
+void Rewrite(CGridCtrl& grid, int col, long row, int kind) {
+  const wchar_t* const texts[] = {L"", L"short", L"A long text that spills over two or three neighbours"};
+  grid.QuickSetText(col, row, texts[std::abs(kind) % 3]);
+  grid.RedrawCell(col, row);
+}
+
+const GridOperation kWindowOperations[] = {
+    {"Key",
+     [](CGridCtrl& g, const GridStep& s) { Press(g, VK_PRIOR + (s.a + 2) % 8, s.b % 3 == 0, s.c % 4 == 0); }},
+    {"Drag", DragMouse},
+    {"Wheel", [](CGridCtrl& g, const GridStep& s) { g.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, s.a * 40)); }},
+    {"Select", [](CGridCtrl& g, const GridStep& s) { g.SelectRange(s.a, s.b, s.a + s.c, s.b + s.c); }},
+    {"Toggle",
+     [](CGridCtrl& g, const GridStep& s) {
+       g.GetMultiSelect()->ToggleCell(s.a, s.b);
+       g.Moved();
+     }},
+    {"Mode", [](CGridCtrl& g, const GridStep& s) { g.SetMultiSelectMode(s.a & 3); }},
+    {"Buffer", [](CGridCtrl& g, const GridStep& s) { g.SetDoubleBufferMode(s.a & 1); }},
+    {"Focus", [](CGridCtrl& g, const GridStep& s) { (s.a % 2 != 0 ? &g : g.GetParent())->SetFocus(); }},
+    {"Text", [](CGridCtrl& g, const GridStep& s) { Rewrite(g, s.a, s.b, s.c); }},
+    {"TextInView", [](CGridCtrl& g, const GridStep& s) { Rewrite(g, s.a, g.GetTopRow() + s.b, s.c); }},
+    {"Heading", [](CGridCtrl& g, const GridStep& s) { Rewrite(g, s.a % 2 - 1, s.b % 2 - 1, s.c); }},
+    {"HeadingLines",
+     [](CGridCtrl& g, const GridStep& s) {
+       g.SetTH_NumberRows(s.a % 3);
+       g.SetSH_NumberCols(s.b % 3);
+     }},
+    {"Highlight",
+     [](CGridCtrl& g, const GridStep& s) {
+       g.SetHighlightRow(s.a & 1, s.b & 1);
+       g.RedrawAll();
+     }},
+};
+
+const GridOperation& OperationAt(int number) {
+  const int first = static_cast<int>(std::size(kGridOperations));
+  return number < first ? kGridOperations[number] : kWindowOperations[number - first];
+}
+
+std::string PictureFaultAfter(const std::vector<GridStep>& steps) {
+  HandledGrid handled;
+  for (const GridStep& step : steps) {
+    const GridOperation& operation = OperationAt(step.operation);
+    operation.run(handled.grid, step);
+    if (operation.redraws == Redraws::nothing) handled.grid.RedrawAll();
+    if (std::string fault = handled.Difference(); !fault.empty()) return fault;
+  }
+  return {};
+}
+
+TEST(GridPicture, AnyRowOfOperationsLeavesThePictureOfPaintingAnew) {
+  for (unsigned seed = 0; seed < 12; ++seed) {
+    const std::vector<GridStep> steps =
+        RandomSteps(seed, std::size(kGridOperations) + std::size(kWindowOperations), 40);
+    ASSERT_EQ(PictureFaultAfter(steps), "")
+        << "seed " << seed << ": "
+        << ExplainSteps(steps, PictureFaultAfter, [](int i) { return OperationAt(i).name; });
+  }
+  EXPECT_THAT(TakeLog(), testing::Each(testing::HasSubstr(L"grabbing the mouse")));
+}
+
+TEST(GridPicture, WhatCrossesTheEdgeOfTheLockedCellsIsDrawnAnewWhenTheyScroll) {
+  using Call = std::function<void(CGridCtrl & g)>;
+  const auto lock = [](int cols, int rows) -> Call {
+    return [=](CGridCtrl& g) {
+      g.LockColumns(cols);
+      g.LockRows(rows);
+    };
   };
-  grid.SetTopRow(1);
-  check("down by one");
-  grid.SetTopRow(6);
-  check("down by five, into a joined block");
-  grid.SetTopRow(3);
-  check("up by three");
-  grid.SetTopRow(30);
-  check("to the end");
-  grid.SetTopRow(0);
-  grid.SetLeftCol(1);
-  check("right");
-  grid.LockColumns(1);
-  grid.LockRows(2);
-  check("locked");
-  grid.SetTopRow(5);
-  check("locked, down");
-  grid.GotoCell(7, 39);
-  check("both ways");
-  grid.GotoCell(1, 2);
-  check("back");
-  Save("locked");
-  grid.SetDoubleBufferMode(1);
-  grid.SetTopRow(8);
-  check("double buffered");
-  grid.QuickSetText(3, 9, L"changed");
-  grid.RedrawCell(3, 9);
-  check("one cell");
+  const auto view = [](int left, long top) -> Call {
+    return [=](CGridCtrl& g) {
+      g.SetLeftCol(left);
+      g.SetTopRow(top);
+    };
+  };
+  const struct {
+    const char* name;
+    std::vector<Call> calls;
+  } rows[] = {
+      {"a block and a text that leave the locked columns", {lock(3, 0), view(4, 0), view(3, 0), view(5, 7)}},
+      {"a block cut off at the locked columns", {lock(2, 0), view(5, 0), [](CGridCtrl& g) { g.GotoRow(4); }}},
+      {"a block that leaves the locked rows", {lock(0, 5), view(0, 8), view(2, 8), view(0, 5)}},
+      {"the separator below a block", {lock(0, 7), [](CGridCtrl& g) { g.RedrawCell(1, 4); }}},
+      {"a frame around a block below the locked rows",
+       {lock(0, 3),
+        [](CGridCtrl& g) {
+          g.SetHighlightRow(0);
+          g.GotoCell(1, 4);
+          g.RedrawAll();
+        },
+        view(0, 5), [](CGridCtrl& g) { g.RedrawCell(1, 6); }, view(0, 6)}},
+      {"a block whose first cell is out of view",
+       {view(2, 6),
+        [](CGridCtrl& g) {
+          g.QuickSetBackColor(1, 4, RGB(1, 200, 3));
+          g.RedrawCell(1, 4);
+        }}},
+      {"a torn block",
+       {[](CGridCtrl& g) { g.MoveColPosition(2, 5, 1); }, [](CGridCtrl& g) { g.RedrawCell(1, 4); }}},
+      {"blocks that overlap",
+       {[](CGridCtrl& g) { g.JoinCells(2, 5, 4, 8); }, [](CGridCtrl& g) { g.RedrawCell(1, 4); }}},
+      {"a selection that starts again where nothing moves",
+       {[](CGridCtrl& g) { g.SelectRange(1, 1, 3, 3); }, [](CGridCtrl& g) { g.GotoRow(0); }}},
+  };
+  for (const auto& row : rows) {
+    HandledGrid handled;
+    for (const Call& call : row.calls) {
+      call(handled.grid);
+      EXPECT_EQ(handled.Difference(), "") << row.name << ", step " << &call - row.calls.data() + 1;
+    }
+  }
 }
 
 TEST_F(GridPictureTest, AHeadingWithoutRoomGathersNothingAndIsWholeOnceItHasRoom) {
