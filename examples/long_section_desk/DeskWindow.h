@@ -93,6 +93,7 @@ class DeskWindow : public CWnd, private SurveySink {
   /// What a thread does; it looks now and then whether it is to stop.
   using Work = std::function<void(const std::atomic<bool>& stop)>;
   class AtWork;
+  bool TakesAWhile(long rows) const;
   void WorkBeside(const std::wstring& what, long rows, const Work& work);
   void EnablePanes(bool on);
   void Tell(const std::wstring& text);

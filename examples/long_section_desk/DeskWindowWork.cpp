@@ -112,21 +112,21 @@ SectionData DeskWindow::Read(const std::wstring& path) {
   return data;
 }
 
-/// Does work on the rows of a table. Of many rows it takes a while: a thread does it, and the windows are
-/// kept alive until it is done. Nothing else may touch what it works on.
-void DeskWindow::WorkBeside(const std::wstring& what, long rows, const Work& work) {
+bool DeskWindow::TakesAWhile(long rows) const {
   constexpr long many = 50'000;
+  return rows >= many && !m_unattended;
+}
+
+/// Does work on the rows of a table. Of many rows it takes a while: a thread does it, and the windows are
+/// kept alive until it is done; the desk shows that it is at work. Nothing else may touch what it works on.
+void DeskWindow::WorkBeside(const std::wstring& what, long rows, const Work& work) {
   constexpr std::chrono::milliseconds shortly(5);
   std::atomic<bool> stop = false;
-  if (rows < many || m_unattended) {
+  if (!TakesAWhile(rows)) {
     work(stop);
     return;
   }
   m_status.Show(what);
-  std::optional<AtWork> atWork;
-  if (!m_working) {
-    atWork.emplace(*this);
-  }
   auto working = std::async(std::launch::async, [&work, &stop] { work(stop); });
   do {
     m_stop = !CWinApp::PumpPending() || m_stop;  // lets Esc and the close button stop it
@@ -144,6 +144,10 @@ void DeskWindow::Sort(int col, bool downwards) {
   const SectionColumns columns = m_data.columns;
   const bool hasSection = !m_data.IsEmpty();
   SectionData section;
+  std::optional<AtWork> atWork;
+  if (TakesAWhile(rows)) {
+    atWork.emplace(*this);  // while the table can still paint that it lost the focus
+  }
   std::unique_ptr<CGridMem> cells = m_grid.LendCells();
   WorkBeside(L"Sorting by " + m_grid.Dialect().headings[static_cast<std::size_t>(column)] + L"...", rows,
              [&](const std::atomic<bool>& /*stop*/) {
@@ -152,6 +156,7 @@ void DeskWindow::Sort(int col, bool downwards) {
                section = hasSection ? TakeSection(*cells, rows, columns, never) : SectionData();
              });
   m_grid.GiveCells(std::move(cells));
+  atWork.reset();
   if (hasSection) {
     m_disposal.Take(std::exchange(m_data, std::move(section)));
     m_section.Invalidate(FALSE);
