@@ -118,6 +118,14 @@ double Seconds(const std::function<void()>& work) {
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
+/// The least of some times, for work that can be done again: others use the machine's memory too.
+double LeastSeconds(const std::function<void()>& work) {
+  constexpr int TIMES = 5;
+  double least = Seconds(work);
+  for (int i = 1; i < TIMES; ++i) least = std::min(least, Seconds(work));
+  return least;
+}
+
 std::size_t HeapInUse() {
   const auto info = mallinfo2();
   return info.uordblks + info.hblkhd;
@@ -197,7 +205,7 @@ void MeasureReads(Tables& tables) {
   std::vector<std::pair<int, int>> places;
   for (int i = 0; i < CELLS; ++i) places.emplace_back(random() % COLUMNS, random() % ROWS);
   long sum = 0;
-  const double ours = Seconds([&] {
+  const double ours = LeastSeconds([&] {
     CGridCell cell;
     for (const auto& [column, row] : places) {
       cell.SetPropertyFlags(0);
@@ -206,7 +214,7 @@ void MeasureReads(Tables& tables) {
     }
   });
   const auto readModel = [&](const QAbstractItemModel& model) {
-    return Seconds([&] {
+    return LeastSeconds([&] {
       for (const auto& [column, row] : places) {
         sum += model.data(model.index(row, column), Qt::DisplayRole).toString().at(0).unicode();
       }
@@ -327,20 +335,25 @@ void MeasureFind(Tables& tables) {
 
 }  // namespace
 
+/// The workloads to measure are named on the command line; without a name it is all of them.
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QGuiApplication application(argc, argv);
+  const QStringList names = QGuiApplication::arguments().mid(1);
+  const auto isWanted = [&names](const char* name) { return names.isEmpty() || names.contains(name); };
   PrintBenchHead();
-  {
+  if (isWanted("cells") || isWanted("rows")) {
     Tables tables;
     MeasureFill(tables);
     MeasureReads(tables);
     MeasureFind(tables);
-    MeasureRows(tables);
-    MeasureColumn(tables);
+    if (isWanted("rows")) {
+      MeasureRows(tables);
+      MeasureColumn(tables);
+    }
   }
-  MeasureSort(false);
-  MeasureSort(true);
-  MeasureGaps();
+  if (isWanted("texts")) MeasureSort(false);
+  if (isWanted("numbers")) MeasureSort(true);
+  if (isWanted("gaps")) MeasureGaps();
   return 0;
 }
