@@ -111,7 +111,7 @@ int CGridCells::SetColDefault(int col, CGridCell* cell) {
   if (cell == nullptr || !columns.Has(col)) {
     return 1;
   }
-  return columns.At(col).defaults->CopyInfoFrom(cell);
+  return columns.At(col).OwnDefaults().CopyInfoFrom(cell);
 }
 
 int CGridCells::QuickGetText(int col, long row, CString* text) {

@@ -6,6 +6,15 @@
 #include "platform/System.h"
 
 namespace coregui {
+namespace {
+
+std::shared_ptr<CGridCell> CopyOf(CGridCell& defaults) {
+  auto copy = std::make_shared<CGridCell>();
+  copy->CopyInfoFrom(&defaults);
+  return copy;
+}
+
+}  // namespace
 
 CGridColumns::CGridColumns() {
   SetDefaultSize(ScaleByDpi(75));
@@ -18,13 +27,21 @@ int CGridColumns::FromTranslation(int dataColumn) const {
   return found == m_columns.end() ? -1 : static_cast<int>(found - m_columns.begin());
 }
 
+CGridCell& CGridColumns::Column::OwnDefaults() {
+  if (defaults.use_count() > 1) {
+    defaults = std::make_shared<CGridCell>(*defaults);
+  }
+  return *defaults;
+}
+
 void CGridColumns::SetColumnCount(int count, CGridCell& defaults) {
   const auto before = static_cast<int>(m_columns.size());
   SetCount(count);
   m_columns.resize(static_cast<std::size_t>(count));
   const std::vector<int> numbers = FreeDataColumns(before);
+  const std::shared_ptr<CGridCell> shared = CopyOf(defaults);
   for (int col = before; col < count; ++col) {
-    At(col) = MakeColumn(numbers[static_cast<std::size_t>(col - before)], defaults);
+    At(col) = {nullptr, shared, numbers[static_cast<std::size_t>(col - before)]};
   }
 }
 
@@ -53,7 +70,7 @@ std::vector<int> CGridColumns::FreeDataColumns(int before) const {
 
 void CGridColumns::InsertColumn(int col, int dataColumn, CGridCell& defaults) {
   Insert(col);
-  m_columns.insert(m_columns.begin() + col, MakeColumn(dataColumn, defaults));
+  m_columns.insert(m_columns.begin() + col, Column{nullptr, CopyOf(defaults), dataColumn});
 }
 
 void CGridColumns::EraseColumn(int col) {
@@ -69,14 +86,6 @@ void CGridColumns::MoveColumn(int from, int to) {
   } else {
     std::rotate(begin + to, begin + from, begin + from + 1);
   }
-}
-
-CGridColumns::Column CGridColumns::MakeColumn(int dataColumn, CGridCell& defaults) {
-  Column column;
-  column.defaults = std::make_unique<CGridCell>();
-  column.defaults->CopyInfoFrom(&defaults);
-  column.translation = dataColumn;
-  return column;
 }
 
 }  // namespace coregui

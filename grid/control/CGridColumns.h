@@ -15,8 +15,13 @@ class COREGUI_API CGridColumns : public CGridAxis {
  public:
   struct Column {
     CGridDataSource* source = nullptr;  ///< borrowed: registered with the control; null: the sheet's default
-    std::unique_ptr<CGridCell> defaults;  ///< null: no property set
-    int translation = 0;                  ///< the data column that the grid column shows
+    /// Null: no property set. Shared by the columns that came together until one is written: a million of
+    /// them have one. To read only.
+    std::shared_ptr<CGridCell> defaults;
+    int translation = 0;  ///< the data column that the grid column shows
+
+    /// The default cell to write to, this column's alone.
+    CGridCell& OwnDefaults();
   };
 
   CGridColumns();
@@ -42,7 +47,6 @@ class COREGUI_API CGridColumns : public CGridAxis {
  private:
   /// The data columns for the columns from `before` on.
   std::vector<int> FreeDataColumns(int before) const;
-  static Column MakeColumn(int dataColumn, CGridCell& defaults);
 
   std::vector<Column> m_columns;
 };

@@ -1,6 +1,7 @@
 #include "grid/control/CGridSheets.h"
 
 #include <algorithm>
+#include <set>
 
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridMultiSelect.h"
@@ -34,12 +35,16 @@ CString CGridSheets::NameOf(int sheet) const {
 
 void CGridSheets::FollowSystemColours() {
   const SystemLook now = SystemLook::Read();
+  std::set<const CGridCell*> replaced;  // once each: the new look may have a colour of the old one elsewhere
   for (const std::unique_ptr<CGridInfo>& sheet : m_sheets) {
     m_look.Replace(*sheet->gridDefault, now);
     m_look.Replace(*sheet->headingDefault, now);
     m_look.Replace(sheet->view.gridLinePen, now);
     for (long col = 0; col < sheet->columns.Count(); ++col) {
-      m_look.Replace(*sheet->columns.At(col).defaults, now);
+      CGridCell& defaults = *sheet->columns.At(col).defaults;
+      if (replaced.insert(&defaults).second) {
+        m_look.Replace(defaults, now);
+      }
     }
   }
   m_look = now;

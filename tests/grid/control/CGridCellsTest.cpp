@@ -206,18 +206,22 @@ TEST(CGridSourceTable, TheDefaultSourceTakesEveryColumnBack) {
 }
 
 TEST(CGridSheets, DefaultCellsFollowTheSystemsColoursAndKeepTheirOwn) {
-  LoggingGrid grid(2, 2, 100, 100);
+  LoggingGrid grid(3, 2, 100, 100);
+  const COLORREF paper = GetSysColor(COLOR_WINDOW);
+  const COLORREF ink = GetSysColor(COLOR_WINDOWTEXT);
   CGridCell own;
   own.SetBackColor(red);
   grid.SetColDefault(1, &own);
-  SetSysColor(COLOR_WINDOW, 0x202020);
-  SetSysColor(COLOR_WINDOWTEXT, 0xEEEEEE);
+  SetSysColor(COLOR_WINDOW, ink);
+  SetSysColor(COLOR_WINDOWTEXT, paper);
   SetSysColor(COLOR_BTNFACE, 0x404040);
   grid.SendMessage(WM_SYSCOLORCHANGE);
   CGridCell cell;
-  grid.GetCellIndirect(0, 0, &cell);
-  EXPECT_EQ(cell.GetBackColor(), 0x202020U);
-  EXPECT_EQ(cell.GetTextColor(), 0xEEEEEEU);
+  for (const int col : {0, 2}) {
+    grid.GetCellIndirect(col, 0, &cell);
+    EXPECT_EQ(cell.GetBackColor(), ink) << "exchanged once, in columns with one default cell too";
+    EXPECT_EQ(cell.GetTextColor(), paper);
+  }
   grid.GetCellIndirect(1, 0, &cell);
   EXPECT_EQ(cell.GetBackColor(), red);
   grid.GetCellIndirect(0, -1, &cell);
