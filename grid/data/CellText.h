@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <memory>
+#include <string>
 #include <string_view>
 
 namespace coregui {
@@ -12,12 +13,12 @@ namespace coregui {
 /// reading cell after cell into one record allocates nothing.
 class CellText {
  public:
-  static constexpr std::size_t OWN_ROOM = 39;  ///< characters
+  static constexpr std::size_t kOwnRoom = 39;  ///< characters
 
-  CellText() { Clear(); }
-  CellText(const CellText& other) { Assign(other.View()); }
+  CellText() : m_characters(m_own.data()) { Clear(); }
+  CellText(const CellText& other) : CellText() { Assign(other.View()); }
   CellText& operator=(const CellText& other) {
-    Assign(other.View());
+    if (this != &other) Assign(other.View());
     return *this;
   }
 
@@ -61,11 +62,11 @@ class CellText {
     return taken;
   }
 
-  wchar_t* m_characters = m_own.data();  // these, or what was taken
+  std::array<wchar_t, kOwnRoom + 1> m_own;
+  wchar_t* m_characters;  ///< its own, or what was taken
   std::size_t m_size = 0;
-  std::size_t m_room = OWN_ROOM;
+  std::size_t m_room = kOwnRoom;
   std::unique_ptr<wchar_t[]> m_taken;
-  std::array<wchar_t, OWN_ROOM + 1> m_own;
 };
 
 }  // namespace coregui
