@@ -130,7 +130,11 @@ void DeskWindow::Find(const CString& text) {
 }
 
 void DeskWindow::FindAgain(bool back) {
-  switch (m_finder.FindAgain(back)) {
+  const auto search = [this, back] {
+    const WaitCursor wait;  // a number may stand in any of millions of cells
+    return m_finder.FindAgain(back);
+  };
+  switch (search()) {
     case TableFinder::Result::nothingToFind:
       FindWithDialog();
       break;
