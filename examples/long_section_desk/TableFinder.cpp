@@ -2,25 +2,36 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace desk {
 
 namespace {
 
-/// How the table's store writes the number that a text means; empty when it means none.
-CString AsStored(const CString& text) {
+/// The texts to look for: what was entered, and when it means a number, how the table's store writes that
+/// number, and how it writes one that only begins so.
+std::vector<CString> WaysToWrite(const CString& text) {
+  std::vector<CString> ways = {text};
   const coregui::UserLocale& locale = coregui::GetUserLocale();
   CString digits = text;
   digits.Replace(locale.thousands, L"");
   const wchar_t decimal = locale.decimal.IsEmpty() ? L'.' : locale.decimal[0];
   double value = 0.0;
   if (!ParseNumber(digits.GetString(), decimal, value)) {
-    return {};
+    return ways;
   }
   CGridCell cell;
   cell.SetPropertyFlags(0);
   cell.SetNumber(value);
-  return cell.GetText();
+  const int point = digits.Find(locale.decimal);
+  digits.Replace(locale.decimal, L".");
+  const CString grouped = coregui::FormatNumberText(digits, point < 0 ? 0 : digits.GetLength() - point - 1);
+  for (const CString& way : {CString(cell.GetText()), grouped}) {
+    if (!way.IsEmpty() && std::find(ways.begin(), ways.end(), way) == ways.end()) {
+      ways.push_back(way);
+    }
+  }
+  return ways;
 }
 
 }  // namespace
@@ -94,14 +105,14 @@ TableFinder::Result TableFinder::FindAgain(bool back) {
   const bool up = m_up != back;
   const Place from{m_grid.GetCurrentRow(), m_grid.GetCurrentCol()};
   const auto isAhead = [&](const Place& place) { return up ? place < from : from < place; };
-  std::optional<Place> found = Search(m_text, from, up);
-  if (const CString stored = AsStored(m_text); !stored.IsEmpty() && stored != m_text) {
-    const std::optional<Place> number = Search(stored, from, up);
-    // What comes first: ahead before what is found from the other end, then in the search's direction.
-    const bool better =
-        number && found &&
-        (isAhead(*number) != isAhead(*found) ? isAhead(*number) : (up ? *found < *number : *number < *found));
-    found = !found || better ? number : found;
+  // What comes first: ahead before what is found from the other end, then in the search's direction.
+  const auto comesFirst = [&](const Place& a, const Place& b) {
+    return isAhead(a) != isAhead(b) ? isAhead(a) : (up ? b < a : a < b);
+  };
+  std::optional<Place> found;
+  for (const CString& way : WaysToWrite(m_text)) {
+    const std::optional<Place> place = Search(way, from, up);
+    found = place && (!found || comesFirst(*place, *found)) ? place : found;
   }
   if (!found) {
     return Result::notFound;
