@@ -15,7 +15,10 @@ class CellText {
  public:
   static constexpr std::size_t kOwnRoom = 39;  ///< characters
 
-  CellText() : m_characters(m_own.data()) { Clear(); }
+  CellText() {
+    m_characters = m_own.data();
+    Clear();
+  }
   CellText(const CellText& other) : CellText() { Assign(other.View()); }
   CellText& operator=(const CellText& other) {
     if (this != &other) Assign(other.View());
@@ -63,7 +66,7 @@ class CellText {
   }
 
   std::array<wchar_t, kOwnRoom + 1> m_own;
-  wchar_t* m_characters;  ///< its own, or what was taken
+  wchar_t* m_characters = nullptr;  ///< its own, or what was taken
   std::size_t m_size = 0;
   std::size_t m_room = kOwnRoom;
   std::unique_ptr<wchar_t[]> m_taken;
