@@ -24,10 +24,7 @@ TEST(FRect, CornersInAnyOrderAreNormalised) {
   EXPECT_EQ(rect.Centre().y, 4);
   rect.Set(20, 10, 50, 70);
   ExpectEdges(rect, 20, 70, 50, 10);
-}
-
-TEST(FRect, EqualCoordinatesTakeTheFirstCorner) {
-  const FRect rect(0.0, 0.0, -0.0, -0.0);
+  rect.Set(0.0, 0.0, -0.0, -0.0);  // equal coordinates take the first corner's
   EXPECT_FALSE(std::signbit(rect.GetLeft()) || std::signbit(rect.GetRight()) || std::signbit(rect.GetTop()) ||
                std::signbit(rect.GetBottom()));
 }

@@ -27,10 +27,7 @@ TEST_F(PlotView, NothingHappensBeforeInitView) {
   MakeView(false);
   parent.changes = 0;
   view->Redraw();
-  view->Move({10, 10});
-  view->SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(10, 10));
-  view->SendMessage(WM_CHAR, 'm');
-  view->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 120), 0);
+  Do(">10,10 L+ >20,20 L- R+ R- M+ >30,30 M- 'm 'x wheel+");
   EXPECT_EQ(Hook::Taken(), "");
   EXPECT_EQ(parent.changes, 0);
 }
@@ -231,9 +228,7 @@ TEST_F(PlotView, ASlaveFollowsHorizontallyAndIgnoresItsOwnGestures) {
   EXPECT_EQ(Hook::Taken(), "") << "not even passed on";
   EXPECT_EQ(slave.GetScale(), before);
   parent.changes = 0;
-  view->Press(MK_MBUTTON, {50, 50});
-  view->Move({43, 50}, MK_MBUTTON);
-  view->Release(MK_MBUTTON, {43, 50});
+  Do(">50,50 M+ >43,50 M-");
   EXPECT_EQ(parent.changes, 2) << "press and release always tell the parent";
   EXPECT_EQ(slave.UserToWindow({13.7, 0}).x, view->UserToWindow({13.7, 0}).x);
 }
