@@ -195,7 +195,7 @@ void CGrid::HintUpdateRect(const CRect& update) {
   const long row = m_control->GetCurrentRow();
   const bool exactly = startCol >= col && endCol <= col && startRow >= row && endRow <= row;
   // The current cell alone is drawn alone, in a highlighted row too, but where the row's frame has to go.
-  if (!exactly || m_painter.FrameHasToGo()) m_painter.HintCurrent(col, row);
+  if (!exactly || m_painter.Frame().HasToGo()) m_painter.HintCurrent(col, row);
 }
 
 void CGrid::DrawCellsIntern(CDC* screenDC, CDC* memDC) {

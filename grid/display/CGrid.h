@@ -38,7 +38,7 @@ class COREGUI_API CGrid : public CWnd {
   int SetDoubleBufferMode(int mode);
   int GetDoubleBufferMode() const { return m_bufferMode; }
   /// Leaves the focus rectangle out of the next paint pass.
-  void TempDisableFocusRect() { m_painter.DisableFocusRectOnce(); }
+  void TempDisableFocusRect() { m_painter.Frame().DisableOnce(); }
   CGridDrawHint& GetDrawHints() { return m_painter.Hints(); }
 
   /// The control's own scroll bar windows.

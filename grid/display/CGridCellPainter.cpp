@@ -1,10 +1,12 @@
 #include "grid/display/CGridCellPainter.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "grid/control/CGridCellDelegate.h"
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridDrawHint.h"
+#include "grid/control/CGridInfo.h"
 #include "platform/CDC.h"
 
 namespace coregui {
@@ -42,6 +44,19 @@ bool CGridCellPainter::ShowsOwnText() {
 
 bool CGridCellPainter::MayOverlap() {
   return m_control.GetCellOverLap() != 0 && TypeOfCell().CanOverLap(&m_cell) != 0;
+}
+
+CRect CGridCellPainter::PaneOf(const Cell& cell) const {
+  if (!cell.joined) return cell.rect;
+  const auto start = [](const CGridAxis& axis, long index, LONG place) {
+    const bool beside = axis.Locked() > 0 && index >= axis.Locked();
+    return beside ? std::max(place, static_cast<LONG>(axis.LockedSize())) : place;
+  };
+  const CGridInfo& info = m_control.GetInfo();
+  CRect pane = cell.rect;
+  pane.left = start(info.columns, cell.col, pane.left);
+  pane.top = start(info.rows, cell.row, pane.top);
+  return pane;
 }
 
 void CGridCellPainter::Draw(CDC& dc, const Cell& cell, int selected, int current) {

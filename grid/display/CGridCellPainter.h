@@ -47,6 +47,9 @@ class COREGUI_API CGridCellPainter {
   bool ShowsOwnText();
   /// Whether the text of the cell fetched last may spill into its right neighbour.
   bool MayOverlap();
+  /// The part of the cell that may be drawn on: all of it, but a joined block that begins above or left of
+  /// what is in view must not cover the locked cells.
+  CRect PaneOf(const Cell& cell) const;
   /// The type of the cell fetched last draws it. Handlers run.
   void Draw(CDC& dc, const Cell& cell, int selected, int current);
 

@@ -13,7 +13,7 @@ using namespace coregui;
 
 void CGrid::HandleLButtonDown(UINT flags, CPoint point) {
   m_tips.Cancel();
-  m_mouse.LeftDown(flags, point, m_painter.HasFocus());
+  m_mouse.LeftDown(flags, point, m_painter.Frame().HasFocus());
 }
 
 void CGrid::HandleLButtonUp(UINT flags, CPoint point) {
@@ -88,7 +88,7 @@ UINT CGrid::HandleGetDlgCode() {
 
 void CGrid::HandleSetFocus(CWnd*) {
   const WindowRef alive(this);
-  m_painter.SetFocus(true);
+  m_painter.Frame().SetFocus(true);
   m_keys.ResetRepeat();
   m_mouse.ReleaseType();
   m_control->OnSetFocus(GRIDSECTION_GRID);
@@ -108,7 +108,7 @@ void CGrid::HandleSetFocus(CWnd*) {
 
 void CGrid::HandleKillFocus(CWnd* other) {
   const WindowRef alive(this);
-  m_painter.SetFocus(false);
+  m_painter.Frame().SetFocus(false);
   m_control->OnKillFocus(GRIDSECTION_GRID, other);
   if (!alive) return;
   m_painter.HintCurrent(m_control->GetCurrentCol(), m_control->GetCurrentRow());

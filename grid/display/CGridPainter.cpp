@@ -1,11 +1,9 @@
 #include "grid/display/CGridPainter.h"
 
 #include <algorithm>
-#include <limits>
 #include <tuple>
 #include <utility>
 
-#include "grid/control/CGridCellDelegate.h"
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridInfo.h"
 #include "grid/control/CGridMultiSelect.h"
@@ -25,27 +23,22 @@ struct CGridPainter::Pass {
   int y = 0;            ///< the top of the row at hand
   bool anyRow = false;  ///< a row was drawn, so the columns' end is known
   bool allRows = true;  ///< the walk reached the last row
-  bool hasFocusCell = false;
-  CRect focus;
-  CRect focusPane;  ///< where it may be drawn
 };
 
 CGridPainter::CGridPainter(CGridCtrl& control, CWnd& owner)
-    : m_control(control), m_owner(owner), m_cells(control, m_hints), m_row(m_hints) {}
+    : m_control(control),
+      m_owner(owner),
+      m_cells(control, m_hints),
+      m_row(m_hints),
+      m_frame(control, owner) {}
 
 void CGridPainter::Paint(const PaintSurface& surface) {
   if (m_painting) return;
-  Pass pass{surface,
-            WindowRef(&m_owner),
-            surface.memory != nullptr ? surface.memory : surface.screen,
-            0,
-            false,
-            true,
-            false,
-            CRect(),
-            surface.client};
+  Pass pass{
+      surface, WindowRef(&m_owner), surface.memory != nullptr ? surface.memory : surface.screen, 0, false,
+      true};
   m_painting = true;
-  m_drawn.clear();
+  m_frame.BeginPass();
   Run(pass);
   if (pass.alive) m_painting = false;
 }
@@ -54,7 +47,8 @@ void CGridPainter::Print(CDC& paper, const CRect& client) {
   if (m_painting) return;
   const WindowRef alive(&m_owner);
   const CGridDrawHint waiting = std::exchange(m_hints, {});
-  const Screen screen = std::exchange(m_screen, {});
+  const CRect frame = m_frame.Exchange({});
+  const CellPlace shown = m_shown;
   const int sheet = m_control.GetSheetNumber();
   const CGridInfo& info = m_control.GetInfo();
   const std::pair cols(info.columns.paintedFirst, info.columns.last);
@@ -63,7 +57,8 @@ void CGridPainter::Print(CDC& paper, const CRect& client) {
   Paint({&paper, nullptr, client});
   if (!alive) return;
   m_hints = waiting;
-  m_screen = screen;
+  m_frame.Exchange(frame);
+  m_shown = shown;
   if (m_control.GetSheetNumber() != sheet) return;  // a handler has chosen another
   CGridInfo& now = m_control.GetInfo();
   std::tie(now.columns.paintedFirst, now.columns.last) = cols;
@@ -83,9 +78,8 @@ bool CGridPainter::Run(Pass& pass) {
     const CGridInfo& info = m_control.GetInfo();
     pass.surface.screen->BitBlt(0, 0, info.columns.Extent(), info.rows.Extent(), memory, 0, 0, SRCCOPY);
   }
-  DrawFocusRect(pass);
-  if (pass.alive) m_focusRectOff = false;
-  return true;
+  return m_frame.Draw(*pass.surface.screen, pass.surface.memory != nullptr, m_shown.col, m_shown.row,
+                      m_columns);
 }
 
 bool CGridPainter::Begin(Pass& pass) {
@@ -171,7 +165,7 @@ bool CGridPainter::DrawRow(Pass& pass, long row, int height) {
     if (!DrawCells(pass, row, height)) return false;
     m_hints.LeaveRow();
   }
-  RememberFocus(pass, row, height);
+  m_frame.EnterRow(row, pass.y, height, m_columns, m_cells);
   return true;
 }
 
@@ -232,30 +226,15 @@ bool CGridPainter::DrawFetched(Pass& pass, const CGridCellPainter::Cell& cell) {
     selected = block + 1;
   }
   const int saved = pass.dc->SaveDC();
-  const CRect pane = PaneOf(cell);
+  const CRect pane = m_cells.PaneOf(cell);
+  // Where a pixel is no whole number of dots, a line at a cell's edge would else reach into the next cell.
   pass.dc->IntersectClipRect(pane);
-  if (pane.top < m_screen.frame.bottom && pane.bottom > m_screen.frame.top) m_drawn.push_back(pane);
+  m_frame.NoteDrawn(pane);
   m_cells.Draw(*pass.dc, cell, selected, current ? 1 : 0);
   if (!pass.alive) return false;
   pass.dc->RestoreDC(saved);
   DrawSeparators(*pass.dc, pane, cell.col, cell.row);
   return true;
-}
-
-/// The part of the cell that may be drawn on: all of it, but a joined block that begins above or left of what
-/// is in view must not cover the locked cells. Where a pixel is no whole number of dots, a line at a cell's
-/// edge would else reach into the next cell.
-CRect CGridPainter::PaneOf(const CGridCellPainter::Cell& cell) const {
-  if (!cell.joined) return cell.rect;
-  const auto start = [](const CGridAxis& axis, long index, LONG place) {
-    const bool beside = axis.Locked() > 0 && index >= axis.Locked();
-    return beside ? std::max(place, static_cast<LONG>(axis.LockedSize())) : place;
-  };
-  const CGridInfo& info = m_control.GetInfo();
-  CRect pane = cell.rect;
-  pane.left = start(info.columns, cell.col, pane.left);
-  pane.top = start(info.rows, cell.row, pane.top);
-  return pane;
 }
 
 /// The dot by which each line goes on belongs to the cell behind, which may be a joined block without a
@@ -288,37 +267,6 @@ void CGridPainter::DrawSeparators(CDC& dc, const CRect& rect, int col, long row)
   dc.RestoreDC(saved);
 }
 
-void CGridPainter::RememberFocus(Pass& pass, long row, int height) {
-  const CGridInfo& info = m_control.GetInfo();
-  if (row != info.rows.current) return;
-  const ShownLine* const column = m_columns.Find(info.columns.current);
-  if (info.view.highlightRow != 0) {
-    pass.hasFocusCell = true;
-    pass.focus = CRect(0, pass.y, FocusRight(), pass.y + height);
-  } else if (column != nullptr) {
-    pass.hasFocusCell = true;
-    pass.focus = CRect(column->start, pass.y, column->End(), pass.y + height);
-    int startCol = 0;
-    long startRow = 0;
-    const int col = static_cast<int>(info.columns.current);
-    if (m_control.GetJoinStartCell(&startCol, &startRow, col, row) == 0) {
-      m_control.GetCellRect(col, row, &pass.focus);
-      pass.focusPane = PaneOf({startCol, startRow, pass.focus, true});
-    }
-  }
-}
-
-/// Where the focus rectangle of a highlighted row ends.
-///
-/// Kept: where the columns fill the window, the locked ones do not count.
-int CGridPainter::FocusRight() const {
-  const CGridInfo& info = m_control.GetInfo();
-  if (m_columns.end < info.columns.Extent()) return m_columns.end;
-  if (info.view.highlightRowToEdge != 0) return info.columns.Extent();
-  const std::int64_t scrolled = info.columns.TotalSize() - info.columns.OffsetOf(info.columns.First());
-  return static_cast<int>(std::min<std::int64_t>(scrolled, std::numeric_limits<std::int16_t>::max()));
-}
-
 void CGridPainter::RememberShown() {
   CGridInfo& info = m_control.GetInfo();
   if (IsViewStale()) {
@@ -328,8 +276,7 @@ void CGridPainter::RememberShown() {
   }
   info.columns.paintedFirst = info.columns.First();
   info.rows.paintedFirst = info.rows.First();
-  m_screen.col = static_cast<int>(info.columns.current);
-  m_screen.row = info.rows.current;
+  m_shown = {static_cast<int>(info.columns.current), info.rows.current};
 }
 
 bool CGridPainter::IsViewStale() const {
@@ -348,38 +295,6 @@ bool CGridPainter::FillBlank(Pass& pass) {
   if (right) pass.dc->FillRect(CRect(m_columns.end, client.top, client.right, client.bottom), &brush);
   if (below) pass.dc->FillRect(CRect(client.left, pass.y, client.right, client.bottom), &brush);
   return true;
-}
-
-bool CGridPainter::ShowsFrame() const {
-  return !m_focusRectOff && m_control.GetEditInProgress() == 0 &&
-         (m_hasFocus || m_control.IsFindDialogOpen() != 0);
-}
-
-/// The frame inverts what is below. Where it stands already and no cell was drawn over it, it would go.
-void CGridPainter::DrawFocusRect(Pass& pass) {
-  const bool shows = pass.hasFocusCell && ShowsFrame();
-  const CRect before = std::exchange(m_screen.frame, shows ? pass.focus : CRect());
-  if (!shows) return;
-  RECT rect = pass.focus;
-  CDC* const screen = pass.surface.screen;
-  const int saved = screen->SaveDC();
-  screen->IntersectClipRect(pass.focusPane);
-  if (before == pass.focus && pass.surface.memory == nullptr) ExcludeWhatStayed(*screen, before);
-  CGridCellDelegate* const type = m_control.GetCellDelegate(m_screen.col, m_screen.row);
-  if (type->OnDrawFocusRect(screen, &rect, m_screen.col, m_screen.row) == 0 && pass.alive) {
-    m_control.OnDrawFocusRect(screen, &rect);
-  }
-  if (pass.alive) screen->RestoreDC(saved);
-}
-
-/// Confines the context to the columns that were drawn anew in the frame's height.
-void CGridPainter::ExcludeWhatStayed(CDC& dc, const CRect& frame) const {
-  for (const ShownLine& line : m_columns.lines) {
-    const bool drawn = std::any_of(m_drawn.begin(), m_drawn.end(), [&](const CRect& cell) {
-      return cell.left <= line.start && cell.right >= line.End();
-    });
-    if (!drawn) dc.ExcludeClipRect(CRect(line.start, frame.top, line.End(), frame.bottom));
-  }
 }
 
 void CGridPainter::HintCurrent(int col, long row) {

@@ -2,7 +2,9 @@
 
 #include "core/Export.h"
 #include "grid/control/CGridDrawHint.h"
+#include "grid/control/CellPlace.h"
 #include "grid/display/CGridCellPainter.h"
+#include "grid/display/CGridFocusFrame.h"
 #include "grid/display/CHintedRow.h"
 #include "grid/display/LineWalk.h"
 #include "platform/Geometry.h"
@@ -45,32 +47,20 @@ class COREGUI_API CGridPainter {
   /// The ranges that the last pass left hinted for the next one; they are handed out once.
   std::vector<CGridDrawHint::Range> TakeRequested();
 
-  /// The focus rectangle is drawn while the body has the focus or the find dialog is open.
-  void SetFocus(bool has) { m_hasFocus = has; }
-  bool HasFocus() const { return m_hasFocus; }
-  /// Leaves the focus rectangle out of the next pass.
-  void DisableFocusRectOnce() { m_focusRectOff = true; }
+  CGridFocusFrame& Frame() { return m_frame; }
   /// Hints a cell, or its whole row where the current row stands for the current cell. Nothing without a
   /// cell.
   void HintCurrent(int col, long row);
   void HintAll();
-  /// Whether the screen shows a focus rectangle that the next pass will not draw.
-  bool FrameHasToGo() const { return !m_screen.frame.IsRectEmpty() && !ShowsFrame(); }
 
   /// The current cell as the last pass drew it.
-  int ShownCol() const { return m_screen.col; }
-  long ShownRow() const { return m_screen.row; }
+  int ShownCol() const { return m_shown.col; }
+  long ShownRow() const { return m_shown.row; }
   /// Whether the last pass drew another part of the sheet than the one that is in view now.
   bool IsViewStale() const;
 
  private:
   struct Pass;
-  /// What the last pass left on the screen.
-  struct Screen {
-    CRect frame;  ///< the focus rectangle; empty without one
-    int col = -1;
-    long row = -1;  ///< the current cell
-  };
   bool Run(Pass& pass);
   bool Begin(Pass& pass);
   void HintBlocksFromOutOfView();
@@ -81,15 +71,9 @@ class COREGUI_API CGridPainter {
   bool DrawCell(Pass& pass, CGridCellPainter::Cell cell);
   bool DrawNeighbour(Pass& pass, CGridCellPainter::Cell cell, bool* handsOn);
   bool DrawFetched(Pass& pass, const CGridCellPainter::Cell& cell);
-  void RememberFocus(Pass& pass, long row, int height);
-  CRect PaneOf(const CGridCellPainter::Cell& cell) const;
   void DrawSeparators(CDC& dc, const CRect& rect, int col, long row) const;
   void RememberShown();
   bool FillBlank(Pass& pass);
-  bool ShowsFrame() const;
-  void DrawFocusRect(Pass& pass);
-  void ExcludeWhatStayed(CDC& dc, const CRect& frame) const;
-  int FocusRight() const;
 
   CGridCtrl& m_control;
   CWnd& m_owner;
@@ -98,11 +82,9 @@ class COREGUI_API CGridPainter {
   CHintedRow m_row;
   LineWalk m_columns;  ///< the columns in view, in the pass
   std::vector<CGridDrawHint::Range> m_requested;
-  std::vector<CRect> m_drawn;  ///< the places of the cells beside the screen's frame that the pass drew
-  Screen m_screen;
+  CGridFocusFrame m_frame;
+  CellPlace m_shown;  ///< the current cell as the last pass on the screen drew it
   bool m_painting = false;
-  bool m_hasFocus = false;
-  bool m_focusRectOff = false;
 };
 
 }  // namespace coregui

@@ -165,7 +165,7 @@ TEST_F(CGridPainterTest, DrawsOnTheBitmapAndCopiesIt) {
   CRecordingDC memory;
   painter.Hints().AddHint(0, 0);
   SetCurrent(0, 0);
-  painter.SetFocus(true);
+  painter.Frame().SetFocus(true);
   painter.Paint({&screen, &memory, CRect(0, 0, 210, 110)});
   EXPECT_THAT(grid.log, ElementsAre("setup 1 memory", "focus 0,0,50,20"));
   EXPECT_EQ(screen.CountOf(L"BitBlt 0,0,210,110"), 1) << screen.GetLog().ToUtf8();
@@ -179,9 +179,9 @@ TEST_F(CGridPainterTest, TheFocusRectangleSurroundsTheCellTheBlockOrTheRow) {
   grid.JoinCells(3, 1, 4, 2);
   SetCurrent(1, 1);
   EXPECT_EQ(focus(), "setup 1") << "without the focus";
-  painter.SetFocus(true);
+  painter.Frame().SetFocus(true);
   EXPECT_EQ(focus(), "focus 50,20,100,40");
-  painter.DisableFocusRectOnce();
+  painter.Frame().DisableOnce();
   EXPECT_EQ(focus(), "setup 1") << "left out once";
   SetCurrent(3, 1);
   EXPECT_EQ(focus(), "focus 150,20,250,60");
@@ -196,7 +196,7 @@ TEST_F(CGridPainterTest, TheFocusRectangleSurroundsTheCellTheBlockOrTheRow) {
 
 TEST_F(CGridPainterTest, TheFrameOfARowThatFillsTheWindowLeavesOutTheLockedColumnsIsKept) {
   SetCurrent(1, 1);
-  painter.SetFocus(true);
+  painter.Frame().SetFocus(true);
   grid.GetInfo().view.highlightRow = 1;
   grid.LockColumns(2);
   Paint();
