@@ -27,7 +27,7 @@ class DashReducer {
     for (std::size_t begin = m_series.FindPoint(0); begin < m_series.GetCount();) {
       const std::size_t gap = m_series.FindGap(begin);
       for (std::size_t first = begin; first + 1 < gap;) {
-        const std::size_t last = std::min((first / part + 1) * part, gap - 1);
+        const std::size_t last = std::min(first + part, gap - 1);
         if (IsVisible(first, last)) {
           AddPart(first, last);
         }

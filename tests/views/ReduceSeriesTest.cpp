@@ -150,6 +150,11 @@ std::map<std::string, Points> AwkwardData() {
   data["unordered x"] = Generated(5000, [](std::size_t, auto& random) {
     return PNT_2D_record{Noise(random, -200, 1200), Noise(random, -20, 120)};
   });
+  data["columns to and fro with gaps"] = Generated(5000, [](std::size_t i, auto& random) {
+    const double rows = i % 64 < 25 ? 10 : 60;  // other rows behind the gap, in the same column
+    return PNT_2D_record{static_cast<double>(i / 64 * 37 % 100 * 10),
+                         i % 64 == 25 ? kGap : Noise(random, rows, rows + 20)};
+  });
   data["spiral"] = Generated(20000, [](std::size_t i, auto&) {
     const double turn = static_cast<double>(i) * 0.002;
     return PNT_2D_record{500 + turn * 15 * std::cos(turn), 50 + turn * 1.5 * std::sin(turn)};
@@ -281,6 +286,10 @@ TEST(ReduceSeries, ADashedLineLooksAsEveryPointDoes) {
   });
   data["dense noise"] = Generated(300000, [](std::size_t i, auto& random) {
     return PNT_2D_record{static_cast<double>(i) / 300, Noise(random, 20, 80)};
+  });
+  data["dense spikes"] = Generated(300000, [](std::size_t i, auto& random) {
+    const double rows = i < 150000 ? 30 : -30;  // up, then down
+    return PNT_2D_record{static_cast<double>(i) / 300, 50 + (i % 10 == 5 ? rows * Noise(random, 0, 1) : 0.0)};
   });
   for (const auto& [name, points] : data) {
     const CPlotSeries series(points);
