@@ -26,7 +26,7 @@ class AccessibleWindow : public QAccessibleWidget {
   /// The focus lies in a part without a name where a control is made of several windows: the control's name
   /// is what a person is told.
   QString text(QAccessible::Text kind) const override {
-    const QString own = QAccessibleWidget::text(kind);
+    QString own = QAccessibleWidget::text(kind);
     if (kind != QAccessible::Name || !own.isEmpty() || !widget()->hasFocus()) {
       return own;
     }
