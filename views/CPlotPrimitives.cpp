@@ -108,8 +108,22 @@ void CPlotPrimitives::StrokeSink(const CPolylineSink& sink) {
     return;
   }
   SelectPen();
-  m_dc->PolyPolyline(sink.GetPoints().data(), sink.GetCounts().data(),
-                     static_cast<int>(sink.GetCounts().size()));
+  const POINT* points = sink.GetPoints().data();
+  if (PenPixels() == 1 || IsPaper()) {
+    m_dc->PolyPolyline(points, sink.GetCounts().data(), static_cast<int>(sink.GetCounts().size()));
+    return;
+  }
+  for (const DWORD count : sink.GetCounts()) {
+    // Between two points a wide line along a row or column has flat ends and no dashes; between three it is
+    // like any other.
+    if (count == 2 && (points[0].x == points[1].x || points[0].y == points[1].y)) {
+      const POINT three[] = {points[0], points[1], points[1]};
+      m_dc->Polyline(three, 3);
+    } else {
+      m_dc->Polyline(points, static_cast<int>(count));
+    }
+    points += count;
+  }
 }
 
 PNT_2D_record CPlotPrimitives::PlaceOf(PNT_2D_record const& p) const {

@@ -62,10 +62,10 @@ class SeriesWalker {
   }
 
  private:
+  /// The points of a node that are asked for, and the bounds of all its points.
   struct Node {
     std::size_t first;
     std::size_t last;  ///< included
-    bool whole;        ///< all of the node's points are asked for
     CPlotSeries::Bounds x;
     CPlotSeries::Bounds y;
   };
@@ -76,7 +76,7 @@ class SeriesWalker {
     const std::size_t size = CPlotSeries::GetNodeSize(level);
     const std::size_t start = node * size;
     const std::size_t stop = std::min(start + size, m_series.GetCount());
-    Node at{std::max(start, begin), std::min(stop, end) - 1, start >= begin && stop <= end, {}, {}};
+    Node at{std::max(start, begin), std::min(stop, end) - 1, {}, {}};
     at.y = m_series.GetBoundsY(level, node);
     at.x = m_series.IsMonotone() ? CPlotSeries::Bounds{m_points[at.first].x, m_points[at.last].x}
                                  : m_series.GetBoundsX(level, node);
@@ -93,7 +93,7 @@ class SeriesWalker {
         m_reducer.Add(PixelOf(node.last));
         return;
       }
-      if (node.whole && (IsOne(low.x, high.x) || IsOne(low.y, high.y))) {
+      if (IsOne(low.x, high.x) || IsOne(low.y, high.y)) {
         AddNode(node);
         return;
       }

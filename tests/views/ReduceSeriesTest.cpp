@@ -275,6 +275,29 @@ TEST(ReduceSeries, ASmoothLineLooksAsEveryPointDoes) {
   }
 }
 
+TEST(ReduceSeries, WideStraightLinesOfTwoPointsLookAsThoseOfMany) {
+  CWnd window;
+  ASSERT_TRUE(window.Create(L"", L"", WS_POPUP, CRect(0, 0, 10, 10), nullptr, 0));
+  const CClientDC like(&window);
+  const CViewMapping mapping = Fitted(kWidth, kHeight);
+  for (const PNT_2D_record to : {PNT_2D_record{120, 60}, PNT_2D_record{20, 10}}) {
+    const PNT_2D_record from{20, 60};
+    const PNT_2D_record between{(from.x + to.x) / 2, (from.y + to.y) / 2};
+    for (const int style : {PS_SOLID, PS_DASH}) {
+      const auto plot = [&](CDC& dc, const Points& points) {
+        LinePlot(mapping).Draw(dc, false, {0, 3, PlotUnit::pixels, style}, CPlotSeries(points));
+      };
+      const Greys two = Picture(like, [&](CDC& dc) { plot(dc, {from, to}); });
+      const Greys many = Picture(like, [&](CDC& dc) {
+        CPen pen(style, 3, 0);
+        dc.SelectObject(&pen);
+        DrawEveryPoint(dc, {from, between, to}, mapping);
+      });
+      EXPECT_EQ(MostDifference(two, many), 0) << to.x << " " << style;
+    }
+  }
+}
+
 TEST(ReduceSeries, ADashedLineLooksAsEveryPointDoes) {
   CWnd window;
   ASSERT_TRUE(window.Create(L"", L"", WS_POPUP, CRect(0, 0, 10, 10), nullptr, 0));
