@@ -29,7 +29,8 @@ inline constexpr int PS_DASHDOT = 3;
 inline constexpr int PS_DASHDOTDOT = 4;
 inline constexpr int PS_NULL = 5;
 
-/// Draws outlines. The width is in logical pixels; 0 is one device dot.
+/// Draws outlines. The width is in logical pixels; 0 is one device dot. Lines of up to one pixel have dashes
+/// of 18 pixels with gaps of 6 (and so on by style), those of wider pens go by the width.
 class COREGUI_API CPen : public CGdiObject {
  public:
   CPen() = default;
@@ -43,11 +44,16 @@ class COREGUI_API CPen : public CGdiObject {
   int GetStyle() const { return m_style; }
   int GetWidth() const { return m_width; }
   COLORREF GetColor() const { return m_colour; }
+  /// Gives a wider pen the dashes of a thin one, with so many logical pixels in place of one: for what stands
+  /// for a thin line on paper. 0, as at first, for dashes that go by the width.
+  void SetDashUnit(double pixels) { m_dashUnit = pixels; }
+  double GetDashUnit() const { return m_width <= 1 && m_dashUnit == 0.0 ? 1.0 : m_dashUnit; }
 
  private:
   int m_style = PS_SOLID;
   int m_width = 1;
   COLORREF m_colour = 0;
+  double m_dashUnit = 0.0;
 };
 
 // Hatch styles.

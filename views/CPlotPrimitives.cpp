@@ -83,10 +83,13 @@ void CPlotPrimitives::EndPlot() {
   m_dc = nullptr;
 }
 
+double CPlotPrimitives::ScreenPixel() const {
+  return IsPaper() ? m_dpi.cy / 96.0 : 1.0;
+}
+
 int CPlotPrimitives::PenPixels() const {
-  // A pixel of a fine printer would hardly be seen: there it stands for 1/96 inch.
-  const double finer = IsPaper() ? m_dpi.cy / 96.0 : 1.0;
-  const double pixels = m_pen.unit == PlotUnit::points ? PixelsOfPoints(m_pen.width) : m_pen.width * finer;
+  const double pixels =
+      m_pen.unit == PlotUnit::points ? PixelsOfPoints(m_pen.width) : m_pen.width * ScreenPixel();
   return std::max<int>(1, TruncateToDevice(pixels + 0.5));
 }
 
@@ -99,6 +102,7 @@ CRect CPlotPrimitives::VisibleForPen() const {
 
 void CPlotPrimitives::SelectPen() {
   auto pen = std::make_unique<CPen>(m_pen.style, PenPixels(), m_pen.colour);
+  if (PenPixels() < 1.5 * ScreenPixel()) pen->SetDashUnit(ScreenPixel());  // thin on the screen
   m_dc->SelectObject(pen.get());
   m_selected = std::move(pen);
 }
@@ -114,8 +118,7 @@ void CPlotPrimitives::StrokeSink(const CPolylineSink& sink) {
     return;
   }
   for (const DWORD count : sink.GetCounts()) {
-    // Between two points a wide line along a row or column has flat ends and no dashes; between three it is
-    // like any other.
+    // Between two points a wide line along a row or column has flat ends; between three it is like any other.
     if (count == 2 && (points[0].x == points[1].x || points[0].y == points[1].y)) {
       const POINT three[] = {points[0], points[1], points[1]};
       m_dc->Polyline(three, 3);
@@ -216,7 +219,7 @@ int CPlotPrimitives::PlacesFor(const CPlotSeries& series) const {
     const PNT_2D_record at = GetPlotMapping().UserToDevice(corner);
     reach = std::max({reach, std::fabs(at.x), std::fabs(at.y)});
   }
-  const double places = std::round(kPlaces * (IsPaper() ? 96.0 / m_dpi.cy : m_dc->GetScaleFactor()));
+  const double places = std::round(kPlaces * (IsPaper() ? 1.0 / ScreenPixel() : m_dc->GetScaleFactor()));
   return TruncateToDevice(std::min(std::max(1.0, places), kMost / reach));
 }
 
@@ -250,9 +253,8 @@ bool CPlotPrimitives::StrokeSmoothly(const CPlotSeries& series) {
 
 void CPlotPrimitives::Hatch(const std::vector<PNT_2D_record>& outline) {
   // Line by line: a device's own hatches are of its dots, which are too fine on paper and on fine screens.
-  const double pixel = IsPaper() ? m_dpi.cy / 96.0 : 1.0;
   CPolylineSink sink(VisibleForPen());
-  const std::vector<PNT_2D_record> parts = HatchPolygon(outline, m_fill.hatch, kHatchPixels * pixel);
+  const std::vector<PNT_2D_record> parts = HatchPolygon(outline, m_fill.hatch, kHatchPixels * ScreenPixel());
   for (std::size_t i = 0; i + 1 < parts.size(); i += 2) {
     sink.Add(Rounded(parts[i]));
     sink.Add(Rounded(parts[i + 1]));

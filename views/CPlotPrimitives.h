@@ -101,6 +101,9 @@ class COREGUI_API CPlotPrimitives {
   void StrokeDevice(const std::vector<PNT_2D_record>& devicePoints);
   /// Dots too fine to be seen one by one.
   bool IsPaper() const { return m_dpi.cy >= 200; }
+  /// What a pixel of the screen is on the device: one of a fine printer would hardly be seen, so there it is
+  /// 1/96 inch.
+  double ScreenPixel() const;
   void StrokeDashed(const CPlotSeries& series);
   /// False when the line is one that is drawn hard; likewise the next.
   bool StrokeDashedSmoothly(const CPlotSeries& series);

@@ -24,7 +24,9 @@ constexpr std::array<double, 2> dotUnits{3, 3};
 constexpr std::array<double, 4> dashDotUnits{9, 6, 3, 6};
 constexpr std::array<double, 6> dashDotDotUnits{9, 3, 3, 3, 3, 3};
 
-std::span<const double> UnitsOf(int style) {
+}  // namespace
+
+std::span<const double> DashUnits(int style) {
   switch (style) {
     case PS_DASH:
       return dashUnits;
@@ -39,8 +41,10 @@ std::span<const double> UnitsOf(int style) {
   }
 }
 
+namespace {
+
 bool IsDash(const LinePen& pen, std::int64_t step) {
-  const std::span<const double> units = UnitsOf(pen.style);
+  const std::span<const double> units = DashUnits(pen.style);
   double period = 0;
   for (const double unit : units) {
     period += unit;

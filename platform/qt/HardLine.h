@@ -1,11 +1,16 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 
 #include "platform/Geometry.h"
 #include "platform/qt/Surface.h"
 
 namespace coregui {
+
+/// The lengths of the dashes and gaps, in turn, of thin lines of a PS_ style, in units of a pixel or of the
+/// pen's dash unit; none for solid ones.
+std::span<const double> DashUnits(int style);
 
 /// How hard lines put their dots.
 struct LinePen {

@@ -10,6 +10,7 @@
 #include "platform/FontData.h"
 #include "platform/qt/BitmapData.h"
 #include "platform/qt/FontFace.h"
+#include "platform/qt/HardLine.h"
 #include "platform/qt/RasterTarget.h"
 #include "platform/qt/ShapedText.h"
 
@@ -117,6 +118,13 @@ QPen PainterTarget::PenOf(const DrawAttributes& with) const {
   if (width <= kLeastSmooth || with.pen->GetStyle() != PS_SOLID) {
     pen.setCapStyle(Qt::FlatCap);
     pen.setJoinStyle(Qt::MiterJoin);
+  }
+  if (with.pen->GetDashUnit() > 0.0) {
+    QList<qreal> lengths;  // the toolkit's are in widths of the pen
+    for (const double units : DashUnits(with.pen->GetStyle())) {
+      lengths << units * with.pen->GetDashUnit() * Scale() / pen.widthF();
+    }
+    if (!lengths.empty()) pen.setDashPattern(lengths);
   }
   return pen;
 }

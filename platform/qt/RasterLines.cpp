@@ -60,7 +60,8 @@ void RasterTarget::Polyline(const DrawAttributes& with, const POINT* points, int
   if (with.pen->GetStyle() == PS_NULL || with.clip.box.IsRectEmpty()) {
     return;
   }
-  const bool straight = count == 2 && (points[0].x == points[1].x || points[0].y == points[1].y);
+  const bool straight = count == 2 && (points[0].x == points[1].x || points[0].y == points[1].y) &&
+                        with.pen->GetStyle() == PS_SOLID;
   if (!DrawsHard(with) && !(straight && !with.smooth)) {
     PainterTarget::Polyline(with, points, count);
     return;

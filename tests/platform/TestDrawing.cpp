@@ -137,6 +137,30 @@ TEST_P(Drawing, Dashes_GoOnFromPartToPart) {
   }
 }
 
+TEST_P(Drawing, Dashes_OfThinLinesAreTheSame_SmoothAndAsAWiderPen) {
+  struct Row {
+    int width;
+    double unit;
+    bool smooth;
+    std::string expected;
+  };
+  // At 5, 12, 22, 29, 41, 48 and 54: 18 pixels of ink, 6 without, or half of that.
+  for (const Row& row : {Row{1, 0, false, "##.##.#"}, Row{1, 0, true, "##.##.#"}, Row{3, 1, false, "##.##.#"},
+                         Row{3, 1, true, "##.##.#"}, Row{1, 0.5, true, "#.###.#"}}) {
+    SCOPED_TRACE(testing::Message() << row.width << ' ' << row.unit << ' ' << row.smooth);
+    CPen pen(PS_DASH, row.width, red);
+    pen.SetDashUnit(row.unit);
+    dc.SelectObject(&pen);
+    dc.SetAntiAliasing(row.smooth);
+    Clear();
+    const POINT line[] = {{2, 10}, {60, 10}};
+    dc.Polyline(line, 2);
+    std::string ink;
+    for (const int x : {5, 12, 22, 29, 41, 48, 54}) ink += dc.GetPixel(x, 10) == white ? '.' : '#';
+    EXPECT_EQ(ink, row.expected);
+  }
+}
+
 TEST_P(Drawing, ExclusiveOrTwice_Restores) {
   dc.FillSolidRect(CRect(10, 5, 40, 30), RGB(12, 200, 99));
   const QImage before = surface->Snapshot();
