@@ -13,7 +13,7 @@ namespace coregui {
 /// reading cell after cell into one record allocates nothing.
 class CellText {
  public:
-  static constexpr std::size_t kOwnRoom = 39;  ///< characters
+  static constexpr std::size_t OWN_ROOM = 39;  ///< characters
 
   CellText() {
     m_characters = m_own.data();
@@ -65,10 +65,10 @@ class CellText {
     return taken;
   }
 
-  std::array<wchar_t, kOwnRoom + 1> m_own;
+  std::array<wchar_t, OWN_ROOM + 1> m_own;
   wchar_t* m_characters = nullptr;  ///< its own, or what was taken
   std::size_t m_size = 0;
-  std::size_t m_room = kOwnRoom;
+  std::size_t m_room = OWN_ROOM;
   std::unique_ptr<wchar_t[]> m_taken;
 };
 

@@ -113,7 +113,7 @@ std::string ClippedTexts(const std::string& svg) {
       if (reader.name() == QStringLiteral("clipPath")) {
         defining = QStringLiteral("url(#%1)").arg(with.value("id"));
       } else if (reader.name() == QStringLiteral("rect") && !defining.isEmpty() &&
-                 clips.count(defining) == 0) {
+                 !clips.contains(defining)) {
         for (const char* name : {"x", "y", "width", "height"}) {
           clips[defining] += " " + with.value(QLatin1String(name)).toString().toStdString();
         }
