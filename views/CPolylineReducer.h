@@ -14,9 +14,9 @@ namespace coregui {
 /// segments to the columns before and after. Nothing is assumed about the order of x.
 ///
 /// A polyline leaves out its very last pixel unless it was there before. Whoever feeds this class says which
-/// point comes last and leaves out those just before it on the same pixel; the rest follows. So does each run,
-/// although the next segment starts there: where a pixel has several dots, a slanted segment need not fill
-/// them all. That is why a run's last stretch on one pixel is told from what comes before it.
+/// point comes last and leaves out those just before it on the same pixel; the rest follows. So does each
+/// run, although the next segment starts there: where a pixel has several dots, a slanted segment need not
+/// fill them all. That is why a run's last stretch on one pixel is told from what comes before it.
 class COREGUI_API CPolylineReducer {
  public:
   /// With a `columnShift` above 0 a column is 1 << columnShift wide, and a run is moved across it: to its

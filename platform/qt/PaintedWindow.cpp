@@ -13,8 +13,8 @@
 #include "platform/System.h"
 #include "platform/Toolkit.h"
 #include "platform/WindowState.h"
-#include "platform/qt/PictureMemory.h"
 #include "platform/qt/AccessibleWindow.h"
+#include "platform/qt/PictureMemory.h"
 #include "platform/qt/Pump.h"
 
 namespace coregui {
