@@ -99,8 +99,12 @@ void CGrid::Moved() {
   if (!dc.IsValid()) return;
   const CGridScroller::Shift shift = m_scroller.Plan(GetClientRectangle(), dc.GetScaleFactor());
   if (!shift.IsNone()) m_scroller.HintUncovered(shift);
-  m_painter.HintCurrent(m_painter.ShownCol(), m_painter.ShownRow());
-  m_painter.HintCurrent(m_control->GetCurrentCol(), m_control->GetCurrentRow());
+  const int col = m_control->GetCurrentCol();
+  const long row = m_control->GetCurrentRow();
+  if (col != m_painter.ShownCol() || row != m_painter.ShownRow() || !IsScrolledAway(col, row)) {
+    m_painter.HintCurrent(m_painter.ShownCol(), m_painter.ShownRow());
+    m_painter.HintCurrent(col, row);
+  }
   if (m_buffer == nullptr) {
     if (!shift.IsNone()) CGridScroller::Move(dc, shift);
     DrawCellsIntern(&dc, nullptr);
@@ -170,6 +174,12 @@ void CGrid::PaintPass(CDC& screen) {
     CMemoryDC memory(&screen, m_buffer.get());
     DrawCellsIntern(&screen, &memory);
   }
+}
+
+/// Whether nothing can be seen of a row's cell, nor of a block that it begins.
+bool CGrid::IsScrolledAway(int col, long row) const {
+  const CGridRows& rows = m_control->GetInfo().rows;
+  return row >= rows.Locked() && row < rows.First() && m_control->GetJoinStartCell(&col, &row) != 0;
 }
 
 /// Hints the cells under the rectangle, to the end of a joined block that it ends in, and the current cell.
