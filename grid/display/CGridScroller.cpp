@@ -70,8 +70,8 @@ void CGridScroller::HintUncovered(const Shift& shift) {
 }
 
 /// A joined block that reaches from the locked columns into the others changes its size: it is drawn anew,
-/// with the cell beside it, which has the separator. A text that
-/// spills from them into the others comes out of them only while the others begin where they end.
+/// with the cell beside it, which has the separator. A text that spills from them into the others comes out
+/// of them only while the others begin where they end.
 void CGridScroller::HintAcrossLockedCols() {
   const CGridInfo& info = m_control.GetInfo();
   CGridDrawHint& hints = m_painter.Hints();
