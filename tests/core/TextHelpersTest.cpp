@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <clocale>
+#include <cstdlib>
+#include <filesystem>
 #include <limits>
+#include <string>
 
 #include "core/Expression.h"
 #include "core/Fields.h"
@@ -107,6 +110,13 @@ TEST(Expression, FailureGivesAReasonAndLeavesTheValue) {
   }
   double value = 42;
   EXPECT_FALSE(coreEvaluateExpression(nullptr, value));
+}
+
+TEST(Expression, IsThereForAProgramThatWasStartedByItsNameAlone) {
+  const std::filesystem::path self = std::filesystem::read_symlink("/proc/self/exe");
+  const std::string run = "cd / && PATH='" + self.parent_path().string() + "' " + self.filename().string() +
+                          " --gtest_filter=Expression.Knows* >&2";
+  EXPECT_EQ(std::system(run.c_str()), 0);
 }
 
 TEST(Status, ASinkMayWriteItselfAndIsPutBack) {
