@@ -1,7 +1,6 @@
 #include "platform/MessageBox.h"
 
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
@@ -65,33 +64,11 @@ const MessageBoxButton* EscapeButton(const std::vector<MessageBoxButton>& button
   return buttons.size() == 1 ? &buttons.front() : nullptr;
 }
 
-/// Stays open at Esc and the frame's cross when there is no button for them.
-class Box : public QMessageBox {
- public:
-  using QMessageBox::QMessageBox;
-  bool closable = true;
-
- protected:
-  void reject() override {
-    if (closable) QMessageBox::reject();
-  }
-  void closeEvent(QCloseEvent* event) override {
-    if (closable) {
-      QMessageBox::closeEvent(event);
-    } else {
-      event->ignore();
-    }
-  }
-  void keyPressEvent(QKeyEvent* event) override {
-    if (closable || event->key() != Qt::Key_Escape) QMessageBox::keyPressEvent(event);
-  }
-};
-
 /// One role for all keeps them in the order given, whatever the desktop's habit.
-void AddButtons(Box& box, const std::vector<MessageBoxButton>& buttons, UINT style) {
+/// Esc and the frame's cross do nothing where no button stands for them.
+void AddButtons(QMessageBox& box, const std::vector<MessageBoxButton>& buttons, UINT style) {
   const std::size_t wanted = (style & MB_DEFMASK) >> 8U;
   const MessageBoxButton* escape = EscapeButton(buttons);
-  box.closable = escape != nullptr;
   for (std::size_t i = 0; i < buttons.size(); ++i) {
     QPushButton* button = box.addButton(ToQt(buttons[i].text), QMessageBox::ActionRole);
     button->setProperty("id", buttons[i].id);
@@ -133,7 +110,7 @@ void ScrollLongText(QMessageBox& box) {
 int ShowMessageBox(const MessageBoxParams& params) {
   if (!EnsureToolkit()) return 0;
   const WindowRef focus(CWnd::GetFocus());
-  Box box(WidgetOf(params.owner));
+  QMessageBox box(WidgetOf(params.owner));
   box.setTextFormat(Qt::PlainText);
   box.setText(ToQt(params.text));
   box.setWindowTitle(ToQt(params.caption));
