@@ -401,6 +401,8 @@ TEST(WindowBorder, LiesRoundTheClientAreaUnlessThereIsACaption) {
   ASSERT_TRUE(inner.OpenIn(child, CRect(0, 0, 4, 4)));
   LogWindow later;
   ASSERT_TRUE(later.OpenIn(window, CRect(40, 10, 50, 20)));
+  LogWindow beyond;  // reaches out of its parent, where it is not seen
+  ASSERT_TRUE(beyond.OpenIn(later, CRect(8, 8, 20, 20)));
   child.logs = kStates;
   child.ModifyStyle(0, WS_BORDER);
   EXPECT_EQ(child.TakeLog(), "5 0 18,14;");
@@ -429,6 +431,7 @@ TEST(WindowBorder, LiesRoundTheClientAreaUnlessThereIsACaption) {
     CClientDC own(&inner);
     own.FillSolidRect(CRect(0, 0, 4, 4), kRed);
     CClientDC(&later).FillSolidRect(CRect(0, 0, 10, 10), kRed);
+    CClientDC(&beyond).FillSolidRect(CRect(0, 0, 12, 12), kBlue);
   }
   CWinApp::PumpPending();
   const QImage shown = WidgetOf(&window)->grab().toImage();
@@ -446,9 +449,10 @@ TEST(WindowBorder, LiesRoundTheClientAreaUnlessThereIsACaption) {
   };
   for (const CPoint at : {CPoint(10, 10), CPoint(29, 17), CPoint(15, 24)})
     expect(at, GetSysColor(COLOR_3DDKSHADOW));
-  for (const CPoint at : {CPoint(20, 11), CPoint(28, 23), CPoint(11, 20)}) expect(at, kBlue);
+  for (const CPoint at : {CPoint(20, 11), CPoint(28, 23), CPoint(11, 20), CPoint(48, 18)}) expect(at, kBlue);
   for (const CPoint at : {CPoint(11, 11), CPoint(14, 14), CPoint(45, 15)}) expect(at, kRed);
-  expect(CPoint(0, 0), RGB(255, 255, 255));  // the desktop's frame is enough
+  // The desktop's frame is enough; and what lies beyond a parent stays as it is.
+  for (const CPoint at : {CPoint(0, 0), CPoint(52, 18), CPoint(48, 22)}) expect(at, RGB(255, 255, 255));
 }
 
 }  // namespace
