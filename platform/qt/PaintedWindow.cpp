@@ -54,36 +54,69 @@ class SurfaceWidget : public QWidget {
  protected:
   void paintEvent(QPaintEvent* event) override {
     if (devicePixelRatioF() != m_surface->Scale() && onOtherScale) onOtherScale();
-    QPainter painter(this);
     const bool whole = event->region().boundingRect() == rect();
-    const bool onScreen = (whole || m_surface->HasDamage()) && IsOnScreen(painter);
-    if (onScreen && whole) ExpectPicture(*painter.paintEngine()->paintDevice());
     const QRect client = rect().adjusted(border, border, -border, -border);
+    QPoint corner;  // of the device, in this widget
+    QPaintDevice* device = redirected(&corner);
+    // Not a picture that somebody takes of the window.
+    const bool onScreen = backingStore() != nullptr && device == backingStore()->paintDevice();
+    QImage* picture =
+        onScreen && device->devType() == QInternal::Image ? static_cast<QImage*>(device) : nullptr;
+    if (picture != nullptr && whole) ExpectPicture(*picture);
+    if (picture == nullptr || !client.contains(event->region().boundingRect()) ||
+        !CopyTo(*picture, corner, event->region())) {
+      Paint(event->region(), client);
+    }
+    if (onScreen && (whole || m_surface->HasDamage()) && (Seen(*this, client) - event->region()).isEmpty()) {
+      m_surface->ForgetDamage();
+    }
+  }
+
+ private:
+  /// Copies a part of the surface where a picture has dots like the surface's; false where it has not.
+  bool CopyTo(QImage& picture, const QPoint& corner, const QRegion& part) {
+    const int scale = static_cast<int>(m_surface->Scale());
+    if (picture.format() != QImage::Format_RGB32 || scale != m_surface->Scale() ||
+        scale != picture.devicePixelRatio()) {
+      return false;
+    }
+    const QPoint client(border, border);
+    const QRect bounds = part.boundingRect();
+    const QRect target(scale * (bounds.topLeft() - corner), scale * bounds.size());
+    const CSize dots = m_surface->Dots();
+    if (!picture.rect().contains(target) ||
+        !QRect(0, 0, dots.cx, dots.cy).contains(target.translated(scale * (corner - client)))) {
+      return false;
+    }
+    const std::ptrdiff_t stride = picture.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(std::uint32_t));
+    auto* const first = reinterpret_cast<std::uint32_t*>(picture.bits());
+    for (const QRect& exposed : part) {
+      const QPoint to = scale * (exposed.topLeft() - corner);
+      const QPoint from = scale * (exposed.topLeft() - client);
+      const CRect rect(CPoint(from.x(), from.y()), CSize(scale * exposed.width(), scale * exposed.height()));
+      m_surface->CopyDots(first + to.y() * stride + to.x(), stride, rect);
+    }
+    return true;
+  }
+
+  void Paint(const QRegion& part, const QRect& client) {
+    QPainter painter(this);
     if (border > 0) {
       const COLORREF colour = GetSysColor(COLOR_3DDKSHADOW);
-      for (const QRect& edge : event->region() - client) {
+      for (const QRect& edge : part - client) {
         painter.fillRect(edge, QColor(GetRValue(colour), GetGValue(colour), GetBValue(colour)));
       }
       painter.translate(border, border);
     }
-    for (const QRect& exposed : event->region() & client) {
-      const QRect part = exposed.translated(-border, -border);
+    for (const QRect& exposed : part& client) {
+      const QRect rect = exposed.translated(-border, -border);
       m_surface->Expose(painter,
-                        {part.left(), part.top(), part.left() + part.width(), part.top() + part.height()});
+                        {rect.left(), rect.top(), rect.left() + rect.width(), rect.top() + rect.height()});
     }
-    if (onScreen && (Seen(*this, client) - event->region()).isEmpty()) m_surface->ForgetDamage();
-  }
-
- private:
-  /// Not in a picture that somebody takes of the window.
-  bool IsOnScreen(const QPainter& painter) const {
-    return backingStore() != nullptr && painter.paintEngine()->paintDevice() == backingStore()->paintDevice();
   }
 
   /// The toolkit has made memory for the picture of the whole window, and is to fill it with this paint.
-  void ExpectPicture(const QPaintDevice& device) {
-    if (device.devType() != QInternal::Image) return;
-    const auto& picture = static_cast<const QImage&>(device);
+  void ExpectPicture(const QImage& picture) {
     const qint64 number = picture.cacheKey() >> 32;
     if (std::exchange(m_picture, number) == number) return;
     ExpectFill(picture.constBits(), static_cast<std::size_t>(picture.sizeInBytes()));

@@ -209,6 +209,18 @@ void Surface::Expose(QPainter& exposure, const CRect& rect) {
   }
 }
 
+void Surface::CopyDots(std::uint32_t* to, std::ptrdiff_t stride, const CRect& rect) {
+  EndPainter();
+  const auto width = static_cast<std::size_t>(rect.Width());
+  for (int y = rect.top; y < rect.bottom; ++y, to += stride) {
+    if (m_isOneColour) {
+      std::fill_n(to, width, m_colour);
+    } else {
+      std::memcpy(to, Row(y) + rect.left, width * sizeof(std::uint32_t));
+    }
+  }
+}
+
 /// Dot upon dot: a window's corner that lies between dots of the screen is moved to the nearest.
 void Surface::ExposeFraction(QPainter& exposure, const QRectF& rect) {
   exposure.save();

@@ -60,6 +60,8 @@ class Surface {
   void MoveDots(const CRect& to, int dx, int dy);
   /// Copies a part (logical pixels) to an exposure whose coordinates are logical pixels of the window.
   void Expose(QPainter& exposure, const CRect& rect);
+  /// The same dot for dot, `rect` in dots, to memory whose rows are `stride` dots apart.
+  void CopyDots(std::uint32_t* to, std::ptrdiff_t stride, const CRect& rect);
   /// A copy of the picture with its scale set, for reading and saving.
   QImage Snapshot() const;
   const QImage& Image() const;
