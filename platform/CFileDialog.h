@@ -20,7 +20,7 @@ class COREGUI_API CFileDialog : public CObject {
                        CWnd* parent = nullptr);
 
   void SetTitle(const wchar_t* title) { m_title = title; }
-  /// IDOK or IDCANCEL.
+  /// IDOK or IDCANCEL; that also when the parent's window was destroyed under it.
   int DoModal();
   const CString& GetPathName() const { return m_path; }  ///< the whole path
   CString GetFileName() const;                           ///< name with extension

@@ -53,7 +53,7 @@ class COREGUI_API CMenu : public CObject {
 
   /// Shows the menu at a screen position until a command is chosen or it is closed. With TPM_RETURNCMD
   /// returns the command's id, 0 for none; else sends it to `window` as WM_COMMAND and returns 1, or 0 when
-  /// none was chosen.
+  /// none was chosen. The menu closes without a choice when the window is destroyed under it.
   int TrackPopupMenu(UINT flags, int x, int y, CWnd* window);
 
  private:

@@ -48,8 +48,9 @@ struct MessageBoxParams {
 };
 
 /// Shows a modal box; returns the pressed button's id. Closing it or Esc answers Cancel where there is such a
-/// button, OK where it is the only one, else nothing closes it but a button. 0 when it cannot be shown. The
-/// text is plain, and scrolled where it would leave no room for the buttons on the screen.
+/// button, OK where it is the only one, else nothing closes it but a button. 0 when it cannot be shown, or
+/// its owner was destroyed under it. The text is plain, and scrolled where it would leave no room for the
+/// buttons on the screen.
 COREGUI_API int ShowMessageBox(const MessageBoxParams& params);
 
 }  // namespace coregui

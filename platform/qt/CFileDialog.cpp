@@ -10,6 +10,7 @@
 #include "platform/MessageBox.h"
 #include "platform/Toolkit.h"
 #include "platform/qt/ControlWindow.h"
+#include "platform/qt/Transient.h"
 
 namespace {
 
@@ -64,19 +65,20 @@ CFileDialog::CFileDialog(BOOL open, const wchar_t* extension, const wchar_t* nam
 
 int CFileDialog::DoModal() {
   if (!coregui::EnsureToolkit()) return IDCANCEL;
-  QFileDialog dialog(coregui::WidgetOf(m_parent), ToQt(m_title));
-  dialog.setOption(QFileDialog::DontUseNativeDialog);
-  dialog.setOption(QFileDialog::DontConfirmOverwrite, (m_flags & OFN_OVERWRITEPROMPT) == 0);
-  dialog.setAcceptMode(m_open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+  const coregui::Transient<QFileDialog> dialog(m_parent);
+  if (!m_title.IsEmpty()) dialog->setWindowTitle(ToQt(m_title));
+  dialog->setOption(QFileDialog::DontUseNativeDialog);
+  dialog->setOption(QFileDialog::DontConfirmOverwrite, (m_flags & OFN_OVERWRITEPROMPT) == 0);
+  dialog->setAcceptMode(m_open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
   const bool mustExist = m_open && (m_flags & OFN_FILEMUSTEXIST) != 0;
-  dialog.setFileMode(mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+  dialog->setFileMode(mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   const QStringList filters = NameFilters(m_filter);
-  if (!filters.isEmpty()) dialog.setNameFilters(filters);
-  if (!m_open) dialog.setDefaultSuffix(ToQt(m_extension));
-  MakeRoom(dialog);
-  SetStart(dialog, m_path);
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return IDCANCEL;
-  m_path = FromQt(dialog.selectedFiles().constFirst());
+  if (!filters.isEmpty()) dialog->setNameFilters(filters);
+  if (!m_open) dialog->setDefaultSuffix(ToQt(m_extension));
+  MakeRoom(*dialog);
+  SetStart(*dialog, m_path);
+  if (dialog->exec() != QDialog::Accepted || !dialog || dialog->selectedFiles().isEmpty()) return IDCANCEL;
+  m_path = FromQt(dialog->selectedFiles().constFirst());
   return IDOK;
 }
 
@@ -96,15 +98,16 @@ namespace coregui {
 
 bool ChooseFolder(CString& folder, const wchar_t* title, CWnd* parent) {
   if (!EnsureToolkit()) return false;
-  QFileDialog dialog(WidgetOf(parent), ToQt(title));
-  dialog.setOption(QFileDialog::DontUseNativeDialog);
-  dialog.setOption(QFileDialog::ShowDirsOnly);
-  dialog.setOption(QFileDialog::ReadOnly);
-  dialog.setFileMode(QFileDialog::Directory);
-  MakeRoom(dialog);
-  if (!folder.IsEmpty() && QFileInfo(ToQt(folder)).isDir()) dialog.setDirectory(ToQt(folder));
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return false;
-  folder = FromQt(dialog.selectedFiles().constFirst());
+  const Transient<QFileDialog> dialog(parent);
+  if (title != nullptr && *title != 0) dialog->setWindowTitle(ToQt(title));
+  dialog->setOption(QFileDialog::DontUseNativeDialog);
+  dialog->setOption(QFileDialog::ShowDirsOnly);
+  dialog->setOption(QFileDialog::ReadOnly);
+  dialog->setFileMode(QFileDialog::Directory);
+  MakeRoom(*dialog);
+  if (!folder.IsEmpty() && QFileInfo(ToQt(folder)).isDir()) dialog->setDirectory(ToQt(folder));
+  if (dialog->exec() != QDialog::Accepted || !dialog || dialog->selectedFiles().isEmpty()) return false;
+  folder = FromQt(dialog->selectedFiles().constFirst());
   return true;
 }
 

@@ -7,6 +7,7 @@
 #include "platform/CWnd.h"
 #include "platform/qt/Application.h"
 #include "platform/qt/ControlWindow.h"
+#include "platform/qt/Transient.h"
 
 struct CMenu::Item {
   UINT flags = 0;  ///< MF_SEPARATOR, MF_GRAYED, MF_DISABLED, MF_CHECKED
@@ -144,9 +145,9 @@ CMenu* CMenu::GetSubMenu(int position) const {
 int CMenu::TrackPopupMenu(UINT flags, int x, int y, CWnd* window) {
   coregui::EnsureApplication();
   const coregui::WindowRef target(window);
-  QMenu menu(coregui::WidgetOf(window));
-  CMenuView::Fill(menu, *this);
-  const QAction* chosen = menu.exec(QPoint(x, y));
+  const coregui::Transient<QMenu> menu(window);
+  CMenuView::Fill(*menu, *this);
+  const QAction* chosen = menu->exec(QPoint(x, y));
   const int id = chosen == nullptr ? 0 : static_cast<int>(chosen->data().toUInt());
   if ((flags & TPM_RETURNCMD) != 0) return id;
   if (id != 0 && target) target.Get()->SendMessage(WM_COMMAND, MAKEWPARAM(id, 0));

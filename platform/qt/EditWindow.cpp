@@ -11,6 +11,7 @@
 #include "platform/Clipboard.h"
 #include "platform/System.h"
 #include "platform/WindowRef.h"
+#include "platform/qt/Transient.h"
 
 namespace coregui {
 
@@ -122,16 +123,16 @@ void EditWindow::ShowMenu(CPoint screen) {
                       {"Delete", WM_CLEAR, writes && selected},
                       {"Select All", WM_NULL, !Text().isEmpty()}};
   const WindowRef window(&Window());
-  QMenu menu(GetWidget());
+  const Transient<QMenu> menu(&Window());
   for (const Row& row : rows) {
-    QAction* action = menu.addAction(QCoreApplication::translate("QLineEdit", row.text));
+    QAction* action = menu->addAction(QCoreApplication::translate("QLineEdit", row.text));
     action->setData(row.message);
     action->setEnabled(row.enabled);
-    if (row.message == WM_UNDO || row.message == WM_CLEAR) menu.addSeparator();
+    if (row.message == WM_UNDO || row.message == WM_CLEAR) menu->addSeparator();
   }
   const bool byKey = screen == CPoint(-1, -1);
   const QAction* chosen =
-      menu.exec(byKey ? GetWidget()->mapToGlobal(GetWidget()->rect().center()) : QPoint(screen.x, screen.y));
+      menu->exec(byKey ? GetWidget()->mapToGlobal(GetWidget()->rect().center()) : QPoint(screen.x, screen.y));
   if (chosen == nullptr || !window || !Window().HasWindow()) return;
   const UINT message = chosen->data().toUInt();
   if (message == WM_NULL) {

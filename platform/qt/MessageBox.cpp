@@ -15,6 +15,7 @@
 #include "platform/Toolkit.h"
 #include "platform/WindowFocus.h"
 #include "platform/qt/ControlWindow.h"
+#include "platform/qt/Transient.h"
 
 namespace coregui {
 namespace {
@@ -110,27 +111,28 @@ void ScrollLongText(QMessageBox& box) {
 int ShowMessageBox(const MessageBoxParams& params) {
   if (!EnsureToolkit()) return 0;
   const WindowRef focus(CWnd::GetFocus());
-  QMessageBox box(WidgetOf(params.owner));
-  box.setTextFormat(Qt::PlainText);
-  box.setText(ToQt(params.text));
-  box.setWindowTitle(ToQt(params.caption));
-  box.setIcon(IconOf(params.style));
+  const Transient<QMessageBox> box(params.owner);
+  box->setTextFormat(Qt::PlainText);
+  box->setText(ToQt(params.text));
+  box->setWindowTitle(ToQt(params.caption));
+  box->setIcon(IconOf(params.style));
   std::vector<MessageBoxButton> buttons = params.buttons;
   if (buttons.empty()) buttons = StandardButtons(params.style);
   buttons.resize(std::min(buttons.size(), kMostButtons));
-  AddButtons(box, buttons, params.style);
+  AddButtons(*box, buttons, params.style);
   if (!params.checkText.IsEmpty()) {
     auto check = std::make_unique<QCheckBox>(ToQt(params.checkText));
     check->setChecked(params.checked != nullptr && *params.checked != 0);
-    box.setCheckBox(check.release());
+    box->setCheckBox(check.release());
   }
-  ScrollLongText(box);
+  ScrollLongText(*box);
   CWnd::ReleaseCapture();
-  box.exec();
-  if (params.checked != nullptr && box.checkBox() != nullptr)
-    *params.checked = box.checkBox()->isChecked() ? 1 : 0;
+  box->exec();
+  if (!box) return 0;
+  if (params.checked != nullptr && box->checkBox() != nullptr)
+    *params.checked = box->checkBox()->isChecked() ? 1 : 0;
   if (CWnd* before = focus.Get()) before->SetFocus();
-  const QAbstractButton* pressed = box.clickedButton();
+  const QAbstractButton* pressed = box->clickedButton();
   return pressed == nullptr ? 0 : pressed->property("id").toInt();
 }
 

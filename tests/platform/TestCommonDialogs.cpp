@@ -15,7 +15,9 @@
 #include <QTest>
 #include <QTimer>
 #include <filesystem>
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/CEdit.h"
@@ -221,6 +223,42 @@ TEST(FindReplace, EveryButtonAsksTheOwner) {
   QTest::keyClick(WidgetOf(&dialog)->findChild<QLineEdit*>("find"), Qt::Key_Return);
   dialog.SendMessage(WM_CLOSE);
   EXPECT_EQ(owner.asked, L"x> 000 1000;x> 000 0001;");
+}
+
+TEST(CommonDialogs, GoUnansweredWithAnOwnerThatIsDestroyedUnderThem) {
+  CMenu menu;
+  menu.AppendMenu(MF_STRING, 10, L"Open");
+  CString folder;
+  UINT checked = 1;
+  const std::pair<const char*, std::function<int(CWnd&)>> boxes[] = {
+      {"message",
+       [&](CWnd& owner) {
+         return ShowMessageBox({&owner, L"?", L"", MB_YESNOCANCEL, L"Again", &checked, {}});
+       }},
+      {"menu", [&](CWnd& owner) { return menu.TrackPopupMenu(TPM_RETURNCMD, 5, 5, &owner); }},
+      {"file",
+       [](CWnd& owner) {
+         return CFileDialog(TRUE, nullptr, nullptr, 0, nullptr, &owner).DoModal() == IDCANCEL ? 0 : -1;
+       }},
+      {"folder", [&](CWnd& owner) { return coregui::ChooseFolder(folder, L"", &owner) ? -1 : 0; }},
+      {"edit's menu", [](CWnd& owner) {
+         CEdit edit;
+         edit.Create(kChild, PlaceAt(0), &owner, 7);
+         edit.SendMessage(WM_CONTEXTMENU, 0, -1);
+         return 0;
+       }}};
+  for (const auto& [name, show] : boxes) {
+    SCOPED_TRACE(name);
+    ControlHost owner;
+    bool shown = false;
+    QTimer::singleShot(0, [&] {
+      shown = QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr;
+      owner.DestroyWindow();
+    });
+    EXPECT_EQ(show(owner), 0);
+    EXPECT_TRUE(shown);
+  }
+  EXPECT_EQ(checked, 1U);
 }
 
 TEST(RegisteredMessages, AreTheSameForTheSameName) {
