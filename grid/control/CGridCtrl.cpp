@@ -18,6 +18,9 @@ CGridCtrl::CGridCtrl() : m_rooms(std::make_unique<coregui::CGridRooms>(*this)) {
 }
 
 CGridCtrl::~CGridCtrl() {
+  // A derived control's source, fonts, pens and styles are gone already: losing the focus must not paint with
+  // them.
+  CGridCtrl::SetPaintMode(0);
   CGridCtrl::DestroyWindow();
 }
 

@@ -128,7 +128,8 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
 
   // --- Data sources
 
-  /// Registers a source (borrowed: it must outlive the grid or its registration); its index, -1 when refused.
+  /// Registers a source (borrowed until it is removed or the control is destroyed: a member of the derived
+  /// control may be one); its index, -1 when refused.
   int AddDataSource(CGridDataSource* source);
   /// The sheet's default source, for every column. 0 is the sheet's own memory.
   int SetDefDataSource(int index);

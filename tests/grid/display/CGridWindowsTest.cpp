@@ -1,11 +1,15 @@
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #include "grid/control/CGridInfo.h"
+#include "grid/data/CGridMem.h"
 #include "grid/display/CGrid.h"
 #include "grid/display/CGridScrollBar.h"
 #include "grid/display/CGridTab.h"
 #include "platform/CDC.h"
 #include "platform/CScrollBar.h"
+#include "platform/CWinApp.h"
 #include "tests/grid/GridPicture.h"
 #include "tests/support/Hand.h"
 
@@ -59,6 +63,33 @@ CRect PlaceOf(const CWnd& grid, const CWnd* part) {
 }
 
 }  // namespace
+
+TEST(CGridCtrl, AShownControlGoesWithoutAskingTheSourceOfItsDerivedClass) {
+  struct Source : CGridMem {
+    int GetCell(int col, long row, CGridCell* cell) override {
+      EXPECT_FALSE(gone) << col << "," << row;
+      return CGridMem::GetCell(col, row, cell);
+    }
+    bool gone = false;
+  } source;  // outlives the control, so that it can tell
+  class Derived : public CGridCtrl {
+   public:
+    explicit Derived(Source& cells) : m_cells(cells) { SetDefDataSource(AddDataSource(&cells)); }
+    ~Derived() override { m_cells.gone = true; }
+
+   private:
+    Source& m_cells;
+  };
+  CWnd frame;
+  frame.Create(L"", L"frame", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 300, 200), nullptr, 0);
+  auto grid = std::make_unique<Derived>(source);
+  grid->CreateGrid(WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &frame, 1);
+  grid->SetNumberCols(3);
+  grid->SetNumberRows(5);
+  grid->GetGridWnd()->SetFocus();
+  CWinApp::PumpPending();
+  grid.reset();
+}
 
 TEST(CGridCtrl, CreatingSetsUpOnceAndLaysThePartsOut) {
   WindowedGrid grid;
