@@ -115,10 +115,11 @@ class SurfaceWidget : public QWidget {
     }
   }
 
-  /// The toolkit has made memory for the picture of the whole window, and is to fill it with this paint.
+  /// The toolkit has made memory for the picture of a whole window, which its widgets are to fill one by one.
   void ExpectPicture(const QImage& picture) {
+    static qint64 last = 0;
     const qint64 number = picture.cacheKey() >> 32;
-    if (std::exchange(m_picture, number) == number) return;
+    if (std::exchange(m_picture, number) == number || std::exchange(last, number) == number) return;
     ExpectFill(picture.constBits(), static_cast<std::size_t>(picture.sizeInBytes()));
   }
 
