@@ -125,8 +125,8 @@ int CGridMem::FindNext(CString* text, int* col, long* row, int flags) {
   const long numberRows = owner != nullptr ? owner->GetNumberRows() : static_cast<long>(m_store->EndRow());
   int foundCol = *col;
   long foundRow = *row;
-  if (!coregui::CellFinder(*m_store, *text, flags, numberCols, numberRows).FindNext(foundCol, foundRow))
-    return 1;
+  coregui::CellFinder finder(*m_store, *text, flags, numberCols, numberRows);
+  if (!finder.FindNext(foundCol, foundRow, coregui::WorkWatch(m_watch))) return 1;
   *col = foundCol;
   *row = foundRow;
   return 0;
@@ -134,8 +134,8 @@ int CGridMem::FindNext(CString* text, int* col, long* row, int flags) {
 
 int CGridMem::SortBy(int* cols, int count, int flags) {
   if (m_store->IsEmpty() || m_store->EndRow() <= 0) return 1;
-  coregui::RowSorter(*m_store, GetOwner(), flags).Sort({cols, cols + std::max(count, 0)});
-  return 0;
+  coregui::RowSorter sorter(*m_store, GetOwner(), flags, coregui::WorkWatch(m_watch));
+  return sorter.Sort({cols, cols + std::max(count, 0)}) ? 0 : 1;
 }
 
 int CGridMem::SortBy(int col, int flags) {

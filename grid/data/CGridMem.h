@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "grid/data/CGridDataSource.h"
@@ -56,9 +57,16 @@ class COREGUI_API CGridMem : public CGridDataSource {
   int SortBy(int* cols, int count, int flags) override;
   int SortBy(int col, int flags) override;
 
+  /// Asked every few milliseconds while a search or a sort runs, on the thread that runs it, with the part
+  /// that is done, from 0 to 1. False gives up: a search finds nothing, a sort leaves the rows as they are,
+  /// and both answer 1. It may read cells, and must not change them. Null, as at first: nobody is asked.
+  using Watch = std::function<bool(double part)>;
+  void SetWatch(Watch watch) { m_watch = std::move(watch); }
+
   /// Whether the structure is sound; tests ask after each step.
   bool Check() const;
 
  private:
   std::unique_ptr<coregui::CellStore> m_store;
+  Watch m_watch;
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "grid/data/CGridDataSource.h"
 #include "platform/Locale.h"
@@ -93,6 +94,16 @@ bool CellFinder::ScanLeaf(RowLeaf& leaf, int from, int to, std::int64_t start, i
   return false;
 }
 
+/// Asks the watch now and then.
+bool CellFinder::GoesOnAfter(const RowLeaf& leaf) {
+  constexpr std::size_t MANY = 16384;
+  m_rowsDone += leaf.count;
+  m_cellsUnasked += leaf.HasPositions() ? static_cast<std::size_t>(leaf.count) * m_columns.size() : 0;
+  if (m_cellsUnasked < MANY) return true;
+  m_cellsUnasked = 0;
+  return m_watch.GoesOn(std::min(static_cast<double>(m_rowsDone) / static_cast<double>(m_numberRows), 1.0));
+}
+
 /// Rows `first`, `first` + step …, of which those in the store are looked at.
 bool CellFinder::ScanRows(std::int64_t first, std::int64_t count, int& col, long& row) {
   const std::int64_t last = first + (count - 1) * m_step;
@@ -109,6 +120,7 @@ bool CellFinder::ScanRows(std::int64_t first, std::int64_t count, int& col, long
       const int bottom = static_cast<int>(std::min<std::int64_t>(high - start, leaf->count - 1));
       if (ScanLeaf(*leaf, m_step > 0 ? top : bottom, m_step > 0 ? bottom : top, start, col, row)) return true;
     }
+    if (!GoesOnAfter(*leaf)) return false;
     if (m_step > 0) start += leaf->count;
     leaf = m_step > 0 ? leaf->next : leaf->previous;
     if (m_step < 0 && leaf != nullptr) start -= leaf->count;
@@ -127,7 +139,8 @@ bool CellFinder::FinishRow(int& col, long row) {
   return leaf->HasPositions() && ScanRow(*leaf, static_cast<int>(inLeaf), col);
 }
 
-bool CellFinder::FindNext(int& col, long& row) {
+bool CellFinder::FindNext(int& col, long& row, WorkWatch watch) {
+  m_watch = std::move(watch);
   if (m_numberRows < 1 || (m_allColumns && m_numberCols < 1)) return false;
   if (m_allColumns) {
     if (FinishRow(col, row)) return true;
@@ -136,7 +149,7 @@ bool CellFinder::FindNext(int& col, long& row) {
     ListColumns(col, col);
   }
   std::int64_t next = row + m_step;
-  for (std::int64_t moves = m_numberRows + 1; moves > 0;) {
+  for (std::int64_t moves = m_numberRows + 1; moves > 0 && m_watch.GoesOn();) {
     if (m_step > 0 && next > m_numberRows - 1) next = 0;
     if (m_step < 0 && next < 0) next = m_numberRows - 1;
     const std::int64_t count = std::min(moves, m_step > 0 ? m_numberRows - next : next + 1);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "grid/data/CellStore.h"
+#include "grid/data/WorkWatch.h"
 
 namespace coregui {
 
@@ -16,8 +17,8 @@ class CellFinder {
   /// and rows.
   CellFinder(CellStore& store, const CString& text, int flags, int numberCols, long numberRows);
   /// Searches on from the cell after (`col`, `row`), around the end, for at most one row more than there are.
-  /// On a match `col` and `row` receive it.
-  bool FindNext(int& col, long& row);
+  /// On a match `col` and `row` receive it. False too when `watch` gives up.
+  bool FindNext(int& col, long& row, WorkWatch watch = WorkWatch());
 
  private:
   struct Column {
@@ -25,6 +26,7 @@ class CellFinder {
     int storage;
   };
   bool ScanRows(std::int64_t first, std::int64_t count, int& col, long& row);
+  bool GoesOnAfter(const RowLeaf& leaf);
   bool ScanLeaf(RowLeaf& leaf, int from, int to, std::int64_t start, int& col, long& row);
   bool ScanRow(RowLeaf& leaf, int inLeaf, int& col) const;
   bool FinishRow(int& col, long row);
@@ -46,6 +48,9 @@ class CellFinder {
   std::array<wchar_t, 256> m_fold{};  // what the first 256 characters compare as
   std::vector<Column> m_columns;      // to look at in a row, in the order of the search
   mutable CellText m_scratch;
+  WorkWatch m_watch;
+  std::int64_t m_rowsDone = 0;
+  std::size_t m_cellsUnasked = 0;  // looked at since the watch was asked last
 };
 
 }  // namespace coregui

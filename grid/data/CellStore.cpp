@@ -236,10 +236,14 @@ bool CellStore::LastPosition(std::int64_t row, int& col) {
   return true;
 }
 
-void CellStore::Rebuild(RowTree&& rows) {
-  for (RowLeaf* leaf = m_rows.First(); leaf != nullptr; leaf = leaf->next) {
+void CellStore::Discard(RowTree& rows) {
+  for (RowLeaf* leaf = rows.First(); leaf != nullptr; leaf = leaf->next) {
     for (ColumnChunk& chunk : leaf->columns) chunk.Clear(m_pool);
   }
+}
+
+void CellStore::Rebuild(RowTree&& rows) {
+  Discard(m_rows);
   m_rows = std::move(rows);
   ForgetPlace();
 }

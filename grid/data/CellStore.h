@@ -52,6 +52,8 @@ class CellStore {
   /// Puts the rows in the order of `rows`, which names each row that has positions once; runs without
   /// positions go as one.
   void Rebuild(RowTree&& rows);
+  /// Gives back what the rows of a tree that was to replace these took; their cells stay those of this store.
+  void Discard(RowTree& rows);
   bool Check() const;
 
  private:

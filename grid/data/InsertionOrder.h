@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "grid/data/WorkWatch.h"
+
 namespace coregui {
 
 /// A sequence that grows by insertion anywhere, in blocks, so that an insertion moves little and steps are
@@ -46,9 +48,10 @@ class InsertionOrder {
  public:
   explicit InsertionOrder(Compare& compare) : m_compare(compare) {}
 
-  /// The order of the rows 0 to count - 1.
-  std::vector<std::uint32_t> Sort(std::uint32_t count) {
-    for (std::uint32_t row = 0; row < count; ++row) {
+  /// The order of the rows 0 to count - 1; no order of all when `watch` gives up.
+  std::vector<std::uint32_t> Sort(std::uint32_t count, WorkWatch& watch) {
+    for (std::uint32_t row = 0; row < count && watch.GoesOn(); ++row) {
+      if (row % ROWS_UNASKED == 0) watch.GoesOn(static_cast<double>(row) / count);
       m_compare.Take(row);
       if (row == 0) {
         Place none;
@@ -65,6 +68,7 @@ class InsertionOrder {
  private:
   static constexpr std::size_t LEAP = 100;
   static constexpr int PATIENCE = 2;
+  static constexpr std::uint32_t ROWS_UNASKED = 16;
   using Place = BlockSequence::Place;
 
   Place ChooseStart() {

@@ -157,8 +157,11 @@ void RankInsertion::InsertMany(std::uint32_t row, std::uint32_t count) {
   }
 }
 
-std::vector<RankedRows> RankInsertion::Sort(const std::vector<RankedRows>& rows) {
-  for (const RankedRows& next : rows) {
+std::vector<RankedRows> RankInsertion::Sort(const std::vector<RankedRows>& rows, WorkWatch& watch) {
+  constexpr std::size_t unasked = 1024;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    if (i % unasked == 0 && !watch.GoesOn(static_cast<double>(i) / static_cast<double>(rows.size()))) break;
+    const RankedRows& next = rows[i];
     m_compare.Take(next.row);
     m_ranks.GetLimits(next.row, m_limits);
     m_ranks.GetRanks(next.row, m_own);

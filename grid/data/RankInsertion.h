@@ -7,6 +7,7 @@
 #include "grid/data/KeyCompare.h"
 #include "grid/data/RankTree.h"
 #include "grid/data/SortRanks.h"
+#include "grid/data/WorkWatch.h"
 
 namespace coregui {
 
@@ -21,8 +22,9 @@ class RankInsertion {
  public:
   /// `ranks` are exact; `compare` compares the same rows. Both borrowed.
   RankInsertion(const SortRanks& ranks, KeyCompare& compare);
-  /// The order of these rows. Those that are counted have no keys, and have one name together.
-  std::vector<RankedRows> Sort(const std::vector<RankedRows>& rows);
+  /// The order of these rows. Those that are counted have no keys, and have one name together. Not all of
+  /// them when `watch` gives up.
+  std::vector<RankedRows> Sort(const std::vector<RankedRows>& rows, WorkWatch& watch);
 
  private:
   static constexpr std::uint32_t LEAP = 100;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <numeric>
 #include <unordered_map>
 
@@ -146,7 +147,7 @@ std::vector<std::uint32_t> RowSorter::OrderByRanks(const SortRanks& ranks, KeyCo
   }
   std::vector<std::uint32_t> order;
   order.reserve(count);
-  for (const RankedRows& sorted : RankInsertion(ranks, compare).Sort(rows)) {
+  for (const RankedRows& sorted : RankInsertion(ranks, compare).Sort(rows, m_watch)) {
     if (sorted.row != run) {
       order.push_back(sorted.row);
       continue;
@@ -158,10 +159,15 @@ std::vector<std::uint32_t> RowSorter::OrderByRanks(const SortRanks& ranks, KeyCo
 }
 
 /// By a comparison that the owner calls consistent: the rows of a run are equal and stay together.
-std::vector<std::uint32_t> RowSorter::OrderByOwner(std::vector<KeyCells>&& keys) const {
+std::vector<std::uint32_t> RowSorter::OrderByOwner(std::vector<KeyCells>&& keys) {
   std::vector<std::uint32_t> order = InStoredOrder(Count());
   OwnerCompare compare(m_store.Codec(), *m_owner, m_flags, std::move(keys));
-  std::stable_sort(order.begin(), order.end(), [&compare](std::uint32_t a, std::uint32_t b) {
+  const double expected = static_cast<double>(Count()) * std::log2(static_cast<double>(Count()) + 2.0);
+  std::size_t compared = 0;
+  std::stable_sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
+    constexpr std::size_t unasked = 1024;
+    if (++compared % unasked == 0) m_watch.GoesOn(std::min(static_cast<double>(compared) / expected, 1.0));
+    if (!m_watch.GoesOn()) return false;  // the sorting ends soon, with an order that nobody uses
     compare.Take(a);
     return compare.All(b) < 0;
   });
@@ -175,11 +181,11 @@ std::vector<std::uint32_t> RowSorter::OrderStepByStep(const std::vector<int>& co
   std::vector<KeyCells> cells = ReadKeys(cols);
   if (m_owner != nullptr && m_owner->GetSortOrder() == SortOrder::unknown) {
     OwnerCompare compare(m_store.Codec(), *m_owner, m_flags, std::move(cells));
-    return InsertionOrder(compare).Sort(count);
+    return InsertionOrder(compare).Sort(count, m_watch);
   }
   const std::vector<KeyColumn> keys = MakeSortKeys(m_store.Codec(), cells);
   KeyCompare compare(keys, IsDescending());
-  return InsertionOrder(compare).Sort(count);
+  return InsertionOrder(compare).Sort(count, m_watch);
 }
 
 std::vector<std::uint32_t> RowSorter::Order(const std::vector<int>& cols) {
@@ -190,7 +196,9 @@ std::vector<std::uint32_t> RowSorter::Order(const std::vector<int>& cols) {
   if (known == SortOrder::consistent) return OrderByOwner(std::move(cells));
   const auto isConsistent = [&codec](const KeyCells& column) { return IsConsistent(codec, column); };
   if (std::all_of(cells.begin(), cells.end(), isConsistent)) {
-    return OrderByColumns(codec, cells, IsDescending());
+    m_ordered = 0.4;
+    m_watch.BeginPhase(0.0, m_ordered);
+    return m_watch.GoesOn(0.5) ? OrderByColumns(codec, cells, IsDescending()) : InStoredOrder(0);
   }
   const std::vector<KeyColumn> keys = MakeSortKeys(codec, cells);
   const SortRanks ranks(keys, IsDescending());
@@ -199,14 +207,17 @@ std::vector<std::uint32_t> RowSorter::Order(const std::vector<int>& cols) {
   return OrderByRanks(ranks, compare);
 }
 
-void RowSorter::Sort(const std::vector<int>& cols) {
-  if (cols.empty()) return;
+bool RowSorter::Sort(const std::vector<int>& cols) {
+  if (cols.empty()) return true;
+  m_watch.BeginPhase(0.0, m_ordered);
   Gather();
   std::vector<std::uint32_t> order = InStoredOrder(m_fixed);
   const std::vector<std::uint32_t> sorted = Order(cols);
+  m_watch.BeginPhase(m_ordered, 1.0);
+  if (!m_watch.GoesOn(0.0)) return false;
   order.reserve(m_fixed + sorted.size());
   for (const std::uint32_t row : sorted) order.push_back(row + static_cast<std::uint32_t>(m_fixed));
-  Rebuild(order);
+  return Rebuild(order);
 }
 
 std::vector<RowLeaf*> RowSorter::BuildLeaves(const std::vector<std::uint32_t>& order, RowTree& rows) const {
@@ -244,8 +255,9 @@ std::vector<RowLeaf*> RowSorter::BuildLeaves(const std::vector<std::uint32_t>& o
   return leaves;
 }
 
-void RowSorter::FillColumn(int storage, const std::vector<std::uint32_t>& order,
-                           const std::vector<RowLeaf*>& leaves) const {
+/// False when the watch gave up.
+bool RowSorter::FillColumn(int storage, const std::vector<std::uint32_t>& order,
+                           const std::vector<RowLeaf*>& leaves) {
   std::vector<CellSlot> cells(m_items.size());
   bool any = false;
   for (std::size_t i = 0; i < m_items.size(); ++i) {
@@ -253,10 +265,14 @@ void RowSorter::FillColumn(int storage, const std::vector<std::uint32_t>& order,
     if (item.run == 0) cells[i] = item.leaf->FindCell(storage, item.row);
     any = any || cells[i].Exists();
   }
-  if (!any) return;
+  if (!any) return true;
   std::array<CellSlot, RowLeaf::ROWS> rows;
   auto at = order.begin();
-  for (RowLeaf* const leaf : leaves) {
+  for (std::size_t i = 0; i < leaves.size(); ++i) {
+    constexpr std::size_t unasked = 1024;
+    if (i % unasked == 0 && !m_watch.GoesOn(static_cast<double>(i) / static_cast<double>(leaves.size())))
+      return false;
+    RowLeaf* const leaf = leaves[i];
     const auto count = static_cast<std::size_t>(leaf->count);
     bool stored = false;
     for (std::size_t row = 0; row < count; ++at) {
@@ -267,14 +283,24 @@ void RowSorter::FillColumn(int storage, const std::vector<std::uint32_t>& order,
     }
     if (stored) leaf->FindOrAdd(storage).Fill({rows.data(), count}, leaf->pool);
   }
+  return true;
 }
 
-void RowSorter::Rebuild(const std::vector<std::uint32_t>& order) {
+/// False when the watch gave up: the store keeps its rows then.
+bool RowSorter::Rebuild(const std::vector<std::uint32_t>& order) {
   RowTree rows(m_store.Pool());
   const std::vector<RowLeaf*> leaves = BuildLeaves(order, rows);
-  for (int storage = 0; storage < m_store.Columns().StorageCount(); ++storage)
-    FillColumn(storage, order, leaves);
+  const int columns = m_store.Columns().StorageCount();
+  const double share = (1.0 - m_ordered) / std::max(columns, 1);
+  for (int storage = 0; storage < columns; ++storage) {
+    m_watch.BeginPhase(m_ordered + share * storage, m_ordered + share * (storage + 1));
+    if (!FillColumn(storage, order, leaves)) {
+      m_store.Discard(rows);
+      return false;
+    }
+  }
   m_store.Rebuild(std::move(rows));
+  return true;
 }
 
 }  // namespace coregui

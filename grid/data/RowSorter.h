@@ -1,12 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 #include "grid/data/CGridSourceOwner.h"
 #include "grid/data/CellStore.h"
 #include "grid/data/KeyCompare.h"
 #include "grid/data/SortRanks.h"
+#include "grid/data/WorkWatch.h"
 
 namespace coregui {
 
@@ -14,9 +16,10 @@ namespace coregui {
 class RowSorter {
  public:
   /// `owner` compares; null for the standard comparison.
-  RowSorter(CellStore& store, CGridSourceOwner* owner, int flags)
-      : m_store(store), m_owner(owner), m_flags(flags) {}
-  void Sort(const std::vector<int>& cols);
+  RowSorter(CellStore& store, CGridSourceOwner* owner, int flags, WorkWatch watch)
+      : m_store(store), m_owner(owner), m_flags(flags), m_watch(std::move(watch)) {}
+  /// False when the watch gave up; the rows are as they were then.
+  bool Sort(const std::vector<int>& cols);
 
  private:
   /// A row to move, or a run of rows without positions, which stay together.
@@ -31,20 +34,21 @@ class RowSorter {
   void OpenRuns();
   std::vector<std::uint32_t> Order(const std::vector<int>& cols);
   std::vector<std::uint32_t> OrderByRanks(const SortRanks& ranks, KeyCompare& compare);
-  std::vector<std::uint32_t> OrderByOwner(std::vector<KeyCells>&& keys) const;
+  std::vector<std::uint32_t> OrderByOwner(std::vector<KeyCells>&& keys);
   std::vector<std::uint32_t> OrderStepByStep(const std::vector<int>& cols);
   std::vector<KeyCells> ReadKeys(const std::vector<int>& cols) const;
   bool IsDescending() const { return (m_flags & SORT_DESCENDING) != 0; }
   std::size_t Count() const { return m_items.size() - m_fixed; }
   KeyCells ReadKey(int col) const;
-  void Rebuild(const std::vector<std::uint32_t>& order);
+  bool Rebuild(const std::vector<std::uint32_t>& order);
   std::vector<RowLeaf*> BuildLeaves(const std::vector<std::uint32_t>& order, RowTree& rows) const;
-  void FillColumn(int storage, const std::vector<std::uint32_t>& order,
-                  const std::vector<RowLeaf*>& leaves) const;
+  bool FillColumn(int storage, const std::vector<std::uint32_t>& order, const std::vector<RowLeaf*>& leaves);
 
   CellStore& m_store;  // borrowed
   CGridSourceOwner* m_owner;
   int m_flags;
+  WorkWatch m_watch;
+  double m_ordered = 0.95;  // about the part of the work that finding the order is
   std::vector<Item> m_items;
   bool m_hasRuns = false;
   std::size_t m_fixed = 0;  // the first items, rows before row 0, stay where they are

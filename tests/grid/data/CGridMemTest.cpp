@@ -5,6 +5,7 @@
 #include <cstring>
 #include <limits>
 #include <random>
+#include <utility>
 
 #include "grid/data/CGridCell.h"
 #include "tests/grid/data/DataSourceContract.h"
@@ -229,6 +230,35 @@ TEST(CGridMem, FindsWhatTheWordedSearchFindsInRandomTables) {
       ASSERT_EQ(wanted == 0 ? wantedRow : rowBefore, row);
       ASSERT_EQ(upper, text);
     }
+  }
+}
+
+TEST(CGridMem, ASearchEndsWhenWhoeverWatchesItGivesUp) {
+  CGridMem store;
+  CGridCell cell;
+  for (long row = 0; row < 60000; ++row) {
+    cell.SetNumber(static_cast<double>(row));
+    store.SetCell(0, row, &cell);
+  }
+  for (const int flags : {0, FIND_UP, FIND_ALLCOLS | FIND_PARTIAL | FIND_NOCASE}) {
+    CString text = L"30,123";
+    int patience = 0;
+    for (int result = 1; result != 0; ++patience) {
+      ASSERT_LT(patience, 10);
+      int asked = 0;
+      double reached = 0.0;
+      store.SetWatch([&](double part) {
+        EXPECT_GT(part, std::exchange(reached, part));
+        return asked++ < patience;
+      });
+      int col = 0;
+      long row = 7;
+      result = store.FindNext(&text, &col, &row, flags);
+      EXPECT_EQ(result, asked > patience ? 1 : 0);
+      EXPECT_EQ(row, result == 0 ? 30123 : 7);
+      EXPECT_LT(reached, 0.7);
+    }
+    EXPECT_GT(patience, 1) << flags;
   }
 }
 

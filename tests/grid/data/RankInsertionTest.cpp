@@ -77,8 +77,9 @@ TEST(RankInsertion, GivesTheOrderThatTheStepsGive) {
           ASSERT_TRUE(ranks.AreExact());
           std::vector<coregui::RankedRows> plain(rows);
           for (std::uint32_t row = 0; row < rows; ++row) plain[row].row = row;
-          ASSERT_EQ(coregui::InsertionOrder(compare).Sort(rows),
-                    OneByOne(coregui::RankInsertion(ranks, compare).Sort(plain)))
+          coregui::WorkWatch watch;
+          ASSERT_EQ(coregui::InsertionOrder(compare).Sort(rows, watch),
+                    OneByOne(coregui::RankInsertion(ranks, compare).Sort(plain, watch)))
               << mix.name << ", " << columns << " keys, " << rows << " rows" << (descending ? ", down" : "");
         }
       }
@@ -97,12 +98,14 @@ void ExpectOrderOfSteps(const std::vector<KeyColumn>& keys, const std::vector<co
       single[key].insert(single[key].end(), count, keys[key][row]);
   }
   coregui::KeyCompare steps(single, descending);
+  coregui::WorkWatch watch;
   std::vector<std::uint32_t> wanted =
-      coregui::InsertionOrder(steps).Sort(static_cast<std::uint32_t>(names.size()));
+      coregui::InsertionOrder(steps).Sort(static_cast<std::uint32_t>(names.size()), watch);
   for (std::uint32_t& row : wanted) row = names[row];
   coregui::KeyCompare compare(keys, descending);
   const coregui::SortRanks ranks(keys, descending);
-  ASSERT_EQ(wanted, OneByOne(coregui::RankInsertion(ranks, compare).Sort(counted))) << "round " << round;
+  ASSERT_EQ(wanted, OneByOne(coregui::RankInsertion(ranks, compare).Sort(counted, watch)))
+      << "round " << round;
 }
 
 TEST(RankInsertion, GivesRunsOfEmptyRowsThePlacesThatTheStepsGive) {
