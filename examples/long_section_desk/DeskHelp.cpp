@@ -7,7 +7,7 @@ const wchar_t* HelpText() {
          L"\n"
          L"Ctrl+O  open,   F5  read again,   Ctrl+Shift+S  save a copy\n"
          L"Ctrl+P  print to PDF,   Ctrl+Q  quit\n"
-         L"Tab, F6  the next pane,   Esc  stops reading\n"
+         L"Tab, F6  the next pane,   Esc  stops what takes a while\n"
          L"\n"
          L"Table\n"
          L"Ctrl+F  find,   F3, Shift+F3  again and back\n"

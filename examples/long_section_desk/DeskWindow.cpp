@@ -193,7 +193,13 @@ LRESULT DeskWindow::HandleCommand(WPARAM wParam, LPARAM /*lParam*/) {
 }
 
 LRESULT DeskWindow::HandleFind(WPARAM /*wParam*/, LPARAM lParam) {
-  if (m_finder.TakeFromDialog(lParam) && !m_working) {
+  const TableFinder::Wanted before = m_finder.What();
+  const bool find = m_finder.TakeFromDialog(lParam);
+  if (m_searching) {
+    // Another text is looked for at once; without the dialog nothing is looked for any more.
+    m_findAfter = find && (m_findAfter || m_finder.What() != before);
+    m_stop = m_stop || m_findAfter || !find;
+  } else if (find && !m_working) {
     FindAgain(false);
   }
   return 0;

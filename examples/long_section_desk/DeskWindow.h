@@ -90,11 +90,18 @@ class DeskWindow : public CWnd, private SurveySink {
   void Row(std::uint64_t row, const std::vector<std::wstring_view>& fields) override;
   bool Progress(double part) override;
   SectionData Read(const std::wstring& path);
-  /// What a thread does; it looks now and then whether it is to stop.
-  using Work = std::function<void(const std::atomic<bool>& stop)>;
+  /// What the window and a thread that works beside it tell each other.
+  struct Beside {
+    std::atomic<bool> stop = false;   ///< the work is to stop
+    std::atomic<bool> close = false;  ///< and the window to close after it
+    std::atomic<int> percent = -1;    ///< that are done; -1 when nobody knows
+  };
+  using Work = std::function<void(Beside& beside)>;
   class AtWork;
   bool TakesAWhile(long rows) const;
-  void WorkBeside(const std::wstring& what, long rows, const Work& work);
+  void WorkBeside(const std::wstring& what, const std::wstring& escape, long rows, const Work& work);
+  bool SortCells(CGridMem& cells, int column, bool downwards);
+  void TakeSortedSection(CGridMem& cells);
   void EnablePanes(bool on);
   void Tell(const std::wstring& text);
   void ShowTitle();
@@ -122,6 +129,8 @@ class DeskWindow : public CWnd, private SurveySink {
   void FindOn() { FindAgain(false); }
   void FindBack() { FindAgain(true); }
   void FindAgain(bool back);
+  class Searching;
+  void TellFound(TableFinder::Result result);
   void AskChainage();
   void Fit() { m_section.Redraw(); }
   void LookBack() { Look(true); }
@@ -170,6 +179,8 @@ class DeskWindow : public CWnd, private SurveySink {
   bool m_working = false;     ///< something takes a while, with the windows kept alive
   bool m_stop = false;        ///< that is to stop
   bool m_closeAfter = false;  ///< and the window to close
+  bool m_searching = false;   ///< what takes a while is a search
+  bool m_findAfter = false;   ///< it is to stop for another one
 };
 
 }  // namespace desk

@@ -124,38 +124,6 @@ void DeskWindow::PrintWithDialog() {
   }
 }
 
-void DeskWindow::Find(const CString& text) {
-  m_finder.SetText(text);
-  FindAgain(false);
-}
-
-void DeskWindow::FindAgain(bool back) {
-  const auto search = [this, back] {
-    const WaitCursor wait;  // a number may stand in any of millions of cells
-    return m_finder.FindAgain(back);
-  };
-  switch (search()) {
-    case TableFinder::Result::nothingToFind:
-      FindWithDialog();
-      break;
-    case TableFinder::Result::notFound: {
-      const std::wstring text = L"\"" + m_finder.Text().Str() + L"\" is not in the table.";
-      m_status.Show(text, true);
-      if (!m_unattended) {
-        InfoMessage(text.c_str(), m_finder.Dialog() != nullptr && m_finder.Dialog()->HasWindow()
-                                      ? m_finder.Dialog()
-                                      : this);
-      }
-      break;
-    }
-    case TableFinder::Result::foundFromOtherEnd:
-      m_status.Show(L"The search went on at the other end of the table.");
-      break;
-    case TableFinder::Result::found:
-      break;
-  }
-}
-
 void DeskWindow::AskChainage() {
   const std::vector<PNT_2D_record>& points = m_data.ground.GetPoints();
   const long now = m_data.PointOfRow(m_grid.GetCurrentRow());

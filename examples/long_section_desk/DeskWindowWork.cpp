@@ -106,8 +106,8 @@ SectionData DeskWindow::Read(const std::wstring& path) {
     const auto rows = static_cast<long>(m_report.rows);
     m_stop = false;  // Esc has had the reading stopped; what was read is shown
     // Of millions of rows the section takes a while, even of what was gathered.
-    WorkBeside(L"Showing " + m_report.RowsText() + L" of " + m_opening + L" (Esc leaves out the section)",
-               rows, [&](const std::atomic<bool>& stop) { data = m_maker.Make(rows, stop); });
+    WorkBeside(L"Showing " + m_report.RowsText() + L" of " + m_opening, L" (Esc leaves out the section)",
+               rows, [&](const Beside& beside) { data = m_maker.Make(rows, beside.stop); });
   }
   return data;
 }
@@ -118,50 +118,83 @@ bool DeskWindow::TakesAWhile(long rows) const {
 }
 
 /// Does work on the rows of a table. Of many rows it takes a while: a thread does it, and the windows are
-/// kept alive until it is done; the desk shows that it is at work. Nothing else may touch what it works on.
-void DeskWindow::WorkBeside(const std::wstring& what, long rows, const Work& work) {
+/// kept alive until it is done; the status line says `what` is done, how far it is, and what the key `escape`
+/// does. Nothing else may touch what it works on.
+void DeskWindow::WorkBeside(const std::wstring& what, const std::wstring& escape, long rows,
+                            const Work& work) {
   constexpr std::chrono::milliseconds shortly(5);
-  std::atomic<bool> stop = false;
+  Beside beside;
   if (!TakesAWhile(rows)) {
-    work(stop);
+    work(beside);
     return;
   }
-  m_status.Show(what);
-  auto working = std::async(std::launch::async, [&work, &stop] { work(stop); });
-  do {
+  m_status.Show(what + escape);
+  int shown = -1;
+  const auto live = [&] {
     m_stop = !CWinApp::PumpPending() || m_stop;  // lets Esc and the close button stop it
-    stop = m_stop;
-  } while (working.wait_for(shortly) != std::future_status::ready);
+    beside.stop = m_stop;
+    beside.close = m_closeAfter;
+    if (const int percent = beside.percent; percent != std::exchange(shown, percent)) {
+      m_status.Show(what + L", " + std::to_wstring(percent) + L" %" + escape);
+    }
+  };
+  live();
+  auto working = std::async(std::launch::async, [&work, &beside] { work(beside); });
+  while (working.wait_for(shortly) != std::future_status::ready) {
+    live();
+  }
   working.get();
+}
+
+/// False when it was stopped; the rows are as they were then.
+bool DeskWindow::SortCells(CGridMem& cells, int column, bool downwards) {
+  bool stopped = false;
+  WorkBeside(L"Sorting by " + m_grid.Dialect().headings[static_cast<std::size_t>(column)], L" (Esc stops)",
+             m_grid.GetNumberRows(), [&](Beside& beside) {
+               cells.SetWatch([&](double part) {
+                 beside.percent = static_cast<int>(part * 100.0);
+                 stopped = beside.stop;
+                 return !stopped;
+               });
+               cells.SortBy(column, downwards ? coregui::SORT_DESCENDING : 0);
+               cells.SetWatch(nullptr);
+             });
+  return !stopped;
+}
+
+/// The section of rows in a new order.
+void DeskWindow::TakeSortedSection(CGridMem& cells) {
+  const long rows = m_grid.GetNumberRows();
+  const SectionColumns columns = m_data.columns;
+  SectionData section;
+  WorkBeside(L"Showing the rows in their new order", {}, rows,
+             [&](const Beside& beside) { section = TakeSection(cells, rows, columns, beside.close); });
+  m_disposal.Take(std::exchange(m_data, std::move(section)));
 }
 
 void DeskWindow::Sort(int col, bool downwards) {
   if (m_working) {
     return;
   }
-  const long rows = m_grid.GetNumberRows();
-  const int column = m_grid.GetColTranslation(col);
-  const SectionColumns columns = m_data.columns;
-  const bool hasSection = !m_data.IsEmpty();
-  SectionData section;
   std::optional<AtWork> atWork;
-  if (TakesAWhile(rows)) {
+  if (TakesAWhile(m_grid.GetNumberRows())) {
     atWork.emplace(*this);  // while the table can still paint that it lost the focus
   }
   std::unique_ptr<CGridMem> cells = m_grid.LendCells();
-  WorkBeside(L"Sorting by " + m_grid.Dialect().headings[static_cast<std::size_t>(column)] + L"...", rows,
-             [&](const std::atomic<bool>& /*stop*/) {
-               const std::atomic<bool> never = false;
-               cells->SortBy(column, downwards ? coregui::SORT_DESCENDING : 0);
-               section = hasSection ? TakeSection(*cells, rows, columns, never) : SectionData();
-             });
+  const bool sorted = SortCells(*cells, m_grid.GetColTranslation(col), downwards);
+  const bool hasSection = !m_data.IsEmpty();
+  if (sorted && hasSection) {
+    TakeSortedSection(*cells);
+  }
   m_grid.GiveCells(std::move(cells));
   atWork.reset();
   if (hasSection) {
-    m_disposal.Take(std::exchange(m_data, std::move(section)));
     m_section.Invalidate(FALSE);
     m_difference.Invalidate(FALSE);
     FollowRow(m_grid.GetCurrentRow());
+  }
+  if (!sorted) {
+    m_status.Show(L"The sorting was stopped; the rows are as they were.");
   }
   if (std::exchange(m_closeAfter, false)) {
     PostMessage(WM_CLOSE);

@@ -68,6 +68,12 @@ void SurveyGrid::GiveCells(std::unique_ptr<CGridMem> cells) {
   RedrawAll();
 }
 
+void SurveyGrid::WatchSearch(CGridMem::Watch watch) {
+  if (m_cells != nullptr) {
+    m_cells->SetWatch(std::move(watch));
+  }
+}
+
 std::unique_ptr<CGridMem> SurveyGrid::BeginTable(const CsvDialect& dialect) {
   m_dialect = dialect;
   m_longest.assign(dialect.headings.size(), Longest());

@@ -23,6 +23,8 @@ class SurveyGrid : public CGridCtrl {
   /// Hands out the cells; until GiveCells nothing of the table is painted.
   std::unique_ptr<CGridMem> LendCells();
   void GiveCells(std::unique_ptr<CGridMem> cells);
+  /// Whom a search in the table asks whether it is to go on (CGridMem::SetWatch); null for nobody.
+  void WatchSearch(CGridMem::Watch watch);
   /// Stores one row; rows come in order from 0.
   void StoreRow(std::uint64_t row, const std::vector<std::wstring_view>& fields);
   /// What the row stored last holds: for each column its number, NaN where it is empty or a text.

@@ -41,10 +41,10 @@ void TableFinder::OpenDialog(CWnd* owner) {
     m_dialog->SetActiveWindow();
     return;
   }
-  const DWORD flags =
-      (m_up ? 0U : FR_DOWN) | (m_matchCase ? FR_MATCHCASE : 0U) | (m_wholeCell ? FR_WHOLEWORD : 0U);
+  const DWORD flags = (m_wanted.up ? 0U : FR_DOWN) | (m_wanted.matchCase ? FR_MATCHCASE : 0U) |
+                      (m_wanted.wholeCell ? FR_WHOLEWORD : 0U);
   m_dialog = std::make_unique<CFindReplaceDialog>();
-  m_dialog->Create(TRUE, m_text, L"", flags, owner);
+  m_dialog->Create(TRUE, m_wanted.text, L"", flags, owner);
   m_dialog->SetWholeWordText(L"Match &entire cell text");
   CRect beside;
   CRect dialog;
@@ -80,16 +80,12 @@ void TableFinder::Uncover() {
 
 bool TableFinder::TakeFromDialog(LPARAM lParam) {
   const CFindReplaceDialog* dialog = CFindReplaceDialog::GetNotifier(lParam);
-  m_text = dialog->GetFindString();
-  m_matchCase = dialog->MatchCase() != FALSE;
-  m_wholeCell = dialog->MatchWholeWord() != FALSE;
-  m_up = dialog->SearchDown() == FALSE;
+  m_wanted = {dialog->GetFindString(), dialog->MatchCase() != FALSE, dialog->MatchWholeWord() != FALSE,
+              dialog->SearchDown() == FALSE};
   return dialog->FindNext() != FALSE;
 }
 
-std::optional<TableFinder::Place> TableFinder::Search(const CString& text, const Place& from, bool up) {
-  const int flags =
-      FIND_ALLCOLS | (m_wholeCell ? 0 : FIND_PARTIAL) | (m_matchCase ? 0 : FIND_NOCASE) | (up ? FIND_UP : 0);
+std::optional<TableFinder::Place> TableFinder::Search(const CString& text, const Place& from, int flags) {
   Place found = from;
   CString wanted = text;  // a search that ignores the case changes it
   if (m_grid.FindNext(&wanted, &found.col, &found.row, flags) != 0) {
@@ -98,11 +94,13 @@ std::optional<TableFinder::Place> TableFinder::Search(const CString& text, const
   return found;
 }
 
-TableFinder::Result TableFinder::FindAgain(bool back) {
-  if (m_text.IsEmpty()) {
+TableFinder::Result TableFinder::FindAgain(bool back, const CGridMem::Watch& watch) {
+  if (m_wanted.text.IsEmpty()) {
     return Result::nothingToFind;
   }
-  const bool up = m_up != back;
+  const bool up = m_wanted.up != back;
+  const int flags = FIND_ALLCOLS | (m_wanted.wholeCell ? 0 : FIND_PARTIAL) |
+                    (m_wanted.matchCase ? 0 : FIND_NOCASE) | (up ? FIND_UP : 0);
   const Place from{m_grid.GetCurrentRow(), m_grid.GetCurrentCol()};
   const auto isAhead = [&](const Place& place) { return up ? place < from : from < place; };
   // What comes first: ahead before what is found from the other end, then in the search's direction.
@@ -110,9 +108,19 @@ TableFinder::Result TableFinder::FindAgain(bool back) {
     return isAhead(a) != isAhead(b) ? isAhead(a) : (up ? b < a : a < b);
   };
   std::optional<Place> found;
-  for (const CString& way : WaysToWrite(m_text)) {
-    const std::optional<Place> place = Search(way, from, up);
+  bool goesOn = true;
+  const std::vector<CString> ways = WaysToWrite(m_wanted.text);
+  for (std::size_t way = 0; way < ways.size() && goesOn; ++way) {
+    m_grid.WatchSearch([&](double part) {
+      goesOn = watch((static_cast<double>(way) + part) / static_cast<double>(ways.size()));
+      return goesOn;
+    });
+    const std::optional<Place> place = Search(ways[way], from, flags);
     found = place && (!found || comesFirst(*place, *found)) ? place : found;
+  }
+  m_grid.WatchSearch(nullptr);
+  if (!goesOn) {
+    return Result::givenUp;
   }
   if (!found) {
     return Result::notFound;

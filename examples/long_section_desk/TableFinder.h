@@ -20,6 +20,15 @@ class TableFinder {
     notFound,
     found,
     foundFromOtherEnd,  ///< the search went on at the other end of the table
+    givenUp,
+  };
+  /// What is looked for.
+  struct Wanted {
+    CString text;
+    bool matchCase = false;
+    bool wholeCell = false;
+    bool up = false;
+    bool operator==(const Wanted&) const = default;
   };
 
   explicit TableFinder(SurveyGrid& grid) : m_grid(grid) {}
@@ -30,11 +39,13 @@ class TableFinder {
   void CloseDialog() { m_dialog.reset(); }
   /// Takes over what a message of the dialog says; true when a search is wanted.
   bool TakeFromDialog(LPARAM lParam);
-  /// Searches for the text entered last; `back` turns its direction round.
-  Result FindAgain(bool back);
+  /// Searches for what was entered last; `back` turns its direction round. `watch` is asked every few
+  /// milliseconds, with the part that is done, whether to go on; it may take over what a dialog says.
+  Result FindAgain(bool back, const CGridMem::Watch& watch);
 
-  void SetText(const CString& text) { m_text = text; }
-  const CString& Text() const { return m_text; }
+  void SetText(const CString& text) { m_wanted.text = text; }
+  const CString& Text() const { return m_wanted.text; }
+  const Wanted& What() const { return m_wanted; }
   /// What messages about a search stand in front of: the dialog, or null.
   CWnd* Dialog() const { return m_dialog.get(); }
 
@@ -47,14 +58,11 @@ class TableFinder {
   };
   /// Moves the dialog off the current cell.
   void Uncover();
-  std::optional<Place> Search(const CString& text, const Place& from, bool up);
+  std::optional<Place> Search(const CString& text, const Place& from, int flags);
 
   SurveyGrid& m_grid;
   std::unique_ptr<CFindReplaceDialog> m_dialog;
-  CString m_text;
-  bool m_matchCase = false;
-  bool m_wholeCell = false;
-  bool m_up = false;
+  Wanted m_wanted;
 };
 
 }  // namespace desk

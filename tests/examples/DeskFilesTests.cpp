@@ -89,16 +89,29 @@ TEST_F(DeskFiles, EscAndTheCloseButtonStopTheReading) {
   EXPECT_FALSE(Has("a.lck"));
 }
 
-TEST_F(DeskFiles, TheCloseButtonEndsADeskThatSorts) {
+TEST_F(DeskFiles, EscAndTheCloseButtonEndSortingAndSearching) {
+  const NoWindow none;
   std::string road = "Chainage,Level,Remark\n";
   for (int i = 0; i < 60000; ++i) {
     road += std::to_string(i) + ",1.5," + std::to_string(i * 7919 % 60013) + "p\n";
   }
   ASSERT_TRUE(Open("a.csv", road));
+  window.PostMessage(WM_KEYDOWN, VK_ESCAPE);
+  window.Sort(2, true);
+  EXPECT_EQ(Text(2, 0), L"0p");
+  EXPECT_EQ(window.StatusText(), L"The sorting was stopped; the rows are as they were.");
+  EXPECT_EQ(window.Data().rows.size(), 60000U);
+  window.PostMessage(WM_KEYDOWN, VK_ESCAPE);
+  window.Find(L"55555");
+  EXPECT_EQ(window.Grid().GetCurrentRow(), 0);
+  EXPECT_EQ(window.StatusText(), L"The search was stopped.");
+  window.Sort(2, true);
+  EXPECT_EQ(Text(2, 0), L"9p");
+  window.Find(L"59999");
+  EXPECT_EQ(Text(0, window.Grid().GetCurrentRow()), L"59,999");
   window.PostMessage(WM_CLOSE);
-  window.Sort(2, false);
-  EXPECT_TRUE(window.HasWindow());  // no one pulls the window away from under its own sort
-  EXPECT_EQ(window.Grid().GetNumberRows(), 60000);
+  window.Find(L"nowhere");
+  EXPECT_TRUE(window.HasWindow());  // no one pulls the window away from under its own work
   CWinApp::PumpPending();
   EXPECT_FALSE(window.HasWindow());
 }
