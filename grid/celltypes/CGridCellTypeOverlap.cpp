@@ -50,7 +50,8 @@ bool CGridCellType::DrawSpilledText(CDC* dc, RECT* rect, int col, long row, CGri
   dc->IntersectClipRect(inner);  // a bitmap before the text lies outside
   DrawText(dc, &inner, offset - (inner.left - rect->left), startCol, row, &m_spilling, selected, current);
   dc->RestoreDC(saved);
-  if (CGridDrawHint* const hints = m_control->GetDrawHints(); hints != nullptr) hints->NoteSpill(col, row);
+  if (CGridDrawHint* const hints = m_control->GetDrawHints(); hints != nullptr)
+    hints->NoteDrawnAsOne({startCol, row, col, row});
   return true;
 }
 

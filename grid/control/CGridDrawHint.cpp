@@ -1,6 +1,7 @@
 #include "grid/control/CGridDrawHint.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace {
 
@@ -66,16 +67,38 @@ int CGridDrawHint::GetTotalRange(int* startCol, long* startRow, int* endCol, lon
   return m_invalid.empty() ? 0 : 1;
 }
 
-void CGridDrawHint::NoteSpill(int col, long row) {
-  const auto at = std::lower_bound(m_spills.begin(), m_spills.end(), Cell{row, col});
-  if (at == m_spills.end() || *at != Cell{row, col}) m_spills.insert(at, {row, col});
+void CGridDrawHint::NoteDrawnAsOne(const Range& range) {
+  const auto at =
+      std::lower_bound(m_asOne.begin(), m_asOne.end(), range, [](const Range& one, const Range& other) {
+        return std::tie(one.startRow, one.startCol) < std::tie(other.startRow, other.startCol);
+      });
+  if (at != m_asOne.end() && at->startRow == range.startRow && at->startCol == range.startCol) {
+    Widen(*at, range.startCol, range.startRow, range.endCol, range.endRow);
+  } else {
+    m_asOne.insert(at, range);
+  }
 }
 
-void CGridDrawHint::ForgetSpill(int col, long row) {
-  const auto at = std::lower_bound(m_spills.begin(), m_spills.end(), Cell{row, col});
-  if (at != m_spills.end() && *at == Cell{row, col}) m_spills.erase(at);
+bool CGridDrawHint::IsDrawnAsOne(const Range& range) const {
+  return std::any_of(m_asOne.begin(), m_asOne.end(), [&](const Range& one) { return one.Touches(range); });
 }
 
-bool CGridDrawHint::ShowsSpill(int col, long row) const {
-  return !m_spills.empty() && std::binary_search(m_spills.begin(), m_spills.end(), Cell{row, col});
+void CGridDrawHint::SpreadHints() {
+  Range total;
+  if (m_asOne.empty() || GetTotalRange(&total.startCol, &total.startRow, &total.endCol, &total.endRow) == 0) {
+    return;
+  }
+  const auto hinted = static_cast<std::ptrdiff_t>(m_invalid.size());
+  std::erase_if(m_asOne, [&](const Range& one) {
+    const auto isHinted = [&](auto... how) {
+      return std::any_of(m_invalid.begin(), m_invalid.begin() + hinted, how...);
+    };
+    if (!one.Touches(total) || !isHinted([&](const Range& r) { return r.Touches(one); })) {
+      return false;
+    }
+    if (!isHinted([&](const Range& r) { return r.Contains(one); })) {
+      AddHint(one.startCol, one.startRow, one.endCol, one.endRow);
+    }
+    return true;
+  });
 }

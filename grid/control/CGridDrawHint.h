@@ -6,8 +6,14 @@
 #include "platform/CObject.h"
 
 /// The cell ranges that wait to be repainted, the joined blocks that the running paint pass has drawn
-/// already, and the cells that show a neighbour's text. Each child window that draws cells owns one; a paint
-/// pass empties it of all but the last.
+/// already, and the ranges of cells that are drawn as one. Each child window that draws cells owns one; a
+/// paint pass empties it of all but the last.
+///
+/// What a cell's place in the window shows depends on that cell alone, unless a joined block or a text that
+/// spills over its empty neighbours lies there: then on all cells of the block, or from the text's own cell
+/// up to this one. Such ranges are what is drawn as one. They are noted as they are drawn, since the cells
+/// themselves may have changed when one of them is hinted; and any of them may be hidden, out of view or in
+/// another window.
 class COREGUI_API CGridDrawHint : public CObject {
  public:
   /// A range of cells, inclusive at both ends.
@@ -18,6 +24,13 @@ class COREGUI_API CGridDrawHint : public CObject {
     long endRow = 0;
     bool Contains(int col, long row) const {
       return col >= startCol && col <= endCol && row >= startRow && row <= endRow;
+    }
+    bool Contains(const Range& other) const {
+      return Contains(other.startCol, other.startRow) && Contains(other.endCol, other.endRow);
+    }
+    bool Touches(const Range& other) const {
+      return startCol <= other.endCol && endCol >= other.startCol && startRow <= other.endRow &&
+             endRow >= other.startRow;
     }
     bool operator==(const Range&) const = default;
   };
@@ -46,16 +59,19 @@ class COREGUI_API CGridDrawHint : public CObject {
   /// The ranges in the order they were added.
   const std::vector<Range>& GetRanges() const { return m_invalid; }
 
-  /// A cell is drawn with the text that spills into it from its left. That is remembered until the cell is
-  /// drawn again, so that a text that goes takes with it what it left in its neighbours.
-  void NoteSpill(int col, long row);
-  /// Before a cell is drawn again.
-  void ForgetSpill(int col, long row);
-  bool ShowsSpill(int col, long row) const;
-  /// Forgets the cells of all rows that `isShown(row)` denies: they are drawn anew when they come into view.
+  /// A range has been drawn as one. A text's range grows with each cell that it reaches.
+  void NoteDrawnAsOne(const Range& range);
+  /// The ranges that are drawn as one, by their first rows and columns.
+  const std::vector<Range>& GetDrawnAsOne() const { return m_asOne; }
+  /// Whether one of them has a cell in the range.
+  bool IsDrawnAsOne(const Range& range) const;
+  /// Hints the whole of what is drawn as one where a part of it is hinted, and forgets it, as the pass that
+  /// is to follow notes what it draws.
+  void SpreadHints();
+  /// Forgets the ranges that `isShown` denies: they are drawn anew when they come into view.
   template <class IsShown>
-  void ForgetSpillsOutside(IsShown isShown) {
-    std::erase_if(m_spills, [&isShown](const Cell& cell) { return !isShown(cell.row); });
+  void ForgetUnlessShown(IsShown isShown) {
+    std::erase_if(m_asOne, [&isShown](const Range& range) { return !isShown(range); });
   }
 
   /// While a row is drawn from left to right, what was found out about one cell serves the next: that no text
@@ -72,11 +88,10 @@ class COREGUI_API CGridDrawHint : public CObject {
     long row;
     int col;
     bool operator==(const Cell&) const = default;
-    bool operator<(const Cell& other) const { return row != other.row ? row < other.row : col < other.col; }
   };
   std::vector<Range> m_invalid;
   std::vector<Cell> m_valid;
-  std::vector<Cell> m_spills;  ///< in order
+  std::vector<Range> m_asOne;  ///< in order
   Range m_box;
   static constexpr int kNoColumn = -1;
   static constexpr long kNoRow = -1;

@@ -153,18 +153,21 @@ void CGridParts::ShowRange(int startCol, long startRow, int endCol, long endRow)
     return;
   }
   const WindowRef alive(&m_control);
-  if (startCol < 0 && startRow < 0) {
+  // A joined block may reach from one window into the other.
+  const auto drawsAsOne = [&](auto& window) {
+    return window.GetDrawHints().IsDrawnAsOne({startCol, startRow, endCol, endRow});
+  };
+  const auto show = [&](auto& window, bool hasCells) {
+    if (alive && (hasCells || drawsAsOne(window))) {
+      window.RedrawRange(startCol, startRow, endCol, endRow);
+    }
+  };
+  if ((startCol < 0 && startRow < 0) || drawsAsOne(m_windows->corner)) {
     m_windows->corner.Invalidate(TRUE);
   }
-  if (startRow < 0 && endCol >= 0) {
-    m_windows->topHeading.RedrawRange(std::max(startCol, 0), startRow, endCol, std::min(endRow, -1L));
-  }
-  if (alive && startCol < 0 && endRow >= 0) {
-    m_windows->sideHeading.RedrawRange(startCol, std::max(startRow, 0L), std::min(endCol, -1), endRow);
-  }
-  if (alive && endCol >= 0 && endRow >= 0) {
-    m_windows->body.RedrawRange(std::max(startCol, 0), std::max(startRow, 0L), endCol, endRow);
-  }
+  show(m_windows->topHeading, startRow < 0 && endCol >= 0);
+  show(m_windows->sideHeading, startCol < 0 && endRow >= 0);
+  show(m_windows->body, endCol >= 0 && endRow >= 0);
 }
 
 void CGridParts::ShowAll() {

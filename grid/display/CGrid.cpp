@@ -101,10 +101,8 @@ void CGrid::Moved() {
   if (!shift.IsNone()) m_scroller.HintUncovered(shift);
   const int col = m_control->GetCurrentCol();
   const long row = m_control->GetCurrentRow();
-  if (col != m_painter.ShownCol() || row != m_painter.ShownRow() || !IsScrolledAway(col, row)) {
-    m_painter.HintCurrent(m_painter.ShownCol(), m_painter.ShownRow());
-    m_painter.HintCurrent(col, row);
-  }
+  m_painter.HintCurrent(m_painter.ShownCol(), m_painter.ShownRow());
+  if (col != m_painter.ShownCol() || row != m_painter.ShownRow()) m_painter.HintCurrent(col, row);
   if (m_buffer == nullptr) {
     if (!shift.IsNone()) CGridScroller::Move(dc, shift);
     DrawCellsIntern(&dc, nullptr);
@@ -176,12 +174,6 @@ void CGrid::PaintPass(CDC& screen) {
   }
 }
 
-/// Whether nothing can be seen of a row's cell, nor of a block that it begins.
-bool CGrid::IsScrolledAway(int col, long row) const {
-  const CGridRows& rows = m_control->GetInfo().rows;
-  return row >= rows.Locked() && row < rows.First() && m_control->GetJoinStartCell(&col, &row) != 0;
-}
-
 /// Hints the cells under the rectangle, to the end of a joined block that it ends in, and the current cell.
 void CGrid::HintUpdateRect(const CRect& update) {
   const CGridInfo& info = m_control->GetInfo();
@@ -218,7 +210,9 @@ void CGrid::DrawCellsIntern(CDC* screenDC, CDC* memDC) {
 void CGrid::FinishPass() {
   for (const CGridDrawHint::Range& range : m_painter.TakeRequested()) {
     RECT rect;
-    if (m_control->GetRangeRect(range.startCol, range.startRow, range.endCol, range.endRow, &rect) == 0) {
+    const int startCol = std::max(range.startCol, 0);
+    const long startRow = std::max(range.startRow, 0L);
+    if (m_control->GetRangeRect(startCol, startRow, range.endCol, range.endRow, &rect) == 0) {
       InvalidateRect(&rect, FALSE);
     }
   }

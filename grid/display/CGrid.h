@@ -78,7 +78,6 @@ class COREGUI_API CGrid : public CWnd {
   void HandleKillFocus(CWnd* other);
   void HandleTimer(UINT id);
 
-  bool IsScrolledAway(int col, long row) const;
   void HintUpdateRect(const CRect& update);
   void PaintPass(CDC& screen);
   void FinishPass();

@@ -21,14 +21,15 @@ bool CGridCellPainter::IsJoined() {
 
 /// False when the block was drawn already. A cell whose block cannot be found stays as it is.
 bool CGridCellPainter::EnterBlock(Cell& cell) {
-  int col = 0;
-  long row = 0;
-  if (m_control.GetJoinStartCell(&col, &row, cell.col, cell.row) != 0) return true;
-  if (m_hints.IsValid(col, row) != 0) return false;
-  m_hints.SetAsValid(col, row);
+  CGridDrawHint::Range block{cell.col, cell.row, 0, 0};
+  if (m_control.GetJoinRange(&block.startCol, &block.startRow, &block.endCol, &block.endRow) != 0)
+    return true;
+  if (m_hints.IsValid(block.startCol, block.startRow) != 0) return false;
+  m_hints.SetAsValid(block.startCol, block.startRow);
+  m_hints.NoteDrawnAsOne(block);
   m_control.GetCellRect(cell.col, cell.row, &cell.rect);
-  cell.col = col;
-  cell.row = row;
+  cell.col = block.startCol;
+  cell.row = block.startRow;
   cell.joined = true;
   return true;
 }

@@ -70,7 +70,7 @@ void CGridCnrBtn::Draw(CDC& dc) {
   dc.FillSolidRect(GetClientRectangle(), m_control->OnGetDefBackColor(GRIDSECTION_CORNERBUTTON));
   const int rows = m_control->GetTH_NumberRows();
   const int cols = m_control->GetSH_NumberCols();
-  m_hints.ClearHints();
+  m_hints = {};
   for (int row = -1; row >= -rows; --row) {
     for (int col = -1; col >= -cols && alive; --col) {
       const CGridHeadings& headings = m_control->GetInfo().headings;

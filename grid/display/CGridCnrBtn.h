@@ -14,6 +14,8 @@ class COREGUI_API CGridCnrBtn : public CWnd {
   explicit CGridCnrBtn(CGridCtrl* control);
   ~CGridCnrBtn() override;
   const coregui::MessageTable& GetMessageTable() const override;
+  /// What is drawn as one in the corner; ranges to be drawn anew are not gathered.
+  const CGridDrawHint& GetDrawHints() const { return m_hints; }
 
  private:
   /// The edge that is hot or dragged: the right one sizes the side heading, the bottom one the top heading.

@@ -48,6 +48,7 @@ bool CGridHeadingPainter::Run(CDC& dc, const CRect& client) {
   dc.SelectObject(m_control.GetDefFont());
   m_control.OnScreenDCSetup(&dc, nullptr, section);
   if (!alive) return false;
+  m_hints.SpreadHints();
   const CGridAxis& axis = AxisOf(m_control.GetInfo(), m_top);
   WalkLines(m_lines, LineOrder(axis.Locked(), axis.First()), axis.Count(), axis.Extent(),
             [&axis](long line) { return axis.SizeOf(line); });

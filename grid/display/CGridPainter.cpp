@@ -94,33 +94,8 @@ bool CGridPainter::Begin(Pass& pass) {
   info.rows.last = info.rows.Count();
   WalkLines(m_columns, LineOrder(columns.Locked(), columns.First()), columns.Count(), columns.Extent(),
             [&columns](long col) { return columns.SizeOf(col); });
-  HintBlocksFromOutOfView();
+  m_hints.SpreadHints();
   return true;
-}
-
-/// A joined block looks as its first cell does. Where that one is scrolled out of view and hinted, what is in
-/// view of the block has to be drawn.
-void CGridPainter::HintBlocksFromOutOfView() {
-  const CGridInfo& info = m_control.GetInfo();
-  const auto firstCol = static_cast<int>(info.columns.First());
-  const long firstRow = info.rows.First();
-  const auto isHinted = [this](auto reaches) {
-    return std::any_of(m_hints.GetRanges().begin(), m_hints.GetRanges().end(), reaches);
-  };
-  const auto hint = [this](int col, long row) {
-    CellPlace start{col, row};
-    if (m_control.GetJoinStartCell(&start.col, &start.row) == 0 &&
-        m_hints.IsInvalid(start.col, start.row) != 0) {
-      m_hints.AddHint(col, row);
-    }
-  };
-  using Range = CGridDrawHint::Range;
-  if (isHinted([&](const Range& r) { return r.startRow < firstRow && r.endRow >= info.rows.Locked(); })) {
-    for (const ShownLine& line : m_columns.lines) hint(static_cast<int>(line.index), firstRow);
-  }
-  if (isHinted([&](const Range& r) { return r.startCol < firstCol && r.endCol >= info.columns.Locked(); })) {
-    info.rows.ForEachInView([&](long row) { hint(firstCol, row); });
-  }
 }
 
 bool CGridPainter::WalkRows(Pass& pass) {
@@ -188,8 +163,6 @@ bool CGridPainter::DrawCells(Pass& pass, long row, int height) {
     const bool visited = asked || handedOn || (spillsIn && col == first) || m_row.IsInvalid(col);
     handedOn = false;
     if (visited && !(asked ? DrawCell(pass, cell) : DrawNeighbour(pass, cell, &handedOn))) return false;
-    // A text that reached the next cell before may have gone.
-    handedOn = handedOn || (visited && next >= 0 && m_hints.ShowsSpill(next, row));
     asked = nextAsked;
   }
   return true;
@@ -201,8 +174,7 @@ bool CGridPainter::DrawNeighbour(Pass& pass, CGridCellPainter::Cell cell, bool* 
   *handsOn = false;
   const CGridCellPainter::Fetched fetched = m_cells.Fetch(cell, pass.alive);
   if (fetched != CGridCellPainter::Fetched::draw) return fetched != CGridCellPainter::Fetched::gone;
-  if (m_requested.empty() && !cell.joined && m_cells.ShowsOwnText() &&
-      !m_hints.ShowsSpill(cell.col, cell.row)) {
+  if (m_requested.empty() && !cell.joined && m_cells.ShowsOwnText()) {
     *handsOn = m_control.HasOwnCellTypes() && m_cells.MayOverlap();
     return true;
   }
@@ -216,7 +188,6 @@ bool CGridPainter::DrawCell(Pass& pass, CGridCellPainter::Cell cell) {
 }
 
 bool CGridPainter::DrawFetched(Pass& pass, const CGridCellPainter::Cell& cell) {
-  m_hints.ForgetSpill(cell.col, cell.row);
   const CGridInfo& info = m_control.GetInfo();
   const bool current =
       cell.row == info.rows.current && (cell.col == info.columns.current || info.view.highlightRow != 0);
@@ -270,8 +241,8 @@ void CGridPainter::DrawSeparators(CDC& dc, const CRect& rect, int col, long row)
 void CGridPainter::RememberShown() {
   CGridInfo& info = m_control.GetInfo();
   if (IsViewStale()) {
-    m_hints.ForgetSpillsOutside([&rows = info.rows](long row) {
-      return row < rows.Locked() || (row >= rows.First() && row <= rows.last);
+    m_hints.ForgetUnlessShown([&rows = info.rows](const CGridDrawHint::Range& range) {
+      return range.startRow < rows.Locked() || (range.endRow >= rows.First() && range.startRow <= rows.last);
     });
   }
   info.columns.paintedFirst = info.columns.First();

@@ -63,7 +63,6 @@ class COREGUI_API CGridPainter {
   struct Pass;
   bool Run(Pass& pass);
   bool Begin(Pass& pass);
-  void HintBlocksFromOutOfView();
   bool WalkRows(Pass& pass);
   bool GrowRows(Pass& pass, long next, long before);
   bool DrawRow(Pass& pass, long row, int height);

@@ -6,7 +6,6 @@
 
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridInfo.h"
-#include "grid/control/CellPlace.h"
 #include "grid/display/CGridPainter.h"
 #include "platform/CDC.h"
 
@@ -26,13 +25,6 @@ bool IsWholeDots(std::int64_t pixels, double dots) {
 /// Whether the scroll moves dots onto dots, with the locked lines that stay put.
 bool MovesDots(const ScrollDistance& distance, const CGridAxis& axis, double dots) {
   return distance.pixels == 0 || (IsWholeDots(distance.pixels, dots) && IsWholeDots(axis.LockedSize(), dots));
-}
-
-/// The last cell of the joined block that holds the cell, else the cell itself.
-CellPlace EndOfBlock(CGridCtrl& control, int col, long row) {
-  CellPlace end;
-  control.GetJoinRange(&col, &row, &end.col, &end.row);
-  return end;
 }
 
 }  // namespace
@@ -65,35 +57,22 @@ void CGridScroller::HintUncovered(const Shift& shift) {
     if (info.columns.Locked() > 0) hints.AddHint(0, 0, static_cast<int>(info.columns.Locked()), rows);
     if (info.rows.Locked() > 0) hints.AddHint(0, 0, cols, info.rows.Locked());
   }
-  if (shift.dx != 0 && info.columns.Locked() > 0) HintAcrossLockedCols();
-  if (shift.dy != 0 && info.rows.Locked() > 0) HintAcrossLockedRows();
+  HintAcrossLocked(shift);
 }
 
-/// A joined block that reaches from the locked columns into the others changes its size: it is drawn anew,
-/// with the cell beside it, which has the separator. A text that spills from them into the others comes out
-/// of them only while the others begin where they end.
-void CGridScroller::HintAcrossLockedCols() {
+/// A joined block or a text that reaches from the locked cells into the others changes its size as those
+/// scroll.
+void CGridScroller::HintAcrossLocked(const Shift& shift) {
   const CGridInfo& info = m_control.GetInfo();
-  CGridDrawHint& hints = m_painter.Hints();
-  const auto locked = static_cast<int>(info.columns.Locked());
-  const auto first = static_cast<int>(info.columns.First());
-  const bool touched = info.columns.paintedFirst == locked;
-  info.rows.ForEachInView([&](long row) {
-    if (EndOfBlock(m_control, locked - 1, row).col >= locked) hints.AddHint(locked - 1, row, first, row);
-    if (touched && hints.ShowsSpill(locked, row)) {
-      hints.AddHint(first, row, static_cast<int>(info.columns.Count()), row);
+  const auto crosses = [](const CGridAxis& axis, long start, long end) {
+    return start < axis.Locked() && end >= axis.Locked();
+  };
+  for (const CGridDrawHint::Range& r : m_painter.Hints().GetDrawnAsOne()) {
+    if ((shift.dx != 0 && crosses(info.columns, r.startCol, r.endCol)) ||
+        (shift.dy != 0 && crosses(info.rows, r.startRow, r.endRow))) {
+      m_painter.Hints().AddHint(r.startCol, r.startRow, r.endCol, r.endRow);
     }
-  });
-}
-
-void CGridScroller::HintAcrossLockedRows() {
-  const CGridInfo& info = m_control.GetInfo();
-  const long locked = info.rows.Locked();
-  info.columns.ForEachInView([&](long line) {
-    const auto col = static_cast<int>(line);
-    if (EndOfBlock(m_control, col, locked - 1).row >= locked)
-      m_painter.Hints().AddHint(col, locked - 1, col, info.rows.First());
-  });
+  }
 }
 
 void CGridScroller::Move(CDC& dc, const Shift& shift) {

@@ -36,8 +36,7 @@ class COREGUI_API CGridScroller {
   static void Move(CDC& dc, const Shift& shift);
 
  private:
-  void HintAcrossLockedCols();
-  void HintAcrossLockedRows();
+  void HintAcrossLocked(const Shift& shift);
 
   CGridCtrl& m_control;
   CGridPainter& m_painter;

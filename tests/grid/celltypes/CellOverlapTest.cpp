@@ -179,11 +179,10 @@ TEST_F(CellOverlapTest, ATextThatCameUnseenCoversTheSpillWithItsNeighbour) {
   grid.QuickSetText(0, 0, kLong);
   grid.RedrawAll();
   CWinApp::PumpPending();
-  EXPECT_TRUE(grid.GetDrawHints()->ShowsSpill(1, 0));
+  EXPECT_TRUE(grid.GetDrawHints()->IsDrawnAsOne({1, 0, 1, 0}));
   grid.QuickSetText(1, 0, L"b");
   grid.RedrawCell(0, 0);
-  EXPECT_FALSE(grid.GetDrawHints()->ShowsSpill(1, 0));
-  EXPECT_FALSE(grid.GetDrawHints()->ShowsSpill(2, 0)) << "what lay behind it is gone too";
+  EXPECT_FALSE(grid.GetDrawHints()->IsDrawnAsOne({1, 0, 2, 0})) << "what lay behind it is gone too";
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "grid/control/CGridMultiSelect.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -182,6 +183,28 @@ TEST(CGridMultiSelect, KeyMovesLookAtShiftAndCtrl) {
   EXPECT_EQ(selection.IsSelected(2, 1), 1) << "Ctrl keeps the old blocks";
   selection.OnKeyMove(8, 8);
   EXPECT_EQ(selection.GetNumberBlocks(), 1);
+}
+
+TEST(CGridDrawHint, AHintSpreadsOverWhatIsDrawnAsOneAndForgetsIt) {
+  using Range = CGridDrawHint::Range;
+  using testing::ElementsAre;
+  CGridDrawHint hints;
+  hints.NoteDrawnAsOne({1, 4, 3, 6});
+  hints.NoteDrawnAsOne({2, 0, 3, 0});
+  hints.NoteDrawnAsOne({2, 0, 5, 0});
+  hints.NoteDrawnAsOne({-1, 4, 0, 9});
+  hints.SpreadHints();
+  EXPECT_THAT(hints.GetDrawnAsOne(), ElementsAre(Range{2, 0, 5, 0}, Range{-1, 4, 0, 9}, Range{1, 4, 3, 6}));
+  EXPECT_TRUE(hints.IsDrawnAsOne({5, 0, 9, 1}));
+  EXPECT_FALSE(hints.IsDrawnAsOne({6, 0, 9, 9}));
+  hints.AddHint(3, 6);
+  hints.AddHint(-1, 1, -1, 3);
+  hints.AddHint(1, 0, 5, 0);
+  hints.SpreadHints();
+  EXPECT_THAT(hints.GetRanges(),
+              ElementsAre(Range{3, 6, 3, 6}, Range{-1, 1, -1, 3}, Range{1, 0, 5, 0}, Range{1, 4, 3, 6}))
+      << "what is hinted in full is not hinted again";
+  EXPECT_THAT(hints.GetDrawnAsOne(), ElementsAre(Range{-1, 4, 0, 9}));
 }
 
 TEST(CGridDrawHint, WideningTheFirstRangeLeavesTheBoxIsKept) {

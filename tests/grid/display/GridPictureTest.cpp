@@ -113,6 +113,7 @@ TEST_F(GridPictureTest, ACellRedrawnAloneTakesItsOverlapAlong) {
   grid.GotoCell(7, 12);
   grid.LockColumns(1);
   for (int col = 0; col < 8; ++col) grid.SetColWidth(col, col == 4 ? 0 : 130);
+  CWinApp::PumpPending();
   std::mt19937 random(11);
   const auto any = [&random](auto... choices) {
     const std::array all{choices...};
@@ -216,6 +217,33 @@ void Rewrite(CGridCtrl& grid, int col, long row, int kind) {
   grid.RedrawCell(col, row);
 }
 
+/// Any stored cell, which tears the joined block that it belonged to.
+void Overwrite(CGridCtrl& grid, int col, long row, int kind) {
+  CGridCell cell;
+  if (kind % 2 != 0) cell.SetBackColor(RGB(220, 240, 220));
+  if (kind % 3 != 0) cell.SetAlignment(static_cast<short>(kind % 3));
+  if (kind % 5 == 0) cell.SetBorder(0x422);
+  grid.SetCell(col, row, &cell);
+  grid.RedrawCell(col, row);
+}
+
+void ChangeType(CGridCtrl& grid, int col, long row, int kind) {
+  const long extended[] = {0, 2, 4, 8, 0x4000};
+  if (kind % 2 == 0) {
+    grid.QuickSetCellType(col, row, kind / 2 % 4);
+  } else {
+    grid.QuickSetCellTypeEx(col, row, extended[(kind + 2) / 2 % 5]);
+  }
+  grid.RedrawCell(col, row);
+}
+
+void Switch(CGridCtrl& grid, int option, int mode) {
+  int (CGridCtrl::*const options[])(int) = {&CGridCtrl::EnableJoins, &CGridCtrl::EnableCellOverLap,
+                                            &CGridCtrl::EnableExcelBorders, &CGridCtrl::SetCurrentCellMode};
+  (grid.*options[option % 4])(mode);
+  grid.RedrawAll();
+}
+
 const GridOperation kWindowOperations[] = {
     {"Key",
      [](CGridCtrl& g, const GridStep& s) { Press(g, VK_PRIOR + (s.a + 2) % 8, s.b % 3 == 0, s.c % 4 == 0); }},
@@ -233,6 +261,14 @@ const GridOperation kWindowOperations[] = {
     {"Text", [](CGridCtrl& g, const GridStep& s) { Rewrite(g, s.a, s.b, s.c); }},
     {"TextInView", [](CGridCtrl& g, const GridStep& s) { Rewrite(g, s.a, g.GetTopRow() + s.b, s.c); }},
     {"Heading", [](CGridCtrl& g, const GridStep& s) { Rewrite(g, s.a % 2 - 1, s.b % 2 - 1, s.c); }},
+    {"Overwrite", [](CGridCtrl& g, const GridStep& s) { Overwrite(g, s.a, s.b, s.c + 2); }},
+    {"Delete",
+     [](CGridCtrl& g, const GridStep& s) {
+       g.DeleteCell(s.a, s.b);
+       g.RedrawCell(s.a, s.b);
+     }},
+    {"Type", [](CGridCtrl& g, const GridStep& s) { ChangeType(g, s.a, s.b, s.c + 2); }},
+    {"Switch", [](CGridCtrl& g, const GridStep& s) { Switch(g, s.a + 2, s.b & 3); }},
     {"HeadingLines",
      [](CGridCtrl& g, const GridStep& s) {
        g.SetTH_NumberRows(s.a % 3);
@@ -308,6 +344,16 @@ TEST(GridPicture, WhatCrossesTheEdgeOfTheLockedCellsIsDrawnAnewWhenTheyScroll) {
           g.QuickSetBackColor(1, 4, RGB(1, 200, 3));
           g.RedrawCell(1, 4);
         }}},
+      {"a block whose first cell is hidden",
+       {[](CGridCtrl& g) { g.SetRowHeight(4, 0); },
+        [](CGridCtrl& g) {
+          g.QuickSetBackColor(1, 4, RGB(1, 200, 3));
+          g.RedrawCell(1, 4);
+        }}},
+      {"a block torn where it is out of view", {view(2, 5), [](CGridCtrl& g) { Overwrite(g, 1, 4, 0); }}},
+      {"a block that begins in a heading",
+       {[](CGridCtrl& g) { g.JoinCells(-1, 10, 1, 11); }, [](CGridCtrl& g) { Rewrite(g, -1, 10, 1); },
+        [](CGridCtrl& g) { Overwrite(g, 1, 11, 0); }}},
       {"a torn block",
        {[](CGridCtrl& g) { g.MoveColPosition(2, 5, 1); }, [](CGridCtrl& g) { g.RedrawCell(1, 4); }}},
       {"blocks that overlap",

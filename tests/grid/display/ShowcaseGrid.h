@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "grid/control/CGridCtrl.h"
@@ -130,17 +131,26 @@ struct ShowcaseTest : testing::Test {
   }
   /// The dots of the body as they are now.
   std::vector<DWORD> Dots() { return ShownDots(*grid.GetGridWnd()); }
-  /// How the body differs from what it looks like when everything is painted anew; empty when it does not.
+  /// How the body and the headings differ from what they look like when everything is painted anew; empty
+  /// when they do not.
   std::string DifferenceToFresh() {
-    const std::vector<DWORD> before = Dots();
-    grid.GetGridWnd()->RedrawWindow();
-    const std::vector<DWORD> fresh = Dots();
-    const auto at = std::mismatch(before.begin(), before.end(), fresh.begin(), fresh.end()).first;
-    if (at == before.end() && before.size() == fresh.size()) return "";
-    const auto place = at - before.begin();
-    const CClientDC dc(grid.GetGridWnd());
-    const auto width = std::lround(grid.GetGridWnd()->GetClientRectangle().Width() * dc.GetScaleFactor());
-    return "differs first at dot " + std::to_string(place % width) + "," + std::to_string(place / width);
+    const std::pair<const char*, CWnd*> windows[] = {{"the body", grid.GetGridWnd()},
+                                                     {"the top heading", grid.GetTopHdgWnd()},
+                                                     {"the side heading", grid.GetSideHdgWnd()},
+                                                     {"the corner", grid.GetCornerWnd()}};
+    for (const auto& [name, window] : windows) {
+      const std::vector<DWORD> before = ShownDots(*window);
+      window->RedrawWindow();
+      const std::vector<DWORD> fresh = ShownDots(*window);
+      const auto at = std::mismatch(before.begin(), before.end(), fresh.begin(), fresh.end()).first;
+      if (at == before.end() && before.size() == fresh.size()) continue;
+      const auto place = at - before.begin();
+      const CClientDC dc(window);
+      const auto width = std::lround(window->GetClientRectangle().Width() * dc.GetScaleFactor());
+      return std::string(name) + " differs first at dot " + std::to_string(place % width) + "," +
+             std::to_string(place / width);
+    }
+    return "";
   }
 };
 
