@@ -12,7 +12,7 @@ inline constexpr int BST_INDETERMINATE = 2;
 ///
 /// Notifies its parent with BN_CLICKED when a person (or Click) presses it. Radio buttons that are created
 /// one after the other exclude each other up to the next one with WS_GROUP. A text's '&' marks its access
-/// key.
+/// key. The state lives in the native window: before it is created nothing is checked, and cannot be.
 class COREGUI_API CButton : public CWnd {
  public:
   using CWnd::Create;

@@ -11,6 +11,8 @@ inline constexpr int CBN_SETFOCUS = 3;
 /// A list that drops down from the chosen item, or from an edit box (CBS_DROPDOWN, CBS_SIMPLE). CBS_SORT
 /// keeps it sorted. Notifies its parent with CBN_SELCHANGE (a person chose), CBN_EDITCHANGE, CBN_DROPDOWN,
 /// CBN_CLOSEUP, CBN_SETFOCUS and CBN_KILLFOCUS. Characters typed into the edit box arrive as WM_CHAR first.
+/// Indexes count from 0; CB_ERR is no item. The items live in the native window: before it is created there
+/// are none and none can be added (CB_ERR). What is not said here is as in CListBox.
 class COREGUI_API CComboBox : public CWnd {
  public:
   using CWnd::Create;

@@ -6,6 +6,7 @@ inline constexpr int LB_ERR = -1;
 
 /// A list of texts to choose from. LBS_SORT keeps it sorted, LBS_MULTIPLESEL lets several be chosen. Notifies
 /// its parent with LBN_SELCHANGE and LBN_DBLCLK when a person acts. Indexes count from 0; LB_ERR is no item.
+/// The items live in the native window: before it is created there are none and none can be added (LB_ERR).
 class COREGUI_API CListBox : public CWnd {
  public:
   using CWnd::Create;

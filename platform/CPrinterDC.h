@@ -13,7 +13,9 @@ enum class PrintOutput {
 struct PrintPage {
   double width = 210.0;   ///< millimetres
   double height = 297.0;  ///< millimetres
-  int dotsPerInch = 600;  ///< a coordinate of the context is one of these dots; a printer may choose its own
+  /// A coordinate of the context is one of these dots; a printer may choose its own. At 96 what is drawn for
+  /// the screen, a grid's cells say, comes out in its size there; PDF and SVG keep its texts and lines sharp.
+  int dotsPerInch = 600;
 };
 
 /// A page device. Coordinates are its dots from the sheet's top left corner: GetDeviceCaps gives their number

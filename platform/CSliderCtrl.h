@@ -7,6 +7,7 @@ inline constexpr DWORD TBS_AUTOTICKS = 0x1;
 
 /// A slider. It moves by itself and tells its parent with WM_HSCROLL or WM_VSCROLL and SB_ codes
 /// (SB_THUMBTRACK while dragged, SB_THUMBPOSITION when dropped, SB_ENDSCROLL last); the parent reads GetPos.
+/// Range and position live in the native window: set before it is created they are lost.
 class COREGUI_API CSliderCtrl : public CWnd {
  public:
   using CWnd::Create;

@@ -31,7 +31,7 @@ struct TreeItemLook {
   bool checkBox = false;  ///< has a check box, also without TVS_CHECKBOXES
 };
 
-/// A tree of texts.
+/// A tree of texts. Its items live in the native window and go with it.
 class COREGUI_API CTreeCtrl : public CWnd {
  public:
   using CWnd::Create;

@@ -272,18 +272,23 @@ struct HandlerForm<HandlerKind::activate> {
 ///
 /// The handler's form follows from the message and does not compile in any other:
 ///
-/// | messages | handler |
-/// |---|---|
-/// | WM_PAINT, WM_DESTROY, WM_CLOSE, WM_MOUSELEAVE, WM_NCDESTROY, WM_THEMECHANGED, WM_SYSCOLORCHANGE | `void
-/// ()` | | mouse buttons and WM_MOUSEMOVE | `void (UINT flags, CPoint client)` | | WM_MOUSEWHEEL,
-/// WM_MOUSEHWHEEL | `BOOL (UINT flags, short delta, CPoint screen)` | | WM_KEYDOWN, WM_KEYUP, WM_SYSKEYDOWN,
-/// WM_CHAR | `void (UINT key, UINT repeat, UINT flags)` | | WM_SETFOCUS, WM_KILLFOCUS | `void (CWnd* other)`
-/// | | WM_SIZE | `void (UINT type, int width, int height)` | | WM_MOVE | `void (int x, int y)` | | WM_TIMER |
-/// `void (UINT id)` | | WM_HSCROLL, WM_VSCROLL | `void (int code, CWnd* bar)` | | WM_ERASEBKGND | `BOOL (CDC*
-/// dc)` | | WM_SETCURSOR | `BOOL (CWnd* window, UINT hitTest, UINT message)` | | WM_SHOWWINDOW, WM_ENABLE |
-/// `void (BOOL on)` | | WM_CONTEXTMENU | `void (CWnd* window, CPoint screen)` | | WM_GETDLGCODE | `UINT ()` |
-/// | WM_ACTIVATE | `void (UINT state, CWnd* other)` |
-/// | every other | `LRESULT (WPARAM, LPARAM)` |
+/// - WM_PAINT, WM_DESTROY, WM_CLOSE, WM_MOUSELEAVE, WM_NCDESTROY, WM_THEMECHANGED, WM_SYSCOLORCHANGE:
+///   `void ()`
+/// - mouse buttons and WM_MOUSEMOVE: `void (UINT flags, CPoint client)`
+/// - WM_MOUSEWHEEL, WM_MOUSEHWHEEL: `BOOL (UINT flags, short delta, CPoint screen)`
+/// - WM_KEYDOWN, WM_KEYUP, WM_SYSKEYDOWN, WM_CHAR: `void (UINT key, UINT repeat, UINT flags)`
+/// - WM_SETFOCUS, WM_KILLFOCUS: `void (CWnd* other)`
+/// - WM_SIZE: `void (UINT type, int width, int height)`
+/// - WM_MOVE: `void (int x, int y)`
+/// - WM_TIMER: `void (UINT id)`
+/// - WM_HSCROLL, WM_VSCROLL: `void (int code, CWnd* bar)`
+/// - WM_ERASEBKGND: `BOOL (CDC* dc)`
+/// - WM_SETCURSOR: `BOOL (CWnd* window, UINT hitTest, UINT message)`
+/// - WM_SHOWWINDOW, WM_ENABLE: `void (BOOL on)`
+/// - WM_CONTEXTMENU: `void (CWnd* window, CPoint screen)`
+/// - WM_GETDLGCODE: `UINT ()`
+/// - WM_ACTIVATE: `void (UINT state, CWnd* other)`
+/// - every other: `LRESULT (WPARAM, LPARAM)`
 ///
 /// A handler that wants the default as well calls `CWnd::Default()` inside it.
 class COREGUI_API MessageTable {

@@ -37,7 +37,8 @@ class COREGUI_API CPlotSheet : public CPlotPrimitives {
   /// On: what follows is drawn only between the margins, so that a zoomed drawing leaves the rulers' place
   /// free.
   void ClipToDrawing(bool on);
-  /// Draws a ruler with round steps for the part of the world that is visible now.
+  /// Draws a ruler with round steps for the part of the world that is visible now. This and what follows is
+  /// drawn with the pen and the text style in force.
   virtual void PlotRuler(PlotSide side, PlotRulerStyle const& style = {});
   /// Draws rows below one another in the bottom margin, from `skipPoints` below the drawing on. Texts that
   /// would touch their neighbour on the left, and those of stations out of sight, are left out.

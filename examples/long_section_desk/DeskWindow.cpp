@@ -11,8 +11,6 @@ namespace {
 
 enum : UINT { kBarId = 103, kPlotBarId = 104, kSectionId = 105, kDifferenceId = 106 };
 
-constexpr UINT kF6 = VK_F5 + 1;
-
 /// Around the panes, where the one with the focus gets a frame.
 int FrameWidth() {
   return ScaleByDpi(2);
@@ -54,7 +52,7 @@ const DeskWindow::Command DeskWindow::kCommands[] = {
     {124, 'C', kControl, Needs::survey, nullptr, nullptr, &DeskWindow::CopyCells},
     {127, VK_APPS, kPlain, Needs::survey, nullptr, nullptr, &DeskWindow::OpenTableMenu},
     {128, VK_F10, kShift, Needs::survey, nullptr, nullptr, &DeskWindow::OpenTableMenu},
-    {125, kF6, kPlain, Needs::nothing, nullptr, nullptr, &DeskWindow::NextPane},
+    {125, VK_F6, kPlain, Needs::nothing, nullptr, nullptr, &DeskWindow::NextPane},
     {126, 'Q', kControl, Needs::nothing, nullptr, nullptr, &DeskWindow::QuitCommand},
 };
 

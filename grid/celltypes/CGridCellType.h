@@ -77,10 +77,11 @@ class COREGUI_API CGridCellType : public coregui::CGridCellDelegate {
   /// changes.
   const wchar_t* GetShownText(CGridCell* cell) const;
 
-  int m_textEdit = 1;
-  int m_drawLabel = 0;
-  int m_canOverlap = 1;
-  double m_scale = 1.0;
+  // What a derived type is, set in its constructor.
+  int m_textEdit = 1;              ///< cells may be edited as text
+  int m_drawLabel = 0;             ///< shows labels instead of texts
+  int m_canOverlap = 1;            ///< texts may spill; a type that draws more than its text sets 0
+  double m_scale = 1.0;            ///< for derived types; nothing here reads it
   CGridCtrl* m_control = nullptr;  ///< borrowed: outlives its types
   int m_id = 0;
 

@@ -12,7 +12,8 @@ inline constexpr int kAlignTop = 0x8;
 inline constexpr int kAlignBottom = 0x10;
 inline constexpr int kAlignMiddle = 0x20;
 
-// Border. The four sides follow each other in the order left, top, right, bottom within each width.
+// Border. The four sides follow each other in the order left, top, right, bottom within each width: a thin
+// line at the bottom is kBorderThin << 3, a box of thin lines kBorderThin * 15.
 inline constexpr int kBorderThin = 0x001;    ///< left; one pixel wide
 inline constexpr int kBorderMedium = 0x010;  ///< left; two pixels, inwards
 inline constexpr int kBorderThick = 0x100;   ///< left; three pixels, inwards

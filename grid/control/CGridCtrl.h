@@ -34,6 +34,9 @@ struct CGridRooms;
 /// are 32-bit in meaning. Sizes and positions are pixels. Unless an operation says otherwise it returns 0
 /// when done, 1 when a position or argument is refused, and then nothing has changed.
 ///
+/// Every option and size belongs to the current sheet, cell types, sources and fonts to the control. What all
+/// sheets shall have is set in OnSheetSetup, while the new sheet is the current one.
+///
 /// A grid that was constructed but never created has no window and works for everything but pixels.
 /// This class only forwards: what holds is written at the rooms it is made of.
 class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public coregui::CGridSourceOwner {
@@ -75,7 +78,7 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
   CScrollBar* GetScrollBarCtrl(int bar) const override;
   /// 1 while a cell is being edited.
   int GetEditInProgress() const;
-  /// 1 while the find or the replace dialog is open.
+  /// 1 while the control's find or replace dialog is open; it has none yet.
   int IsFindDialogOpen() const;
 
   // --- Cells
@@ -84,17 +87,24 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
   int GetCell(int col, long row, CGridCell* cell);
   /// The cell as displayed: defaults, stored cell, OnGetCell, format class, style.
   int GetCellIndirect(int col, long row, CGridCell* cell);
+  /// Calls OnSetCell, then replaces the stored cell. One column or row behind the last is accepted. Redraws
+  /// nothing, like the quick operations.
   int SetCell(int col, long row, CGridCell* cell);
+  /// Checks no range; the source's answer.
   int DeleteCell(int col, long row);
+  /// What the cells of a column have where they set nothing themselves. 1 when col is no column.
   int GetColDefault(int col, CGridCell* cell);
   int SetColDefault(int col, CGridCell* cell);
   /// What the default cells of new columns start from.
   int GetGridDefault(CGridCell* cell);
   int SetGridDefault(CGridCell* cell);
+  /// The same for heading cells.
   int GetHeadingDefault(CGridCell* cell);
   int SetHeadingDefault(CGridCell* cell);
 
-  // --- Quick operations: one property of the stored cell, the others are kept
+  // --- Quick operations: one property of the stored cell, the others are kept. What the values mean is
+  // written
+  //     at the members of CGridCell.
 
   int QuickSetText(int col, long row, const wchar_t* text);
   /// The displayed text; empty when the cell has none.
@@ -135,16 +145,20 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
   int SetDefDataSource(int index);
   int GetDefDataSource() const;
   CGridDataSource* GetDataSource(int index) const;
-  /// Lets a column show another source.
+  /// Lets a column show another registered source.
   int SetColDataSource(int col, int index);
   /// Unregisters; columns and sheets that used it go back to the sheet's memory.
   int RemoveDataSource(int index);
+  /// The data column, as the sources count them, that a grid column shows. They part when columns are
+  /// inserted or moved; notifications give grid columns.
   int GetColTranslation(int col) const override;
   void SetColTranslation(int col, int dataColumn) override;
 
   // --- Joined cells
 
   int EnableJoins(int on);
+  /// Shows the inclusive range, which may lie in the headings, as one cell with the contents of its first
+  /// one.
   int JoinCells(int startCol, long startRow, int endCol, long endRow);
   /// Dissolves every block that has a cell in the range; 1 when there is none.
   int UnJoinCells(int startCol, long startRow, int endCol, long endRow);
@@ -158,10 +172,12 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
 
   // --- Rows and columns
 
+  /// More than 64000 rows have one height for good. `redraw` 0: nothing is redrawn now.
   int SetNumberRows(long rows, int redraw = 1);
   long GetNumberRows() const override;
   int SetNumberCols(int cols, int redraw = 1);
   int GetNumberCols() const override;
+  /// In the data sources too: what stood at `row` or `col` moves on by one.
   int InsertRow(long row);
   int AppendRow();
   int DeleteRow(long row);
@@ -179,8 +195,10 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
   int GetRowHeight(long row) const;        ///< negative rows: heading rows
   int SetDefRowHeight(int height);
   int GetDefRowHeight() const;
+  /// On: all rows have the default height.
   int SetUniformRowHeight(int on);
   int GetUniformRowHeight() const;
+  /// So many first columns or rows stay in view.
   int LockColumns(int count);
   int GetLockedColumns() const;
   int LockRows(long count);
@@ -194,17 +212,18 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
 
   // --- Headings
 
+  // TH: top heading, SH: side heading, VS and HS: the scroll bars.
   int SetTH_NumberRows(int rows);
   int GetTH_NumberRows() const;
   int SetTH_RowHeight(int index, int height);  ///< index 0 is nearest to the cells
   int GetTH_RowHeight(int index) const;
-  int SetTH_Height(int height);
+  int SetTH_Height(int height);  ///< of all its rows together
   int GetTH_Height() const;
   int SetSH_NumberCols(int cols);
   int GetSH_NumberCols() const;
   int SetSH_ColWidth(int index, int width);
   int GetSH_ColWidth(int index) const;
-  int SetSH_Width(int width);
+  int SetSH_Width(int width);  ///< of all its columns together
   int GetSH_Width() const;
   int SetVS_Width(int width);
   int GetVS_Width() const;
@@ -213,9 +232,11 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
 
   // --- Sheets
 
-  /// New sheets are set up with OnSheetSetup; sheets beyond the count are destroyed. 1 for a count below 1.
+  /// New sheets are set up with OnSheetSetup, each while it is current; then the sheet of before is again.
+  /// Sheets beyond the count are destroyed. 1 for a count below 1.
   int SetNumberSheets(int count);
   int GetNumberSheets() const;
+  /// Makes a sheet, counted from 0, the current one.
   int SetSheetNumber(int sheet);
   int GetSheetNumber() const;
   int SetSheetName(int sheet, const wchar_t* name);
@@ -271,39 +292,59 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
 
   // --- Selection
 
+  /// 0: the current cell alone; 1: blocks of cells; else MULTISELECT_ bits (CGridMultiSelect.h). Forgets what
+  /// is selected.
   int SetMultiSelectMode(int mode);
   int GetMultiSelectMode() const;
   /// Replaces the sheet's selection object (borrowed); null: the built-in one again.
   int SetNewMultiSelectClass(CGridMultiSelect* selection);
   CGridMultiSelect* GetMultiSelect() const;
   int ClearSelections();
+  /// Adds a block to what is selected.
   int SelectRange(int startCol, long startRow, int endCol, long endRow);
   int IsSelected(int col, long row, int* block = nullptr);
+  /// 0 while a cell is given; with nothing selected that is the current one.
   int EnumFirstSelected(int* col, long* row);
   int EnumNextSelected(int* col, long* row);
 
   // --- Sorting, finding, clipboard
 
+  /// Sorts the rows of the sheet's default source, whatever sources columns have, and redraws nothing: call
+  /// RedrawAll. Flags: 0 or coregui::SORT_DESCENDING. The source's answer.
   int SortBy(int col, int flags);
+  /// The first key column decides first. `cols` is changed: it comes back as data columns.
   int SortBy(int* cols, int count, int flags);
+  /// Searches the sheet's default source, in column `*col` or with FIND_ALLCOLS in all; on a hit `col` and
+  /// `row` receive it. Goes round at the end. `text` is upper-cased with FIND_NOCASE.
   int FindFirst(CString* text, int* col, long* row, long flags);
+  /// Searches on from the cell after (`*col`, `*row`), or before it with FIND_UP.
   int FindNext(CString* text, int* col, long* row, int flags);
+  /// Whether a find dialog searches every column.
   int FindInAllCols(int on);
+  /// The displayed texts of the selected cells: TAB between cells, LF between rows. `cut` empties those that
+  /// are not read-only.
   int CreateSelectedString(CString& text, int cut);
   int CopySelected();
   int CopySelected(int cut);
   int CutSelected();
   int CopyToClipBoard(CString* text);
   int CopyFromClipBoard(CString* text);
+  /// Writes the clipboard's text from the current cell on, calls OnPaste for each cell and selects what was
+  /// reached. Adds no rows or columns. 1 when there is no text.
   int Paste();
   int Paste(CString& text);
 
   // --- Cell types
 
+  /// Registers a type and gives its ID, from 4 on: 0 is the normal type, 1 the drop list, 2 the check box, 3
+  /// the arrow. -1 for null. Borrowed until RemoveCellType: the control's end does not destroy it, so a
+  /// member of the derived control may be one.
   int AddCellType(CGridCellType* type);
+  /// The normal type for an unknown ID.
   CGridCellType* GetCellType(int id);
   CGridCellType* GetCellType(int col, long row);
   int GetCellType(CGridCellType* type);
+  /// Destroys the type with `delete`, so never call it for a member.
   int RemoveCellType(int id);
   /// Whether the application has registered types of its own beside the four built-in ones.
   bool HasOwnCellTypes() const;
@@ -332,44 +373,60 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
   int RedrawRow(long row);
   int RedrawCol(int col);
   int RedrawRange(int startCol, long startRow, int endCol, long endRow);
+  /// 1: cells are drawn off the screen first; 0: at once. Of all sheets.
   int SetDoubleBufferMode(int mode);
+  /// 0: the sheet is not painted at all.
   int SetPaintMode(int on);
   int GetPaintMode() const;
   void TempDisableFocusRect();
 
-  // --- Options
+  // --- Options of the current sheet. What they are at first is written at coregui::CGridViewState.
 
+  /// Bits: 1 focus rectangle, 2 the current cell in highlight colours.
   int SetCurrentCellMode(int mode);
   int GetCurrentCellMode() const;
+  /// On, as at first: the whole current row stands for the current cell. `toEdge`: up to the window's edge.
   int SetHighlightRow(int on, int toEdge = 0);
   int GetHighlightRow() const;
+  /// Between a cell's edge and its text.
   int SetMargin(int pixels);
   int GetMargin() const;
   int Set3DHeight(int pixels);
   int Get3DHeight() const;
+  /// Whether long texts spill over empty neighbours.
   int EnableCellOverLap(int on);
   int GetCellOverLap() const;
+  /// Whether every cell has a line at its right and bottom.
   int EnableExcelBorders(int on);
   int GetExcelBorders() const;
   CPen* GetGridLinePen();
+  /// Whether cells have tips: OnHint gives their texts.
   int UseHints(int on);
   int GetUseHints() const;
+  /// Rows and columns sized by the mouse: 0 not, 1 with an outline, others at once.
   int SetUserSizingMode(int mode);
   int GetUserSizingMode() const;
+  /// Whether columns can be dragged by their headings: OnColSwapStart and OnCanColSwap are asked.
   int EnableColSwapping(int on);
   int GetColSwapping() const;
+  /// Whether a right click opens the context menu: OnMenuStart fills it.
   int EnableMenu(int on);
+  /// Whether a drag over the partly visible last row or column scrolls.
   int EnableScrollOnPartialCells(int on);
+  /// Dragging beyond the window scrolls by the distance to this power, 0 to 3; 0: always one line.
   int SetBallisticMode(int mode);
   int SetBallisticDelay(int milliseconds);
   int SetBallisticKeyMode(int mode);
   int SetBallisticKeyDelay(int milliseconds);
+  /// 0: the view moves when the thumb is let go, 1: with it.
   int SetVScrollMode(int mode);
   int SetHScrollMode(int mode);
+  /// 0: a tip beside the thumb (OnVScrollHint), 1: none.
   int SetTrackingWindowMode(int mode);
   int SetArrowCursor(HCURSOR cursor);
   int SetWESizingCursor(HCURSOR cursor);
   int SetNSSizingCursor(HCURSOR cursor);
+  /// The windows that edit cells (borrowed); null: the control's own. Cells are not edited yet.
   int SetNewEditClass(CWnd* editor);
   int SetNewMaskedEditClass(CWnd* editor);
   CWnd* GetEditClass() const;
@@ -377,6 +434,7 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
 
   // --- Context menu
 
+  /// What EnableMenu opens; empty until OnMenuStart fills it.
   CMenu* GetMenu();
   /// Opens the context menu at a screen position after OnMenuStart; the choice goes to OnMenuCommand.
   int StartMenu(int col, long row, POINT* point, int section);

@@ -19,18 +19,21 @@ inline constexpr int GRIDSECTION_CORNERBUTTON = 4;
 
 /// Everything that a grid tells the application or asks it for leave: a derived control overrides what it
 /// needs. The defaults do nothing, or allow. Vetoes return 1 to allow. Columns come before rows, both counted
-/// from 0; negative ones are headings (top heading row -1 is the one nearest to the cells).
+/// from 0; negative ones are headings (top heading row -1 is the one nearest to the cells). Columns are those
+/// of the grid: which data column one shows after columns were moved says CGridCtrl::GetColTranslation.
 class COREGUI_API CGridNotify {
  public:
   virtual ~CGridNotify() = default;
 
   // --- Set-up
 
-  /// The grid was created or attached: set fonts, counts and options here.
+  /// The grid was created or attached: add fonts, cell types and data sources here. Options that are set here
+  /// are those of the first sheet alone.
   virtual void OnSetup();
   /// Directly after OnSetup, when the grid was created (not when it was attached).
   virtual void OnSetupFinished();
-  /// A sheet is new: set its counts, widths and headings here.
+  /// A sheet is new, and the current one meanwhile: set its counts, widths, headings and options here. 0 is
+  /// the first one.
   virtual void OnSheetSetup(int sheet);
   /// A sheet's tab was chosen; the sheet is current already.
   virtual void OnTabSelected(int sheet);
@@ -39,7 +42,7 @@ class COREGUI_API CGridNotify {
 
   /// A cell is about to be displayed: everything stored and default is in; change what you like.
   virtual void OnGetCell(int col, long row, CGridCell* cell);
-  /// A cell is about to be stored.
+  /// A cell is about to be stored; what is changed in `cell` is stored.
   virtual void OnSetCell(int col, long row, CGridCell* cell);
   /// A pasted field was written to the cell.
   virtual void OnPaste(int col, long row);

@@ -150,21 +150,31 @@ class COREGUI_API CGridCell : public CObject {
 
   // --- Further contents
 
+  /// What types show beside or instead of the value: the check box its text, the drop list its choices,
+  /// parted by LF.
   int SetLabelText(const wchar_t* label);
   const wchar_t* GetLabelText() const;
   int GetLabelText(CString* label) const;
+  /// For a masked editor; cells are not edited yet.
   int SetMask(const wchar_t* mask);
   const wchar_t* GetMask() const;
   int GetMask(CString* mask) const;
+  /// A number for the application's use, 32 bits of it; 0 until set.
   int SetParam(long param);
   long GetParam() const;
 
   // --- Behaviour
 
+  /// The ID of the type that draws the cell: 0 normal, 1 drop list, 2 check box, 3 arrow, or what
+  /// CGridCtrl::AddCellType gave.
   int SetCellType(int type);
   int GetCellType() const;
+  /// Bits that refine the drawing: coregui::kExtendedWrap and so on for the normal type (CellStyleBits.h),
+  /// those of the other types in CheckBoxPlan.h and ArrowPlan.h.
   int SetCellTypeEx(long style);
   long GetCellTypeEx() const;
+  /// 1 keeps a person from cutting, checking and choosing. Pasting asks the stored cell alone, not the
+  /// column's default.
   int SetReadOnly(int readOnly);
   int GetReadOnly() const;
   int SetFormatClass(CGridCellFormat* format);
@@ -180,18 +190,22 @@ class COREGUI_API CGridCell : public CObject {
   /// Re-derives a text colour of black or white.
   int SetBackColor(COLORREF color);
   COLORREF GetBackColor() const;
+  /// H: of the selected cell, and of the current one where the current-cell mode says so.
   int SetHTextColor(COLORREF color);
   COLORREF GetHTextColor() const;
   int SetHBackColor(COLORREF color);
   COLORREF GetHBackColor() const;
+  /// Sides and widths: coregui::kBorderThin and so on (CellStyleBits.h).
   int SetBorder(short border);
   short GetBorder() const;
+  /// Null: the control's own pen.
   int SetBorderColor(CPen* pen);
   CPen* GetBorderColor() const;
   int SetFont(CFont* font);
   CFont* GetFont() const;
   int SetBitmap(CBitmap* bitmap);
   CBitmap* GetBitmap() const;
+  /// coregui::kAlignRight and so on, one across and one down together (CellStyleBits.h).
   int SetAlignment(short alignment);
   short GetAlignment() const;
 
