@@ -14,7 +14,8 @@ struct PrintPage {
   double width = 210.0;   ///< millimetres
   double height = 297.0;  ///< millimetres
   /// A coordinate of the context is one of these dots; a printer may choose its own. At 96 what is drawn for
-  /// the screen, a grid's cells say, comes out in its size there; PDF and SVG keep its texts and lines sharp.
+  /// the screen, a grid's cells say, comes out in its size there; texts and lines stay sharp. A line lies
+  /// with its middle on its coordinates, so a fill that ends there covers half of it.
   int dotsPerInch = 600;
 };
 
