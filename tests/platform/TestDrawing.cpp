@@ -5,22 +5,14 @@
 #include <cmath>
 #include <limits>
 #include <numbers>
-#include <random>
 #include <tuple>
 #include <vector>
 
-#include "platform/CDC.h"
-#include "platform/qt/BitmapData.h"
-#include "platform/qt/RasterTarget.h"
+#include "tests/platform/SurfaceDC.h"
 
 namespace {
 
-/// A context on a surface of its own.
-class SurfaceDC : public CDC {
- public:
-  explicit SurfaceDC(std::shared_ptr<coregui::Surface> surface)
-      : CDC(std::make_shared<coregui::RasterTarget>(std::move(surface))) {}
-};
+using coregui::test::SurfaceDC;
 
 constexpr COLORREF red = RGB(255, 0, 0);
 constexpr COLORREF white = RGB(255, 255, 255);
@@ -40,6 +32,11 @@ class Drawing : public testing::TestWithParam<double> {
   }
   int AllDots() const { return surface->Dots().cx * surface->Dots().cy; }
   void Clear() { dc.FillSolidRect(CRect(0, 0, 60, 40), white); }
+  QImage Drawn(const std::vector<POINT>& line) {
+    Clear();
+    dc.Polyline(line.data(), static_cast<int>(line.size()));
+    return surface->Snapshot();
+  }
 };
 
 INSTANTIATE_TEST_SUITE_P(Scales, Drawing, testing::Values(1.0, 1.25, 1.5, 2.0));
@@ -92,32 +89,24 @@ TEST_P(Drawing, Polyline_HasTheDotsOfItsSegments_UpAndDownInAColumnToo) {
       dc.LineTo(line[i].x, line[i].y);
     }
     const QImage segments = surface->Snapshot();
-    Clear();
-    dc.Polyline(line.data(), static_cast<int>(line.size()));
-    EXPECT_EQ(surface->Snapshot(), segments) << "the line from column " << line[0].x;
+    EXPECT_EQ(Drawn(line), segments) << "the line from column " << line[0].x;
   }
 }
 
 TEST_P(Drawing, DiagonalHatches_FallAndRiseToTheRight) {
-  CPen none(PS_NULL, 1, 0);
-  dc.SelectObject(&none);
-  for (const int hatch : {HS_FDIAGONAL, HS_BDIAGONAL}) {
+  dc.SelectStockObject(StockObject::nullPen);
+  for (const auto& [hatch, down] : {std::pair(HS_FDIAGONAL, 1), {HS_BDIAGONAL, -1}}) {
     Clear();
     CBrush brush(hatch, red);
     dc.SelectObject(&brush);
-    const POINT all[] = {{0, 0}, {60, 0}, {60, 40}, {0, 40}};
-    dc.Polygon(all, 4);
-    const int down = hatch == HS_FDIAGONAL ? 1 : -1;
-    int along = 0;
-    int against = 0;
+    dc.Rectangle(CRect(0, 0, 61, 41));
+    const auto ink = [this](int x, int y) { return Dot(x, y) != 0xFFFFFF ? 1 : 0; };
+    int alongLessAgainst = 0;
     for (int y = 8; y < 32; ++y) {
-      for (int x = 8; x < 52; ++x) {
-        const bool ink = Dot(x, y) != 0xFFFFFF;
-        along += ink && Dot(x + 1, y + down) != 0xFFFFFF ? 1 : 0;
-        against += ink && Dot(x + 1, y - down) != 0xFFFFFF ? 1 : 0;
-      }
+      for (int x = 8; x < 52; ++x)
+        alongLessAgainst += ink(x, y) * (ink(x + 1, y + down) - ink(x + 1, y - down));
     }
-    EXPECT_GT(along, against + 50) << hatch;
+    EXPECT_GT(alongLessAgainst, 50) << hatch;
     dc.SelectStockObject(StockObject::nullBrush);
   }
 }
@@ -126,38 +115,27 @@ TEST_P(Drawing, Dashes_GoOnFromPartToPart) {
   for (const int style : {PS_DASH, PS_DOT, PS_DASHDOTDOT}) {
     CPen pen(style, 1, red);
     dc.SelectObject(&pen);
-    const POINT whole[] = {{2, 10}, {58, 10}};
-    const POINT parts[] = {{2, 10}, {4, 10}, {9, 10}, {10, 10}, {23, 10}, {24, 10}, {58, 10}};
-    Clear();
-    dc.Polyline(whole, 2);
-    const QImage line = surface->Snapshot();
-    Clear();
-    dc.Polyline(parts, 7);
-    EXPECT_EQ(surface->Snapshot(), line) << style;
+    const QImage whole = Drawn({{2, 10}, {58, 10}});
+    EXPECT_EQ(Drawn({{2, 10}, {4, 10}, {9, 10}, {10, 10}, {23, 10}, {24, 10}, {58, 10}}), whole) << style;
   }
 }
 
 TEST_P(Drawing, Dashes_OfThinLinesAreTheSame_SmoothAndAsAWiderPen) {
-  struct Row {
-    int width;
-    double unit;
-    bool smooth;
-    std::string expected;
-  };
   // At 5, 12, 22, 29, 41, 48 and 54: 18 pixels of ink, 6 without, or half of that.
-  for (const Row& row : {Row{1, 0, false, "##.##.#"}, Row{1, 0, true, "##.##.#"}, Row{3, 1, false, "##.##.#"},
-                         Row{3, 1, true, "##.##.#"}, Row{1, 0.5, true, "#.###.#"}}) {
-    SCOPED_TRACE(testing::Message() << row.width << ' ' << row.unit << ' ' << row.smooth);
-    CPen pen(PS_DASH, row.width, red);
-    pen.SetDashUnit(row.unit);
+  constexpr std::tuple<int, double, bool, const char*> rows[] = {{1, 0.0, false, "##.##.#"},
+                                                                 {1, 0.0, true, "##.##.#"},
+                                                                 {3, 1.0, false, "##.##.#"},
+                                                                 {3, 1.0, true, "##.##.#"},
+                                                                 {1, 0.5, true, "#.###.#"}};
+  for (const auto& [width, unit, smooth, expected] : rows) {
+    CPen pen(PS_DASH, width, red);
+    pen.SetDashUnit(unit);
     dc.SelectObject(&pen);
-    dc.SetAntiAliasing(row.smooth);
-    Clear();
-    const POINT line[] = {{2, 10}, {60, 10}};
-    dc.Polyline(line, 2);
+    dc.SetAntiAliasing(smooth);
+    Drawn({{2, 10}, {60, 10}});
     std::string ink;
     for (const int x : {5, 12, 22, 29, 41, 48, 54}) ink += dc.GetPixel(x, 10) == white ? '.' : '#';
-    EXPECT_EQ(ink, row.expected);
+    EXPECT_EQ(ink, expected) << width << ' ' << unit << ' ' << smooth;
   }
 }
 
@@ -236,14 +214,15 @@ TEST_P(Drawing, LineThroughAClip_HasTheDotsOfTheWholeLine) {
   }
 }
 
-TEST_P(Drawing, SmoothLine_InksItsWidthTimesItsLength_HoweverManyPointsAndPasses) {
+TEST_P(Drawing, SmoothLine_InksItsWidthTimesItsLengthAroundItsMiddle_HoweverManyPointsAndPasses) {
   dc.SetAntiAliasing(true);
   for (const int width : {1, 4}) {
+    CPen pen(PS_SOLID, width, 0);
+    dc.SelectObject(&pen);
     for (int degrees = 0; degrees < 360; degrees += 15) {
-      CPen pen(PS_SOLID, width, 0);
-      dc.SelectObject(&pen);
-      const double x = 15 * std::cos(degrees * std::numbers::pi / 180),
-                   y = 15 * std::sin(degrees * std::numbers::pi / 180);
+      SCOPED_TRACE(testing::Message() << width << " wide at " << degrees);
+      const double x = 15 * std::cos(degrees * std::numbers::pi / 180);
+      const double y = 15 * std::sin(degrees * std::numbers::pi / 180);
       std::vector<double> xy;
       for (const int to : {1, -1, 1}) {  // there, back and there again by many small steps
         for (int i = -500; i <= 500; ++i) {
@@ -253,14 +232,17 @@ TEST_P(Drawing, SmoothLine_InksItsWidthTimesItsLength_HoweverManyPointsAndPasses
       Clear();
       dc.PolylineF(xy.data(), static_cast<int>(xy.size() / 2));
       double ink = 0;
-      for (int row = 0; row < surface->Dots().cy; ++row) {
-        for (int column = 0; column < surface->Dots().cx; ++column) {
-          ink += 1.0 - (Dot(column, row) & 0xFFU) / 255.0;
-        }
+      double moment = 0;
+      for (int at = 0; at < AllDots(); ++at) {
+        const int row = at / surface->Dots().cx;
+        const double cover = 1.0 - (Dot(at % surface->Dots().cx, row) & 0xFFU) / 255.0;
+        ink += cover;
+        moment += cover * (row + 0.5);
       }
       const double caps = std::numbers::pi * width * width / 4;
       const double wanted = (30.0 * width + caps) * GetParam() * GetParam();
-      EXPECT_NEAR(ink, wanted, wanted * 0.03) << width << " wide at " << degrees;
+      EXPECT_NEAR(ink, wanted, wanted * 0.03);
+      EXPECT_NEAR(moment / ink, 20.6 * GetParam(), 0.1) << "the middle of a pixel is half a pixel on";
     }
   }
 }
@@ -284,26 +266,7 @@ TEST_P(Drawing, SmoothLine_TurnsRoundCornersAndThroughSmallSteps) {
   EXPECT_EQ(dc.GetPixel(31, 31), 0U) << "outside both parts, inside the corner";
   Clear();
   dc.PolylineF(corner + 6, 2);
-  EXPECT_EQ(CountDots(0xFFFFFF), surface->Dots().cx * surface->Dots().cy) << "no length, no line";
-}
-
-TEST_P(Drawing, SmoothLine_LiesOnTheHardOne) {
-  CPen pen(PS_SOLID, 1, 0);
-  dc.SelectObject(&pen);
-  const POINT line[] = {{5, 10}, {50, 10}};
-  dc.SetAntiAliasing(true);
-  dc.Polyline(line, 2);
-  const double pixel = GetParam();
-  double ink = 0;
-  double moment = 0;
-  for (int y = 0; y < surface->Dots().cy; ++y) {
-    const double cover = 1.0 - (Dot(Edge(30), y) & 0xFF) / 255.0;
-    ink += cover;
-    moment += cover * (y + 0.5);
-  }
-  EXPECT_NEAR(ink, pixel, 0.02) << "one logical pixel thick";
-  EXPECT_NEAR(moment / ink, 10.5 * pixel, 0.1)
-      << "around the middle of pixel 10; covers come in coarse steps";
+  EXPECT_EQ(CountDots(0xFFFFFF), AllDots()) << "no length, no line";
 }
 
 TEST_P(Drawing, ViewportOrigin_MovesDrawingAndClip) {
@@ -383,138 +346,6 @@ TEST_P(Drawing, BoxEdges_CoverTheBoxOnce) {
   EXPECT_EQ(dc.GetPixel(29, 20), RGB(2, 2, 2));
   EXPECT_EQ(dc.GetPixel(20, 29), RGB(2, 2, 2));
   EXPECT_EQ(dc.GetPixel(28, 20), RGB(1, 1, 1));
-}
-
-TEST(DrawingState, RestoreDC_BringsBackTheLevelAskedFor) {
-  CRecordingDC dc;
-  CPen pen(PS_SOLID, 2, red);
-  CFont font;
-  font.CreatePointFont(120, L"Sans");
-  EXPECT_EQ(dc.SaveDC(), 1);
-  dc.SelectObject(&pen);
-  dc.SetTextColor(red);
-  EXPECT_EQ(dc.SaveDC(), 2);
-  dc.SelectObject(&font);
-  dc.SetViewportOrg(3, 4);
-  dc.SetROP2(R2_NOT);
-  EXPECT_EQ(dc.SaveDC(), 3);
-  EXPECT_FALSE(dc.RestoreDC(4) || dc.RestoreDC(0));
-  EXPECT_TRUE(dc.RestoreDC(2));
-  EXPECT_EQ(dc.GetCurrentPen(), &pen);
-  EXPECT_EQ(dc.GetCurrentFont(), nullptr);
-  EXPECT_EQ(dc.GetViewportOrg(), CPoint());
-  EXPECT_EQ(dc.GetROP2(), R2_COPYPEN);
-  EXPECT_TRUE(dc.RestoreDC(-1));
-  EXPECT_EQ(dc.GetTextColor(), 0U);
-  EXPECT_EQ(dc.GetCurrentPen(), CDC::GetStockPen(StockObject::blackPen));
-  EXPECT_FALSE(dc.RestoreDC(-1));
-}
-
-TEST(SurfaceMemory, Resize_KeepsTheCommonPartAndOldContextsInBounds) {
-  const auto surface = std::make_shared<coregui::Surface>(CSize(50, 50), 1.0);
-  SurfaceDC old(surface);
-  old.FillSolidRect(CRect(0, 0, 50, 50), red);
-  surface->Resize(CSize(20, 30), 1.0);
-  SurfaceDC dc(surface);
-  old.FillSolidRect(CRect(25, 0, 50, 50), RGB(0, 0, 9));
-  EXPECT_EQ(dc.GetPixel(19, 29), red);
-  EXPECT_EQ(dc.GetPixel(20, 0), 0xFFFFFFFFU);
-  surface->Resize(CSize(60, 40), 1.0);
-  SurfaceDC grown(surface);
-  EXPECT_EQ(grown.GetPixel(19, 29), red);
-  EXPECT_EQ(grown.GetPixel(20, 10), white);
-  EXPECT_EQ(grown.GetPixel(59, 39), white);
-}
-
-TEST(SurfaceMemory, OneColour_LastsUntilSomethingElseIsDrawn) {
-  const auto surface = std::make_shared<coregui::Surface>(CSize(300, 300), 1.0);
-  SurfaceDC dc(surface);
-  dc.FillSolidRect(CRect(0, 0, 300, 300), RGB(1, 2, 3));
-  surface->Resize(CSize(400, 200), 1.0);
-  SurfaceDC wider(surface);
-  EXPECT_EQ(wider.GetPixel(399, 199), RGB(1, 2, 3));
-  dc.FillSolidRect(CRect(0, 0, 300, 200), red);
-  EXPECT_EQ(wider.GetPixel(299, 199), red);
-  EXPECT_EQ(wider.GetPixel(300, 199), RGB(1, 2, 3)) << "not all of it was filled";
-  surface->Resize(CSize(400, 210), 1.0);
-  EXPECT_EQ(SurfaceDC(surface).GetPixel(5, 205), white);
-}
-
-/// Held against moving dots one by one. The picture is large enough to slide along its memory.
-TEST(SurfaceMemory, Moves_AreThoseOfPlainMemory) {
-  constexpr LONG width = 300;
-  constexpr LONG height = 200;
-  const auto surface = std::make_shared<coregui::Surface>(CSize(width, height), 1.0);
-  SurfaceDC dc(surface);
-  std::vector<std::uint32_t> plain(std::size_t{width} * height, 0xFFFFFFFF);
-  std::mt19937 random(20);
-  const auto any = [&random](int from, int to) {
-    return std::uniform_int_distribution<int>(from, to)(random);
-  };
-  for (int step = 0; step < 400; ++step) {
-    const int dx = any(0, 3) == 0 ? any(-20, 20) : 0;
-    const int dy = any(-60, 60);
-    CRect area(any(0, 3) == 0 ? any(0, 100) : 0, any(0, 40), width, height - any(0, 40));
-    const CRect dot(any(0, width - 40), any(0, height - 1), width, height);
-    const COLORREF colour = RGB(any(0, 255), any(0, 255), 0);
-    dc.FillSolidRect(dot, colour);
-    ASSERT_TRUE(surface->MovePixels(area, dx, dy, area));
-    const auto at = [](auto& dots, int x, int y) -> auto& {
-      return dots[static_cast<std::size_t>(y * width + x)];
-    };
-    for (int y = dot.top; y < height; ++y) {
-      for (int x = dot.left; x < width; ++x) at(plain, x, y) = coregui::Opaque(colour);
-    }
-    const std::vector<std::uint32_t> before = plain;
-    for (int y = area.top; y < area.bottom; ++y) {
-      for (int x = area.left; x < area.right; ++x) {
-        if (area.PtInRect(CPoint(x - dx, y - dy))) at(plain, x, y) = at(before, x - dx, y - dy);
-      }
-    }
-    for (int y = 0; y < height; ++y) {
-      ASSERT_TRUE(
-          std::equal(surface->Row(y), surface->Row(y) + width, plain.begin() + std::ptrdiff_t{y} * width))
-          << "step " << step << ", row " << y << ", by " << dx << ',' << dy;
-    }
-  }
-}
-
-TEST(SurfaceDamage, Damage_AsksForOneExposureUntilTakenAndKeepsFarPiecesApart) {
-  const auto surface = std::make_shared<coregui::Surface>(CSize(500, 500), 2.0);
-  int asked = 0;
-  surface->onDamage = [&asked] { ++asked; };
-  SurfaceDC dc(surface);
-  dc.FillSolidRect(CRect(3, 3, 5, 5), red);
-  dc.MoveTo(10, 7);
-  dc.LineTo(20, 7);
-  EXPECT_EQ(surface->TakeDamage(), std::vector<CRect>{CRect(3, 3, 20, 8)});
-  EXPECT_EQ(asked, 1);
-  EXPECT_TRUE(surface->TakeDamage().empty());
-  dc.FillSolidRect(CRect(0, 0, 500, 20), red);
-  dc.FillSolidRect(CRect(400, 300, 410, 490), red);
-  EXPECT_EQ(surface->TakeDamage(), (std::vector<CRect>{CRect(0, 0, 500, 24), CRect(400, 296, 410, 490)}))
-      << "whole bands, within what was drawn on";
-  EXPECT_EQ(asked, 2);
-}
-
-TEST(MemoryContext, Bitmap_IsDrawnOnAndCopiedBackAndTransparentDotsLetTheGroundThrough) {
-  CBitmap bitmap;
-  ASSERT_TRUE(bitmap.CreateCompatibleBitmap(nullptr, 20, 10));
-  CMemoryDC memory(nullptr, &bitmap);
-  memory.FillSolidRect(CRect(0, 0, 20, 10), white);
-  memory.FillSolidRect(CRect(5, 5, 10, 10), red);
-  const auto surface = std::make_shared<coregui::Surface>(CSize(50, 50), 1.0);
-  SurfaceDC dc(surface);
-  EXPECT_TRUE(dc.BitBlt(10, 10, 100, 100, &memory, 5, 5, SRCCOPY)) << "more than there is: what there is";
-  EXPECT_EQ(dc.GetPixel(10, 10), red);
-  EXPECT_EQ(dc.GetPixel(15, 10), white);
-  EXPECT_FALSE(bitmap.CreateCompatibleBitmap(nullptr, 0, 5));
-  EXPECT_FALSE(bitmap.IsCreated());
-  ASSERT_TRUE(bitmap.CreateFromPixels(2, 1, {0xFFFF0000, 0x00000000}));
-  dc.DrawBitmap(bitmap, 3, 3);
-  EXPECT_EQ(dc.GetPixel(3, 3), red);
-  EXPECT_EQ(dc.GetPixel(4, 3), white);
-  EXPECT_FALSE(bitmap.CreateFromPixels(3, 3, {1, 2}));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The log of a recording context.
+// A recording context: its state, its log and the layout of its texts.
 
 #include <gtest/gtest.h>
 
@@ -7,6 +7,31 @@
 #include "platform/CDC.h"
 
 namespace {
+
+TEST(DrawingState, RestoreDC_BringsBackTheLevelAskedFor) {
+  CRecordingDC dc;
+  CPen pen(PS_SOLID, 2, RGB(255, 0, 0));
+  CFont font;
+  font.CreatePointFont(120, L"Sans");
+  EXPECT_EQ(dc.SaveDC(), 1);
+  dc.SelectObject(&pen);
+  dc.SetTextColor(RGB(255, 0, 0));
+  EXPECT_EQ(dc.SaveDC(), 2);
+  dc.SelectObject(&font);
+  dc.SetViewportOrg(3, 4);
+  dc.SetROP2(R2_NOT);
+  EXPECT_EQ(dc.SaveDC(), 3);
+  EXPECT_FALSE(dc.RestoreDC(4) || dc.RestoreDC(0));
+  EXPECT_TRUE(dc.RestoreDC(2));
+  EXPECT_EQ(dc.GetCurrentPen(), &pen);
+  EXPECT_EQ(dc.GetCurrentFont(), nullptr);
+  EXPECT_EQ(dc.GetViewportOrg(), CPoint());
+  EXPECT_EQ(dc.GetROP2(), R2_COPYPEN);
+  EXPECT_TRUE(dc.RestoreDC(-1));
+  EXPECT_EQ(dc.GetTextColor(), 0U);
+  EXPECT_EQ(dc.GetCurrentPen(), CDC::GetStockPen(StockObject::blackPen));
+  EXPECT_FALSE(dc.RestoreDC(-1));
+}
 
 TEST(Recording, Log_WritesCallsAndTextsWithWhatTheyDrawWith) {
   CRecordingDC dc;

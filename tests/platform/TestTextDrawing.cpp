@@ -6,10 +6,9 @@
 #include <map>
 #include <tuple>
 
-#include "platform/CDC.h"
 #include "platform/FontFamilies.h"
 #include "platform/qt/GlyphRow.h"
-#include "platform/qt/RasterTarget.h"
+#include "tests/platform/SurfaceDC.h"
 
 namespace {
 
@@ -22,15 +21,8 @@ class ShapedTarget : public coregui::RasterTarget {
   }
 };
 
-template <typename Device>
-class TargetDC : public CDC {
- public:
-  explicit TargetDC(std::shared_ptr<coregui::Surface> surface)
-      : CDC(std::make_shared<Device>(std::move(surface))) {}
-};
-
-using FastDC = TargetDC<coregui::RasterTarget>;
-using ShapedDC = TargetDC<ShapedTarget>;
+using coregui::test::SurfaceDC;
+using ShapedDC = coregui::test::TargetDC<ShapedTarget>;
 
 constexpr COLORREF white = RGB(255, 255, 255);
 constexpr COLORREF dark = RGB(30, 30, 36);
@@ -57,7 +49,7 @@ double MeanDifference(const QImage& a, const QImage& b) {
 class TextDrawing : public testing::TestWithParam<double> {
  protected:
   std::shared_ptr<coregui::Surface> surface = std::make_shared<coregui::Surface>(CSize(300, 60), GetParam());
-  FastDC dc{surface};
+  SurfaceDC dc{surface};
 };
 
 INSTANTIATE_TEST_SUITE_P(Scales, TextDrawing, testing::Values(1.0, 1.25, 1.5, 2.0));
@@ -165,7 +157,7 @@ TEST_P(TextDrawing, TextThroughAClip_HasTheDotsOfTheWholeText) {
 
 TEST(TextFonts, Fonts_FollowTheirProperties) {
   const auto surface = std::make_shared<coregui::Surface>(CSize(200, 200), 1.0);
-  FastDC dc(surface);
+  SurfaceDC dc(surface);
   dc.SetBkMode(TRANSPARENT);
   CFont font;
   const auto heightOf = [&](int points, LONG cell) {
@@ -196,7 +188,7 @@ TEST(TextFonts, Fonts_FollowTheirProperties) {
 
 TEST(TextFonts, Escapement_TurnsTheTextAroundItsPoint) {
   const auto surface = std::make_shared<coregui::Surface>(CSize(200, 200), 1.0);
-  FastDC dc(surface);
+  SurfaceDC dc(surface);
   dc.SetBkMode(TRANSPARENT);
   LOGFONT turned;
   turned.lfEscapement = 900;
@@ -211,7 +203,7 @@ TEST(TextFonts, Escapement_TurnsTheTextAroundItsPoint) {
 
 TEST(TextFonts, ContextOnADeletedFontsAddress_DrawsTheNewFont) {
   const auto surface = std::make_shared<coregui::Surface>(CSize(20, 20), 1.0);
-  FastDC dc(surface);
+  SurfaceDC dc(surface);
   LONG height = 0;
   for (int points = 80; points <= 400; points += 80) {
     CFont font;
@@ -241,7 +233,7 @@ TEST(TextSafety, ShapedTexts_AreNotMixedUp) {
 
 TEST(TextSafety, HugeAndOddTexts_AreMeasuredAndDrawn) {
   const auto surface = std::make_shared<coregui::Surface>(CSize(100, 40), 1.0);
-  FastDC dc(surface);
+  SurfaceDC dc(surface);
   dc.SetBkMode(TRANSPARENT);
   const std::wstring huge(3000000, L'x');
   EXPECT_GT(dc.GetTextExtent(huge.c_str(), -1).cx, 3000000);
