@@ -1,10 +1,13 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <set>
 #include <string>
 #include <utility>
 
+#include "platform/CWinApp.h"
 #include "platform/CWnd.h"
 #include "platform/WindowRef.h"
 #include "platform/qt/interop.h"
@@ -91,6 +94,20 @@ class LogWindow : public CWnd {
   }
 
   CString m_log;
+};
+
+/// One that is shown and has nothing more to say.
+class OpenWindow : public LogWindow {
+ public:
+  explicit OpenWindow(CRect rect = CRect(0, 0, 200, 100)) { Settle(Open(rect)); }
+  OpenWindow(CWnd& parent, CRect rect, UINT id = 0) { Settle(OpenIn(parent, rect, id)); }
+
+ private:
+  void Settle(BOOL opened) {
+    EXPECT_TRUE(opened);
+    CWinApp::PumpPending();
+    TakeLog();
+  }
 };
 
 }  // namespace coregui::test

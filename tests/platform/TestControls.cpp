@@ -64,63 +64,50 @@ TEST(Button, RadioButtonsExcludeEachOtherWithinTheirGroup) {
   CButton buttons[4];
   for (int i = 0; i < 4; ++i) {
     const DWORD group = i % 2 == 0 ? WS_GROUP : 0;
-    buttons[i].Create(L"r", WS_CHILD | WS_VISIBLE | BS_AUTORADIOBUTTON | group,
-                      CRect(5, 5 + 20 * i, 100, 22 + 20 * i), &host, static_cast<UINT>(i));
+    buttons[i].Create(L"r", kChild | BS_AUTORADIOBUTTON | group, PlaceAt(i), &host, static_cast<UINT>(i));
   }
-  const auto checks = [&buttons] {
-    std::string text;
-    for (const CButton& button : buttons) text += std::to_string(button.GetCheck());
-    return text;
-  };
   for (const int pressed : {0, 3, 1, 1}) buttons[pressed].Click();
-  EXPECT_EQ(checks(), "0101");
+  std::string checks;
+  for (const CButton& button : buttons) checks += std::to_string(button.GetCheck());
+  EXPECT_EQ(checks, "0101");
   buttons[1].SetCheck(BST_UNCHECKED);
-  EXPECT_EQ(checks(), "0001");
+  EXPECT_EQ(buttons[1].GetCheck(), BST_UNCHECKED);
 }
 
-TEST(Static, NamesTheControlBehindItAndItsAccessKeyLeadsThere) {
+TEST(Static, NamesTheControlBehindItWhereItsHiddenAccessKeyLeadsAndTellsOfClicks) {
   ControlHost host;
-  const CRect place(5, 5, 100, 30);
-  const DWORD style = WS_CHILD | WS_VISIBLE;
   CStatic title;
   CStatic label;
   CEdit edit;
   CStatic last;
   CButton button;
-  title.Create(L"&Names", style, place, &host, 1);
-  label.Create(L"&Name && kind", style, place, &host, 2);
-  edit.Create(style, place, &host, 3);
-  last.Create(L"&Go", style, place, &host, 4);
-  button.Create(L"&Start", style, place, &host, 5);
+  title.Create(L"&Names", kChild, PlaceAt(0), &host, 1);
+  label.Create(L"&Name && kind", kChild, PlaceAt(1), &host, 2);
+  edit.Create(kChild, PlaceAt(2), &host, 3);
+  last.Create(L"&Go", kChild, PlaceAt(3), &host, 4);
+  button.Create(L"&Start", kChild, PlaceAt(4), &host, 5);
   const auto spoken = [](CWnd& window) {
     return QAccessible::queryAccessibleInterface(WidgetOf(&window))->text(QAccessible::Name);
   };
   EXPECT_EQ(spoken(edit), "Name & kind");
   EXPECT_EQ(spoken(button), "Start") << "a button bears its own name";
   QCoreApplication::processEvents();
-  button.SetFocus();
-  QTest::keyClick(WidgetOf(&button), Qt::Key_N, Qt::AltModifier);
-  EXPECT_EQ(CWnd::GetFocus(), &edit);
-  label.SetWindowText(L"K&ind");
-  button.SetFocus();
-  QTest::keyClick(WidgetOf(&button), Qt::Key_I, Qt::AltModifier);
-  EXPECT_EQ(CWnd::GetFocus(), &edit);
+  for (const auto& [text, key] : {std::pair(L"&Name && kind", Qt::Key_N), {L"K&ind", Qt::Key_I}}) {
+    label.SetWindowText(text);
+    button.SetFocus();
+    QTest::keyClick(WidgetOf(&button), key, Qt::AltModifier);
+    EXPECT_EQ(CWnd::GetFocus(), &edit);
+  }
   edit.DestroyWindow();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   EXPECT_EQ(static_cast<QLabel*>(WidgetOf(&label))->text(), "Kind");
-}
-
-TEST(Static, HidesTheMarkOfItsAccessKeyAndTellsOfClicks) {
-  ControlHost host;
   CStatic text;
-  text.Create(L"&Find && go", WS_CHILD | WS_VISIBLE | SS_NOTIFY, CRect(5, 5, 100, 30), &host, 4);
-  const auto* label = static_cast<QLabel*>(WidgetOf(&text));
-  EXPECT_EQ(label->text(), "Find & go");
-  EXPECT_EQ(text.GetWindowTextString(), L"&Find && go");
+  text.Create(L"<b>&Find</b> && go", kChild | SS_NOTIFY, PlaceAt(5), &host, 6);
+  EXPECT_EQ(static_cast<QLabel*>(WidgetOf(&text))->text(), "<b>Find</b> & go");
+  EXPECT_EQ(text.GetWindowTextString(), L"<b>&Find</b> && go");
+  host.TakeLog();
   QTest::mouseClick(WidgetOf(&text), Qt::LeftButton);
-  EXPECT_EQ(host.TakeLog(), L"4:0 ");
-  text.SetWindowText(L"<b>5</b>");
-  EXPECT_EQ(label->text(), "<b>5</b>");
+  EXPECT_EQ(host.TakeLog(), L"6:0 ");
 }
 
 // --- Scroll bars
@@ -163,25 +150,15 @@ TEST(ScrollBar, PositionsStayInTheRangeLessThePage) {
   EXPECT_EQ(bar.GetScrollPos(), 5);
 }
 
-TEST(ScrollBar, KeysAskAndOnlyTheParentMoves) {
-  ControlHost deaf;
-  CScrollBar bar;
-  bar.Create(WS_CHILD | WS_VISIBLE | SBS_VERT, CRect(0, 0, 20, 200), &deaf, 3);
-  QWidget* widget = WidgetOf(&bar);
-  QTest::keyClick(widget, Qt::Key_Down);
-  QTest::keyClick(widget, Qt::Key_PageDown);
-  QTest::keyClick(widget, Qt::Key_End);
-  EXPECT_EQ(deaf.TakeLog(), L"v:1 v:8 v:3 v:8 v:7 v:8 ");
-  EXPECT_EQ(bar.GetScrollPos(), 0);
-  EXPECT_EQ(static_cast<QScrollBar*>(widget)->value(), 0);
-  bar.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
-  EXPECT_EQ(deaf.TakeLog(), L"v:1 v:1 v:1 v:8 ");
-}
-
-TEST(ScrollBar, DraggingGivesAll32Bits) {
+TEST(ScrollBar, OnlyTheParentMovesByAKeyOrTheWheelOrAllThe32BitsOfADrag) {
   Follower host;
   CScrollBar bar;
   bar.Create(WS_CHILD | WS_VISIBLE | SBS_VERT, CRect(0, 0, 20, 200), &host, 3);
+  auto& widget = static_cast<QScrollBar&>(*WidgetOf(&bar));
+  for (const Qt::Key key : {Qt::Key_PageDown, Qt::Key_End}) QTest::keyClick(&widget, key);
+  EXPECT_EQ(host.TakeLog(), L"v:3 v:8 v:7 v:8 ");
+  EXPECT_EQ(bar.GetScrollPos(), 0);
+  EXPECT_EQ(widget.value(), 0);
   SCROLLINFO info;
   info.nMax = kLargest;
   info.nPage = 40;
@@ -194,10 +171,11 @@ TEST(ScrollBar, DraggingGivesAll32Bits) {
   });
   EXPECT_EQ(host.TakeLog(), L"v:5 v:4 v:8 ");
   EXPECT_EQ(bar.GetScrollPos(), dropped);
-  EXPECT_EQ(static_cast<QScrollBar*>(WidgetOf(&bar))->value(), dropped);
-  QTest::keyClick(WidgetOf(&bar), Qt::Key_Down);
-  EXPECT_EQ(host.TakeLog(), L"v:1 v:8 ");
+  EXPECT_EQ(widget.value(), dropped);
+  QTest::keyClick(&widget, Qt::Key_Down);
   EXPECT_EQ(bar.GetScrollPos(), dropped + 1) << "an answered step moves by one";
+  bar.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
+  EXPECT_EQ(host.TakeLog(), L"v:1 v:8 v:1 v:1 v:1 v:8 ");
 }
 
 // --- Sliders, spin buttons, progress bars
@@ -205,11 +183,9 @@ TEST(ScrollBar, DraggingGivesAll32Bits) {
 TEST(Slider, MovesByItselfAndTells) {
   ControlHost host;
   CSliderCtrl slider;
-  slider.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 24), &host, 2);
+  slider.Create(kChild, PlaceAt(0), &host, 2);
   slider.SetRange(-10, 10);
   slider.SetPos(99);
-  EXPECT_EQ(slider.GetPos(), 10);
-  EXPECT_EQ(host.TakeLog(), L"");
   QTest::keyClick(WidgetOf(&slider), Qt::Key_Left);
   EXPECT_EQ(slider.GetPos(), 9);
   EXPECT_EQ(host.TakeLog(), L"h:0 h:8 ");
@@ -224,19 +200,20 @@ class UpOnly : public CSpinButtonCtrl {
 TEST(SpinButton, StepsShowInTheBuddy) {
   ControlHost host;
   CEdit buddy;
-  buddy.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 80, 24), &host, 1);
+  buddy.Create(kChild, PlaceAt(0), &host, 1);
   UpOnly spin;
-  spin.Create(WS_CHILD | WS_VISIBLE | UDS_SETBUDDYINT | UDS_WRAP, CRect(80, 0, 100, 24), &host, 2);
+  spin.Create(kChild | UDS_SETBUDDYINT | UDS_WRAP, PlaceAt(1), &host, 2);
   spin.SetBuddy(&buddy);
   spin.SetRange32(5, 3);
   spin.SetPos32(4);
   host.TakeLog();
-  QTest::keyClick(WidgetOf(&spin), Qt::Key_Up);
-  EXPECT_EQ(buddy.GetWindowTextString(), L"5");
+  const auto press = [&](Qt::Key key) {
+    return QTest::keyClick(WidgetOf(&spin), key), buddy.GetWindowTextString();
+  };
+  EXPECT_EQ(press(Qt::Key_Up), L"5");
   EXPECT_NE(host.TakeLog().Find(L"v:4 v:8 "), -1);
-  QTest::keyClick(WidgetOf(&spin), Qt::Key_Down);
-  EXPECT_EQ(spin.GetPos32(), 5);
-  QTest::keyClick(WidgetOf(&spin), Qt::Key_Up);
+  EXPECT_EQ(press(Qt::Key_Down), L"5");
+  EXPECT_EQ(press(Qt::Key_Up), L"3");
   EXPECT_EQ(spin.GetPos32(), 3);
 }
 

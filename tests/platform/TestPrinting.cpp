@@ -9,9 +9,7 @@
 #include <QXmlStreamReader>
 #include <cmath>
 #include <filesystem>
-#include <map>
 #include <string>
-#include <vector>
 
 #include "platform/CPrinterDC.h"
 #include "tests/support/FolderTest.h"
@@ -26,6 +24,9 @@ void DrawSheet(CDC& dc, const wchar_t* text) {
   CFont font;
   font.CreatePointFont(120, L"");
   dc.SelectObject(&font);
+  TEXTMETRIC metrics;
+  dc.GetTextMetrics(&metrics);
+  EXPECT_NEAR(metrics.tmHeight, dc.GetDeviceCaps(LOGPIXELSX) / 4.8, 10) << "12 points are a sixth of an inch";
   dc.SetBkMode(TRANSPARENT);
   dc.TextOut(600, 600, text, -1);
   dc.MoveTo(600, 1000);
@@ -39,25 +40,15 @@ TEST_F(Printing, Pdf_HasTheSheetsItsSizeAndItsText) {
   CPrinterDC dc(PrintOutput::pdf, path, {420.0, 297.0, 600});
   EXPECT_EQ(dc.GetDeviceCaps(LOGPIXELSX), 600);
   EXPECT_EQ(dc.GetDeviceCaps(HORZRES), static_cast<int>(std::lround(420.0 / 25.4 * 600)));
-  CFont font;
-  font.CreatePointFont(120, L"");
-  dc.SelectObject(&font);
-  TEXTMETRIC metrics;
-  dc.GetTextMetrics(&metrics);
-  EXPECT_GE(metrics.tmHeight, 100) << "12 points are 100 dots";
-  EXPECT_LE(metrics.tmHeight, 150);
-  dc.SelectStockObject(StockObject::systemFont);
-
   EXPECT_FALSE(dc.StartPage()) << "no document yet";
   ASSERT_TRUE(dc.StartDoc(L"Long section"));
   EXPECT_FALSE(dc.StartDoc(L"again"));
   dc.TextOut(0, 0, L"dropped", -1);
-  EXPECT_TRUE(dc.StartPage());
-  DrawSheet(dc, L"Sheet one");
-  EXPECT_TRUE(dc.EndPage());
-  EXPECT_TRUE(dc.StartPage());
-  DrawSheet(dc, L"Sheet two");
-  EXPECT_TRUE(dc.EndPage());
+  for (const wchar_t* text : {L"Sheet one", L"Sheet two"}) {
+    EXPECT_TRUE(dc.StartPage());
+    DrawSheet(dc, text);
+    EXPECT_TRUE(dc.EndPage());
+  }
   EXPECT_FALSE(dc.EndPage());
   EXPECT_TRUE(dc.EndDoc());
   EXPECT_FALSE(dc.EndDoc());
@@ -79,56 +70,33 @@ TEST_F(Printing, Pdf_HasTheSheetsItsSizeAndItsText) {
   EXPECT_FALSE(text.contains("dropped"));
 }
 
-TEST_F(Printing, Svg_IsOneFileASheet) {
-  const CString path = Wide("plot.svg");
-  CPrinterDC dc(PrintOutput::svg, path, {210.0, 297.0, 96});
-  ASSERT_TRUE(dc.StartDoc(L"Plan"));
-  ASSERT_TRUE(dc.StartPage());
-  DrawSheet(dc, L"First");
-  EXPECT_TRUE(dc.EndPage());
-  ASSERT_TRUE(dc.StartPage());
-  DrawSheet(dc, L"Second");
-  EXPECT_TRUE(dc.EndDoc()) << "ends the open page too";
-  EXPECT_THAT(Read("plot.svg"), HasSubstr("First"));
-  EXPECT_THAT(Read("plot-2.svg"), HasSubstr("Second"));
-  EXPECT_THAT(Read("plot.svg"), HasSubstr("viewBox=\"0 0 794 1123\""));
-  EXPECT_THAT(Read("plot.svg"), HasSubstr("width=\"210"));
-}
-
-/// The texts of an SVG file in their order, each with the rectangles that it is clipped to; a note of what is
-/// wrong with the file.
+/// The outer groups of an SVG file in their order with the rectangle that each is clipped to and its texts; a
+/// note of what is wrong with the file.
 std::string ClippedTexts(const std::string& svg) {
   QXmlStreamReader reader(QString::fromStdString(svg));
-  std::map<QString, std::string> clips;
-  QString defining;
-  std::vector<QString> groups;
   std::string found;
+  int depth = 0;
   while (!reader.atEnd()) {
-    reader.readNext();
+    const QXmlStreamReader::TokenType token = reader.readNext();
+    if (token == QXmlStreamReader::EndElement) --depth;
+    if (token != QXmlStreamReader::StartElement) continue;
     const QXmlStreamAttributes with = reader.attributes();
-    if (reader.isEndElement()) {
-      groups.pop_back();
-    } else if (reader.isStartElement()) {
-      groups.push_back(with.value("clip-path").toString());
-      if (reader.name() == QStringLiteral("clipPath")) {
-        defining = QStringLiteral("url(#%1)").arg(with.value("id"));
-      } else if (reader.name() == QStringLiteral("rect") && !defining.isEmpty() &&
-                 !clips.contains(defining)) {
-        for (const char* name : {"x", "y", "width", "height"}) {
-          clips[defining] += " " + with.value(QLatin1String(name)).toString().toStdString();
-        }
-      } else if (reader.name() == QStringLiteral("text")) {
-        found += reader.readElementText().trimmed().toStdString() + ":";
-        groups.pop_back();
-        for (const QString& group : groups) found += group.isEmpty() ? "" : clips[group];
-        found += "; ";
+    if (depth == 1 && with.hasAttribute("clip-path")) found += "clipped ";
+    if (depth == 1) found += reader.name().toString().toStdString() + ": ";
+    if (++depth == 3 && reader.name() == QStringLiteral("rect")) {
+      for (const char* name : {"x", "y", "width", "height"}) {
+        found += with.value(QLatin1String(name)).toString().toStdString() + " ";
       }
+    }
+    if (reader.name() == QStringLiteral("text")) {
+      found += reader.readElementText().trimmed().toStdString() + "; ";
+      --depth;  // its end is read already
     }
   }
   return found + reader.errorString().toStdString();
 }
 
-TEST_F(Printing, Svg_IsClippedAsItIsDrawn) {
+TEST_F(Printing, Svg_IsClippedAsItIsDrawnOnOneFileASheet) {
   const CString path = Wide("plot.svg");
   CPrinterDC dc(PrintOutput::svg, path, {210.0, 297.0, 96});
   ASSERT_TRUE(dc.StartDoc(L"Cut & <fill>"));
@@ -142,9 +110,17 @@ TEST_F(Printing, Svg_IsClippedAsItIsDrawn) {
   dc.TextOut(60, 120, L"too", -1);
   dc.RestoreDC(saved);
   dc.TextOut(60, 300, L"after", -1);
-  EXPECT_TRUE(dc.EndDoc());
-  EXPECT_EQ(ClippedTexts(Read("plot.svg")), "whole:; a < b & c: 50 60 200 100; too: 50 60 200 100; after:; ");
-  EXPECT_THAT(Read("plot.svg"), HasSubstr("<title>Cut &amp; &lt;fill&gt;</title>"));
+  EXPECT_TRUE(dc.EndPage());
+  ASSERT_TRUE(dc.StartPage());
+  DrawSheet(dc, L"Second");
+  EXPECT_TRUE(dc.EndDoc()) << "ends the open page too";
+  EXPECT_THAT(Read("plot-2.svg"), HasSubstr("Second"));
+  const std::string svg = Read("plot.svg");
+  EXPECT_THAT(svg, HasSubstr("<title>Cut &amp; &lt;fill&gt;</title>"));
+  EXPECT_THAT(svg, HasSubstr("viewBox=\"0 0 794 1123\""));
+  EXPECT_THAT(svg, HasSubstr("width=\"210"));
+  EXPECT_EQ(ClippedTexts(svg),
+            "title: g: whole; clipPath: 50 60 200 100 clipped g: a < b & c; too; g: after; ");
 }
 
 TEST_F(Printing, Failures_AreReported) {

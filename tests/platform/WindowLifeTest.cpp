@@ -143,12 +143,10 @@ TEST(WindowLife, MayEndInItsOwnHandlerByItselfOrWithItsObjectOrParent) {
 // --- Family and state
 
 TEST(WindowFamily, SiblingsKeepTheirOrderAsTheyAreRaisedAndPlaced) {
-  LogWindow parent;
-  LogWindow a;
-  LogWindow b;
-  LogWindow c;
-  ASSERT_TRUE(parent.Open());
-  for (LogWindow* child : {&a, &b, &c}) ASSERT_TRUE(child->OpenIn(parent, CRect(0, 0, 20, 20)));
+  OpenWindow parent;
+  OpenWindow a(parent, CRect(0, 0, 20, 20));
+  OpenWindow b(parent, CRect(0, 0, 20, 20));
+  OpenWindow c(parent, CRect(0, 0, 20, 20));
   const auto order = [&] {
     std::vector<CWnd*> found;
     for (CWnd* at = parent.GetWindow(GW_CHILD); at != nullptr; at = at->GetWindow(GW_HWNDNEXT))
@@ -174,12 +172,9 @@ TEST(WindowFamily, SiblingsKeepTheirOrderAsTheyAreRaisedAndPlaced) {
 }
 
 TEST(WindowFamily, AWindowMovesUnderAnotherParent) {
-  LogWindow first;
-  LogWindow second;
-  LogWindow child;
-  ASSERT_TRUE(first.Open());
-  ASSERT_TRUE(second.Open());
-  ASSERT_TRUE(child.OpenIn(first, CRect(7, 8, 27, 28), 3));
+  OpenWindow first;
+  OpenWindow second;
+  OpenWindow child(first, CRect(7, 8, 27, 28), 3);
   EXPECT_EQ(child.SetParent(&second), &first);
   EXPECT_EQ(WidgetOf(&child)->parentWidget(), WidgetOf(&second));
   EXPECT_EQ(WidgetOf(&child)->geometry(), QRect(7, 8, 20, 20));
@@ -193,10 +188,7 @@ TEST(WindowFamily, AWindowMovesUnderAnotherParent) {
 }
 
 TEST(WindowPlace, WhatThePersonDoesWithTheFrameArrivesAsSizeAndMove) {
-  LogWindow window;
-  ASSERT_TRUE(window.Open(CRect(10, 10, 110, 60)));
-  CWinApp::PumpPending();
-  window.TakeLog();
+  OpenWindow window(CRect(10, 10, 110, 60));
   window.logs = kStates;
   WidgetOf(&window)->setGeometry(20, 30, 200, 90);
   EXPECT_EQ(window.TakeLog(), "3 0 20,30;5 0 200,90;");
@@ -211,9 +203,7 @@ TEST(WindowPlace, WhatThePersonDoesWithTheFrameArrivesAsSizeAndMove) {
 }
 
 TEST(WindowPlace, MaximisedMinimisedAndRestoredSayOnceWhichAndHowLarge) {
-  LogWindow window;
-  ASSERT_TRUE(window.Open(CRect(10, 10, 110, 60)));
-  CWinApp::PumpPending();
+  OpenWindow window(CRect(10, 10, 110, 60));
   window.logs = {WM_SIZE};
   const auto show = [&window](int how) {
     window.TakeLog();
@@ -237,26 +227,21 @@ TEST(WindowPlace, MaximisedMinimisedAndRestoredSayOnceWhichAndHowLarge) {
 
 class FocusPair : public testing::Test {
  protected:
-  void SetUp() override {
-    ASSERT_TRUE(top.Open());
-    ASSERT_TRUE(a.OpenIn(top, CRect(0, 0, 50, 50)));
-    ASSERT_TRUE(b.OpenIn(top, CRect(50, 0, 100, 50)));
+  FocusPair() {
+    a.name = "a";
+    b.name = "b";
+    a.journal = b.journal = &journal;
     WidgetOf(&top)->activateWindow();
     CWinApp::PumpPending();
-  }
-  void Watch(LogWindow& window, const char* name) {
-    window.name = name;
-    window.journal = &journal;
+    journal.clear();
   }
   std::string journal;
-  LogWindow top;
-  LogWindow a;
-  LogWindow b;
+  OpenWindow top;
+  OpenWindow a{top, CRect(0, 0, 50, 50)};
+  OpenWindow b{top, CRect(50, 0, 100, 50)};
 };
 
 TEST_F(FocusPair, BothWindowsLearnOfEachOther) {
-  Watch(a, "a");
-  Watch(b, "b");
   a.SetFocus();
   EXPECT_EQ(b.SetFocus(), &a);
   CWinApp::PumpPending();
@@ -272,8 +257,6 @@ TEST_F(FocusPair, BothWindowsLearnOfEachOther) {
 }
 
 TEST_F(FocusPair, AHandlerMayMoveTheFocusOn) {
-  Watch(a, "a");
-  Watch(b, "b");
   a.onMessage = [this](UINT message) {
     if (message == WM_SETFOCUS) b.SetFocus();
   };
@@ -284,7 +267,6 @@ TEST_F(FocusPair, AHandlerMayMoveTheFocusOn) {
 }
 
 TEST_F(FocusPair, CaptureBringsTheMouseUntilItIsReleasedOrLost) {
-  a.TakeLog();
   a.SetCapture();
   QTest::mousePress(WidgetOf(&b), Qt::LeftButton, Qt::NoModifier, QPoint(5, 6));
   QTest::mouseMove(WidgetOf(&b), QPoint(-60, 8));
@@ -300,8 +282,6 @@ TEST_F(FocusPair, CaptureBringsTheMouseUntilItIsReleasedOrLost) {
 }
 
 TEST_F(FocusPair, ADragWithoutCaptureGoesToTheWindowUnderThePointer) {
-  a.TakeLog();
-  b.TakeLog();
   QTest::mousePress(WidgetOf(&a), Qt::LeftButton, Qt::NoModifier, QPoint(5, 6));
   QMouseEvent away(QEvent::MouseMove, QPointF(70, 9), WidgetOf(&a)->mapToGlobal(QPointF(70, 9)), Qt::NoButton,
                    Qt::LeftButton, Qt::NoModifier);
@@ -316,8 +296,7 @@ TEST_F(FocusPair, TheFirstPressAsksWhetherToActivateTheWindow) {
     SCOPED_TRACE(answer);
     const bool activates = answer == MA_ACTIVATE || answer == MA_ACTIVATEANDEAT;
     const bool delivers = answer == MA_ACTIVATE || answer == MA_NOACTIVATE;
-    LogWindow other;
-    ASSERT_TRUE(other.Open());
+    OpenWindow other;
     other.SetActiveWindow();
     CWinApp::PumpPending();
     ASSERT_EQ(CWnd::GetActiveWindow(), &other);
@@ -341,13 +320,11 @@ TEST_F(FocusPair, TheFirstPressAsksWhetherToActivateTheWindow) {
 // --- Timers
 
 TEST(WindowTimers, RunUntilKilledAndSayWhich) {
-  LogWindow window;
-  ASSERT_TRUE(window.Open());
-  int ticks = 0;
+  OpenWindow window;
   std::vector<UINT> ids;
   window.timer = [&](UINT id) {
     ids.push_back(id);
-    if (id == 7 && ++ticks == 3) {
+    if (ids.size() == 3) {
       EXPECT_TRUE(window.KillTimer(7));
       window.PostMessage(WM_CLOSE);
     }
@@ -369,60 +346,33 @@ class EditWindow : public LogWindow {
   }
 };
 
-class WidgetControl : public testing::Test {
- protected:
-  void SetUp() override {
-    ASSERT_TRUE(top.Open());
-    ASSERT_TRUE(edit.OpenIn(top, CRect(0, 0, 150, 25), 4));
-    CWinApp::PumpPending();
-    edit.TakeLog();
-    edit.passes = true;
-  }
-  QLineEdit* Line() { return static_cast<QLineEdit*>(WidgetOf(&edit)); }
-  std::string journal;
-  LogWindow top;
+TEST(WidgetControl, GetsTheEventOnceBehindTheMessage) {
+  OpenWindow top;
   EditWindow edit;
-};
-
-TEST_F(WidgetControl, GetsTheEventOnceBehindTheMessage) {
-  QTest::keyClicks(Line(), QStringLiteral("ab"));
-  QTest::keyClick(Line(), Qt::Key_Backspace);
-  EXPECT_EQ(edit.TakeLog(), "100 65;102 97;101 65;100 66;102 98;101 66;100 8;102 8;101 8;");
-  EXPECT_EQ(Line()->text(), QStringLiteral("a"));
-  for (const UINT key : {UINT{'X'}, VK_LEFT}) {
-    edit.SendMessage(WM_KEYDOWN, key, 1);
-    if (key == 'X') edit.SendMessage(WM_CHAR, 'x', 1);
-  }
-  EXPECT_EQ(Line()->text(), QStringLiteral("ax")) << "what is sent types as well";
-  EXPECT_EQ(Line()->cursorPosition(), 1);
-  edit.passes = false;
-  QTest::keyClick(Line(), Qt::Key_Z);
-  EXPECT_EQ(Line()->text(), QStringLiteral("ax")) << "a handler keeps a key from the widget";
-}
-
-TEST_F(WidgetControl, AClickFocusesByTheSameRoad) {
-  WidgetOf(&top)->activateWindow();
+  ASSERT_TRUE(edit.OpenIn(top, CRect(0, 0, 150, 25), 4));
   CWinApp::PumpPending();
-  top.SetFocus();
   edit.TakeLog();
-  top.name = "top";
-  edit.name = "edit";
-  edit.journal = &journal;
-  QTest::mouseClick(Line(), Qt::LeftButton, Qt::NoModifier, QPoint(4, 4));
-  Line()->setFocus(Qt::MouseFocusReason);
-  EXPECT_EQ(journal, "edit gets from top;");
-  EXPECT_EQ(CWnd::GetFocus(), &edit);
-  EXPECT_EQ(edit.TakeLog(), "201 1 4,4;202 0 4,4;");
+  edit.passes = true;
+  auto& line = static_cast<QLineEdit&>(*WidgetOf(&edit));
+  QTest::keyClicks(&line, QStringLiteral("ab"));
+  QTest::keyClick(&line, Qt::Key_Backspace);
+  EXPECT_EQ(edit.TakeLog(), "100 65;102 97;101 65;100 66;102 98;101 66;100 8;102 8;101 8;");
+  EXPECT_EQ(line.text(), QStringLiteral("a"));
+  edit.SendMessage(WM_KEYDOWN, 'X', 1);
+  edit.SendMessage(WM_CHAR, 'x', 1);
+  edit.SendMessage(WM_KEYDOWN, VK_LEFT, 1);
+  EXPECT_EQ(line.text(), QStringLiteral("ax")) << "what is sent types as well";
+  EXPECT_EQ(line.cursorPosition(), 1);
+  edit.passes = false;
+  QTest::keyClick(&line, Qt::Key_Z);
+  EXPECT_EQ(line.text(), QStringLiteral("ax")) << "a handler keeps a key from the widget";
 }
 
 TEST(WindowLife, ScreenReadersLearnWhatAPaintedWindowIs) {
-  LogWindow window;
-  window.Open();
-  LogWindow table;
-  table.OpenIn(window, CRect(0, 0, 90, 60));
+  OpenWindow window;
+  OpenWindow table(window, CRect(0, 0, 90, 60));
   table.SetAccessibleName(L"Survey table");
-  LogWindow body;
-  body.OpenIn(table, CRect(0, 0, 90, 60));
+  OpenWindow body(table, CRect(0, 0, 90, 60));
   const auto spoken = [](const CWnd& told) {
     return QAccessible::queryAccessibleInterface(coregui::WidgetOf(&told));
   };
@@ -431,7 +381,6 @@ TEST(WindowLife, ScreenReadersLearnWhatAPaintedWindowIs) {
   EXPECT_EQ(spoken(body)->role(), QAccessible::Pane);
   EXPECT_EQ(spoken(body)->text(QAccessible::Name), "");
   EXPECT_FALSE(spoken(body)->state().focusable);
-  CWinApp::PumpPending();
   body.SetFocus();
   EXPECT_EQ(spoken(body)->text(QAccessible::Name), "Survey table");
   EXPECT_TRUE(spoken(body)->state().focusable && spoken(body)->state().focused);

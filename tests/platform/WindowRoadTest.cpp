@@ -18,20 +18,17 @@ namespace {
 
 class WindowRoad : public testing::Test {
  protected:
-  void SetUp() override {
-    ASSERT_TRUE(window.Open());
-    CWinApp::PumpPending();
-    window.TakeLog();
-  }
   QWidget* Widget() { return coregui::WidgetOf(&window); }
-  LogWindow window;
+  /// What a step of a wheel or a touchpad brings.
+  std::string Scroll(QPoint pixels, QPoint angle, Qt::ScrollPhase phase = Qt::NoScrollPhase) {
+    const QPointF at(20, 10);
+    QWheelEvent event(at, Widget()->mapToGlobal(at), pixels, angle, Qt::NoButton, Qt::NoModifier, phase,
+                      false);
+    QCoreApplication::sendEvent(Widget(), &event);
+    return window.TakeLog();
+  }
+  OpenWindow window;
 };
-
-void Scroll(QWidget* widget, QPoint pixels, QPoint angle, Qt::ScrollPhase phase = Qt::NoScrollPhase) {
-  const QPointF at(20, 10);
-  QWheelEvent event(at, widget->mapToGlobal(at), pixels, angle, Qt::NoButton, Qt::NoModifier, phase, false);
-  QCoreApplication::sendEvent(widget, &event);
-}
 
 /// What a person's double click brings: the toolkit's test driver gives only the second press.
 void DoubleClick(QWidget* widget, Qt::MouseButton button, QPoint at) {
@@ -67,7 +64,7 @@ TEST_F(WindowRoad, AMoveAsksForTheCursorFirst) {
   EXPECT_EQ(window.TakeLog(), "cursor 1,512;200 0 30,40;");
 }
 
-TEST_F(WindowRoad, KeysGiveTheirCodesAndCharacters) {
+TEST_F(WindowRoad, KeysGiveTheirCodesAndCharactersAndSoDoesAnInputMethod) {
   const std::tuple<Qt::Key, Qt::KeyboardModifiers, const char*> rows[] = {
       {Qt::Key_A, Qt::NoModifier, "100 65;102 97;101 65;"},
       {Qt::Key_V, Qt::ControlModifier, "100 17;100 86;102 22;101 86;101 17;"},
@@ -84,56 +81,36 @@ TEST_F(WindowRoad, KeysGiveTheirCodesAndCharacters) {
       {Qt::Key_Home, Qt::ControlModifier, "100 17;100 36;101 36;101 17;"},
       {Qt::Key_X, Qt::AltModifier, "104 18;104 88;101 88;101 18;"},
   };
+  short shift = 0;  // the key state is that of the message at hand
+  window.onMessage = [&shift](UINT message) {
+    if (message == WM_KEYDOWN) shift = GetKeyState(VK_SHIFT);
+  };
   for (const auto& [key, modifiers, log] : rows) {
     QTest::keyClick(Widget(), key, modifiers);
     EXPECT_EQ(window.TakeLog(), log) << key;
+    EXPECT_EQ(shift < 0, modifiers == Qt::ShiftModifier) << key;
   }
-}
-
-TEST_F(WindowRoad, TypedTextArrivesCharacterByCharacter) {
   QInputMethodEvent composed;
   composed.setCommitString(QStringLiteral("ü€"));
   QCoreApplication::sendEvent(Widget(), &composed);
   EXPECT_EQ(window.TakeLog(), "102 252;102 8364;");
 }
 
-TEST_F(WindowRoad, TheKeyStateIsThatOfTheMessageAtHand) {
-  short held = 0;
-  window.onMessage = [&held](UINT message) {
-    if (message == WM_KEYDOWN) held = GetKeyState(VK_SHIFT);
-  };
-  QTest::keyClick(Widget(), Qt::Key_Down, Qt::ShiftModifier);
-  EXPECT_LT(held, 0);
-  QTest::keyClick(Widget(), Qt::Key_Down);
-  EXPECT_GE(held, 0);
-}
-
-TEST_F(WindowRoad, SmallWheelMovesAreGatheredIntoNotchesPerAxis) {
+TEST_F(WindowRoad, SmallWheelMovesAreGatheredIntoNotchesPerAxis_ATouchpadPansWhereThatIsWanted) {
   const QPoint screen = Widget()->mapToGlobal(QPoint(20, 10));
   const std::string at = CString::Formatted(L"%d,%d;", screen.x(), screen.y()).ToUtf8();
-  for (int i = 0; i < 3; ++i) Scroll(Widget(), {}, {0, 35});
-  Scroll(Widget(), {}, {60, 0});
-  EXPECT_EQ(window.TakeLog(), "");
-  Scroll(Widget(), {}, {0, 35});
-  EXPECT_EQ(window.TakeLog(), "wheel 120 " + at);
-  Scroll(Widget(), {}, {0, -119});
-  EXPECT_EQ(window.TakeLog(), "") << "what was left of the other direction is dropped";
-  Scroll(Widget(), {}, {0, -241});
-  EXPECT_EQ(window.TakeLog(), "wheel -120 " + at + "wheel -120 " + at + "wheel -120 " + at);
-  Scroll(Widget(), {}, {60, 0});
-  EXPECT_EQ(window.TakeLog(), "hwheel -120 " + at) << "positive is to the right";
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(Scroll({}, {0, 35}), "");
+  EXPECT_EQ(Scroll({}, {60, 0}), "");
+  EXPECT_EQ(Scroll({}, {0, 35}), "wheel 120 " + at);
+  EXPECT_EQ(Scroll({}, {0, -119}), "") << "what was left of the other direction is dropped";
+  EXPECT_EQ(Scroll({}, {0, -241}), "wheel -120 " + at + "wheel -120 " + at + "wheel -120 " + at);
+  EXPECT_EQ(Scroll({}, {60, 0}), "hwheel -120 " + at) << "positive is to the right";
   window.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 60), MAKELPARAM(screen.x(), screen.y()));
   EXPECT_EQ(window.TakeLog(), "wheel 60 " + at) << "what code sends arrives as sent";
-}
-
-TEST_F(WindowRoad, ATouchpadPansOnlyAWindowThatWantsIt) {
-  Scroll(Widget(), {-7, 9}, {0, 120}, Qt::ScrollUpdate);
-  EXPECT_EQ(window.TakeLog().substr(0, 9), "wheel 120");
+  EXPECT_EQ(Scroll({-7, 9}, {0, 120}, Qt::ScrollUpdate), "wheel 120 " + at);
   window.wantsPan = true;
-  Scroll(Widget(), {-7, 9}, {0, 120}, Qt::ScrollUpdate);
-  EXPECT_EQ(window.TakeLog(), "pan -7,9;");
-  Scroll(Widget(), {}, {0, 120});
-  EXPECT_EQ(window.TakeLog().substr(0, 9), "wheel 120") << "a wheel is no touchpad";
+  EXPECT_EQ(Scroll({-7, 9}, {0, 120}, Qt::ScrollUpdate), "pan -7,9;");
+  EXPECT_EQ(Scroll({}, {0, 120}), "wheel 120 " + at) << "a wheel is no touchpad";
 }
 
 TEST_F(WindowRoad, APinchGivesItsFactorAndPlace) {
@@ -165,19 +142,14 @@ TEST_F(WindowRoad, TheLeaveMessageComesOnceAndOnlyWhenAskedFor) {
 }
 
 TEST_F(WindowRoad, ADisabledChildLetsTheMouseThroughToItsParent) {
-  LogWindow child;
-  ASSERT_TRUE(child.OpenIn(window, CRect(10, 20, 60, 60)));
+  OpenWindow child(window, CRect(10, 20, 60, 60));
   child.EnableWindow(FALSE);
-  window.TakeLog();
   QTest::mouseClick(coregui::WidgetOf(&child), Qt::LeftButton, Qt::NoModifier, QPoint(1, 2));
   EXPECT_EQ(window.TakeLog(), "201 1 11,22;202 0 11,22;");
 }
 
 TEST_F(WindowRoad, MessagesAreOfferedFromTheTargetUpwardsBeforeTheyAreSent) {
-  LogWindow child;
-  ASSERT_TRUE(child.OpenIn(window, CRect(10, 20, 60, 60)));
-  child.TakeLog();
-  window.TakeLog();
+  OpenWindow child(window, CRect(10, 20, 60, 60));
   CString order;
   child.preTranslate = [&](const MSG&) { return order += L"child ", false; };
   window.preTranslate = [&](const MSG& message) {
@@ -198,12 +170,10 @@ TEST_F(WindowRoad, MessagesAreOfferedFromTheTargetUpwardsBeforeTheyAreSent) {
 }
 
 TEST_F(WindowRoad, PostedMessagesArriveInOrderAndNotAtDestroyedWindows) {
-  auto gone = std::make_unique<LogWindow>();
-  ASSERT_TRUE(gone->Open());
+  auto gone = std::make_unique<OpenWindow>();
   gone->PostMessage(WM_APP, 1, 0);
   window.PostMessage(WM_APP, 1, 0);
   window.PostMessage(WM_APP, 2, 0);
-  window.TakeLog();
   gone.reset();
   EXPECT_EQ(window.TakeLog(), "");
   CWinApp::PumpPending();
@@ -265,10 +235,10 @@ static_assert(!Accepts<WM_USER, void (TableBase::*)()>);
 TEST(MessageTables, TheMostDerivedRowAnswersAndCommandsMatchIdAndCode) {
   TableDerived window;
   window.SendMessage(WM_SETFOCUS);
-  window.SendMessage(WM_COMMAND, MAKEWPARAM(7, BN_CLICKED));
-  window.SendMessage(WM_COMMAND, MAKEWPARAM(8, BN_CLICKED));
-  window.SendMessage(WM_COMMAND, MAKEWPARAM(7, EN_SETFOCUS));
-  window.SendMessage(WM_COMMAND, MAKEWPARAM(99, EN_CHANGE));
+  for (const auto& [id, code] :
+       {std::pair(7, BN_CLICKED), {8, BN_CLICKED}, {7, EN_SETFOCUS}, {99, EN_CHANGE}}) {
+    window.SendMessage(WM_COMMAND, MAKEWPARAM(id, code));
+  }
   EXPECT_EQ(window.log, L"derived;seven;change;");
   EXPECT_EQ(window.SendMessage(WM_USER + 1, 6, -7), -42);
 }
