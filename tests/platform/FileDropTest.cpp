@@ -37,7 +37,6 @@ class FileDrop : public testing::Test {
  protected:
   FileDrop() {
     EXPECT_TRUE(window.Open());
-    EXPECT_TRUE(inside.OpenIn(window, CRect(10, 10, 100, 60)));
     DragAcceptFiles(window.GetSafeHwnd(), TRUE);
     files.setUrls({QUrl::fromLocalFile(QString::fromUtf8("/a b/L\xC3\xA4ng%20\n.csv")),
                    QUrl("http://somewhere/c.csv"), QUrl::fromLocalFile("/d.csv")});
@@ -62,11 +61,11 @@ class FileDrop : public testing::Test {
   }
 
   DropTarget window;
-  LogWindow inside;
   QMimeData files;
 };
 
 TEST_F(FileDrop, FilesReachTheWindowAfterTheirSourceIsDone) {
+  OpenWindow inside(window, CRect(10, 10, 100, 60));
   EXPECT_EQ(Drop(inside, files), Qt::CopyAction);
   EXPECT_EQ(window.dropped, L"");
   CWinApp::PumpPending();

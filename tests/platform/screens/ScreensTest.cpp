@@ -77,21 +77,17 @@ class WindowScreens : public testing::Test {
   ScreenWindow hidden;
 };
 
-TEST_F(WindowScreens, AMoveToAScreenOfAnotherScale_MakesTheSurfacesAnewAndTellsEachWindowOnce) {
+TEST_F(WindowScreens, AMoveToAScreenOfAnotherScale_MakesTheSurfacesAnewAndTellsEachShownWindowOnce) {
   top.MoveWindow(1200, 100, 200, 100);
   ExpectScale(2.0, 1);
-  coregui::WidgetOf(&top)->setGeometry(150, 120, 200, 100);  // as when a person drags the window
-  ExpectScale(1.0, 2);
-  EXPECT_EQ(top.State().look.rect, CRect(150, 120, 350, 220));
-}
-
-TEST_F(WindowScreens, AHiddenWindow_IsToldWhenItIsShown) {
-  top.MoveWindow(1200, 100, 200, 100);
   hidden.ShowWindow(SW_SHOW);
   CWinApp::PumpPending();
   EXPECT_EQ(hidden.told, 1);
   EXPECT_EQ(hidden.Dots(), CSize(40, 40));
   EXPECT_EQ(hidden.paints, 1);
+  coregui::WidgetOf(&top)->setGeometry(150, 120, 200, 100);  // as when a person drags the window
+  ExpectScale(1.0, 2);
+  EXPECT_EQ(top.State().look.rect, CRect(150, 120, 350, 220));
 }
 
 TEST_F(WindowScreens, AWindowWithANewParent_TakesItsScale) {
