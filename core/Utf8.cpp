@@ -16,6 +16,13 @@ constexpr std::array<char16_t, 32> kWindows1252 = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
+/// Where the surrogates begin that stand for bytes.
+constexpr char32_t kByteBase = 0xDC00;
+
+constexpr bool IsByte(char32_t c) {
+  return c >= kByteBase + 0x80 && c <= kByteBase + 0xFF;
+}
+
 constexpr bool IsSurrogate(char32_t c) {
   return c >= 0xD800 && c <= 0xDFFF;
 }
@@ -46,14 +53,14 @@ char32_t TakeCharacter(std::wstring_view text, std::size_t& index) {
       }
     }
   }
-  return c > kLastCharacter || IsSurrogate(c) ? kReplacement : c;
+  return c > kLastCharacter || (IsSurrogate(c) && !IsByte(c)) ? kReplacement : c;
 }
 
 void AppendUtf8(std::string& bytes, char32_t c) {
   const auto put = [&bytes](char32_t byte) { bytes += static_cast<char>(static_cast<unsigned char>(byte)); };
   const auto putTail = [&put, c](unsigned shift) { put(0x80U | ((c >> shift) & 0x3FU)); };
-  if (c < 0x80) {
-    put(c);
+  if (c < 0x80 || IsByte(c)) {
+    put(c & 0xFFU);
   } else if (c < 0x800) {
     put(0xC0U | (c >> 6U));
     putTail(0);
@@ -104,6 +111,18 @@ std::wstring FromUtf8(std::string_view bytes) {
   while (!bytes.empty()) {
     const DecodedCharacter character = DecodeUtf8(bytes);
     AppendCharacter(text, character.value);
+    bytes.remove_prefix(character.length);
+  }
+  return text;
+}
+
+std::wstring FromFileName(std::string_view bytes) {
+  std::wstring text;
+  text.reserve(bytes.size());
+  while (!bytes.empty()) {
+    const DecodedCharacter character = DecodeUtf8(bytes);
+    const auto byte = static_cast<unsigned char>(bytes[0]);
+    AppendCharacter(text, character.isUtf8 ? character.value : kByteBase + byte);
     bytes.remove_prefix(character.length);
   }
   return text;

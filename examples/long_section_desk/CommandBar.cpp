@@ -149,8 +149,9 @@ void CommandBar::FillExaggerations(double extra) {
   }
   m_times.push_back(0.0);
   m_exaggeration.ResetContent();
+  const coregui::NumberFormat format(coregui::NumberFormat::Kind::real, L"%.6g");
   for (const double times : m_times) {
-    m_exaggeration.AddString(times > 0.0 ? CString::Formatted(L"%.6g", times) : CString(L"Other..."));
+    m_exaggeration.AddString(times > 0.0 ? format.Text(times) : CString(L"Other..."));
   }
 }
 

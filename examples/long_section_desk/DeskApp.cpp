@@ -43,7 +43,7 @@ DeskOptions ParseArguments(int argc, const char* const* argv, const std::wstring
   DeskOptions options;
   options.file = ownSurvey;
   for (int i = 1; i < argc; ++i) {
-    const std::wstring argument = CString::FromUtf8(argv[i]).Str();
+    const std::wstring argument = coregui::FromFileName(argv[i]);
     if (argument == L"--dark") {
       options.dark = true;
       continue;
@@ -56,7 +56,7 @@ DeskOptions ParseArguments(int argc, const char* const* argv, const std::wstring
       options.ok = false;
       break;
     }
-    const std::wstring value = CString::FromUtf8(argv[i]).Str();
+    const std::wstring value = coregui::FromFileName(argv[i]);
     if (argument == L"--png") {
       options.picture = value;
     } else if (argument == L"--pdf") {

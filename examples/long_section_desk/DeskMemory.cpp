@@ -108,7 +108,8 @@ std::vector<std::wstring> RecallSurveys() {
 
 void KeepSurvey(const std::wstring& path) {
   std::vector<std::wstring> surveys = RecallSurveys();
-  if (!surveys.empty() && surveys.front() == path) {
+  const bool canBeWritten = CString::FromUtf8(CString(path).ToUtf8()).Str() == path;
+  if (!canBeWritten || (!surveys.empty() && surveys.front() == path)) {
     return;
   }
   std::erase(surveys, path);

@@ -29,7 +29,7 @@ void KeepPrintChoice(const PrintChoice& choice);
 
 /// The surveys opened last, the latest first; nine at most.
 std::vector<std::wstring> RecallSurveys();
-/// Puts a survey in front of the others.
+/// Puts a survey in front of the others; not one whose name is no UTF-8, which the profile cannot hold.
 void KeepSurvey(const std::wstring& path);
 void ForgetSurvey(const std::wstring& path);
 

@@ -123,6 +123,12 @@ TEST_F(DeskFiles, NamesMayHaveAnyLettersInAnyLocale) {
   EXPECT_TRUE(Has("L\xC3\xA4ngsschnitt \xE8\xB7\xAF & 100%.lck"));
   EXPECT_EQ(window.GetWindowTextString(),
             L"L\u00E4ngsschnitt \u8DEF & 100%.csv (3 rows) - Long-section desk");
+  // Bytes that are no UTF-8, as an old archive has them; \xE8\xB7 breaks off.
+  Write("l\xE4nge \xE8\xB7.csv", kSurvey);
+  const std::string path = At("l\xE4nge \xE8\xB7.csv");
+  const std::vector<const char*> arguments = {"desk", path.c_str()};
+  EXPECT_TRUE(window.Open(desk::ParseArguments(2, arguments.data(), L"").file));
+  EXPECT_TRUE(Has("l\xE4nge \xE8\xB7.lck"));
   std::setlocale(LC_ALL, before.c_str());
 }
 

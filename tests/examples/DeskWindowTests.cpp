@@ -266,16 +266,19 @@ TEST_F(Desk, AZoomedSectionKeepsItsPlaceWhenTheWindowIsSized) {
   EXPECT_EQ(section.GetScale(), section.GetMapping().now.fitScale);
 }
 
-TEST_F(Desk, AnyExaggerationCanBeTyped) {
+TEST_F(Desk, AnyExaggerationCanBeTypedAsTheUserWritesNumbers) {
   ASSERT_TRUE(Open("a.csv", "Chainage,Level\n0,101.50\n100,102\n"));
   window.ShowWindow(SW_SHOW);
+  ASSERT_TRUE(coregui::SetUserLocale(L"de_DE"));
   const NextWindow box([](ShownWindow& dialog) {
     EXPECT_EQ(dialog.Title(), "Long-section");
-    dialog.Type("12.5");
+    dialog.Type("12,5");
     dialog.Key(VK_RETURN);
   });
   PressKey(window.Section(), 'E', true);
   EXPECT_EQ(window.Section().GetExaggeration(), 12.5);
+  const CWnd* bar = window.GetDlgItem(desk::CommandBar::kId);
+  EXPECT_EQ(bar->GetDlgItem(desk::CommandBar::kExaggerationId)->GetWindowTextString(), L"12,5");
 }
 
 TEST_F(Desk, TheSectionRunsAlongTheChainageWhateverTheOrderOfRows) {
