@@ -108,8 +108,30 @@ TEST(CGridJoins, ATornBlockCountsAsNotJoined) {
   grid.JoinCells(0, 0, 1, 1);
   grid.JoinCells(1, 1, 2, 2);
   EXPECT_EQ(BlockOf(grid, 1, 1), (Block{1, 1, 2, 2})) << "the later block took the cell over";
+  CGridCell cell;
+  grid.GetCell(0, 0, &cell);
+  EXPECT_EQ(cell.IsPropertySet(CELLPROP_JOIN), 0) << "nothing is left of the block before";
   grid.SetNumberRows(2);
   EXPECT_EQ(BlockOf(grid, 1, 1), (Block{1, 1, 1, 1})) << "the block reaches out of the sheet now";
+}
+
+TEST(CGridJoins, OneCellThatGoesTearsABlock) {
+  const struct {
+    Block block;
+    int col;
+    long row;
+    Block left;                                     ///< what the cell 1,2 belongs to then
+  } rows[] = {{{1, 1, 3, 3}, 2, 1, {1, 2, 1, 2}},   // of the first row
+              {{1, 1, 3, 3}, 3, 3, {1, 2, 1, 2}},   // the last one
+              {{0, -1, 1, 3}, 0, 0, {1, 2, 1, 2}},  // the first one in the body of a block from a heading
+              {{1, 1, 3, 3}, 0, 0, {1, 1, 3, 3}}};  // another one
+  for (const auto& [block, col, row, left] : rows) {
+    LoggingGrid grid(4, 6, 300, 60);
+    grid.JoinCells(block.startCol, block.startRow, block.endCol, block.endRow);
+    grid.DeleteCell(col, row);
+    EXPECT_EQ(BlockOf(grid, 1, 2), left) << col << "," << row;
+    EXPECT_EQ(grid.UnJoinCells(1, 2, 1, 2), 0) << "what is left can be cleared";
+  }
 }
 
 TEST(CGridJoins, SwitchedOffTheyAreNotSeen) {

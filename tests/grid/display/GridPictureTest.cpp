@@ -327,17 +327,22 @@ TEST(GridPicture, WhatCrossesTheEdgeOfTheLockedCellsIsDrawnAnewWhenTheyScroll) {
     std::vector<Call> calls;
   } rows[] = {
       {"a block and a text that leave the locked columns", {lock(3, 0), view(4, 0), view(3, 0), view(5, 7)}},
-      {"a block cut off at the locked columns", {lock(2, 0), view(5, 0), [](CGridCtrl& g) { g.GotoRow(4); }}},
+      {"a block cut off at the locked columns",
+       {lock(2, 0), [](CGridCtrl& g) { g.RedrawCell(1, 3); }, view(5, 0),
+        [](CGridCtrl& g) { g.GotoRow(4); }}},
+      {"a text that comes back out of view",
+       {view(3, 0), [](CGridCtrl& g) { Rewrite(g, 2, 3, 0); }, [](CGridCtrl& g) { Rewrite(g, 2, 3, 2); }}},
       {"a block that leaves the locked rows", {lock(0, 5), view(0, 8), view(2, 8), view(0, 5)}},
-      {"the separator below a block", {lock(0, 7), [](CGridCtrl& g) { g.RedrawCell(1, 4); }}},
+      {"the separators beside and below a block", {lock(4, 7), [](CGridCtrl& g) { g.RedrawCell(1, 4); }}},
       {"a frame around a block below the locked rows",
        {lock(0, 3),
         [](CGridCtrl& g) {
           g.SetHighlightRow(0);
-          g.GotoCell(1, 4);
-          g.RedrawAll();
+          g.GotoCell(5, 8);
+          g.JoinCells(5, 6, 6, 9);
         },
-        view(0, 5), [](CGridCtrl& g) { g.RedrawCell(1, 6); }, view(0, 6)}},
+        view(0, 7), [](CGridCtrl& g) { g.RedrawCell(6, 9); }, view(0, 8)}},
+      {"locked cells above a block", {lock(0, 3), view(0, 5), [](CGridCtrl& g) { g.RedrawRow(2); }}},
       {"a block whose first cell is out of view",
        {view(2, 6),
         [](CGridCtrl& g) {
@@ -354,6 +359,9 @@ TEST(GridPicture, WhatCrossesTheEdgeOfTheLockedCellsIsDrawnAnewWhenTheyScroll) {
       {"a block that begins in a heading",
        {[](CGridCtrl& g) { g.JoinCells(-1, 10, 1, 11); }, [](CGridCtrl& g) { Rewrite(g, -1, 10, 1); },
         [](CGridCtrl& g) { Overwrite(g, 1, 11, 0); }}},
+      {"a block that begins in the corner",
+       {[](CGridCtrl& g) { g.SetSH_NumberCols(2); }, [](CGridCtrl& g) { g.JoinCells(-2, -1, 1, -1); },
+        [](CGridCtrl& g) { Overwrite(g, 1, -1, 0); }}},
       {"a torn block",
        {[](CGridCtrl& g) { g.MoveColPosition(2, 5, 1); }, [](CGridCtrl& g) { g.RedrawCell(1, 4); }}},
       {"blocks that overlap",
