@@ -100,7 +100,8 @@ TEST_P(Drawing, DiagonalHatches_FallAndRiseToTheRight) {
     Clear();
     CBrush brush(hatch, red);
     dc.SelectObject(&brush);
-    dc.Rectangle(CRect(0, 0, 61, 41));
+    const POINT all[] = {{0, 0}, {60, 0}, {60, 40}, {0, 40}};
+    dc.Polygon(all, 4);
     const auto ink = [this](int x, int y) { return Dot(x, y) != 0xFFFFFF ? 1 : 0; };
     int alongLessAgainst = 0;
     for (int y = 8; y < 32; ++y) {

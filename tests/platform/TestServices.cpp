@@ -227,6 +227,10 @@ TEST(SystemColours, FollowTheApplicationsPalette_AlsoAfterADarkTheme) {
   SetDarkTheme(false);
   EXPECT_FALSE(IsDarkTheme());
   EXPECT_EQ(GetSysColor(COLOR_WINDOW), RGB(250, 250, 240)) << "the desktop's own";
+  SetDarkTheme(true);
+  setBase(QColor(240, 250, 250));
+  for (const bool dark : {true, false}) SetDarkTheme(dark);
+  EXPECT_EQ(GetSysColor(COLOR_WINDOW), RGB(240, 250, 250)) << "a new one of the desktop's takes its place";
 }
 
 TEST(DpiScale, LengthsRoundAndNeverVanish) {

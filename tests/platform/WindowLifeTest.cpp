@@ -314,6 +314,9 @@ TEST_F(FocusPair, TheFirstPressAsksWhetherToActivateTheWindow) {
     EXPECT_EQ(CWnd::GetActiveWindow(), activates ? &top : &other);
     QTest::mouseClick(WidgetOf(&a), Qt::LeftButton, Qt::NoModifier, QPoint(3, 4));
     EXPECT_EQ(asked, activates ? 1 : 2) << "only while it is not active";
+    WidgetOf(&other)->activateWindow();
+    CWinApp::PumpPending();
+    EXPECT_EQ(CWnd::GetActiveWindow(), &other) << "as the desktop does it";
   }
 }
 

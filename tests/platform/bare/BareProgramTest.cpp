@@ -35,16 +35,20 @@ void ExpectServicesWithoutWindows() {
   coregui::PlayBeep();
 }
 
+struct Arguments {
+  int count = 1;
+  char name[5] = "bare";
+  char* all[2] = {name, nullptr};
+};
+
 TEST(BareProgram, ReadsColoursAndMetricsWithoutAnApplication) {
   ASSERT_EQ(QCoreApplication::instance(), nullptr);
   ExpectServicesWithoutWindows();
 }
 
 TEST(BareProgram, IsRefusedWindowsByAnApplicationThatHasNone) {
-  int count = 1;
-  char name[] = "bare";
-  char* arguments[] = {name, nullptr};
-  const QCoreApplication application(count, arguments);
+  Arguments arguments;
+  const QCoreApplication application(arguments.count, arguments.all);
   ExpectServicesWithoutWindows();
   CWnd window;
   EXPECT_FALSE(window.Create(L"", L"", WS_POPUP | WS_VISIBLE, CRect(0, 0, 10, 10), nullptr, 0));
@@ -57,10 +61,8 @@ TEST(BareProgram, IsRefusedWindowsByAnApplicationThatHasNone) {
 /// The last, since the toolkit's own tables of looks stay once there were windows.
 TEST(BareProgram, TakesTheApplicationsColoursAsSoonAsItHasWindows) {
   SetDarkTheme(false);
-  int count = 1;
-  char name[] = "bare";
-  char* arguments[] = {name, nullptr};
-  const QApplication application(count, arguments);
+  Arguments arguments;
+  const QApplication application(arguments.count, arguments.all);
   QPalette palette = QApplication::palette();
   palette.setColor(QPalette::Base, QColor(4, 5, 6));
   QApplication::setPalette(palette);
