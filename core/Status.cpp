@@ -1,6 +1,7 @@
 #include "core/Status.h"
 
 #include <cstdio>
+#include <memory>
 #include <utility>
 
 #include "core/Utf8.h"
@@ -8,7 +9,8 @@
 namespace {
 
 coregui::StatusSink& CurrentSink() {
-  static coregui::StatusSink sink;
+  // Never destroyed: what goes at the exit of a program may still have something to say.
+  static auto& sink = *std::make_unique<coregui::StatusSink>().release();
   return sink;
 }
 

@@ -1,5 +1,6 @@
 #include "module/ClassFactories.h"
 
+#include <memory>
 #include <utility>
 
 namespace coregui {
@@ -12,7 +13,8 @@ CString KeyOf(const CString& name) {
 }  // namespace
 
 ClassFactories& ClassFactories::Get() {
-  static ClassFactories factories;
+  // Never destroyed: an application object in a program's statics undoes its registration at the exit.
+  static auto& factories = *std::make_unique<ClassFactories>().release();
   return factories;
 }
 

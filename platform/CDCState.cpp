@@ -20,7 +20,7 @@ struct StockObjects {
 };
 
 StockObjects& Stock() {
-  static StockObjects objects;
+  static auto& objects = *new StockObjects;  // never destroyed: see WindowRegistry.cpp
   return objects;
 }
 

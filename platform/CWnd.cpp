@@ -138,7 +138,9 @@ BOOL CWnd::CreateNative(const CREATESTRUCT& create, CWnd* family) {
     if (self) CWnd::DestroyWindow();
     return FALSE;
   }
-  return self ? FinishCreation((create.style & WS_VISIBLE) != 0) : FALSE;
+  if (!self) return FALSE;
+  coregui::DestroyBeforeExit(*this);
+  return FinishCreation((create.style & WS_VISIBLE) != 0);
 }
 
 BOOL CWnd::FinishCreation(bool show) {

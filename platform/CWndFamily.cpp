@@ -55,7 +55,7 @@ CWnd* CWnd::GetTopLevelParent() const {
 }
 
 CWnd* CWnd::GetDesktopWindow() {
-  static CWnd desktop;
+  static auto& desktop = *new CWnd;  // never destroyed: see WindowRegistry.cpp
   desktop.m_state->look.rect = coregui::ScreenRect();
   return &desktop;
 }

@@ -14,7 +14,8 @@ struct coregui_dropped_files {
 namespace {
 
 std::vector<std::unique_ptr<coregui_dropped_files>>& Drops() {
-  static std::vector<std::unique_ptr<coregui_dropped_files>> drops;
+  static auto& drops =
+      *new std::vector<std::unique_ptr<coregui_dropped_files>>;  // never destroyed: see WindowRegistry.cpp
   return drops;
 }
 

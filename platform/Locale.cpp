@@ -12,7 +12,7 @@ struct State {
 };
 
 State& TheState() {
-  static State state;
+  static auto& state = *new State;  // never destroyed: see WindowRegistry.cpp
   return state;
 }
 

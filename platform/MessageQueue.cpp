@@ -19,12 +19,12 @@ struct PostedMessage {
 };
 
 std::deque<PostedMessage>& Posted() {
-  static std::deque<PostedMessage> queue;
+  static auto& queue = *new std::deque<PostedMessage>;  // never destroyed: see WindowRegistry.cpp
   return queue;
 }
 
 std::deque<WindowRef>& Dirty() {
-  static std::deque<WindowRef> windows;
+  static auto& windows = *new std::deque<WindowRef>;  // never destroyed: see WindowRegistry.cpp
   return windows;
 }
 

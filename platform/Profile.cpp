@@ -29,7 +29,7 @@ std::wstring_view OrEmpty(const wchar_t* text) {
 }  // namespace
 
 Profile& Profile::Get() {
-  static Profile profile;
+  static auto& profile = *new Profile;  // never destroyed: see WindowRegistry.cpp
   return profile;
 }
 

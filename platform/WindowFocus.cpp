@@ -12,7 +12,7 @@ WPARAM HandleOf(const CWnd* window) {
 }  // namespace
 
 FocusState& Focus() {
-  static FocusState state;
+  static auto& state = *new FocusState;  // never destroyed: see WindowRegistry.cpp
   return state;
 }
 

@@ -14,7 +14,7 @@ namespace {
 using ForeignWindows = std::unordered_map<const QObject*, std::unique_ptr<CWnd>>;
 
 ForeignWindows& Windows() {
-  static ForeignWindows windows;
+  static auto& windows = *new ForeignWindows;  // never destroyed: see WindowRegistry.cpp
   return windows;
 }
 

@@ -49,7 +49,7 @@ void TellTheme() {
 
 class QtEventLoop;
 std::vector<QtEventLoop*>& Loops() {
-  static std::vector<QtEventLoop*> loops;
+  static auto& loops = *new std::vector<QtEventLoop*>;  // never destroyed: see WindowRegistry.cpp
   return loops;
 }
 

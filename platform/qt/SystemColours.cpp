@@ -64,7 +64,7 @@ struct Theme {
 };
 
 Theme& TheTheme() {
-  static Theme theme;
+  static auto& theme = *new Theme;  // never destroyed: see WindowRegistry.cpp
   return theme;
 }
 
