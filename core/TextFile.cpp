@@ -77,7 +77,7 @@ CoreFile* coreFileOpen(const wchar_t* path, const wchar_t* mode) {
     errno = EINVAL;
     return nullptr;
   }
-  const std::string name = coregui::ToUtf8(path);
+  const std::string name = coregui::ToFileName(path);
   if (!IsOpenable(name, parsed)) return nullptr;
   std::FILE* stream = std::fopen(name.c_str(), parsed.runtime);
   if (stream == nullptr) return nullptr;
@@ -123,5 +123,6 @@ bool coreFileClose(CoreFile* file) {
 
 bool coreFileExist(const wchar_t* path) {
   struct stat status {};
-  return path != nullptr && ::stat(coregui::ToUtf8(path).c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
+  return path != nullptr && ::stat(coregui::ToFileName(path).c_str(), &status) == 0 &&
+         !S_ISDIR(status.st_mode);
 }

@@ -36,7 +36,7 @@ bool WidenPlain(const char* bytes, std::size_t count, std::wstring& line) {
 
 bool TextReader::Open(const wchar_t* path) {
   Close();
-  const std::string name = ToUtf8(path == nullptr ? L"" : path);
+  const std::string name = ToFileName(path == nullptr ? L"" : path);
   struct stat status {};
   if (::stat(name.c_str(), &status) != 0) return false;
   if (!S_ISREG(status.st_mode)) {

@@ -41,7 +41,7 @@ bool FindRights(const std::string& path, mode_t& rights) {
 
 bool TextWriter::Open(const wchar_t* path) {
   Discard();
-  m_path = FollowLinks(ToUtf8(path == nullptr ? L"" : path));
+  m_path = FollowLinks(ToFileName(path == nullptr ? L"" : path));
   mode_t rights = 0;
   if (!FindRights(m_path, rights)) return false;
   std::string name = m_path.substr(0, m_path.rfind('/') + 1) + ".save-XXXXXX";

@@ -40,7 +40,7 @@ std::size_t AnnouncedLength(unsigned char first) {
   return 0;
 }
 
-/// Takes one character of wide text, joining surrogates where wide characters have 16 bits.
+/// Takes one character of wide text, or what is none, joining surrogates where wide characters have 16 bits.
 char32_t TakeCharacter(std::wstring_view text, std::size_t& index) {
   auto c = static_cast<char32_t>(text[index++]);
   if constexpr (sizeof(wchar_t) == 2) {
@@ -53,14 +53,15 @@ char32_t TakeCharacter(std::wstring_view text, std::size_t& index) {
       }
     }
   }
-  return c > kLastCharacter || (IsSurrogate(c) && !IsByte(c)) ? kReplacement : c;
+  return c;
 }
 
 void AppendUtf8(std::string& bytes, char32_t c) {
   const auto put = [&bytes](char32_t byte) { bytes += static_cast<char>(static_cast<unsigned char>(byte)); };
-  const auto putTail = [&put, c](unsigned shift) { put(0x80U | ((c >> shift) & 0x3FU)); };
-  if (c < 0x80 || IsByte(c)) {
-    put(c & 0xFFU);
+  const auto putTail = [&put, &c](unsigned shift) { put(0x80U | ((c >> shift) & 0x3FU)); };
+  if (c > kLastCharacter || IsSurrogate(c)) c = kReplacement;
+  if (c < 0x80) {
+    put(c);
   } else if (c < 0x800) {
     put(0xC0U | (c >> 6U));
     putTail(0);
@@ -132,6 +133,20 @@ std::string ToUtf8(std::wstring_view text) {
   std::string bytes;
   bytes.reserve(text.size());
   for (std::size_t i = 0; i < text.size();) AppendUtf8(bytes, TakeCharacter(text, i));
+  return bytes;
+}
+
+std::string ToFileName(std::wstring_view text) {
+  std::string bytes;
+  bytes.reserve(text.size());
+  for (std::size_t i = 0; i < text.size();) {
+    const char32_t c = TakeCharacter(text, i);
+    if (IsByte(c)) {
+      bytes += static_cast<char>(static_cast<unsigned char>(c & 0xFFU));
+    } else {
+      AppendUtf8(bytes, c);
+    }
+  }
   return bytes;
 }
 

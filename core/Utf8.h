@@ -26,12 +26,15 @@ COREGUI_API void AppendCharacter(std::wstring& text, char32_t character);
 /// Bytes as wide text, character by character as DecodeUtf8 reads them.
 COREGUI_API std::wstring FromUtf8(std::string_view bytes);
 
-/// A file's name as wide text. Names are bytes of any kind; one that is no part of valid UTF-8 becomes a lone
-/// surrogate, U+DC00 more than the byte, from which ToUtf8 gives it back.
+/// Wide text as UTF-8. What is no Unicode character (a lone surrogate, say) becomes U+FFFD.
+COREGUI_API std::string ToUtf8(std::wstring_view text);
+
+/// A file's name or path as wide text. Names are bytes of any kind; one that is no part of valid UTF-8
+/// becomes a lone surrogate, U+DC00 more than the byte.
 COREGUI_API std::wstring FromFileName(std::string_view bytes);
 
-/// Wide text as UTF-8. A lone surrogate from U+DC80 to U+DCFF gives the byte that FromFileName took it for;
-/// what else is no Unicode character becomes U+FFFD.
-COREGUI_API std::string ToUtf8(std::wstring_view text);
+/// The bytes of a file's name or path, those back for which FromFileName had to put a surrogate; for the rest
+/// as ToUtf8.
+COREGUI_API std::string ToFileName(std::wstring_view text);
 
 }  // namespace coregui

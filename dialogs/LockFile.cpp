@@ -45,7 +45,7 @@ std::wstring LockPath(const wchar_t* dataFile, const wchar_t* lockExtension) {
 }
 
 void Remove(const std::wstring& path, std::error_code& error) {
-  std::filesystem::remove(coregui::ToUtf8(path), error);
+  std::filesystem::remove(coregui::ToFileName(path), error);
 }
 
 /// False when not every byte of the lock could be written; what there is of it is removed again.

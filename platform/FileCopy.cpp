@@ -13,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/Utf8.h"
 #include "platform/CString.h"
 
 namespace fs = std::filesystem;
@@ -168,11 +169,11 @@ bool CopyFileWithProgress(const wchar_t* source, const wchar_t* destination,
                           const std::function<CopyAnswer(const CopyProgress&)>& progress,
                           const bool* cancel) {
   // Not blocking: a pipe would otherwise be waited for before it is refused.
-  const Descriptor from(open(CString(source).ToUtf8().c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  const Descriptor from(open(ToFileName(CString(source).Str()).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   struct stat info {};
   if (!from.IsOpen() || fstat(from.Get(), &info) != 0) return false;
   std::error_code none;
-  fs::path target(CString(destination).ToUtf8());
+  fs::path target(ToFileName(CString(destination).Str()));
   if (fs::is_symlink(target, none)) target = fs::weakly_canonical(target, none);
   if (target.empty()) return Fail(ENOENT);
   if (!Check(info, target)) return false;
@@ -197,7 +198,7 @@ bool CopyFileWithProgress(const wchar_t* source, const wchar_t* destination,
 
 std::uint64_t GetFreeDiskSpace(const wchar_t* path) {
   std::error_code error;
-  const fs::path folder = fs::absolute(CString(path).ToUtf8(), error).parent_path();
+  const fs::path folder = fs::absolute(ToFileName(CString(path).Str()), error).parent_path();
   const fs::space_info space = fs::space(folder, error);
   return error ? std::numeric_limits<std::uint64_t>::max() : static_cast<std::uint64_t>(space.available);
 }

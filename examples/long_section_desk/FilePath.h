@@ -11,7 +11,7 @@ namespace desk {
 // as they are: the standard library's own conversion throws where the locale knows no such letters.
 
 inline std::filesystem::path ToPath(const std::wstring& text) {
-  return CString(text).ToUtf8();
+  return coregui::ToFileName(text);
 }
 
 inline std::wstring FromPath(const std::filesystem::path& path) {

@@ -146,3 +146,10 @@ TEST(UiList, KeepsItsOrder) {
   EXPECT_FALSE(list.Remove(3));
   EXPECT_EQ(list.FindText(L"a"), UI_LIST::kNotFound);
 }
+
+TEST(FileName, KeepsBytesThatAreNoUtf8WhichNoTextIsWrittenWith) {
+  const std::string bytes = "l\xE4nge \xC3\xA4 \xE8\xB7";
+  const std::wstring name = coregui::FromFileName(bytes);
+  EXPECT_EQ(coregui::ToFileName(name), bytes);
+  EXPECT_EQ(coregui::ToUtf8(name), "l\xEF\xBF\xBDnge \xC3\xA4 \xEF\xBF\xBD\xEF\xBF\xBD");
+}
