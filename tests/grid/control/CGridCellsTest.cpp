@@ -30,22 +30,17 @@ class LayeredGrid : public LoggingGrid {
   LayeredGrid() : LoggingGrid(3, 3, 300, 100) {}
   void OnGetCell(int col, long row, CGridCell* cell) override {
     asked.emplace_back(col, row);
-    if (change) {
-      cell->AppendText(L">notify");
-      cell->SetFormatClass(&format);
-    }
+    if (!change) return;
+    cell->AppendText(L">notify");
+    cell->SetFormatClass(&format);
   }
-  void OnSetCell(int col, long row, CGridCell* cell) override {
-    if (intrude && (col != 2 || row != 2)) {
-      QuickSetText(2, 2, L"intruder");
-    }
-    written = cell->GetText() == nullptr ? L"" : cell->GetText();
+  void OnSetCell(int col, long row, CGridCell*) override {
+    if (intrude && (col != 2 || row != 2)) QuickSetText(2, 2, L"intruder");
   }
 
   OrderFormat format;
   bool change = false;
   bool intrude = false;
-  CString written;
   std::vector<std::pair<int, long>> asked;
 };
 
@@ -124,38 +119,27 @@ TEST(CGridCells, ACellOnePastTheEndIsAcceptedAndReadOnlyAsDisplayed) {
 
 TEST(CGridCells, QuickOperationsKeepTheOtherPropertiesAndStoreNoDefaults) {
   LayeredGrid grid;
+  char data[4] = {1, 2, 3, 4};
+  EXPECT_EQ(grid.QuickSetCellExtraMem(0, 0, 4, data), 1) << "extra memory needs a stored cell";
   grid.QuickSetText(0, 0, L"text");
   grid.QuickSetTextColor(0, 0, red);
   grid.QuickSetReadOnly(0, 0, 7);
-  CGridCell stored;
-  ASSERT_EQ(grid.GetCell(0, 0, &stored), 0);
-  EXPECT_EQ(stored.GetPropertyFlags(),
+  CGridCell cell;
+  ASSERT_EQ(grid.GetCell(0, 0, &cell), 0);
+  EXPECT_EQ(cell.GetPropertyFlags(),
             CELLPROP_TEXT | CELLPROP_DATATYPE | CELLPROP_TEXTCOLOR | CELLPROP_READONLY);
-  EXPECT_EQ(CString(stored.GetText()), L"text");
-  EXPECT_EQ(stored.GetReadOnly(), 1);
-}
-
-TEST(CGridCells, AQuickOperationInsideANotificationDoesNotSpoilTheOuterOne) {
-  LayeredGrid grid;
-  grid.intrude = true;
-  grid.QuickSetText(0, 0, L"outer");
-  EXPECT_EQ(grid.Text(0, 0), "outer") << grid;
-  EXPECT_EQ(grid.Text(2, 2), "intruder") << grid;
-}
-
-TEST(CGridCells, ExtraMemoryNeedsAStoredCell) {
-  LayeredGrid grid;
-  char data[4] = {1, 2, 3, 4};
-  EXPECT_EQ(grid.QuickSetCellExtraMem(0, 0, 4, data), 1);
-  grid.QuickSetText(0, 0, L"x");
+  EXPECT_EQ(cell.GetReadOnly(), 1);
   EXPECT_EQ(grid.QuickSetCellExtraMem(0, 0, 0, data), 1);
   EXPECT_EQ(grid.QuickSetCellExtraMem(0, 0, 4, nullptr), 1);
   EXPECT_EQ(grid.QuickSetCellExtraMem(0, 0, 4, data), 0);
-  CGridCell cell;
   grid.GetCell(0, 0, &cell);
   ASSERT_EQ(cell.GetExtraMemSize(), 4);
   EXPECT_EQ(std::memcmp(cell.GetExtraMemPtr(), data, 4), 0);
-  EXPECT_EQ(CString(cell.GetText()), L"x");
+  EXPECT_EQ(CString(cell.GetText()), L"text");
+  grid.intrude = true;
+  grid.QuickSetText(0, 0, L"outer");
+  EXPECT_EQ(grid.Text(0, 0), "outer") << "a quick operation inside a notification does not spoil it";
+  EXPECT_EQ(grid.Text(2, 2), "intruder") << grid;
 }
 
 TEST(CGridSourceTable, GivesOutTheLowestFreeIndexFrom1To63) {

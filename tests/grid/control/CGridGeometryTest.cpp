@@ -5,30 +5,31 @@
 #include "tests/grid/control/LoggingGrid.h"
 
 using coregui::CGridLayout;
+using coregui::test::At;
 using coregui::test::LoggingGrid;
+using coregui::test::TextOf;
 
 namespace {
 
-std::string Describe(const RECT& r) {
-  return std::to_string(r.left) + "," + std::to_string(r.top) + "," + std::to_string(r.right) + "," +
-         std::to_string(r.bottom);
-}
-
 std::string RectOf(CGridCtrl& grid, int col, long row) {
   RECT rect;
-  return grid.GetCellRect(col, row, &rect) == 0 ? Describe(rect) : "none";
+  return grid.GetCellRect(col, row, &rect) == 0 ? TextOf(rect) : "none";
+}
+
+/// The cell of a section of the window.
+std::string CellAt(CGridCtrl& grid, int x, int y, int section = coregui::GRIDSECTION_GRID) {
+  int col = 0;
+  long row = 0;
+  RECT rect;
+  return grid.GetSectionCellFromPoint(section, x, y, &col, &row, &rect) == 0 ? At(col, row) : "none";
 }
 
 /// Columns 30, hidden, 50, 20, 60, 40 …; rows 10, 25, hidden, 15, 10 …
 void GiveUnevenSizes(CGridCtrl& grid) {
   constexpr int widths[] = {30, 0, 50, 20, 60, 40};
   constexpr int heights[] = {10, 25, 0, 15};
-  for (int col = 0; col < grid.GetNumberCols(); ++col) {
-    grid.SetColWidth(col, widths[col % 6]);
-  }
-  for (long row = 0; row < grid.GetNumberRows(); ++row) {
-    grid.SetRowHeight(row, heights[row % 4]);
-  }
+  for (int col = 0; col < grid.GetNumberCols(); ++col) grid.SetColWidth(col, widths[col % 6]);
+  for (long row = 0; row < grid.GetNumberRows(); ++row) grid.SetRowHeight(row, heights[row % 4]);
 }
 
 }  // namespace
@@ -48,7 +49,7 @@ TEST(CGridGeometry, EveryPixelOfTheViewLeadsToACellAndBack) {
         RECT rect;
         ASSERT_EQ(grid.GetCellFromPoint(x, y, &col, &row, &rect), 0) << x << "," << y << grid;
         ASSERT_TRUE(CRect(rect).PtInRect(CPoint(x, y)))
-            << x << "," << y << " cell " << col << "," << row << " at " << Describe(rect) << grid;
+            << x << "," << y << " cell " << col << "," << row << " at " << TextOf(rect) << grid;
         const bool shown = (col < locked || col >= 5) && (row < locked || row >= grid.GetTopRow());
         ASSERT_TRUE(shown) << x << "," << y << " gives the scrolled-away cell " << col << "," << row << grid;
       }
@@ -60,11 +61,7 @@ TEST(CGridGeometry, AJoinedBlockIsOneRectangleFromAnyOfItsCells) {
   LoggingGrid grid(8, 12, 200, 60);
   grid.JoinCells(1, 2, 2, 4);
   EXPECT_EQ(RectOf(grid, 2, 3), "50,20,150,50");
-  int col = 0;
-  long row = 0;
-  EXPECT_EQ(grid.GetCellFromPoint(149, 49, &col, &row), 0);
-  EXPECT_EQ(col, 1);
-  EXPECT_EQ(row, 2);
+  EXPECT_EQ(CellAt(grid, 149, 49), "1,2");
   grid.SetTopRow(3);
   EXPECT_EQ(RectOf(grid, 2, 3), "50,-10,150,20") << "its start is scrolled away";
   grid.LockColumns(2);
@@ -84,16 +81,9 @@ TEST(CGridGeometry, HeadingCellsStandInTheirOwnWindows) {
   EXPECT_EQ(RectOf(grid, -1, -1), "0,15,40,30");
   EXPECT_EQ(RectOf(grid, -2, 0), "none");
   EXPECT_EQ(RectOf(grid, 0, 12), "none");
-  int col = 0;
-  long row = 0;
-  RECT rect;
-  EXPECT_EQ(grid.GetSectionCellFromPoint(coregui::GRIDSECTION_TOPHEADING, 60, 14, &col, &row, &rect), 0);
-  EXPECT_EQ(col, 1);
-  EXPECT_EQ(row, -2);
-  EXPECT_EQ(grid.GetSectionCellFromPoint(coregui::GRIDSECTION_SIDEHEADING, 5, 55, &col, &row, &rect), 0);
-  EXPECT_EQ(col, -1);
-  EXPECT_EQ(row, 5);
-  EXPECT_EQ(grid.GetSectionCellFromPoint(coregui::GRIDSECTION_TOPHEADING, 60, 30, &col, &row, &rect), 1);
+  EXPECT_EQ(CellAt(grid, 60, 14, coregui::GRIDSECTION_TOPHEADING), "1,-2");
+  EXPECT_EQ(CellAt(grid, 5, 55, coregui::GRIDSECTION_SIDEHEADING), "-1,5");
+  EXPECT_EQ(CellAt(grid, 60, 30, coregui::GRIDSECTION_TOPHEADING), "none");
 }
 
 TEST(CGridGeometry, BillionsOfRowsStayWithinTheirPixels) {
@@ -105,10 +95,7 @@ TEST(CGridGeometry, BillionsOfRowsStayWithinTheirPixels) {
   EXPECT_EQ(grid.GetTopRow(), 0x7FFFFFFF - 10);
   EXPECT_EQ(RectOf(grid, 0, 0x7FFFFFFE), "0,90,50,100");
   EXPECT_EQ(RectOf(grid, 0, 0), "0,-2147483648,50,-2147483648");
-  int col = 0;
-  long row = 0;
-  EXPECT_EQ(grid.GetCellFromPoint(0, 99, &col, &row), 0);
-  EXPECT_EQ(row, 0x7FFFFFFE);
+  EXPECT_EQ(CellAt(grid, 0, 99), "0,2147483646");
   EXPECT_EQ(grid.GotoRow(5), 0);
   EXPECT_EQ(grid.GetTopRow(), 5);
 }
@@ -138,12 +125,12 @@ TEST(CGridLayout, ABarThatIsNeededMayMakeTheOtherOneNeeded) {
         Row{"too low, with room beside", {116, 99}, "0,0,100,99", true, false},
         Row{"smaller than the bars", {10, 10}, "0,0,0,0", true, true}}) {
     const CGridLayout layout = CGridLayout::Of(info, r.client);
-    EXPECT_EQ(Describe(layout.body), r.body) << r.name;
+    EXPECT_EQ(TextOf(layout.body), r.body) << r.name;
     EXPECT_EQ(!layout.vScroll.IsRectNull(), r.vertical) << r.name;
     EXPECT_EQ(!layout.hScroll.IsRectNull(), r.horizontal) << r.name;
   }
   info.view.tabWidth = 40;
   const CGridLayout layout = CGridLayout::Of(info, {200, 200});
-  EXPECT_EQ(Describe(layout.tabs), "0,184,40,200");
-  EXPECT_EQ(Describe(layout.hScroll), "40,184,200,200");
+  EXPECT_EQ(TextOf(layout.tabs), "0,184,40,200");
+  EXPECT_EQ(TextOf(layout.hScroll), "40,184,200,200");
 }

@@ -3,7 +3,10 @@
 #include "grid/control/CGridInfo.h"
 #include "tests/grid/control/LoggingGrid.h"
 
+using coregui::test::CurrentOf;
 using coregui::test::LoggingGrid;
+using coregui::test::RowOf;
+using coregui::test::ViewOf;
 
 TEST(CGridSizing, ManyRowsSwitchToOneHeightForGood) {
   LoggingGrid grid(2, 10, 100, 100);
@@ -31,16 +34,14 @@ TEST(CGridSizing, FewerRowsOrColumnsBringPositionLocksAndViewBackIn) {
   grid.log.clear();
   EXPECT_EQ(grid.SetNumberRows(5), 0);
   EXPECT_EQ(grid.GetLockedRows(), 4);
-  EXPECT_EQ(grid.GetCurrentRow(), 4);
-  EXPECT_EQ(grid.GetTopRow(), 4);
+  EXPECT_EQ(CurrentOf(grid) + " " + ViewOf(grid), "15,4 14,4");
   EXPECT_EQ(grid.DeleteRow(0), 0);
   EXPECT_EQ(grid.GetLockedRows(), 3) << "one row at least can be scrolled";
   EXPECT_EQ(grid.InsertRow(0), 0);
   EXPECT_EQ(grid.LockRows(4), 0);
   EXPECT_EQ(grid.SetNumberCols(2), 0);
   EXPECT_EQ(grid.GetLockedColumns(), 1);
-  EXPECT_EQ(grid.GetCurrentCol(), 1);
-  EXPECT_EQ(grid.GetLeftCol(), 1);
+  EXPECT_EQ(CurrentOf(grid) + " " + ViewOf(grid), "1,3 1,4");
   EXPECT_EQ(grid.TakeLog(), "TopRowChange 31 4; TopRowChange 4 3; TopRowChange 3 4; LeftColChange 14 1");
   grid.SetNumberRows(0);
   EXPECT_EQ(grid.GetCurrentRow(), -1);
@@ -53,20 +54,17 @@ TEST(CGridSizing, FewerRowsOrColumnsBringPositionLocksAndViewBackIn) {
 }
 
 TEST(CGridSizing, LockingMovesTheViewBehindTheLockedOnes) {
-  for (const bool rows : {false, true}) {
-    LoggingGrid grid(20, 40, 200, 100);
-    const auto lock = [&](int count) { return rows ? grid.LockRows(count) : grid.LockColumns(count); };
-    const auto first = [&] { return rows ? grid.GetTopRow() : grid.GetLeftCol(); };
-    EXPECT_EQ(lock(-1), 1);
-    EXPECT_EQ(lock(41), 1);
-    EXPECT_EQ(lock(3), 0);
-    EXPECT_EQ(first(), 3) << (rows ? "rows" : "columns") << grid;
-    rows ? grid.SetTopRow(10) : grid.SetLeftCol(10);
-    EXPECT_EQ(lock(2), 0);
-    EXPECT_EQ(first(), 10);
-    EXPECT_EQ(lock(0), 0);
-    EXPECT_EQ(first(), 0);
-  }
+  LoggingGrid grid(20, 40, 200, 100);
+  EXPECT_EQ(grid.LockRows(-1) + grid.LockColumns(-1), 2);
+  EXPECT_EQ(grid.LockRows(41) + grid.LockColumns(21), 2);
+  EXPECT_EQ(grid.LockRows(3) + grid.LockColumns(2), 0);
+  EXPECT_EQ(ViewOf(grid), "2,3");
+  grid.SetTopRow(10);
+  grid.SetLeftCol(9);
+  EXPECT_EQ(grid.LockRows(2) + grid.LockColumns(1), 0);
+  EXPECT_EQ(ViewOf(grid), "9,10");
+  EXPECT_EQ(grid.LockRows(0) + grid.LockColumns(0), 0);
+  EXPECT_EQ(ViewOf(grid), "0,0");
 }
 
 TEST(CGridSizing, RowsGoInAndOutWithTheirCellsAndHeights) {
@@ -93,39 +91,29 @@ TEST(CGridSizing, ColumnsKeepTheirCellsThroughMovesInsertionsAndDeletions) {
   LoggingGrid grid(4, 2, 400, 100);
   grid.Fill();
   grid.SetColWidth(0, 77);
-  const auto headline = [&] {
-    std::string all;
-    for (int col = 0; col < grid.GetNumberCols(); ++col) {
-      all += grid.Text(col, 0) + " ";
-    }
-    return all;
-  };
   EXPECT_EQ(grid.MoveColPosition(0, 2, 1), 0);
-  EXPECT_EQ(headline(), "b0 a0 c0 d0 ");
+  EXPECT_EQ(RowOf(grid, 4), "b0 a0 c0 d0 ");
   EXPECT_EQ(grid.GetColWidth(1), 77);
   EXPECT_EQ(grid.MoveColPosition(3, 0, 1), 0);
-  EXPECT_EQ(headline(), "d0 b0 a0 c0 ");
+  EXPECT_EQ(RowOf(grid, 4), "d0 b0 a0 c0 ");
   EXPECT_EQ(grid.MoveColPosition(0, 3, 0), 0) << "behind the last column";
-  EXPECT_EQ(headline(), "b0 a0 c0 d0 ");
+  EXPECT_EQ(RowOf(grid, 4), "b0 a0 c0 d0 ");
   EXPECT_EQ(grid.MoveColPosition(4, 0, 1), 1);
   EXPECT_EQ(grid.MoveColPosition(0, 5, 1), 1);
   EXPECT_EQ(grid.InsertCol(2), 0);
-  EXPECT_EQ(headline(), "b0 a0  c0 d0 ") << grid;
+  EXPECT_EQ(RowOf(grid, 5), "b0 a0  c0 d0 ") << grid;
   grid.QuickSetText(2, 0, L"new");
-  EXPECT_EQ(headline(), "b0 a0 new c0 d0 ") << "the new column shows cells of its own";
+  EXPECT_EQ(RowOf(grid, 5), "b0 a0 new c0 d0 ") << "the new column shows cells of its own";
   EXPECT_EQ(grid.DeleteCol(3), 0);
-  EXPECT_EQ(headline(), "b0 a0 new d0 ") << grid;
+  EXPECT_EQ(RowOf(grid, 4), "b0 a0 new d0 ") << grid;
   EXPECT_EQ(grid.AppendCol(), 0);
   EXPECT_EQ(grid.DeleteCol(5), 1);
-}
-
-TEST(CGridSizing, ColumnsThatComeBackShowTheDataThatNoOtherColumnShows) {
-  LoggingGrid grid(4, 1, 400, 100);
-  grid.Fill();
-  grid.MoveColPosition(0, 3, 0);
-  grid.SetNumberCols(2);
-  grid.SetNumberCols(4);
-  EXPECT_EQ(grid.Text(0, 0) + grid.Text(1, 0) + grid.Text(2, 0) + grid.Text(3, 0), "b0c0a0d0") << grid;
+  LoggingGrid other(4, 1, 400, 100);
+  other.Fill();
+  other.MoveColPosition(0, 3, 0);
+  other.SetNumberCols(2);
+  other.SetNumberCols(4);
+  EXPECT_EQ(RowOf(other, 4), "b0 c0 a0 d0 ") << "columns that come back show what no other column shows";
 }
 
 TEST(CGridSizing, FitToWindowSharesEveryPixel) {

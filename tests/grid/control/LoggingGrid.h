@@ -31,9 +31,7 @@ class LoggingGrid : public CGridCtrl {
   /// The lines so far, one behind the other; the log starts again.
   std::string TakeLog() {
     std::string all;
-    for (const std::string& line : log) {
-      all += (all.empty() ? "" : "; ") + line;
-    }
+    for (const std::string& line : log) all += (all.empty() ? "" : "; ") + line;
     log.clear();
     return all;
   }
@@ -44,11 +42,7 @@ class LoggingGrid : public CGridCtrl {
       }
     }
   }
-  std::string Text(int col, long row) {
-    CString text;
-    QuickGetText(col, row, &text);
-    return text.ToUtf8();
-  }
+  std::string Text(int col, long row) { return TextAt(*this, col, row); }
 
   int OnCanMove(int oldCol, long oldRow, int newCol, long newRow) override {
     return Ask("CanMove", {oldCol, oldRow, newCol, newRow});
@@ -72,9 +66,7 @@ class LoggingGrid : public CGridCtrl {
  private:
   int Ask(const std::string& name, const std::vector<long>& arguments) {
     std::string line = name;
-    for (const long argument : arguments) {
-      line += " " + std::to_string(argument);
-    }
+    for (const long argument : arguments) line += " " + std::to_string(argument);
     log.push_back(line);
     return refused.contains(name) ? 0 : 1;
   }

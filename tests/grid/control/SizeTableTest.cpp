@@ -12,9 +12,7 @@ long ExpectedIndexAt(const std::vector<int>& sizes, long pixel) {
   long index = 0;
   long sum = 0;
   for (std::size_t i = 0; i <= sizes.size(); ++i) {
-    if (sum <= pixel) {
-      index = static_cast<long>(i);
-    }
+    if (sum <= pixel) index = static_cast<long>(i);
     sum += i < sizes.size() ? sizes[i] : 0;
   }
   return index;

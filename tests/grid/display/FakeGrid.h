@@ -8,13 +8,9 @@
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridInfo.h"
 #include "platform/CDC.h"
+#include "tests/grid/GridPicture.h"
 
 namespace coregui::test {
-
-/// The cell (col, row) as the text "col,row".
-inline std::string At(int col, long row) {
-  return std::to_string(col) + "," + std::to_string(row);
-}
 
 /// A cell type that writes down what it is asked, and draws nothing.
 class LoggingType : public CGridCellType {
@@ -78,10 +74,7 @@ class FakeGrid : public TypeHolder, public CGridCtrl {
     log.push_back("setup " + std::to_string(section) + (memory != nullptr ? " memory" : ""));
   }
   COLORREF OnGetDefBackColor(int) override { return 0x123456; }
-  void OnDrawFocusRect(CDC*, RECT* rect) override {
-    log.push_back("focus " + std::to_string(rect->left) + "," + std::to_string(rect->top) + "," +
-                  std::to_string(rect->right) + "," + std::to_string(rect->bottom));
-  }
+  void OnDrawFocusRect(CDC*, RECT* rect) override { log.push_back("focus " + TextOf(*rect)); }
   void OnGetCell(int col, long row, CGridCell*) override {
     if (onGetCell) onGetCell(col, row);
   }
@@ -97,8 +90,7 @@ class FakeGrid : public TypeHolder, public CGridCtrl {
     *text = L"tip";
     return hintAnswer;
   }
-  /// Current cell as text.
-  std::string Current() const { return At(GetCurrentCol(), GetCurrentRow()); }
+  std::string Current() const { return CurrentOf(*this); }
 
   std::vector<std::string> log;
   std::function<void(int col, long row)> onGetCell;
