@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cmath>
 #include <iterator>
 #include <list>
-#include <map>
 #include <random>
 
 #include "grid/data/CGridCell.h"
@@ -121,6 +122,8 @@ enum class Mix {
   numbers,
   textsAndBlanks,
   numbersAndBlanks,
+  depths,
+  zerosAndTexts,
   notNumbers,
   everything
 };
@@ -146,6 +149,15 @@ std::unique_ptr<CGridCell> RandomCell(Mix mix, std::mt19937& random) {
       cell->SetNumber(number());
       if (pick(5) == 0) cell->SetBool(pick(2));
       break;
+    case Mix::depths:  // below a level: an empty row counts as the level itself
+      cell->SetNumber(-std::fabs(number()));
+      break;
+    case Mix::zerosAndTexts:
+      if (pick(8) != 0)
+        cell->SetNumber(0);
+      else
+        cell->SetText(L"t");
+      break;
     case Mix::notNumbers:
       cell->SetNumber(pick(7) == 0 ? std::numeric_limits<double>::quiet_NaN() : number());
       break;
@@ -166,44 +178,51 @@ struct Case {
   int rows;
   int keys;
   int flags;
+  int gapEvery = 0;  // how many rows, more or less, stand between runs of empty ones; 0: there are none
 };
 
-/// The numbers in column 5, from row 0 on.
-std::vector<int> Names(CGridMem& store) {
-  std::vector<int> names;
+/// The numbers in column 5 of the first rows; -1 where there is none.
+std::vector<int> Names(CGridMem& store, std::size_t rows) {
+  std::vector<int> names(rows, -1);
   CGridCell name;
-  for (long row = 0; store.GetCell(5, row, &name) == 0; ++row) {
-    names.push_back(static_cast<int>(name.GetNumber()));
-  }
+  for (std::size_t row = 0; row < rows; ++row)
+    if (store.GetCell(5, static_cast<long>(row), &name) == 0) names[row] = static_cast<int>(name.GetNumber());
   return names;
 }
 
 /// Fills a store and the model's rows alike, sorts both, and compares the order by a number that each row
-/// carries.
+/// carries; empty rows carry none.
 void ExpectRequiredOrder(coregui::CGridSourceOwner& owner, const Case& test, unsigned seed) {
   std::mt19937 random(seed);
   CGridMem store;
   store.SetOwner(&owner);
+  CGridCell blank;
+  blank.SetPropertyFlags(0);
   std::vector<Row> rows;
+  std::vector<int> names;
   for (int row = 0; row < test.rows; ++row) {
+    if (test.gapEvery > 0 && random() % static_cast<unsigned>(test.gapEvery) == 0) {
+      const unsigned longest = std::array{9U, 150U, 330U, 900U}[random() % 4];
+      rows.resize(rows.size() + 1 + random() % longest, Row(static_cast<std::size_t>(test.keys), blank));
+    }
+    const auto at = static_cast<long>(rows.size());
+    names.resize(rows.size(), -1);
+    names.push_back(row);
     Row cells;
     for (int key = 0; key < test.keys; ++key) {
       const auto cell = RandomCell(test.mix, random);
-      CGridCell blank;
-      blank.SetPropertyFlags(0);
       cells.push_back(cell != nullptr ? *cell : blank);
-      if (cell != nullptr) store.SetCell(key, row, cell.get());
+      if (cell != nullptr) store.SetCell(key, at, cell.get());
     }
     rows.push_back(cells);
     CGridCell name;
     name.SetNumber(row);
-    store.SetCell(5, row, &name);
+    store.SetCell(5, at, &name);
   }
   std::vector<int> cols(static_cast<std::size_t>(test.keys));
   std::iota(cols.begin(), cols.end(), 0);
   const std::vector<int> wanted = InsertionModel(owner, test.flags).Sort(rows);
-  std::vector<int> order(wanted.size());
-  std::iota(order.begin(), order.end(), 0);
+  std::vector<int> order = names;
   // Whoever watches gives up ever later, and at last not at all.
   for (int patience = 0, result = 1; result != 0; patience = 2 * patience + 1) {
     int asked = 0;
@@ -217,10 +236,11 @@ void ExpectRequiredOrder(coregui::CGridSourceOwner& owner, const Case& test, uns
     result = store.SortBy(cols.data(), test.keys, test.flags);
     ASSERT_EQ(asked > patience ? 1 : 0, result);
     ASSERT_TRUE(store.Check());
-    if (result == 0) order = wanted;
-    ASSERT_EQ(order, Names(store)) << "mix " << static_cast<int>(test.mix) << ", " << test.rows << " rows, "
-                                   << test.keys << " keys, flags " << test.flags << ", seed " << seed
-                                   << ", patience " << patience;
+    for (std::size_t row = 0; result == 0 && row < rows.size(); ++row)
+      order[row] = names[static_cast<std::size_t>(wanted[row])];
+    ASSERT_EQ(order, Names(store, rows.size()))
+        << "mix " << static_cast<int>(test.mix) << ", " << test.rows << " rows, " << test.keys
+        << " keys, flags " << test.flags << ", seed " << seed << ", patience " << patience;
   }
 }
 
@@ -236,6 +256,19 @@ TEST(CGridMemSort, EveryMixOfCellsComesInTheOrderOfTheRequiredInsertion) {
         }
       }
     }
+  }
+}
+
+TEST(CGridMemSort, RunsOfEmptyRowsGoWhereTheRequiredInsertionTakesEachOfThem) {
+  TestOwner owner(6, 1000);
+  for (unsigned seed = 1; seed <= 360; ++seed) {
+    const auto mix = static_cast<Mix>(seed % (static_cast<unsigned>(Mix::everything) + 1));
+    const int flags = seed / 11 % 2 == 0 ? 0 : coregui::SORT_DESCENDING;
+    const int few = static_cast<int>(3 + seed % 5);
+    ExpectRequiredOrder(owner, {mix, few, seed % 4 == 0 ? 2 : 1, flags, 1}, seed);
+    // A text between some that are alike turns the empty rows on both sides.
+    ExpectRequiredOrder(owner, {Mix::zerosAndTexts, 3 * few, 1, flags, 7}, seed);
+    if (seed % 40 == 0) ExpectRequiredOrder(owner, {mix, 200, 1, flags, 20}, seed);
   }
 }
 
@@ -275,46 +308,28 @@ TEST(CGridMemSort, RowsAboveTheFirstStayAndFarRowsMoveAsOne) {
   EXPECT_EQ(1, empty.SortBy(0, 0));
 }
 
-/// A heading, some numbers, and two far down. The cells by row.
-std::map<long, CGridCell> FarOutCells(long far) {
-  std::map<long, CGridCell> cells;
-  cells[0].SetText(L"Level");
-  for (const long row : {1L, 2L, 3L}) cells[row].SetNumber(static_cast<double>(10 - row));
-  cells[far / 2].SetNumber(4);
-  cells[far].SetNumber(2);
-  return cells;
-}
-
 /// A column of mixed cells has no consistent order: empty rows go where the insertion takes each of them.
 TEST(CGridMemSort, EmptyRowsBeforeFarOnesTakeNoRoomInAMixedColumn) {
+  constexpr long kFar = 2'000'000'000;
   TestOwner owner(1, 4);
   for (const int flags : {0, coregui::SORT_DESCENDING}) {
-    for (const long far : {3000L, 2'000'000'000L}) {
-      SCOPED_TRACE(std::to_string(far) + " flags " + std::to_string(flags));
-      CGridMem store;
-      std::map<long, CGridCell> cells = FarOutCells(far);
-      for (auto& [row, cell] : cells) store.SetCell(0, row, &cell);
-      ASSERT_EQ(0, store.SortBy(0, flags));
-      EXPECT_TRUE(store.Check());
-      EXPECT_EQ(far, store.GetNumRows());
-      EXPECT_EQ("Level", TextAt(store, 0));
-      CString wanted = L"4";
-      int col = 0;
-      long found = 0;
-      EXPECT_EQ(0, store.FindFirst(&wanted, &col, &found, 0));
-      if (far > 3000) continue;
-      std::vector<Row> rows(static_cast<std::size_t>(far) + 1, Row(1));
-      for (long row = 0; row <= far; ++row) {
-        rows[static_cast<std::size_t>(row)][0].SetPropertyFlags(0);
-        if (cells.contains(row)) rows[static_cast<std::size_t>(row)][0] = cells[row];
-      }
-      const std::vector<int> order = InsertionModel(owner, flags).Sort(rows);
-      for (long row = 0; row <= far; ++row) {
-        const wchar_t* const text =
-            rows[static_cast<std::size_t>(order[static_cast<std::size_t>(row)])][0].GetText();
-        ASSERT_EQ(CString(text).ToUtf8(), TextAt(store, row)) << row;
-      }
+    CGridMem store;
+    CGridCell cell;
+    cell.SetText(L"Level");
+    store.SetCell(0, 0, &cell);
+    for (const auto& [row, number] :
+         {std::pair(1L, 9), std::pair(2L, 8), std::pair(3L, 7), std::pair(kFar / 2, 4), std::pair(kFar, 2)}) {
+      cell.SetNumber(number);
+      store.SetCell(0, row, &cell);
     }
+    ASSERT_EQ(0, store.SortBy(0, flags));
+    EXPECT_TRUE(store.Check());
+    EXPECT_EQ(kFar, store.GetNumRows());
+    EXPECT_EQ("Level", TextAt(store, 0));
+    CString wanted = L"4";
+    int col = 0;
+    long found = 0;
+    EXPECT_EQ(0, store.FindFirst(&wanted, &col, &found, 0));
   }
 }
 

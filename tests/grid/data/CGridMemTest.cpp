@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "grid/data/CGridCell.h"
-#include "tests/grid/data/DataSourceContract.h"
 #include "tests/grid/data/TestOwner.h"
 
 namespace {
@@ -28,17 +27,37 @@ std::string Text(CGridMem& store, int col, long row) {
   return text.ToUtf8();
 }
 
-TEST(CGridMem, KeepsTheContractOfDataSources) {
+TEST(CGridMem, WritingReplacesTheMaskAndReadingChangesOnlyWhatIsStored) {
   CGridMem store;
-  ExpectDataSourceContract(store);
+  CGridCell written;
+  written.SetPropertyFlags(0);
+  written.SetText(L"stored");
+  written.SetBorder(7);
+  ASSERT_EQ(0, store.SetCell(1, 1, &written));
+  CGridCell read;
+  read.SetAlignment(9);
+  EXPECT_EQ(1, store.GetCell(2, 1, &read));
+  EXPECT_EQ(nullptr, read.GetText()) << "nothing is stored there";
+  ASSERT_EQ(0, store.GetCell(1, 1, &read));
+  EXPECT_STREQ(L"stored", read.GetText());
+  EXPECT_EQ(7, read.GetBorder());
+  EXPECT_EQ(9, read.GetAlignment()) << "a property that is not stored does not change";
+  written.ClearProperty(CELLPROP_BORDER);
+  ASSERT_EQ(0, store.SetCell(1, 1, &written));
+  read.SetPropertyFlags(0);
+  ASSERT_EQ(0, store.GetCell(1, 1, &read));
+  EXPECT_EQ(0, read.IsPropertySet(CELLPROP_BORDER));
+  int column = 0;
+  long row = 0;
+  EXPECT_EQ(1, store.OnCanMove(0, 0, 1, 1));
+  EXPECT_EQ(1, store.OnEditContinue(0, 0, &column, &row));
   CGridCell* cells[1] = {};
   EXPECT_EQ(0, store.AppendRow());
   EXPECT_EQ(-1, store.AppendRow(cells, 1));
   EXPECT_EQ(-1, store.GetNumCols());
   EXPECT_EQ(0, store.IsOpen());
-  CGridCell cell;
-  EXPECT_EQ(1, store.SetCell(0, std::numeric_limits<long>::max(), &cell)) << "rows have 32 bits";
-  EXPECT_EQ(0, store.GetNumRows());
+  EXPECT_EQ(1, store.SetCell(0, std::numeric_limits<long>::max(), &written)) << "rows have 32 bits";
+  EXPECT_EQ(1, store.GetNumRows());
 }
 
 TEST(CGridMem, ACellWithNoPropertyIsStoredAndAllPropertiesComeBack) {

@@ -2,12 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <array>
-#include <cmath>
-#include <limits>
-#include <random>
-
 #include "grid/data/InsertionOrder.h"
 
 namespace {
@@ -15,76 +9,10 @@ namespace {
 using coregui::KeyColumn;
 using coregui::SortKey;
 
-/// How the keys of one column are made.
-struct Mix {
-  const char* name;
-  int blanks;  // in a hundred
-  int texts;   // in a hundred of the others
-  int values;  // how many different ones
-  int block;   // rows in a row that are of one type
-};
-
-constexpr Mix MIXES[] = {
-    {"numbers and few blanks", 10, 0, 100'000, 1},     {"numbers and many blanks", 90, 0, 100'000, 1},
-    {"blocks of blanks", 50, 0, 100'000, 150},         {"few numbers again and again", 30, 0, 4, 1},
-    {"texts among numbers", 0, 50, 1000, 1},           {"all types", 30, 40, 1000, 1},
-    {"all types in blocks of a leap", 30, 40, 50, 100}};
-
-SortKey RandomKey(const Mix& mix, std::mt19937& random) {
-  const auto below = [&random](int high) { return static_cast<int>(random() % static_cast<unsigned>(high)); };
-  SortKey key;
-  if (below(100) < mix.blanks) return key;
-  const int value = below(mix.values);
-  key.byNumber = below(100) >= mix.texts;
-  key.hasText = !key.byNumber || below(20) != 0;  // a number may lack its value
-  key.rank = static_cast<std::uint32_t>(below(mix.values));
-  // A text counts as the number it begins with, mostly none.
-  if (key.byNumber || below(3) == 0) key.number = key.hasText ? value - mix.values / 3 : 0;
-  return key;
-}
-
-std::vector<KeyColumn> RandomKeys(const Mix& mix, std::size_t columns, std::uint32_t rows,
-                                  std::mt19937& random) {
-  std::vector<KeyColumn> keys(columns, KeyColumn(rows));
-  for (std::size_t column = 0; column < columns; ++column) {
-    for (std::uint32_t row = 0; row < rows; ++row) {
-      SortKey& key = keys[column][row];
-      do {
-        key = RandomKey(mix, random);
-      } while (
-          row % static_cast<std::uint32_t>(mix.block) != 0 &&
-          (key.byNumber != keys[column][row - 1].byNumber || key.hasText != keys[column][row - 1].hasText));
-    }
-  }
-  return keys;
-}
-
 std::vector<std::uint32_t> OneByOne(const std::vector<coregui::RankedRows>& rows) {
   std::vector<std::uint32_t> names;
   for (const auto& entry : rows) names.insert(names.end(), entry.count, entry.row);
   return names;
-}
-
-TEST(RankInsertion, GivesTheOrderThatTheStepsGive) {
-  std::mt19937 random(11);
-  for (const Mix& mix : MIXES) {
-    for (const std::size_t columns : {1U, 2U, 3U}) {
-      for (const bool descending : {false, true}) {
-        for (const std::uint32_t rows : {1U, 101U, 6000U}) {
-          const auto keys = RandomKeys(mix, columns, rows, random);
-          coregui::KeyCompare compare(keys, descending);
-          const coregui::SortRanks ranks(keys, descending);
-          ASSERT_TRUE(ranks.AreExact());
-          std::vector<coregui::RankedRows> plain(rows);
-          for (std::uint32_t row = 0; row < rows; ++row) plain[row].row = row;
-          coregui::WorkWatch watch;
-          ASSERT_EQ(coregui::InsertionOrder(compare).Sort(rows, watch),
-                    OneByOne(coregui::RankInsertion(ranks, compare).Sort(plain, watch)))
-              << mix.name << ", " << columns << " keys, " << rows << " rows" << (descending ? ", down" : "");
-        }
-      }
-    }
-  }
 }
 
 /// Rows that are counted must come as if each had been inserted. The name of the empty ones is the last.
@@ -106,32 +34,6 @@ void ExpectOrderOfSteps(const std::vector<KeyColumn>& keys, const std::vector<co
   const coregui::SortRanks ranks(keys, descending);
   ASSERT_EQ(wanted, OneByOne(coregui::RankInsertion(ranks, compare).Sort(counted, watch)))
       << "round " << round;
-}
-
-TEST(RankInsertion, GivesRunsOfEmptyRowsThePlacesThatTheStepsGive) {
-  std::mt19937 random(20);
-  const auto below = [&random](unsigned high) { return static_cast<std::uint32_t>(random() % high); };
-  for (int round = 0; round < 600; ++round) {
-    // A third of them: some numbers around 0, each far from the one before.
-    const bool farApart = round % 3 == 1;
-    const Mix mix = farApart ? Mix{"", 0, 0, 3, 1}
-                             : Mix{"", static_cast<int>(below(40)), static_cast<int>(below(101)),
-                                   1 + static_cast<int>(below(300)), 1 + static_cast<int>(below(30))};
-    const std::uint32_t rows = farApart ? 3 + below(4) : 1 + below(round % 3 == 0 ? 400 : 8);
-    std::vector<KeyColumn> keys = RandomKeys(mix, 1 + below(2), rows, random);
-    if (below(3) == 0) {
-      // Depths below a level: an empty row counts as the level itself.
-      for (SortKey& key : keys[0]) key.number = -std::fabs(key.number);
-    }
-    for (KeyColumn& column : keys) column.emplace_back();
-    std::vector<coregui::RankedRows> counted;
-    for (std::uint32_t row = 0; row < rows; ++row) {
-      const bool run = farApart || below(rows > 40 ? 20 : 2) == 0;
-      if (run) counted.push_back({rows, 1 + below(std::array{9U, 150U, 900U}[farApart ? 2 : below(3)])});
-      counted.push_back({row, 1});
-    }
-    ExpectOrderOfSteps(keys, counted, below(2) != 0, round);
-  }
 }
 
 /// Empty rows that stand on both sides of texts, which turn them, and advance with the hint: until it has
@@ -162,54 +64,6 @@ TEST(RankInsertion, EmptyRowsPassTextsAsLongAsTheStepsDo) {
     }
     ExpectOrderOfSteps({keys}, counted, true, round++);
   }
-}
-
-TEST(RankInsertion, LeavesNaNAndTooManyKindsToTheSteps) {
-  KeyColumn column(3);
-  column[1].byNumber = true;
-  column[1].number = std::numeric_limits<double>::quiet_NaN();
-  EXPECT_FALSE(coregui::SortRanks({column}, false).AreExact());
-  std::vector<KeyColumn> many(6, KeyColumn(64));
-  for (std::uint32_t row = 0; row < 64; ++row) {
-    for (std::size_t key = 0; key < many.size(); ++key) {
-      many[key][row].byNumber = ((row >> key) & 1U) != 0;
-      many[key][row].hasText = true;
-    }
-  }
-  EXPECT_FALSE(coregui::SortRanks(many, true).AreExact());
-}
-
-TEST(RankTree, FindsAndInsertsAsAPlainSequence) {
-  std::mt19937 random(12);
-  coregui::RankTree tree(2);
-  std::vector<std::pair<std::uint32_t, std::vector<int>>> plain;
-  for (std::uint32_t row = 0; row < 9000; ++row) {
-    const auto size = static_cast<std::uint32_t>(plain.size());
-    const bool inOrder = row > 6000;
-    const std::uint32_t at = inOrder ? size : static_cast<std::uint32_t>(random() % (size + 1));
-    // Some come in numbers, again and again under the same name, and are parted by others.
-    const bool many = random() % 20 == 0;
-    const coregui::RankedRows rows{many ? 9000 + row % 2 : row,
-                                   many ? 1 + static_cast<std::uint32_t>(random() % 9) : 1};
-    const std::vector<int> ranks{
-        many ? 5 : static_cast<int>(random() % 9000),
-        !many && random() % 4 == 0 ? -static_cast<int>(row) : coregui::RankTree::LOWEST};
-    tree.Insert(at, rows, ranks);
-    plain.insert(plain.begin() + at, rows.count, {rows.row, ranks});
-    ASSERT_TRUE(row % 1000 != 999 || tree.Check()) << row;
-    const std::vector<int> limits{
-        random() % 3 == 0 ? coregui::RankTree::NEVER : 9000 - static_cast<int>(random() % 300),
-        -static_cast<int>(random() % 100)};
-    const auto from = static_cast<std::uint32_t>(random() % plain.size());
-    const auto found = std::find_if(plain.begin() + from, plain.end(), [&](const auto& entry) {
-      return entry.second[0] > limits[0] || entry.second[1] > limits[1];
-    });
-    ASSERT_EQ(static_cast<std::uint32_t>(found - plain.begin()), tree.FindAbove(from, limits)) << row;
-    ASSERT_EQ(plain[from].first, tree.At(from)) << row;
-  }
-  const std::vector<std::uint32_t> rows = OneByOne(tree.Flatten());
-  ASSERT_EQ(plain.size(), rows.size());
-  for (std::size_t i = 0; i < rows.size(); ++i) ASSERT_EQ(plain[i].first, rows[i]) << i;
 }
 
 }  // namespace
