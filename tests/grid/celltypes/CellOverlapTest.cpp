@@ -39,13 +39,13 @@ class WatchedType : public CGridCellType {
 };
 
 /// Eight columns of 60 pixels in a window.
-struct OverlapWindow {
+struct CellOverlapTest : testing::Test {
   WatchedType watched;  // outlives the grid
   CWnd frame;
   CGridCtrl grid;
   int watchedId = 0;
 
-  OverlapWindow() {
+  CellOverlapTest() {
     watchedId = grid.AddCellType(&watched);
     grid.SetDefColWidth(60);
     grid.SetNumberCols(8);
@@ -56,7 +56,7 @@ struct OverlapWindow {
     grid.GotoCell(7, 4);
     CWinApp::PumpPending();
   }
-  ~OverlapWindow() { frame.DestroyWindow(); }
+  ~CellOverlapTest() override { frame.DestroyWindow(); }
 
   /// The columns that drawing a cell of row 0 hints, as text.
   std::string HintedBy(int col) {
@@ -82,8 +82,6 @@ struct OverlapWindow {
   }
 };
 
-struct CellOverlapTest : testing::Test, OverlapWindow {};
-
 TEST_F(CellOverlapTest, OnlyATextAndAnEmptyCellThatShowsOneHintTheirNeighbour) {
   grid.QuickSetText(0, 0, kLong);
   grid.QuickSetText(5, 0, L"b");
@@ -95,24 +93,6 @@ TEST_F(CellOverlapTest, OnlyATextAndAnEmptyCellThatShowsOneHintTheirNeighbour) {
   EXPECT_EQ(HintedBy(7), "") << "the last column has none";
   grid.SetColWidth(1, 0);
   EXPECT_THAT(HintedBy(0), testing::AnyOf("2", "12")) << "the next one in view";
-}
-
-TEST_F(CellOverlapTest, WhatCannotSpillHintsNothing) {
-  struct Row {
-    const char* name;
-    void (*change)(CGridCtrl&);
-  };
-  for (const Row& row : {Row{"off", [](CGridCtrl& g) { g.EnableCellOverLap(0); }},
-                         Row{"extended", [](CGridCtrl& g) { g.QuickSetCellTypeEx(0, 0, 2); }},
-                         Row{"joined", [](CGridCtrl& g) { g.JoinCells(0, 0, 1, 1); }},
-                         Row{"right", [](CGridCtrl& g) { g.QuickSetAlignment(0, 0, 2); }},
-                         Row{"check box", [](CGridCtrl& g) { g.QuickSetCellType(0, 0, 2); }}}) {
-    OverlapWindow fresh;
-    fresh.grid.QuickSetText(0, 0, kLong);
-    row.change(fresh.grid);
-    EXPECT_EQ(fresh.HintedBy(0), "") << row.name;
-    EXPECT_EQ(fresh.HintedBy(1), "") << row.name;
-  }
 }
 
 TEST_F(CellOverlapTest, ATextPassesOverCellsThatCanShowItOnly) {

@@ -13,30 +13,21 @@ TEST(CheckBoxPlan, BoxGrowsWithTheRowUpToTwelve) {
   EXPECT_EQ(CheckBoxSize(400), 12);
 }
 
-struct Row {
-  const char* name;
-  int alignment;
-  long extended;
-  CRect box;
-};
-
-class CheckBoxPlaces : public testing::TestWithParam<Row> {};
-
-TEST_P(CheckBoxPlaces, FollowTheStyle) {
-  const Row& row = GetParam();
-  const CRect box = CheckBoxRect(CRect(100, 50, 180, 80), row.alignment, row.extended);
-  EXPECT_EQ(box, row.box) << box.left << ',' << box.top << ',' << box.right << ',' << box.bottom;
+TEST(CheckBoxPlan, PlacesFollowTheStyle) {
+  const struct {
+    const char* name;
+    int alignment;
+    long extended;
+    CRect box;
+  } rows[] = {{"plain", 0, 0, {103, 59, 115, 71}},
+              {"the alignment counts only with its bit", 0x12, 0, {103, 59, 115, 71}},
+              {"round is one wider", 0, kCheckRound, {103, 59, 116, 71}},
+              {"centred", 0x4, kCheckAligned, {134, 59, 146, 71}},
+              {"right bottom", 0x12, kCheckAligned, {162, 62, 174, 74}},
+              {"left top", 0x9, kCheckAligned, {103, 53, 115, 65}}};
+  for (const auto& row : rows)
+    EXPECT_EQ(CheckBoxRect(CRect(100, 50, 180, 80), row.alignment, row.extended), row.box) << row.name;
 }
-
-INSTANTIATE_TEST_SUITE_P(Styles, CheckBoxPlaces,
-                         testing::Values(Row{"plain", 0, 0, CRect(103, 59, 115, 71)},
-                                         Row{"alignmentCountsOnlyWithItsBit", 0x12, 0,
-                                             CRect(103, 59, 115, 71)},
-                                         Row{"roundIsOneWider", 0, kCheckRound, CRect(103, 59, 116, 71)},
-                                         Row{"centred", 0x4, kCheckAligned, CRect(134, 59, 146, 71)},
-                                         Row{"rightBottom", 0x12, kCheckAligned, CRect(162, 62, 174, 74)},
-                                         Row{"leftTop", 0x9, kCheckAligned, CRect(103, 53, 115, 65)}),
-                         [](const auto& test) { return test.param.name; });
 
 TEST(CheckBoxPlan, StatesGoRound) {
   EXPECT_EQ(NextCheckState(0, 0), 1);

@@ -11,30 +11,19 @@ DropListMeasures Measures(int choices) {
   return {choices, 16, 50, 17, CSize(400, 500)};
 }
 
-TEST(DropListPlan, OpensUnderTheCellMovedRight) {
+TEST(DropListPlan, OpensUnderTheCellMovedRightAsLargeAsItsChoicesAndTheWindowAllow) {
   EXPECT_EQ(DropListRect(kCell, Measures(4)), CRect(30, 60, 105, 60 + 4 * 16 + 6));
-}
-
-TEST(DropListPlan, ShowsFifteenChoicesAtMostAndRoomForTheScrollBar) {
-  const CRect list = DropListRect(kCell, Measures(20));
-  EXPECT_EQ(list.Height(), 15 * 16 + 6);
-  EXPECT_EQ(list.Width(), 75 + 17);
   EXPECT_EQ(DropListRect(kCell, Measures(14)).Width(), 75);
-}
-
-TEST(DropListPlan, GrowsToTheWidestChoice) {
-  DropListMeasures measures = Measures(3);
-  measures.widestChoice = 200;
-  EXPECT_EQ(DropListRect(kCell, measures).Width(), 210);
-}
-
-TEST(DropListPlan, StaysInsideTheWindow) {
-  const CRect low(20, 470, 95, 490);
-  EXPECT_EQ(DropListRect(low, Measures(4)).bottom, 500);
+  const CRect scrolled = DropListRect(kCell, Measures(20));
+  EXPECT_EQ(scrolled.Size(), CSize(75 + 17, 15 * 16 + 6)) << "fifteen choices and a scroll bar";
+  DropListMeasures wide = Measures(3);
+  wide.widestChoice = 200;
+  EXPECT_EQ(DropListRect(kCell, wide).Width(), 210);
+  EXPECT_EQ(DropListRect(CRect(20, 470, 95, 490), Measures(4)).bottom, 500);
   DropListMeasures small = Measures(15);
   small.window = CSize(60, 100);
-  const CRect list = DropListRect(low, small);
-  EXPECT_EQ(list.TopLeft(), CPoint(0, 0)) << "never beyond the top or left edge";
+  EXPECT_EQ(DropListRect(CRect(20, 470, 95, 490), small).TopLeft(), CPoint(0, 0))
+      << "never beyond the top or left edge";
 }
 
 TEST(DropListPlan, ChoicesAreTheLinesOfTheLabel) {

@@ -8,34 +8,25 @@ namespace {
 constexpr CRect kCell(100, 50, 200, 90);  // 100 x 40
 constexpr int kMargin = 4;
 
-struct Row {
-  const char* name;
-  int alignment;
-  int offset;
-  CPoint place;
-};
-
-class LinePlaces : public testing::TestWithParam<Row> {};
-
-TEST_P(LinePlaces, FollowTheAlignment) {
-  const Row& row = GetParam();
-  const CPoint at = PlaceLine({kCell, row.alignment, kMargin, row.offset}, CSize(30, 13));
-  EXPECT_EQ(at, row.place) << at.x << ',' << at.y;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Alignments, LinePlaces,
-    testing::Values(Row{"none", 0, 0, {104, 51}}, Row{"leftTop", 0x9, 0, {104, 51}},
-                    Row{"offsetPushesLeftText", 0x1, 16, {120, 51}},
-                    Row{"spilledTextStartsOutside", 0x1, -80, {24, 51}}, Row{"right", 0x2, 0, {166, 51}},
-                    Row{"rightIgnoresTheOffset", 0x2, 16, {166, 51}}, Row{"centre", 0x4, 0, {135, 51}},
-                    Row{"centreBeatsRight", 0x6, 0, {135, 51}}, Row{"middle", 0x20, 0, {104, 63}},
-                    Row{"bottom", 0x10, 0, {104, 76}}, Row{"middleBeatsBottom", 0x30, 0, {104, 63}},
-                    Row{"headingDefault", 36, 0, {135, 63}}),
-    [](const auto& test) { return test.param.name; });
-
-TEST(TextPlaces, CentresTextThatIsTooLargeOverBothEdges) {
-  EXPECT_EQ(PlaceLine({kCell, 0x24, kMargin, 0}, CSize(140, 60)), CPoint(80, 40));
+TEST(TextPlaces, ALineFollowsTheAlignment) {
+  const struct {
+    const char* name;
+    int alignment;
+    int offset;
+    CPoint place;
+    CSize text = {30, 13};
+  } rows[] = {{"none", 0, 0, {104, 51}},
+              {"left top", 0x9, 0, {104, 51}},
+              {"the offset pushes left text", 0x1, 16, {120, 51}},
+              {"spilled text starts outside", 0x1, -80, {24, 51}},
+              {"right ignores the offset", 0x2, 16, {166, 51}},
+              {"centre", 0x4, 0, {135, 51}},
+              {"centre beats right", 0x6, 0, {135, 51}},
+              {"middle beats bottom", 0x30, 0, {104, 63}},
+              {"bottom", 0x10, 0, {104, 76}},
+              {"too large: over both edges", 0x24, 0, {80, 40}, {140, 60}}};
+  for (const auto& row : rows)
+    EXPECT_EQ(PlaceLine({kCell, row.alignment, kMargin, row.offset}, row.text), row.place) << row.name;
 }
 
 TEST(TextPlaces, EllipsisWinsOverWrapping) {
