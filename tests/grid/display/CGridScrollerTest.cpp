@@ -79,12 +79,5 @@ TEST_F(CGridScrollerTest, LockedCellsStayOutOfAMoveAlongOneAxisAndArePutBackAfte
   EXPECT_EQ(painter.Hints().IsInvalid(7, 32), 0);
 }
 
-TEST(OverlapsPartly, IsNeitherApartNorAllOver) {
-  constexpr CRect window(10, 10, 50, 50);
-  EXPECT_FALSE(OverlapsPartly(window, CRect(0, 0, 100, 100)));
-  EXPECT_FALSE(OverlapsPartly(window, CRect(50, 0, 100, 100)));
-  EXPECT_TRUE(OverlapsPartly(window, CRect(40, 0, 100, 100)));
-}
-
 }  // namespace
 }  // namespace coregui::test

@@ -179,14 +179,8 @@ TEST(CGridCtrl, ClicksAndDragsSelectByTheirKeys) {
     grid.LockColumns(locked);
     for (const Gesture& g : gestures) {
       grid.GetGridWnd()->SendMessage(g.message, g.flags, MAKELPARAM(g.col * 50 + 5, g.row * 10 + 5));
-      std::string selected;
-      int col = 0;
-      long row = 0;
-      for (int more = grid.EnumFirstSelected(&col, &row); more == 0;
-           more = grid.EnumNextSelected(&col, &row)) {
-        selected += std::to_string(col) + "," + std::to_string(row) + " ";
-      }
-      EXPECT_EQ(selected, g.selected) << g.name << ", locked columns: " << locked << grid;
+      EXPECT_EQ(coregui::test::SelectedIn(grid), g.selected)
+          << g.name << ", locked columns: " << locked << grid;
     }
   }
 }

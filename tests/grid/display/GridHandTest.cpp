@@ -4,8 +4,6 @@
 #include "platform/Keys.h"
 #include "platform/Messages.h"
 #include "platform/System.h"
-#include "tests/grid/GridPicture.h"
-#include "tests/grid/display/FakeGrid.h"
 #include "tests/grid/display/HandGrid.h"
 
 namespace coregui::test {
@@ -132,7 +130,7 @@ TEST_F(GridHandTest, ADialogThatOpensInADragEndsIt) {
   CWnd::ReleaseCapture();
   EXPECT_FALSE(Top().KillTimer(0x710A)) << "the view scrolls no more";
   StepMouse(Top(), MouseStep::release, {190, 30});
-  EXPECT_EQ(Texts(5), "c0 c1 c2 c3 c4 ");
+  EXPECT_EQ(RowOf(grid, 5), "c0 c1 c2 c3 c4 ");
   EXPECT_EQ(DifferenceToFresh(), "");
 }
 
@@ -149,17 +147,17 @@ TEST_F(GridHandTest, AColumnIsDraggedToAnotherPlace) {
   grid.EnableColSwapping(1);
   Drag(Top(), {75, 30}, {190, 30});  // right half of column 3
   EXPECT_THAT(grid.TakeNotes(), testing::HasSubstr("swap 1 to 3?; swapped 1 to 3; "));
-  EXPECT_EQ(Texts(5), "c0 c2 c3 c1 c4 ");
+  EXPECT_EQ(RowOf(grid, 5), "c0 c2 c3 c1 c4 ");
   Drag(Top(), {175, 30}, {10, 30}, [this] {
     CWinApp::PumpPending();
     EXPECT_EQ(ShownPixel(Top(), {0, 30}), GetSysColor(COLOR_HIGHLIGHT)) << "where it would stand";
   });
   EXPECT_THAT(grid.TakeNotes(), testing::HasSubstr("swapped 3 to 0; "));
-  EXPECT_EQ(Texts(5), "c1 c0 c2 c3 c4 ");
+  EXPECT_EQ(RowOf(grid, 5), "c1 c0 c2 c3 c4 ");
   for (const char* refused : {"OnCanColSwap", "OnColSwapStart"}) {
     grid.refuses = refused;
     Drag(Top(), {75, 30}, {190, 30});
-    EXPECT_EQ(Texts(5), "c1 c0 c2 c3 c4 ") << refused;
+    EXPECT_EQ(RowOf(grid, 5), "c1 c0 c2 c3 c4 ") << refused;
   }
   EXPECT_EQ(DifferenceToFresh(), "");
 }
@@ -228,8 +226,8 @@ TEST_F(GridHandTest, WheelAndKeysLeaveThePictureOfPaintingAnew) {
     else
       PressKey(Body(), row.key, row.control);
     CWinApp::PumpPending();
-    EXPECT_EQ(At(grid.GetCurrentCol(), grid.GetCurrentRow()), row.current);
-    EXPECT_EQ(At(grid.GetLeftCol(), grid.GetTopRow()), row.first);
+    EXPECT_EQ(CurrentOf(grid), row.current);
+    EXPECT_EQ(ViewOf(grid), row.first);
     EXPECT_EQ(DifferenceToFresh(), "");
   }
 }

@@ -11,6 +11,7 @@
 #include "grid/control/CGridCtrl.h"
 #include "grid/control/CGridInfo.h"
 #include "platform/CWinApp.h"
+#include "tests/grid/GridPicture.h"
 #include "tests/support/Hand.h"
 #include "tests/support/LogWatch.h"
 
@@ -132,15 +133,6 @@ struct GridHandTest : testing::Test {
     grid.RedrawWindow();
     for (CWnd* part : {&Body(), &Top(), &Side(), &Corner()}) part->RedrawWindow();
     return before == ShownDots(grid) ? "" : "not the picture of painting anew";
-  }
-  std::string Texts(int cols) {
-    std::string texts;
-    for (int col = 0; col < cols; ++col) {
-      CString text;
-      grid.QuickGetText(col, 0, &text);
-      texts += text.ToUtf8() + " ";
-    }
-    return texts;
   }
 };
 
