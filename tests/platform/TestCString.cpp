@@ -37,13 +37,13 @@ TEST(CString, PartsAreClippedToTheText) {
 }
 
 TEST(CString, SearchingAndReplacing) {
-  CString text = L"aaaa";
+  CString text = L"aaaac";
   EXPECT_EQ(text.Find(L"aa", 1), 1);
   EXPECT_EQ(text.Find(L'a', 4), -1);
-  EXPECT_EQ(text.Find(L"", 4), 4);
-  EXPECT_EQ(text.Find(L"", 5), -1);
+  EXPECT_EQ(text.Find(L"", 5), 5);
+  EXPECT_EQ(text.Find(L"", 6), -1);
   EXPECT_EQ(text.Replace(L"aa", L"aab"), 2);  // what was put in is not searched again
-  EXPECT_EQ(text, L"aabaab");
+  EXPECT_EQ(text, L"aabaabc");
   EXPECT_EQ(text.Replace(L"", L"x"), 0);
   EXPECT_EQ(text.Remove(L'a'), 4);
   EXPECT_EQ(text.ReverseFind(L'b'), 1);
