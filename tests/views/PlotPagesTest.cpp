@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
 #include <fstream>
 #include <limits>
 #include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "platform/CPrinterDC.h"
 #include "tests/support/TestEnvironment.h"
@@ -47,22 +49,23 @@ TEST(PlotPages, AreTrueToScaleAndShowTheOverlapTwice) {
 }
 
 TEST(PlotPages, ScalesThatCannotBeGiveNone) {
-  const CSize dpi(254, 254);
-  EXPECT_EQ(CPlotPages(Section(), {500, 50, 1000, 10}, CSize(600, 600), dpi).GetCount(), 0) << "no room";
-  EXPECT_EQ(CPlotPages(Section(), {500, 50, 1000, 500}, CSize(2500, 1800), dpi).GetCount(), 0)
-      << "all overlap";
-  EXPECT_EQ(CPlotPages(Section(), {0.001, 50, 1000, 10}, CSize(2500, 1800), dpi).GetCount(), 0) << "too many";
-  EXPECT_EQ(CPlotPages(Section(), {0, 0, 0, 0}, CSize(2500, 1800), dpi).GetCount(), 0);
+  // No room, all overlap, too many, nothing at all.
+  const std::pair<CSize, PlotPageScale> rows[] = {{CSize(600, 600), {500, 50, 1000, 10}},
+                                                  {CSize(2500, 1800), {500, 50, 1000, 500}},
+                                                  {CSize(2500, 1800), {0.001, 50, 1000, 10}},
+                                                  {CSize(2500, 1800), {0, 0, 0, 0}}};
+  for (const auto& [page, scale] : rows)
+    EXPECT_EQ(CPlotPages(Section(), scale, page, CSize(254, 254)).GetCount(), 0);
 }
 
 class PlotPrinting : public coregui::test::ViewTest {
  protected:
   /// What the pages of a printed document hold.
-  static std::string Page(int number) {
-    const std::string name = number == 1 ? "/section.svg" : "/section-" + std::to_string(number) + ".svg";
-    std::stringstream text;
-    text << std::ifstream(coregui::test::ScratchFolder() + name).rdbuf();
-    return text.str();
+  static bool Holds(int page, const char* text) {
+    const std::string name = page == 1 ? "/section.svg" : "/section-" + std::to_string(page) + ".svg";
+    std::stringstream bytes;
+    bytes << std::ifstream(coregui::test::ScratchFolder() + name).rdbuf();
+    return bytes.str().find(text) != std::string::npos;
   }
 };
 
@@ -92,12 +95,9 @@ TEST_F(PlotPrinting, EveryPageOfADocumentHasItsPartOfTheDrawingOrIsLeftOut) {
   EXPECT_EQ(print({}), 6) << "the view alone knows what it draws";
   EXPECT_EQ(print([](FRect const&) { return false; }), 0);
   EXPECT_EQ(print([&road](FRect const& part) { return coregui::PassesThrough(road, part); }), 4);
-  EXPECT_NE(Page(1).find("0+095"), std::string::npos)
-      << "the upper left page is empty, so the right one is first";
-  EXPECT_NE(Page(1).find("Sheet 1 of 4"), std::string::npos);
-  EXPECT_NE(Page(3).find("0+005"), std::string::npos);
-  EXPECT_EQ(Page(3).find("0+095"), std::string::npos);
-  EXPECT_NE(Page(4).find("Sheet 4 of 4"), std::string::npos);
+  EXPECT_TRUE(Holds(1, "0+095")) << "the upper left page is empty, so the right one is first";
+  EXPECT_TRUE(Holds(1, "Sheet 1 of 4") && Holds(4, "Sheet 4 of 4"));
+  EXPECT_TRUE(Holds(3, "0+005") && !Holds(3, "0+095"));
 }
 
 TEST(PassesThrough, AsTheLegsOneByOneSay) {
@@ -130,23 +130,21 @@ TEST(PassesThrough, AsTheLegsOneByOneSay) {
 }
 
 TEST(PassesThrough, ALegCrossesTouchesOrPassesBy) {
-  struct Row {
-    std::vector<PNT_2D_record> line;
-    bool passes;
-  };
   const double gap = std::nan("");
-  const Row rows[] = {{{}, false},
-                      {{{0.5, 0.5}}, false},  // one point is no line
-                      {{{0.5, 0.5}, {gap, 0}, {0.6, 0.5}}, false},
-                      {{{-1, 0.5}, {2, 0.6}}, true},
-                      {{{0.2, 0.2}, {0.3, 0.3}}, true},
-                      {{{-1, 1}, {0, 1}}, true},
-                      {{{-1, 1.5}, {1.5, -1}}, true},
-                      {{{-1, 0.9}, {0.9, -1}}, false},  // by the corner
-                      {{{0.5, 2}, {0.5, 1.1}}, false},
-                      {{{2, 0.5}, {2, 0.5}}, false}};
-  for (const Row& row : rows) {
-    EXPECT_EQ(coregui::PassesThrough(CPlotSeries(row.line), FRect(0, 0, 1, 1)), row.passes) << &row - rows;
+  const std::pair<std::vector<PNT_2D_record>, bool> rows[] = {
+      {{}, false},
+      {{{0.5, 0.5}}, false},  // one point is no line
+      {{{0.5, 0.5}, {gap, 0}, {0.6, 0.5}}, false},
+      {{{-1, 0.5}, {2, 0.6}}, true},
+      {{{0.2, 0.2}, {0.3, 0.3}}, true},
+      {{{-1, 1}, {0, 1}}, true},
+      {{{-1, 1.5}, {1.5, -1}}, true},
+      {{{-1, 0.9}, {0.9, -1}}, false},  // by the corner
+      {{{0.5, 2}, {0.5, 1.1}}, false},
+      {{{2, 0.5}, {2, 0.5}}, false}};
+  for (const auto& [line, passes] : rows) {
+    EXPECT_EQ(coregui::PassesThrough(CPlotSeries(line), FRect(0, 0, 1, 1)), passes)
+        << (line.empty() ? 0.0 : line[0].y);
   }
 }
 

@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include <algorithm>
+#include <initializer_list>
 #include <limits>
+#include <string>
+#include <tuple>
+#include <utility>
 
 #include "platform/CBitmap.h"
 #include "platform/Locale.h"
@@ -42,6 +46,13 @@ class PlotPrimitives : public ::testing::Test {
     dc.ClearLog();
     return log;
   }
+  void ExpectDrawn(std::initializer_list<const wchar_t*> calls,
+                   std::initializer_list<const wchar_t*> others = {}) {
+    const std::wstring log = Log();
+    for (const wchar_t* call : calls) EXPECT_NE(log.find(call), std::wstring::npos) << CString(call).ToUtf8();
+    for (const wchar_t* call : others)
+      EXPECT_EQ(log.find(call), std::wstring::npos) << CString(call).ToUtf8();
+  }
   CRecordingDC dc{7, 13, CSize(200, 100)};
   Sheet sheet;
 };
@@ -61,22 +72,19 @@ TEST_F(PlotPrimitives, DrawInWorldUnitsWithPensInPixelsAndPoints) {
 TEST_F(PlotPrimitives, HatchesOnPaperAreLinesAsFarApartAsOnTheScreen) {
   sheet.EndPlot();
   sheet.BeginPlot(dc, CRect(0, 0, 200, 100), CSize(288, 288));  // three dots to a pixel
-  struct Row {
-    int hatch;
-    const wchar_t* lines;
-  };
   // A step with a notch, 8 pixels are 24 dots; the notch parts the lines through it.
-  const Row rows[] = {{HS_HORIZONTAL,
-                       L"Polyline 90,24 70,24 #0000FF w3\nPolyline 40,24 10,24 #0000FF w3\n"
-                       L"Polyline 90,48 10,48 #0000FF w3"},
-                      {HS_VERTICAL,
-                       L"Polyline 24,20 24,60 #0000FF w3\nPolyline 48,40 48,60 #0000FF w3\n"
-                       L"Polyline 72,20 72,60 #0000FF w3"}};
-  for (const Row& row : rows) {
-    sheet.SetPlotFill({PlotFill::Kind::hatched, RGB(0, 0, 255), row.hatch});
+  constexpr std::pair<int, const wchar_t*> rows[] = {
+      {HS_HORIZONTAL,
+       L"Polyline 90,24 70,24 #0000FF w3\nPolyline 40,24 10,24 #0000FF w3\n"
+       L"Polyline 90,48 10,48 #0000FF w3"},
+      {HS_VERTICAL,
+       L"Polyline 24,20 24,60 #0000FF w3\nPolyline 48,40 48,60 #0000FF w3\n"
+       L"Polyline 72,20 72,60 #0000FF w3"}};
+  for (const auto& [hatch, lines] : rows) {
+    sheet.SetPlotFill({PlotFill::Kind::hatched, RGB(0, 0, 255), hatch});
     sheet.PlotPolygon({{10, 80}, {40, 80}, {40, 60}, {70, 60}, {70, 80}, {90, 80}, {90, 40}, {10, 40}});
     const std::wstring log = Log();
-    EXPECT_EQ(log.substr(0, log.rfind(L'\n')), row.lines);
+    EXPECT_EQ(log.substr(0, log.rfind(L'\n')), lines);
   }
   const std::vector<PNT_2D_record> square = {{0, 0}, {30, 0}, {30, 30}, {0, 30}};
   const std::vector<PNT_2D_record> falling = coregui::HatchPolygon(square, HS_FDIAGONAL, 20);
@@ -86,6 +94,7 @@ TEST_F(PlotPrimitives, HatchesOnPaperAreLinesAsFarApartAsOnTheScreen) {
 }
 
 TEST_F(PlotPrimitives, WhatIsNotFiniteOrOutOfSightDrawsNothing) {
+  PlotTextStyle text;
   for (const double bad : {kNaN, kInfinity, -kInfinity, 1e300}) {
     const PNT_2D_record p{bad, bad};
     sheet.PlotPoint(p);
@@ -97,10 +106,17 @@ TEST_F(PlotPrimitives, WhatIsNotFiniteOrOutOfSightDrawsNothing) {
     sheet.PlotEllipse({5, 5}, kNaN, bad);
     sheet.PlotBitmap(CBitmap(), FRect(bad, bad, 0, 0));
     sheet.PlotPolygon({p, p, p});
-  }
-  for (const double bad : {kNaN, kInfinity, -kInfinity}) {
+    text.height = bad;
+    sheet.SetPlotText(text);
+    sheet.PlotText({10, 10}, L"x");
+    if (bad == 1e300) break;
+    sheet.PlotLine({10, 10}, p);
     sheet.PlotArrow({bad, 0}, {1, 1});
     sheet.PlotGrid(bad, -1.0);
+    sheet.PlotPoint({10, 10}, PlotMarker::plus, bad);
+    sheet.PlotArrow({10, 10}, {20, 20}, bad);
+    sheet.PlotDimension({10, 10}, {20, 20}, bad);
+    sheet.PlotTitleBlock({L"Title"}, bad);
   }
   sheet.PlotText({10, 10}, L"");
   sheet.PlotPolyline(std::vector<PNT_2D_record>{});
@@ -113,13 +129,21 @@ TEST_F(PlotPrimitives, WhatIsNotFiniteOrOutOfSightDrawsNothing) {
   EXPECT_EQ(dc.CountOf(L""), 0) << "and nothing at all outside BeginPlot and EndPlot";
 }
 
+TEST_F(PlotPrimitives, RulersAndTablesOfAnySizeAreDrawn) {
+  for (const double size : {kNaN, kInfinity, -kInfinity, 1e300}) {
+    PlotRulerStyle ruler;
+    ruler.tick = ruler.labelGap = size;
+    ruler.title = L"title";
+    for (const PlotSide side : {PlotSide::left, PlotSide::top}) sheet.PlotRuler(side, ruler);
+    sheet.PlotTable({{L"row", size, true, {{50, L"50"}}}}, size);
+    EXPECT_NE(Log(), L"");
+  }
+}
+
 TEST_F(PlotPrimitives, ACircleFollowsTheExaggeration) {
   sheet.mapping.now.vertRatio = 2.0;
   sheet.PlotCircle({50, 90}, 10);
-  const std::wstring log = Log();
-  EXPECT_NE(log.find(L"Polyline 60,20 "), std::wstring::npos) << "10 across";
-  EXPECT_NE(log.find(L" 50,0 "), std::wstring::npos) << "20 up";
-  EXPECT_NE(log.find(L" 50,40 "), std::wstring::npos);
+  ExpectDrawn({L"Polyline 60,20 ", L" 50,0 ", L" 50,40 "});  // 10 across, 20 up and down
 }
 
 TEST_F(PlotPrimitives, TextStandsOnItsAnchorWhateverItsAlignmentAndRotation) {
@@ -145,9 +169,9 @@ TEST_F(PlotPrimitives, TextStandsOnItsAnchorWhateverItsAlignmentAndRotation) {
 
 TEST_F(PlotPrimitives, DimensionsShowTheDistanceBesideTheLine) {
   sheet.PlotDimension({10, 50}, {60, 50}, 10);
-  const std::wstring log = Log();
-  EXPECT_NE(log.find(L"Polyline 10,40 60,40"), std::wstring::npos) << "to the left of the way is up";
-  EXPECT_NE(log.find(L"\"50.000\""), std::wstring::npos);
+  ExpectDrawn({L"Polyline 10,40 60,40", L"\"50.000\""});  // to the left of the way is up
+  sheet.PlotDimension({60, 50}, {10, 50}, 10, L"back");
+  ExpectDrawn({L"Polyline 60,60 10,60", L"TextOut 21,47"});  // below it, and never upside down
 }
 
 TEST_F(PlotPrimitives, GridLinesStandAtTheMultiples) {
@@ -185,55 +209,42 @@ TEST_F(PlotPrimitives, RulersMarkRoundValuesOutsideTheDrawing) {
   style.format = PlotNumberFormat::chainage;
   sheet.mapping.extents.Set(1160, 100, 1360, 0);
   sheet.PlotRuler(PlotSide::bottom, style);
-  const std::wstring log = Log();
-  EXPECT_NE(log.find(L"Polyline 40,80 190,80"), std::wstring::npos);
-  EXPECT_NE(log.find(L"Polyline 40,80 40,85"), std::wstring::npos) << "1200 stands 40 pixels in";
-  EXPECT_NE(log.find(L"\"1+200\""), std::wstring::npos);
-  EXPECT_NE(log.find(L"\"1+350\""), std::wstring::npos);
-  EXPECT_EQ(log.find(L"1+210"), std::wstring::npos);
+  // 1200 stands 40 pixels in.
+  ExpectDrawn({L"Polyline 40,80 190,80", L"Polyline 40,80 40,85", L"\"1+200\"", L"\"1+350\""}, {L"1+210"});
 }
 
 TEST_F(PlotPrimitives, TableTextsThatWouldTouchAreLeftOut) {
   sheet.drawing = CRect(40, 10, 190, 40);
-  const std::vector<PNT_2D_record> points = {{50, 1.25}, {53, 2},   {90, -3.5},
-                                             {500, 9},   {kNaN, 4}, {100, kNaN}};
+  const std::vector<PNT_2D_record> points = {{-9, 1},  {50, 1.25}, {53, 2},    {90, -3.5},
+                                             {500, 9}, {kNaN, 4},  {100, kNaN}};
   sheet.PlotTable(
       {coregui::MakeStationRow(L"Station", points, 0), coregui::MakeLevelRow(L"Level", points, 2)});
-  const std::wstring log = Log();
-  EXPECT_NE(log.find(L"\"0+050\""), std::wstring::npos);
-  EXPECT_EQ(log.find(L"\"0+053\""), std::wstring::npos) << "a cell of 13 pixels has no room 3 pixels on";
-  EXPECT_NE(log.find(L"\"0+090\""), std::wstring::npos);
-  EXPECT_EQ(log.find(L"\"0+500\""), std::wstring::npos) << "out of sight";
-  EXPECT_NE(log.find(L"\"-3.50\""), std::wstring::npos);
-  EXPECT_NE(log.find(L"\"Station\""), std::wstring::npos);
+  // A cell of 13 pixels has no room 3 pixels on; 500 and -9 are out of sight.
+  ExpectDrawn({L"\"0+050\"", L"\"0+090\"", L"\"-3.50\"", L"\"Station\""},
+              {L"\"0+053\"", L"\"0+500\"", L"\"-0+009\""});
 }
 
 TEST(PlotTable, DifferencesAreTakenAlongTheLowerLine) {
   const PlotTableRow row =
       coregui::MakeDifferenceRow(L"", {{0, 5}, {5, 7}, {10, 9}, {11, 9}}, {{0, 1}, {10, 2}}, 2);
-  ASSERT_EQ(row.entries.size(), 3U) << "none beyond the lower line";
-  EXPECT_EQ(row.entries[0].text, L"4.00");
-  EXPECT_EQ(row.entries[1].text, L"5.50");
-  EXPECT_EQ(row.entries[2].text, L"7.00");
+  CString texts;
+  for (const PlotTableEntry& entry : row.entries) texts += entry.text + L" ";
+  EXPECT_EQ(texts, L"4.00 5.50 7.00 ") << "none beyond the lower line";
 }
 
 TEST(PlotRuler, StepsAreRoundAndFarEnoughApart) {
-  struct Row {
-    double from, to, pixels, gap, step, minor;
-    std::size_t labels;
-  };
-  const Row rows[] = {{0, 100, 1000, 100, 10, 2, 11},
-                      {0, 100, 1000, 101, 20, 5, 6},
-                      {0, 100, 300, 60, 20, 5, 6},
-                      {-0.35, 0.35, 700, 90, 0.1, 0.02, 7},
-                      {100, 0, 250, 50, 20, 5, 6},
-                      {12340, 12360, 400, 50, 5, 1, 5},
-                      {1e9, 1e9 + 1, 1000, 100, 0.1, 0.02, 11}};
-  for (const Row& row : rows) {
-    const coregui::RulerTicks ticks = ChooseTicks(row.from, row.to, row.pixels, row.gap, 4);
-    EXPECT_DOUBLE_EQ(ticks.step, row.step) << row.from << " " << row.to << " " << row.gap;
-    EXPECT_DOUBLE_EQ(ticks.minorStep, row.minor) << row.from << " " << row.to;
-    EXPECT_EQ(ticks.labels.size(), row.labels) << row.from << " " << row.to;
+  constexpr std::tuple<double, double, double, double, double, double, std::size_t> rows[] = {
+      {0, 100, 1000, 100, 10, 2, 11},        {0, 100, 1000, 101, 20, 5, 6}, {0, 100, 300, 60, 20, 5, 6},
+      {-0.35, 0.35, 700, 90, 0.1, 0.02, 7},  {100, 0, 250, 50, 20, 5, 6},   {12340, 12360, 400, 50, 5, 1, 5},
+      {1e9, 1e9 + 1, 500, 50, 0.1, 0.02, 11}};
+  for (const auto& [from, to, pixels, gap, step, minor, labels] : rows) {
+    SCOPED_TRACE(std::to_string(from) + " to " + std::to_string(to) + ", " + std::to_string(gap));
+    const coregui::RulerTicks ticks = ChooseTicks(from, to, pixels, gap, 4);
+    EXPECT_DOUBLE_EQ(ticks.step, step);
+    EXPECT_DOUBLE_EQ(ticks.minorStep, minor);
+    EXPECT_EQ(ticks.labels.size(), labels);
+    for (const double label : ticks.labels)
+      EXPECT_EQ(std::count(ticks.minors.begin(), ticks.minors.end(), label), 0);
   }
   for (const double bad : {kNaN, kInfinity}) {
     EXPECT_TRUE(ChooseTicks(0, bad, 100, 10, 4).labels.empty());
@@ -245,32 +256,19 @@ TEST(PlotRuler, StepsAreRoundAndFarEnoughApart) {
 }
 
 TEST(PlotRuler, NumbersShowWhatTheStepNeeds) {
-  struct Row {
-    double value, step;
-    PlotNumberFormat format;
-    int decimals;
-    const wchar_t* text;
-  };
-  const auto plain = PlotNumberFormat::decimal;
-  const auto chainage = PlotNumberFormat::chainage;
-  const Row rows[] = {{1234.5, 0.5, plain, -1, L"1234.5"},
-                      {20, 20, plain, -1, L"20"},
-                      {0.30000000000000004, 0.1, plain, -1, L"0.3"},
-                      {-1e-12, 0.1, plain, -1, L"0.0"},
-                      {1234.5, 1, chainage, 3, L"1+234.500"},
-                      {999.9996, 1, chainage, 3, L"1+000.000"},
-                      {5, 1, chainage, 0, L"0+005"},
-                      {-50, 10, chainage, 1, L"-0+050.0"},
-                      {123456, 100, chainage, -1, L"123+456"},
-                      {kNaN, 1, plain, -1, L""}};
-  for (const Row& row : rows) {
-    coregui::SetUserLocale(L"en_US");
-    EXPECT_EQ(FormatPlotNumber(row.value, row.step, row.format, row.decimals), row.text);
-    coregui::SetUserLocale(L"de_DE");
-    CString german = row.text;
-    german.Replace(L".", L",");
-    EXPECT_EQ(FormatPlotNumber(row.value, row.step, row.format, row.decimals), german);
+  constexpr auto plain = PlotNumberFormat::decimal;
+  constexpr auto chainage = PlotNumberFormat::chainage;
+  constexpr std::tuple<double, double, PlotNumberFormat, int, const wchar_t*> rows[] = {
+      {1234.5, 0.5, plain, -1, L"1234.5"},    {2000, 20, plain, -1, L"2000"},
+      {0.1 + 0.2, 0.1, plain, -1, L"0.3"},    {-1e-12, 0.1, plain, -1, L"0.0"},
+      {1234.5, 1, chainage, 3, L"1+234.500"}, {999.96, 1, chainage, 1, L"1+000.0"},
+      {5, 1, chainage, 0, L"0+005"},          {-50, 10, chainage, 1, L"-0+050.0"},
+      {123456, 9, chainage, -1, L"123+456"},  {kNaN, 1.0, chainage, -1, L""}};
+  for (const auto& [value, step, format, decimals, text] : rows) {
+    EXPECT_EQ(FormatPlotNumber(value, step, format, decimals), text);
   }
+  coregui::SetUserLocale(L"de_DE");
+  EXPECT_EQ(FormatPlotNumber(1234.5, 1, chainage, 3), L"1+234,500");
 }
 
 }  // namespace

@@ -41,7 +41,6 @@ class ParentWindow : public CWnd {
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
     if (message == WM_VIEW_CHANGED) {
       ++changes;
-      lastView = reinterpret_cast<CGUIBaseView*>(wParam);
       if (onChange) {
         const auto act = onChange;
         act();
@@ -50,7 +49,6 @@ class ParentWindow : public CWnd {
     return CWnd::WindowProc(message, wParam, lParam);
   }
   int changes = 0;
-  CGUIBaseView* lastView = nullptr;
   std::function<void()> onChange;
 };
 

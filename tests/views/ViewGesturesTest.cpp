@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <tuple>
 #include <vector>
 
 #include "views/CPanGesture.h"
@@ -52,31 +52,28 @@ TEST(PanGesture, ARulerInTheMarginScrollsOnlyVertically) {
 
 TEST(ViewHistory, StepsOfATouchpadAreOneGestureUntilAPauseOrAnother) {
   using Gesture = coregui::CViewHistory::Gesture;
-  struct Row {
-    Gesture gesture;
-    double seconds;
-    bool noted;
-  };
-  const Row rows[] = {
+  constexpr std::tuple<Gesture, double, bool> rows[] = {
       {Gesture::touchPan, 10.0, true}, {Gesture::touchPan, 10.3, false}, {Gesture::touchPan, 10.6, false},
       {Gesture::pinch, 10.7, true},    {Gesture::pinch, 10.8, false},    {Gesture::pinch, 11.3, true},
       {Gesture::single, 11.31, true},  {Gesture::single, 11.32, true},   {Gesture::touchPan, 11.33, true}};
   coregui::CViewHistory history;
   CViewMapping::Scale now;
-  std::vector<LONG> noted;
-  for (const Row& row : rows) {
-    history.Note(now, row.gesture, row.seconds);
-    if (row.noted) noted.push_back(now.offsetX);
+  std::vector<LONG> places;
+  for (const auto& [gesture, seconds, noted] : rows) {
+    history.Note(now, gesture, seconds);
+    if (noted) places.push_back(now.offsetX);
     ++now.offsetX;
   }
   now.fitScale = 7;  // the window was sized since
-  std::reverse(noted.begin(), noted.end());
-  for (const LONG place : noted) {
+  for (; !places.empty(); places.pop_back()) {
     ASSERT_TRUE(history.GoBack(now));
-    EXPECT_EQ(now.offsetX, place);
+    EXPECT_EQ(now.offsetX, places.back());
     EXPECT_EQ(now.fitScale, 7);
   }
   EXPECT_FALSE(history.GoBack(now));
+  EXPECT_TRUE(history.GoForward(now));
+  history.Note(now, Gesture::single, 20.0);
+  EXPECT_FALSE(history.GoForward(now)) << "another way was taken";
 }
 
 }  // namespace
