@@ -25,15 +25,11 @@ class FileDialogsTest : public FolderTest {
 };
 
 TEST_F(FileDialogsTest, AMissingFileIsFoundBesideTheOneThatNeedsItOrElseTheUserIsAsked) {
-  {
-    const NoWindow none;
-    CString path = L"C:\\data\\survey.csv";
-    EXPECT_TRUE(coreGetNewFilePath(path, L"Survey", L"csv", Wide("project.ini"), nullptr));
-    EXPECT_EQ(path, Wide("survey.csv"));
-  }
+  CString path = L"C:\\data\\survey.csv";
+  EXPECT_TRUE(coreGetNewFilePath(path, L"Survey", L"csv", Wide("project.ini"), nullptr));
+  EXPECT_EQ(path, Wide("survey.csv"));
   // Without a folder to search the user is asked even for a file that exists.
-  for (const wchar_t* searchIn : {L"", L"name only", static_cast<const wchar_t*>(nullptr)}) {
-    CString path = Wide("survey.csv");
+  for (const wchar_t* searchIn : {L"name only", static_cast<const wchar_t*>(nullptr)}) {
     const auto find = [&] { EXPECT_FALSE(coreGetNewFilePath(path, L"Survey", L"csv", searchIn, nullptr)); };
     EXPECT_EQ(Told(find, "No"), "Confirmation (question): The following required file was not found:\n\n" +
                                     At("survey.csv") +
@@ -42,15 +38,16 @@ TEST_F(FileDialogsTest, AMissingFileIsFoundBesideTheOneThatNeedsItOrElseTheUserI
   }
 }
 
-TEST_F(FileDialogsTest, TheUserLooksForTheFile) {
+TEST_F(FileDialogsTest, TheUserLooksForTheFileOrGivesUp) {
   ControlHost owner;
-  {
+  for (const bool found : {true, false}) {
     coregui::Profile::Get().WriteInt(L"UnitTesting", L"PopupChoiceId", IDYES);
     const NextWindow next([&](ShownWindow& dialog) {
       EXPECT_EQ(dialog.Title(), "Find missing file");
       EXPECT_EQ(dialog.Owner(), &owner);
       EXPECT_EQ(dialog.Folder(), m_folder);
       EXPECT_EQ(dialog.Filters(), "Survey (*.csv)\nAll files (*)");
+      if (!found) return dialog.Key(VK_ESCAPE);
       {
         const NextWindow refusal([](ShownWindow& box) { box.Click("OK"); });
         dialog.Choose(m_folder + "/no such file.csv");
@@ -59,14 +56,9 @@ TEST_F(FileDialogsTest, TheUserLooksForTheFile) {
       dialog.Choose(m_folder + "/other.csv");
     });
     CString path = Wide("lost.csv");
-    EXPECT_TRUE(coreGetNewFilePath(path, L"Survey", L"*.csv", Wide("sub/x"), &owner));
-    EXPECT_EQ(path, Wide("other.csv"));
+    EXPECT_EQ(coreGetNewFilePath(path, L"Survey", L"*.csv", Wide("sub/x"), &owner), found);
+    EXPECT_EQ(path, Wide(found ? "other.csv" : "lost.csv"));
   }
-  coregui::Profile::Get().WriteInt(L"UnitTesting", L"PopupChoiceId", IDYES);
-  const NextWindow next([&](ShownWindow& dialog) { dialog.Key(VK_ESCAPE); });
-  CString path = Wide("lost.csv");
-  EXPECT_FALSE(coreGetNewFilePath(path, L"Survey", L"csv", L"", &owner));
-  EXPECT_EQ(path, Wide("lost.csv"));
 }
 
 TEST_F(FileDialogsTest, FiltersAreTakenWholeOrMadeOfNameAndExtension) {
@@ -76,21 +68,17 @@ TEST_F(FileDialogsTest, FiltersAreTakenWholeOrMadeOfNameAndExtension) {
     const char* filters;
   };
   constexpr Row rows[] = {{L"A|*.a;*.b|All|*.*||", L"a", "A (*.a *.b)\nAll (*)"},
-                          {L"", L"csv", "*.csv (*.csv)\nAll files (*)"},
-                          {L"Survey", nullptr, ""}};
+                          {L"", L"csv", "*.csv (*.csv)\nAll files (*)"}};
+  CString path = Wide("draft.csv");
   for (const Row& row : rows) {
     const NextWindow next([&](ShownWindow& dialog) {
       EXPECT_EQ(dialog.Title(), "Open");
-      if (row.text2 != nullptr) {
-        EXPECT_EQ(dialog.Filters(), row.filters);
-      }
+      EXPECT_EQ(dialog.Filters(), row.filters);
       dialog.Key(VK_ESCAPE);
     });
-    CString path;
     EXPECT_FALSE(coreFileDialog(L"Open", path, row.text1, row.text2, true, 0));
   }
   const NextWindow next([&](ShownWindow& dialog) { dialog.Choose(m_folder + "/new"); });
-  CString path = Wide("draft.csv");
   EXPECT_TRUE(coreFileDialog(L"Save", path, L"Survey", L".csv", false, OFN_OVERWRITEPROMPT));
   EXPECT_EQ(path, Wide("new.csv"));
 }
