@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
+#include <utility>
 
 #include "PrintDialog.h"
 #include "tests/examples/DeskTest.h"
@@ -46,11 +48,8 @@ TEST_F(Desk, TipsShowTheTextsThatAreCutOff) {
 }
 
 TEST_F(Desk, KeepsItsTableWhenAnotherFileCannotBeRead) {
-  {
-    const NextWindow box([](ShownWindow& told) { told.Click("OK"); });
-    EXPECT_FALSE(Open("empty.csv", ""));
-    EXPECT_EQ(window.GetWindowTextString(), L"empty.csv (not read) - Long-section desk");
-  }
+  Told([this] { EXPECT_FALSE(Open("empty.csv", "")); });
+  EXPECT_EQ(window.GetWindowTextString(), L"empty.csv (not read) - Long-section desk");
   ASSERT_TRUE(Open("a.csv", "Chainage,Level\n0,101.50\n"));
   const std::string told = Told([this] { EXPECT_FALSE(Open("empty.csv", "")); });
   EXPECT_EQ(told.find("Error (stop): "), 0U);
@@ -58,12 +57,8 @@ TEST_F(Desk, KeepsItsTableWhenAnotherFileCannotBeRead) {
   EXPECT_EQ(Text(1, 0), L"101.50");
   EXPECT_NE(window.StatusText().find(L"The file is empty."), std::wstring::npos);
   EXPECT_EQ(window.GetWindowTextString(), L"a.csv (1 row) - Long-section desk");
-}
-
-TEST_F(Desk, ATextTableHasNoSection) {
   ASSERT_TRUE(Open("words.csv", "a,b\nx,y\n"));
-  EXPECT_FALSE(window.Section().HasData());
-  EXPECT_FALSE(window.PrintToPdf(Path("none.pdf")));
+  EXPECT_FALSE(window.Section().HasData() || window.PrintToPdf(Path("none.pdf"))) << "words have no section";
 }
 
 TEST_F(Desk, TheWheelAndTheMiddleButtonOverTheDifferenceMoveTheSection) {
@@ -134,34 +129,21 @@ TEST_F(Desk, FindsInEveryColumnAndSaysWhenThereIsNothing) {
   EXPECT_EQ(Told([this] { window.Find(L"%s"); }), "Information (information): \"%s\" is not in the table.");
 }
 
-TEST_F(Desk, TheFindDialogSearchesBesideTheTable) {
-  ASSERT_TRUE(Open("a.csv", "Chainage,Remark\n0,nail\n1,Kerb\n2,kerb\n"));
-  window.ShowWindow(SW_SHOW);
-  {
-    const NextWindow find([](ShownWindow& dialog) {
-      EXPECT_EQ(dialog.Title(), "Find");
-      dialog.Key(VK_TAB);
-      dialog.Type("kerb");
-      dialog.Click("Find Next");
-      dialog.Click("Find Next");
-      dialog.Click("Cancel");
-    });
-    PressKey(window.Section(), 'F', true);
-    CWinApp::PumpPending();
-  }
-  EXPECT_EQ(window.Grid().GetCurrentRow(), 2);
-  window.Find(L"KERB");
-  EXPECT_EQ(window.Grid().GetCurrentRow(), 1);
-}
-
 TEST_F(Desk, TheFindDialogStandsBesideTheCellThatItFound) {
   ASSERT_TRUE(Open("a.csv", Road(200)));
   window.ShowWindow(SW_SHOW);
   window.MoveWindow(0, 0, 420, 500);
   const NextWindow find([this](ShownWindow& shown) {
-    for (const auto& [row, y] : {std::pair(0L, 40), {12L, 90}, {199L, 400}}) {
+    EXPECT_EQ(shown.Title(), "Find");
+    for (const auto& [text, row, y] : {std::tuple("0", 0L, 40), {"12", 12L, 90}, {"199", 199L, 400}}) {
       shown.Window()->MoveWindow(20, y, 300, 150);
-      window.Find(CString::Formatted(L"%ld", row));
+      if (row == 0) {
+        shown.Key(VK_TAB);
+        shown.Type(text);
+        shown.Click("Find Next");
+      } else {
+        window.Find(CString::FromUtf8(text));
+      }
       CRect cell;
       CRect dialog;
       ASSERT_EQ(window.Grid().GetCellRect(0, window.Grid().GetCurrentRow(), &cell), 0);
@@ -239,9 +221,8 @@ TEST(PrintDialog, ShowsAtOnceHowManySheetsAChoiceTakes) {
     shown.Click("Print...");
   });
   EXPECT_EQ(dialog.DoModal(), IDOK);
-  EXPECT_TRUE(dialog.Choice().toScale);
-  EXPECT_EQ(dialog.Choice().horizontal, 250.0);
-  EXPECT_EQ(dialog.Choice().vertical, 50.0);
+  const desk::PrintChoice choice = dialog.Choice();
+  EXPECT_EQ(std::tuple(choice.toScale, choice.horizontal, choice.vertical), std::tuple(true, 250.0, 50.0));
 }
 
 TEST_F(Desk, AZoomedSectionKeepsItsPlaceWhenTheWindowIsSized) {
@@ -286,11 +267,10 @@ TEST_F(Desk, TheSectionRunsAlongTheChainageWhateverTheOrderOfRows) {
   const desk::SectionData& data = window.Data();
   EXPECT_EQ(data.rows, std::vector<long>({1, 2, 0}));
   EXPECT_TRUE(std::isnan(data.ground.GetPoints()[1].y));
-  EXPECT_EQ(data.NearestPoint(-5.0), 0);
-  EXPECT_EQ(data.NearestPoint(24.0), 1);
-  EXPECT_EQ(data.NearestPoint(26.0), 2);
-  EXPECT_EQ(data.NearestPoint(99.0), 2);
-  EXPECT_EQ(data.NearestPoint(std::nan("")), -1);
+  for (const auto& [chainage, point] :
+       {std::pair(-5.0, 0), {24.0, 1}, {26.0, 2}, {99.0, 2}, {std::nan(""), -1}}) {
+    EXPECT_EQ(data.NearestPoint(chainage), point) << chainage;
+  }
 }
 
 TEST_F(Desk, TheSectionGatheredWhileReadingIsThatOfTheTable) {
@@ -304,38 +284,32 @@ TEST_F(Desk, TheSectionGatheredWhileReadingIsThatOfTheTable) {
     const bool hasChainage = row % 1000 != 777;  // not yet in the rows that decide on the columns
     road += (hasChainage ? std::to_string(chainage) : row % 2000 == 777 ? "lost" : "") + ",";
     road += (row % 500 == 333 ? "none" : std::to_string(row % 91)) + "," + std::to_string(row % 17) + "\n";
-    if (hasChainage) {
-      stations.emplace_back(chainage, row);
-    }
+    if (hasChainage) stations.emplace_back(chainage, row);
   }
   std::sort(stations.begin(), stations.end());  // of equal chainages the earlier row first
   ASSERT_TRUE(Open("a.csv", road));
   const desk::SectionData& data = window.Data();
   ASSERT_EQ(data.rows.size(), stations.size());
-  const auto faults = std::count_if(data.rows.begin(), data.rows.end(), [&](const long& row) {
-    const auto at = static_cast<std::size_t>(&row - data.rows.data());
-    const PNT_2D_record& ground = data.ground.GetPoints()[at];
-    const auto level = static_cast<double>(row % 91);
-    return stations[at] != std::pair(static_cast<long>(ground.x), row) ||
-           (row % 500 == 333 ? !std::isnan(ground.y) : ground.y != level) ||
-           data.design.GetPoints()[at].y != static_cast<double>(row % 17) ||
-           (row % 500 != 333 && data.difference.GetPoints()[at].y != level - static_cast<double>(row % 17)) ||
-           data.PointOfRow(row) != static_cast<long>(at);
-  });
-  EXPECT_EQ(faults, 0);
-  EXPECT_EQ(data.PointOfRow(777), -1);
-  EXPECT_EQ(data.PointOfRow(kRows), -1);
+  for (std::size_t at = 0; at < stations.size(); ++at) {
+    const long row = data.rows[at];
+    const double ground = row % 500 == 333 ? -1.0 : static_cast<double>(row % 91);
+    const auto design = static_cast<double>(row % 17);
+    const auto level = [at](const CPlotSeries& line) { return line.GetPoints()[at].y; };
+    ASSERT_EQ(std::pair(static_cast<long>(data.ground.GetPoints()[at].x), row), stations[at]);
+    ASSERT_EQ(std::isnan(level(data.ground)) ? -1.0 : level(data.ground), ground) << row;
+    ASSERT_EQ(level(data.design), design) << row;
+    ASSERT_TRUE(ground < 0.0 || level(data.difference) == ground - design) << row;
+    ASSERT_EQ(data.PointOfRow(row), static_cast<long>(at));
+  }
+  for (const long row : {-1L, 777L, kRows}) EXPECT_EQ(data.PointOfRow(row), -1);
   // Sorted by another column, each point still knows its row.
   window.Sort(2, true);
   ASSERT_EQ(data.rows.size(), stations.size());
-  EXPECT_EQ(std::count_if(data.rows.begin(), data.rows.end(),
-                          [&](const long& row) {
-                            double chainage = -1.0;
-                            window.Grid().QuickGetNumber(0, row, &chainage);
-                            const auto at = static_cast<std::size_t>(&row - data.rows.data());
-                            return chainage == data.ground.GetPoints()[at].x;
-                          }),
-            static_cast<std::ptrdiff_t>(stations.size()));
+  for (std::size_t at = 0; at < stations.size(); ++at) {
+    double chainage = -1.0;
+    window.Grid().QuickGetNumber(0, data.rows[at], &chainage);
+    ASSERT_EQ(chainage, data.ground.GetPoints()[at].x);
+  }
   EXPECT_EQ(Text(2, 0), L"16");
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "CsvLine.h"
 #include "SurveyReader.h"
 #include "tests/support/FolderTest.h"
@@ -9,28 +11,21 @@
 
 namespace {
 
-std::vector<std::wstring> Fields(std::wstring_view record, wchar_t separator = L',') {
-  desk::CsvLine line;
-  line.Split(record, separator);
-  return {line.Fields().begin(), line.Fields().end()};
-}
-
 TEST(CsvLine, SplitsAsSpreadsheetsWrite) {
-  using Texts = std::vector<std::wstring>;
-  EXPECT_EQ(Fields(L""), Texts({L""}));
-  EXPECT_EQ(Fields(L"a,,b,"), Texts({L"a", L"", L"b", L""}));
-  EXPECT_EQ(Fields(L"\"a,b\",c"), Texts({L"a,b", L"c"}));
-  EXPECT_EQ(Fields(L"\"say \"\"yes\"\"\",\"\",x"), Texts({L"say \"yes\"", L"", L"x"}));
-  EXPECT_EQ(Fields(L"5\" pipe,6"), Texts({L"5\" pipe", L"6"}));
-  EXPECT_EQ(Fields(L"\"a\"b,c"), Texts({L"ab", L"c"}));
-  EXPECT_EQ(Fields(L"1,5;2,5", L';'), Texts({L"1,5", L"2,5"}));
-}
-
-TEST(CsvLine, ARecordThatEndsInsideQuotesIsIncomplete) {
+  const std::pair<const wchar_t*, std::vector<std::wstring>> rows[] = {
+      {L"", {L""}},
+      {L"a;;b;", {L"a", L"", L"b", L""}},
+      {L"\"a;b\";c", {L"a;b", L"c"}},
+      {L"\"say \"\"yes\"\"\";\"\";x", {L"say \"yes\"", L"", L"x"}},
+      {L"5\" pipe;6,5", {L"5\" pipe", L"6,5"}},
+      {L"\"a\"b;c", {L"ab", L"c"}},
+      {L"1;\"two\nlines\"", {L"1", L"two\nlines"}}};
   desk::CsvLine line;
-  EXPECT_FALSE(line.Split(L"1,\"two", L','));
-  EXPECT_TRUE(line.Split(L"1,\"two\nlines\"", L','));
-  EXPECT_EQ(line.Fields()[1], L"two\nlines");
+  for (const auto& [record, fields] : rows) {
+    EXPECT_TRUE(line.Split(record, L';'));
+    EXPECT_EQ(std::vector<std::wstring>(line.Fields().begin(), line.Fields().end()), fields);
+  }
+  EXPECT_FALSE(line.Split(L"1;\"two", L';')) << "it goes on in the next line";
 }
 
 TEST(CsvLine, OnlyWholeNumbersAreNumbers) {
@@ -107,7 +102,6 @@ TEST_F(SurveyReading, ReadsRowsBelowHeadings) {
   EXPECT_EQ(Survey("5.5;7,25").Summary(), L"1 row in 2 columns");
   EXPECT_EQ(Survey("x").Summary(), L"1 row in 1 column");
   EXPECT_EQ(Survey("Chainage,Level\n").Summary(), L"0 rows in 2 columns");
-  EXPECT_EQ(sink.rows.size(), 0U);
   EXPECT_EQ(Survey("a,b\n1," + std::string(1U << 21U, 'x') + "\n").Summary(),
             L"1 row in 2 columns; 1 line is cut off after a million characters");
   EXPECT_EQ(Survey("\xEF\xBB\xBFH\xF6he,x\n1,2\n").foreignBytes, 1U);

@@ -74,33 +74,28 @@ TEST(CoreGUIApp, SetsUpOnceAndUndoesItsRegistration) {
   setenv("USERNAME", "tester", 1);
 }
 
-class HelpedApp : public CCoreGUIApp {
- public:
-  CString shown;
-  bool viewer = true;
-
- protected:
+struct HelpedApp : CCoreGUIApp {
   bool OnShowHelp(const CString& file) override {
     shown = file;
     return viewer;
   }
+  CString shown;
+  bool viewer = true;
 };
 
 TEST(CoreGUIApp, TellsWhichHelpFileIsMissing) {
   HelpedApp app;
   EXPECT_EQ(app.GetHelpFile().Right(15), L"/Strandmere.chm");
-  const std::string folder = ScratchFolder() + "/help";
-  std::filesystem::create_directory(folder);
-  app.SetHelpFolder(CString::FromUtf8(folder));
+  const std::string file = ScratchFolder() + "/Strandmere.chm";
+  app.SetHelpFolder(CString::FromUtf8(ScratchFolder()));
   const auto failure = [&app] { return Told([&app] { EXPECT_FALSE(app.OpenHelp()); }); };
-  EXPECT_EQ(failure(), "Error (stop): The help file \"" + folder + "/Strandmere.chm\" was not found.");
+  EXPECT_EQ(failure(), "Error (stop): The help file \"" + file + "\" was not found.");
   EXPECT_EQ(app.shown, L"");
-  std::ofstream(folder + "/Strandmere.chm") << "x";
+  std::ofstream(file) << "x";
   EXPECT_TRUE(app.OpenHelp());
-  EXPECT_EQ(app.shown.ToUtf8(), folder + "/Strandmere.chm");
+  EXPECT_EQ(app.shown.ToUtf8(), file);
   app.viewer = false;
-  EXPECT_EQ(failure(), "Error (stop): There is no program to open the help file \"" + folder +
-                           "/Strandmere.chm\" with.");
+  EXPECT_EQ(failure(), "Error (stop): There is no program to open the help file \"" + file + "\" with.");
 }
 
 }  // namespace
