@@ -168,13 +168,14 @@ bool CGridPainter::DrawCells(Pass& pass, long row, int height) {
   return true;
 }
 
-/// A cell that only the drawing of its left neighbour hints. Nothing spills over a text, so what shows its
-/// own looks as it did and only hands the hint on: to types of the application's, as only they could tell.
+/// A cell that only the drawing of its left neighbour hints. Nothing spills over a text or a joined block, so
+/// what shows its own looks as it did and only hands the hint on: to types of the application's, as only they
+/// could tell.
 bool CGridPainter::DrawNeighbour(Pass& pass, CGridCellPainter::Cell cell, bool* handsOn) {
   *handsOn = false;
   const CGridCellPainter::Fetched fetched = m_cells.Fetch(cell, pass.alive);
   if (fetched != CGridCellPainter::Fetched::draw) return fetched != CGridCellPainter::Fetched::gone;
-  if (m_requested.empty() && !cell.joined && m_cells.ShowsOwnText()) {
+  if (m_requested.empty() && (cell.joined || m_cells.ShowsOwnText())) {
     *handsOn = m_control.HasOwnCellTypes() && m_cells.MayOverlap();
     return true;
   }

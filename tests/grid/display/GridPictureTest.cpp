@@ -356,6 +356,8 @@ TEST(GridPicture, WhatCrossesTheEdgeOfTheLockedCellsIsDrawnAnewWhenTheyScroll) {
       {"a block that begins in the corner",
        {[](CGridCtrl& g) { g.SetSH_NumberCols(2); }, [](CGridCtrl& g) { g.JoinCells(-2, -1, 1, -1); },
         [](CGridCtrl& g) { Overwrite(g, 1, -1, 0); }}},
+      {"a text beside a block with a gap",
+       {[](CGridCtrl& g) { Overwrite(g, 3, 5, 0); }, [](CGridCtrl& g) { Rewrite(g, 0, 5, 2); }}},
       {"a torn block",
        {[](CGridCtrl& g) { g.MoveColPosition(2, 5, 1); }, [](CGridCtrl& g) { g.RedrawCell(1, 4); }}},
       {"blocks that overlap",
