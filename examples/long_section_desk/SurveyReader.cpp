@@ -15,14 +15,15 @@ namespace {
 
 constexpr std::size_t kSampleLines = 200;
 constexpr std::size_t kMaxLine = 1U << 20U;
+constexpr std::size_t kMostColumns = 10'000;
 constexpr std::uint64_t kRowsBetweenProgress = 20000;
 
 std::wstring WithThousands(std::uint64_t number) {
   return coregui::FormatNumberText(CString(std::to_wstring(number)), 0).Str();
 }
 
-/// A sample of a text table has hardly any control characters.
-bool LooksBinary(const std::deque<std::wstring>& sample, const coregui::TextReadTally& tally) {
+/// Why a sample is that of no text; empty when it may be. A text has hardly any control characters.
+std::wstring TextFault(const std::deque<std::wstring>& sample, const coregui::TextReadTally& tally) {
   std::uint64_t characters = tally.nulCharacters;
   std::uint64_t controls = tally.nulCharacters;
   for (const std::wstring& line : sample) {
@@ -31,7 +32,14 @@ bool LooksBinary(const std::deque<std::wstring>& sample, const coregui::TextRead
       return (c < L' ' && c != L'\t') || c == L'\u007F' || c == L'\uFFFD';
     }));
   }
-  return controls * 20 > characters;
+  if (!sample.empty() && controls * 20 <= characters) {
+    return {};
+  }
+  // Of Latin letters in UTF-16 every other byte is zero.
+  const bool everyOther = tally.nulCharacters * 3 > characters && tally.nulCharacters * 3 < characters * 2;
+  return everyOther && controls == tally.nulCharacters
+             ? L"The file seems to be UTF-16 without a byte-order mark. Save it as UTF-8 and open it again."
+             : L"The file holds no table: it is not text.";
 }
 
 /// Gives the lines of the sample again, then the rest of the file, and joins those that quotes hold together.
@@ -120,7 +128,7 @@ void ReadRows(RecordReader& records, const coregui::TextReader& reader, double s
     }
     sink.Row(report.rows++, fields);
     if (report.rows % kRowsBetweenProgress == 0 &&
-        !sink.Progress(static_cast<double>(reader.Position()) / size)) {
+        !sink.Progress(std::min(static_cast<double>(reader.Position()) / size, 1.0))) {
       report.cutShort = true;
       return;
     }
@@ -165,11 +173,15 @@ SurveyReport ReadSurvey(const std::wstring& path, SurveySink& sink) {
   }
   RecordReader records(reader);
   records.TakeSample();
-  if (records.Sample().empty() || LooksBinary(records.Sample(), reader.Tally())) {
-    report.error = L"The file holds no table: it is not text.";
+  report.error = TextFault(records.Sample(), reader.Tally());
+  if (!report.error.empty()) {
     return report;
   }
   report.dialect = DetectDialect({records.Sample().begin(), records.Sample().end()});
+  if (report.dialect.headings.size() > kMostColumns) {
+    report.error = L"The file has more than " + WithThousands(kMostColumns) + L" columns.";
+    return report;
+  }
   sink.Begin(report.dialect);
   if (report.dialect.hasHeadings) {
     CsvLine split;
@@ -179,6 +191,7 @@ SurveyReport ReadSurvey(const std::wstring& path, SurveySink& sink) {
   const auto size = std::filesystem::file_size(ToPath(path), unknown);
   ReadRows(records, reader, unknown ? 1.0 : static_cast<double>(size), report, sink);
   reader.Close();
+  report.changed = std::filesystem::file_size(ToPath(path), unknown) != size || unknown;
   report.cutShort = report.cutShort || reader.Tally().readError;
   report.foreignBytes = reader.Tally().foreignBytes;
   report.nulCharacters = reader.Tally().nulCharacters;
@@ -191,7 +204,8 @@ std::wstring SurveyReport::RowsText() const {
 }
 
 bool SurveyReport::HasOddities() const {
-  return notNumbers.count + moreFields.count + fewerFields.count + openQuotes.count + foreignBytes +
+  return changed ||
+         notNumbers.count + moreFields.count + fewerFields.count + openQuotes.count + foreignBytes +
                  nulCharacters + cutLines >
              0 ||
          cutShort;
@@ -217,6 +231,9 @@ std::wstring SurveyReport::Summary() const {
   if (cutLines > 0) {
     text += L"; " + WithThousands(cutLines) + (cutLines == 1 ? L" line is" : L" lines are") +
             L" cut off after a million characters";
+  }
+  if (changed) {
+    text += L"; the file changed while it was read";
   }
   if (cutShort) {
     text += L"; reading stopped before the end";

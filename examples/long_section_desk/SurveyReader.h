@@ -33,6 +33,7 @@ struct SurveyReport {
   std::uint64_t foreignBytes = 0;
   std::uint64_t nulCharacters = 0;
   std::uint64_t cutLines = 0;  ///< lines too long to be taken whole
+  bool changed = false;        ///< another program has made the file longer or shorter, or removed it
   bool cutShort = false;       ///< reading stopped: a disk error, or the caller's wish
 
   /// "6,201 rows".

@@ -68,8 +68,11 @@ class TableSink : public desk::SurveySink {
   void Row(std::uint64_t row, const std::vector<std::wstring_view>& fields) override {
     EXPECT_EQ(row, rows.size());
     rows.emplace_back(fields.begin(), fields.end());
+    if (row == 0 && onFirstRow) onFirstRow();
   }
   bool Progress(double /*part*/) override { return true; }
+
+  std::function<void()> onFirstRow;
 
   std::size_t columns = 0;
   std::vector<std::vector<std::wstring>> rows;
@@ -122,6 +125,14 @@ TEST_F(SurveyReading, SaysWhatCouldNotBeTaken) {
   EXPECT_EQ(sink.rows.back()[0], L"7");
 }
 
+TEST_F(SurveyReading, TellsWhenTheFileChangesMeanwhile) {
+  Write("a.csv", "a,b\n1,2\n3,4\n");
+  sink.onFirstRow = [this] { Write("a.csv", "a,b\n1,2\n"); };
+  const auto report = desk::ReadSurvey(Wide("a.csv").Str(), sink);
+  EXPECT_TRUE(report.HasOddities());
+  EXPECT_NE(report.Summary().find(L"; the file changed while it was read"), std::wstring::npos);
+}
+
 TEST_F(SurveyReading, RefusesWhatIsNoTable) {
   EXPECT_EQ(desk::ReadSurvey(Wide("missing.csv").Str(), sink).Summary(), L"The file does not exist.");
   EXPECT_EQ(desk::ReadSurvey(Wide("").Str(), sink).error, L"This is a folder, not a file.");
@@ -132,6 +143,9 @@ TEST_F(SurveyReading, RefusesWhatIsNoTable) {
                                15))
                 .error,
             L"The file holds no table: it is not text.");
+  EXPECT_EQ(Survey(std::string("1\0,\0002\0\n\0", 8)).error,
+            L"The file seems to be UTF-16 without a byte-order mark. Save it as UTF-8 and open it again.");
+  EXPECT_EQ(Survey(std::string(10'000, ',') + "\n").error, L"The file has more than 10,000 columns.");
   EXPECT_TRUE(sink.rows.empty());
 }
 
