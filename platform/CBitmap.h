@@ -12,11 +12,15 @@ class COREGUI_API CBitmap : public CGdiObject {
  public:
   CBitmap();
   ~CBitmap() override;
-  /// A bitmap for drawing on with CMemoryDC: `width` × `height` logical pixels at the scale of `like`.
-  /// False when a dimension is below 1 or memory is short; the bitmap is then empty.
+  /// A bitmap for drawing on with CMemoryDC: `width` × `height` logical pixels, with the dots that they have
+  /// from the corner of `like` on. False when a dimension is below 1 or memory is short; the bitmap is then
+  /// empty.
   BOOL CreateCompatibleBitmap(const CDC* like, int width, int height);
   /// From rows of 0xAARRGGBB dots, top row first. `width` × `height` dots, `scale` to a logical pixel.
   BOOL CreateFromPixels(int width, int height, const std::vector<DWORD>& pixels, double scale = 1.0);
+  /// Whether pixels have the same dots on the bitmap as in the context, so that what is copied to and fro
+  /// stays as it was. Not at another scale, nor, between whole scales, for a window that was moved since.
+  bool IsCompatible(const CDC& with) const;
   BOOL LoadFile(const wchar_t* path);
   BOOL SaveFile(const wchar_t* path) const;  ///< PNG
   void DeleteObject();

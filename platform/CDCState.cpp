@@ -184,11 +184,14 @@ bool CDC::GetClipBox(RECT* rect) const {
     *rect = CRect();
     return false;
   }
-  const double scale = m_target->Scale();
-  const auto logical = [scale](LONG dot) { return static_cast<LONG>(std::floor(dot / scale + 0.5)); };
+  const auto logical = [](const coregui::DotAxis& axis, LONG dot) {
+    return static_cast<LONG>(std::floor(axis.PixelsTo(dot) + 0.5));
+  };
+  const auto& [x, y] = m_target->Grid();
   const auto without = [](std::int64_t device, LONG origin) { return Saturated(device - origin); };
-  *rect = CRect(without(logical(bounds.left), now.origin.x), without(logical(bounds.top), now.origin.y),
-                without(logical(bounds.right), now.origin.x), without(logical(bounds.bottom), now.origin.y));
+  *rect = CRect(without(logical(x, bounds.left), now.origin.x), without(logical(y, bounds.top), now.origin.y),
+                without(logical(x, bounds.right), now.origin.x),
+                without(logical(y, bounds.bottom), now.origin.y));
   return true;
 }
 

@@ -17,8 +17,8 @@ int DrawTarget::FitText(const DrawAttributes& with, const wchar_t* text, int len
 int DrawTarget::LogicalSize(std::int64_t dots) const {
   constexpr std::int64_t limit = std::numeric_limits<int>::max();
   const std::int64_t size =
-      m_scale == 1.0 ? dots
-                     : static_cast<std::int64_t>(std::ceil(static_cast<double>(dots) / m_scale - 1e-9));
+      Scale() == 1.0 ? dots
+                     : static_cast<std::int64_t>(std::ceil(static_cast<double>(dots) / Scale() - 1e-9));
   return static_cast<int>(std::min(size, limit));
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/CDC.h"
+#include "platform/DotGrid.h"
 #include "platform/Region.h"
 
 namespace coregui {
@@ -87,7 +88,8 @@ class DrawTarget {
   DrawTarget(const DrawTarget&) = delete;
   DrawTarget& operator=(const DrawTarget&) = delete;
 
-  double Scale() const { return m_scale; }
+  double Scale() const { return m_grid.Scale(); }
+  const DotGrid& Grid() const { return m_grid; }
   /// The whole device, in dots.
   virtual CSize Dots() const = 0;
   virtual int Capability(int index) const = 0;
@@ -122,36 +124,25 @@ class DrawTarget {
   virtual bool Copy(const DrawAttributes& with, const CRect& to, DrawTarget& source, CPoint from,
                     bool exclusiveOr) = 0;
 
-  /// The dot at a logical position, limited to a range in which sums do not overflow.
-  int Dot(std::int64_t logical) const {
-    constexpr std::int64_t limit = 1 << 29;
-    const std::int64_t dot = WideDot(logical);
-    return static_cast<int>(dot < -limit ? -limit : (dot > limit ? limit : dot));
-  }
-  /// The same without a limit.
-  std::int64_t WideDot(std::int64_t logical) const {
-    return m_scale == 1.0
-               ? logical
-               : static_cast<std::int64_t>(std::floor(static_cast<double>(logical) * m_scale + 0.5));
-  }
   CRect DotRect(const DrawAttributes& with, const RECT& rect) const {
     const std::int64_t x = with.origin.x;
     const std::int64_t y = with.origin.y;
-    return {Dot(rect.left + x), Dot(rect.top + y), Dot(rect.right + x), Dot(rect.bottom + y)};
+    return {m_grid.x.Dot(rect.left + x), m_grid.y.Dot(rect.top + y), m_grid.x.Dot(rect.right + x),
+            m_grid.y.Dot(rect.bottom + y)};
   }
   /// How many dots thick a pen of so many logical pixels is: at least 1.
   int DotWidth(int logical) const {
-    const double width = std::floor(std::fabs(static_cast<double>(logical)) * m_scale + 0.5);
+    const double width = std::floor(std::fabs(static_cast<double>(logical)) * Scale() + 0.5);
     return width < 1.0 ? 1 : (width > 1e6 ? 1000000 : static_cast<int>(width));
   }
   /// Logical pixels that hold so many dots.
   int LogicalSize(std::int64_t dots) const;
 
  protected:
-  explicit DrawTarget(double scale) : m_scale(scale) {}
+  explicit DrawTarget(const DotGrid& grid) : m_grid(grid) {}
 
  private:
-  double m_scale;
+  DotGrid m_grid;
 };
 
 }  // namespace coregui

@@ -38,7 +38,6 @@ void CPositionOverlay::Show(CDC& window, CSize client, const Content& content) {
   const CPoint at(std::clamp<LONG>(content.at.x, -2, client.cx),
                   std::clamp<LONG>(content.at.y, -2, client.cy));
   m_shown = content;
-  m_scale = window.GetScaleFactor();
   m_kept.clear();
   const int saved = window.SaveDC();
   std::vector<Label> labels;
@@ -85,9 +84,8 @@ void CPositionOverlay::DrawCrossHair(CDC& window, CSize client, CPoint at) {
 }
 
 bool CPositionOverlay::Keep(CDC& window, CSize client) {
-  if (!m_below.IsCreated() || m_belowSize != client || m_belowScale != m_scale) {
+  if (m_belowSize != client || !m_below.IsCompatible(window)) {
     m_belowSize = client;
-    m_belowScale = m_scale;
     if (m_below.CreateCompatibleBitmap(&window, client.cx, client.cy) == FALSE) {
       m_kept.clear();
       return false;
@@ -103,8 +101,8 @@ bool CPositionOverlay::Keep(CDC& window, CSize client) {
 void CPositionOverlay::Hide(CDC& window) {
   const std::vector<CRect> kept = std::exchange(m_kept, {});
   const bool measured = std::exchange(m_shown.measuring, false);
-  if (window.GetScaleFactor() != m_scale) {
-    return;  // drawn afresh anyway
+  if (m_below.IsCreated() && !m_below.IsCompatible(window)) {
+    return;
   }
   if (!kept.empty()) {
     CMemoryDC memory(&window, &m_below);

@@ -24,7 +24,8 @@ class COREGUI_API CPositionOverlay {
 
   /// Draws on a window of this client size. The overlay must be hidden.
   void Show(CDC& window, CSize client, const Content& content);
-  /// Puts the picture back; nothing when the overlay is hidden, or the window was scaled anew since.
+  /// Puts the picture back; nothing when the overlay is hidden, or the window's pixels have other dots since:
+  /// it is painted anew then.
   void Hide(CDC& window);
 
  private:
@@ -42,10 +43,8 @@ class COREGUI_API CPositionOverlay {
 
   CBitmap m_below;  ///< as large as the window, so that pixels have the same dots; only the kept ones matter
   CSize m_belowSize;
-  double m_belowScale = 0.0;
   std::vector<CRect> m_kept;
-  Content m_shown;       ///< `measuring` tells whether the line is there
-  double m_scale = 0.0;  ///< of the window when it was shown
+  Content m_shown;  ///< `measuring` tells whether the line is there
 };
 
 }  // namespace coregui

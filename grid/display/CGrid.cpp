@@ -26,7 +26,6 @@ const MessageTable& CGrid::GetMessageTable() const {
                                         .On<WM_ERASEBKGND>(&CGrid::HandleErase)
                                         .On<WM_PRINTCLIENT>(&CGrid::HandlePrintClient)
                                         .On<WM_SIZE>(&CGrid::HandleSize)
-                                        .On<WM_DPICHANGED>(&CGrid::HandleDpiChanged)
                                         .On<WM_SYSCOLORCHANGE>(&CGrid::HandleSystemChange)
                                         .On<WM_THEMECHANGED>(&CGrid::HandleSystemChange)
                                         .On<WM_LBUTTONDOWN>(&CGrid::HandleLButtonDown)
@@ -166,6 +165,8 @@ void CGrid::HandlePaint() {
 }
 
 void CGrid::PaintPass(CDC& screen) {
+  // Another scale, or another place between two dots of the screen: the pixels have other dots now.
+  if (m_buffer != nullptr && !m_buffer->IsCompatible(screen)) SetDoubleBufferMode(m_bufferMode);
   if (m_buffer == nullptr) {
     DrawCellsIntern(&screen, nullptr);
   } else {
@@ -259,12 +260,6 @@ int CGrid::SetDoubleBufferMode(int mode) {
 
 void CGrid::HandleSize(UINT, int, int) {
   SetDoubleBufferMode(m_bufferMode);
-}
-
-/// The bitmap has the dots of the scale that it was made for.
-LRESULT CGrid::HandleDpiChanged(WPARAM, LPARAM) {
-  SetDoubleBufferMode(m_bufferMode);
-  return 0;
 }
 
 void CGrid::HandleSystemChange() {

@@ -56,7 +56,6 @@ class COREGUI_API CGrid : public CWnd {
   BOOL HandleErase(CDC* dc);
   LRESULT HandlePrintClient(WPARAM wParam, LPARAM lParam);
   void HandleSize(UINT type, int width, int height);
-  LRESULT HandleDpiChanged(WPARAM wParam, LPARAM lParam);
   void HandleSystemChange();
   void HandleLButtonDown(UINT flags, CPoint point);
   void HandleLButtonUp(UINT flags, CPoint point);

@@ -75,13 +75,15 @@ class CComboBoxDelegate : public QStyledItemDelegate {
   }
   void Draw(QPainter& painter, const QRect& place, int index, bool selected) const {
     const double scale = painter.device()->devicePixelRatioF();
-    const auto surface = std::make_shared<coregui::Surface>(CSize(place.width(), place.height()), scale);
+    // Where the picture counts its dots from, so that items which touch in pixels touch in dots.
+    const QPoint start = (painter.deviceTransform().map(QPointF(place.topLeft())) / scale).toPoint();
+    const auto surface = std::make_shared<coregui::Surface>(
+        CSize(place.width(), place.height()), coregui::DotGrid(scale, CPoint(start.x(), start.y())));
     {
       PictureDC dc(surface);
       m_box.DrawItem(dc, CRect(0, 0, place.width(), place.height()), index, selected);
     }
     painter.save();
-    painter.setClipRect(place);
     painter.translate(place.topLeft());
     surface->Expose(painter, {0, 0, place.width(), place.height()});
     painter.restore();

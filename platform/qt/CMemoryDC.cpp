@@ -9,7 +9,7 @@ std::shared_ptr<coregui::Surface> SurfaceOf(const CDC* like, CBitmap* bitmap) {
   if (bitmap != nullptr && bitmap->IsCreated()) {
     return bitmap->Data()->surface;
   }
-  return std::make_shared<coregui::Surface>(CSize(1, 1), like != nullptr ? like->GetScaleFactor() : 1.0);
+  return std::make_shared<coregui::Surface>(CSize(1, 1), like != nullptr ? like->Target()->Grid() : 1.0);
 }
 
 }  // namespace

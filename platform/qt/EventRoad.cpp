@@ -341,18 +341,23 @@ bool EventRoad::Other() {
       case QEvent::Move:
       case QEvent::Resize:
         m_window->NoteWidgetSize();
+        m_window->NoteDots();
         m_window->NoteGeometry();
+        break;
+      case QEvent::Hide:
+        m_window->NoteDots();
         break;
       case QEvent::WindowStateChange:
         m_window->NoteState();
         break;
       case QEvent::Show:
+        m_window->NoteDots();
         m_window->NoteGeometry();
-        if (IsAlive()) m_window->NoteScale();
+        if (IsAlive()) m_window->NoteGrid();
         if (IsAlive()) QueuePaintTree(m_window->Window());
         break;
       case QEvent::ScreenChangeInternal:
-        m_window->NoteScale();
+        m_window->NoteGrid();
         break;
       case QEvent::WindowActivate:
         if (m_window->IsTopLevel()) MoveActivation(&m_window->Window(), false);

@@ -2,10 +2,9 @@
 
 #include <QBackingStore>
 #include <QKeyEvent>
-#include <QPaintEngine>
 #include <QPaintEvent>
 #include <QPainter>
-#include <cmath>
+#include <algorithm>
 #include <utility>
 
 #include "platform/CDC.h"
@@ -37,6 +36,16 @@ QRegion Seen(const QWidget& widget, QRegion part) {
   return part;
 }
 
+CRect ToRect(const QRect& rect) {
+  return {CPoint(rect.left(), rect.top()), CSize(rect.width(), rect.height())};
+}
+
+/// Which dots of the screen the pixels of a widget have, a border round them left out.
+DotGrid GridOf(const QWidget& widget, int border) {
+  const QPoint start = widget.mapTo(widget.window(), QPoint(border, border));
+  return {widget.devicePixelRatioF(), CPoint(start.x(), start.y())};
+}
+
 /// Shows a surface. Painting it copies pixels and calls nothing of the library.
 class SurfaceWidget : public QWidget {
  public:
@@ -46,14 +55,15 @@ class SurfaceWidget : public QWidget {
     setAttribute(Qt::WA_InputMethodEnabled);
     setFocusPolicy(Qt::NoFocus);
   }
-  /// Called by a paint at another scale than the surface's: the screen's own scale was changed.
-  std::function<void()> onOtherScale;
+  /// Called by a paint where the pixels have other dots than on the surface: the screen's own scale was
+  /// changed, or a program moved a widget of its own that the window lies on.
+  std::function<void()> onOtherGrid;
   /// Pixels round the surface.
   int border = 0;
 
  protected:
   void paintEvent(QPaintEvent* event) override {
-    if (devicePixelRatioF() != m_surface->Scale() && onOtherScale) onOtherScale();
+    if (IsElsewhere() && onOtherGrid) onOtherGrid();
     const bool whole = event->region().boundingRect() == rect();
     const QRect client = rect().adjusted(border, border, -border, -border);
     QPoint corner;  // of the device, in this widget
@@ -63,8 +73,7 @@ class SurfaceWidget : public QWidget {
     QImage* picture =
         onScreen && device->devType() == QInternal::Image ? static_cast<QImage*>(device) : nullptr;
     if (picture != nullptr && whole) ExpectPicture(*picture);
-    if (picture == nullptr || !client.contains(event->region().boundingRect()) ||
-        !CopyTo(*picture, corner, event->region())) {
+    if (picture == nullptr || !CopyTo(*picture, corner, event->region(), client)) {
       Paint(event->region(), client);
     }
     if (onScreen && (whole || m_surface->HasDamage()) && (Seen(*this, client) - event->region()).isEmpty()) {
@@ -73,28 +82,38 @@ class SurfaceWidget : public QWidget {
   }
 
  private:
-  /// Copies a part of the surface where a picture has dots like the surface's; false where it has not.
-  bool CopyTo(QImage& picture, const QPoint& corner, const QRegion& part) {
-    const int scale = static_cast<int>(m_surface->Scale());
-    if (picture.format() != QImage::Format_RGB32 || scale != m_surface->Scale() ||
-        scale != picture.devicePixelRatio()) {
-      return false;
-    }
-    const QPoint client(border, border);
-    const QRect bounds = part.boundingRect();
-    const QRect target(scale * (bounds.topLeft() - corner), scale * bounds.size());
-    const CSize dots = m_surface->Dots();
-    if (!picture.rect().contains(target) ||
-        !QRect(0, 0, dots.cx, dots.cy).contains(target.translated(scale * (corner - client)))) {
-      return false;
-    }
+  /// Whether the pixels have other dots here than on the surface.
+  bool IsElsewhere() const {
+    const DotGrid& grid = m_surface->Grid();
+    return devicePixelRatioF() != grid.Scale() || (!grid.IsWhole() && !(GridOf(*this, border) == grid));
+  }
+
+  /// Copies a part of the surface, and of the border round it, where a picture has dots like the surface's;
+  /// false where it has not. Between whole scales the toolkit's painter would leave out dots: it rounds the
+  /// corner and the size of a part, which may have one more in its place.
+  bool CopyTo(QImage& picture, const QPoint& corner, const QRegion& part, const QRect& client) {
+    const DotGrid grid(m_surface->Scale());  // of the picture
+    if (picture.format() != QImage::Format_RGB32 || grid.Scale() != picture.devicePixelRatio()) return false;
+    const CRect shown = grid.Dots(ToRect(client.translated(-corner)));
+    const CRect room(0, 0, picture.width(), picture.height());
+    const CRect surface(shown.TopLeft(), m_surface->Dots());
     const std::ptrdiff_t stride = picture.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(std::uint32_t));
     auto* const first = reinterpret_cast<std::uint32_t*>(picture.bits());
-    for (const QRect& exposed : part) {
-      const QPoint to = scale * (exposed.topLeft() - corner);
-      const QPoint from = scale * (exposed.topLeft() - client);
-      const CRect rect(CPoint(from.x(), from.y()), CSize(scale * exposed.width(), scale * exposed.height()));
-      m_surface->CopyDots(first + to.y() * stride + to.x(), stride, rect);
+    for (const QRect& exposed : part& client) {
+      CRect dots = grid.Dots(ToRect(exposed.translated(-corner)));
+      if (!dots.IntersectRect(dots, room) || !dots.IntersectRect(dots, surface)) continue;
+      const CPoint from(dots.left - shown.left, dots.top - shown.top);
+      m_surface->CopyDots(first + dots.top * stride + dots.left, stride, CRect(from, dots.Size()));
+    }
+    if (border > 0) {
+      const COLORREF colour = GetSysColor(COLOR_3DDKSHADOW);
+      for (const QRect& edge : part - client) {
+        CRect dots = grid.Dots(ToRect(edge.translated(-corner)));
+        dots.IntersectRect(dots, room);
+        for (int y = dots.top; y < dots.bottom; ++y) {
+          std::fill_n(first + y * stride + dots.left, dots.Width(), Opaque(colour));
+        }
+      }
     }
     return true;
   }
@@ -104,14 +123,12 @@ class SurfaceWidget : public QWidget {
     if (border > 0) {
       const COLORREF colour = GetSysColor(COLOR_3DDKSHADOW);
       for (const QRect& edge : part - client) {
-        painter.fillRect(edge, QColor(GetRValue(colour), GetGValue(colour), GetBValue(colour)));
+        painter.fillRect(edge, QColor::fromRgb(Opaque(colour)));
       }
       painter.translate(border, border);
     }
     for (const QRect& exposed : part& client) {
-      const QRect rect = exposed.translated(-border, -border);
-      m_surface->Expose(painter,
-                        {rect.left(), rect.top(), rect.left() + rect.width(), rect.top() + rect.height()});
+      m_surface->Expose(painter, ToRect(exposed.translated(-border, -border)));
     }
   }
 
@@ -153,37 +170,36 @@ PaintedWindow::PaintedWindow(CWnd& window, const CREATESTRUCT& create,
   m_surface->onDamage = [this] { Pump::Get().QueueExposure(this); };
   m_surface->onMove = [this](const CRect& to, int dx, int dy) { return MoveShown(to, dx, dy); };
   PaintedWindow::StyleChanged();
-  FitSurface(window.GetClientRectangle().Size(), QtWindow::Scale());
+  FitSurface(window.GetClientRectangle().Size());
   m_toldScale = m_surface->Scale();
-  static_cast<SurfaceWidget*>(GetWidget())->onOtherScale = [this] {
+  static_cast<SurfaceWidget*>(GetWidget())->onOtherGrid = [this] {
     QMetaObject::invokeMethod(
-        this, [this] { NoteScale(); }, Qt::QueuedConnection);
+        this, [this] { NoteGrid(); }, Qt::QueuedConnection);
   };
 }
 
 PaintedWindow::~PaintedWindow() {
-  if (auto* widget = static_cast<SurfaceWidget*>(GetWidget())) widget->onOtherScale = nullptr;
+  if (auto* widget = static_cast<SurfaceWidget*>(GetWidget())) widget->onOtherGrid = nullptr;
   m_surface->onDamage = nullptr;
   m_surface->onMove = nullptr;
 }
 
-void PaintedWindow::FitSurface(CSize size, double scale) {
-  if (size == m_surface->Size() && scale == m_surface->Scale()) {
-    return;
-  }
-  const bool rescaled = scale != m_surface->Scale();
-  m_surface->Resize(size, scale);
-  if (rescaled) {
-    // Between dots, the toolkit's parts of the screen for windows that touch leave a dot to neither: the
-    // parent is painted below.
-    GetWidget()->setAttribute(Qt::WA_OpaquePaintEvent, scale == std::floor(scale));
+void PaintedWindow::FitSurface(CSize size) {
+  QWidget* const widget = GetWidget();
+  const DotGrid grid =
+      widget == nullptr ? m_surface->Grid() : GridOf(*widget, static_cast<SurfaceWidget*>(widget)->border);
+  const bool moved = !(grid == m_surface->Grid());
+  m_surface->Resize(size, grid);
+  if (moved) {
+    // Between dots, the toolkit would move what it takes for opaque by whole ones.
+    GetWidget()->setAttribute(Qt::WA_OpaquePaintEvent, grid.IsWhole());
     m_target = std::make_shared<RasterTarget>(m_surface);
     Window().Invalidate();
   }
 }
 
 void PaintedWindow::Move(const CRect& rect) {
-  FitSurface(Window().GetClientRectangle().Size(), m_surface->Scale());
+  FitSurface(Window().GetClientRectangle().Size());
   QtWindow::Move(rect);
 }
 
@@ -196,20 +212,17 @@ void PaintedWindow::StyleChanged() {
   widget->border = border;
   widget->update();
   Window().State().look.border = border;
-  FitSurface(Window().GetClientRectangle().Size(), m_surface->Scale());
+  FitSurface(Window().GetClientRectangle().Size());
   for (const CWnd* child : Window().State().family.children) {
     if (child->State().native != nullptr) child->State().native->Move(child->State().look.rect);
   }
 }
 
-void PaintedWindow::NoteScale() {
-  const double scale = QtWindow::Scale();
-  if (scale == m_surface->Scale()) {
-    return;
-  }
-  FitSurface(m_surface->Size(), scale);
+void PaintedWindow::NoteGrid() {
+  const double before = m_surface->Scale();
+  FitSurface(m_surface->Size());
   // Told later: the toolkit changes the screen of a window that moves before its place.
-  if (!std::exchange(m_tellsScale, true)) {
+  if (m_surface->Scale() != before && !std::exchange(m_tellsScale, true)) {
     QMetaObject::invokeMethod(
         this, [this] { TellScale(); }, Qt::QueuedConnection);
   }
@@ -229,8 +242,7 @@ void PaintedWindow::TellScale() {
 void PaintedWindow::NoteWidgetSize() {
   if (GetWidget() != nullptr && GetWidget()->isVisible()) {
     const int edges = 2 * Window().State().look.border;
-    FitSurface({std::max(0, GetWidget()->width() - edges), std::max(0, GetWidget()->height() - edges)},
-               m_surface->Scale());
+    FitSurface({std::max(0, GetWidget()->width() - edges), std::max(0, GetWidget()->height() - edges)});
   }
 }
 

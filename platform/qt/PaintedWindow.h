@@ -24,13 +24,13 @@ class PaintedWindow : public QtWindow {
 
  protected:
   bool HasOwnBehaviour() const override { return false; }
-  void NoteScale() override;
+  void NoteGrid() override;
   void NoteWidgetSize() override;
   bool FilterOther(QWidget& receiver, QEvent& event) override;
 
  private:
   PaintedWindow(CWnd& window, const CREATESTRUCT& create, const std::shared_ptr<Surface>& surface);
-  void FitSurface(CSize size, double scale);
+  void FitSurface(CSize size);
   /// Has the toolkit move what it shows as the surface did. False where it cannot.
   bool MoveShown(const CRect& to, int dx, int dy);
   void TellScale();

@@ -91,8 +91,8 @@ QPainter* PainterTarget::Begin(const DrawAttributes& with) {
 }
 
 QPointF PainterTarget::DotPoint(const DrawAttributes& with, double x, double y) const {
-  const double dotX = (x + with.origin.x) * Scale();
-  const double dotY = (y + with.origin.y) * Scale();
+  const double dotX = Grid().x.Exact(x + with.origin.x);
+  const double dotY = Grid().y.Exact(y + with.origin.y);
   if (with.smooth) {
     // A whole coordinate names the middle of its pixel, so that smooth and hard lines lie on each other.
     return {Sane(dotX + Scale() / 2.0), Sane(dotY + Scale() / 2.0)};
@@ -312,8 +312,8 @@ void PainterTarget::TextByPainter(const DrawAttributes& with, int x, int y, cons
   if (painter == nullptr) {
     return;
   }
-  const int dotX = Dot(std::int64_t{x} + with.origin.x);
-  const int dotY = Dot(std::int64_t{y} + with.origin.y);
+  const int dotX = Grid().x.Dot(std::int64_t{x} + with.origin.x);
+  const int dotY = Grid().y.Dot(std::int64_t{y} + with.origin.y);
   const ShapedText& shaped = face.Shaped(text, length);
   painter->setCompositionMode(QPainter::CompositionMode_SourceOver);
   painter->setPen(QColor::fromRgb(Opaque(with.textColour)));
@@ -350,8 +350,7 @@ bool PainterTarget::Copy(const DrawAttributes& with, const CRect& to, DrawTarget
   if (painter == nullptr) {
     return true;
   }
-  const CRect dots(source.Dot(from.x), source.Dot(from.y), source.Dot(std::int64_t{from.x} + to.Width()),
-                   source.Dot(std::int64_t{from.y} + to.Height()));
+  const CRect dots = source.Grid().Dots(CRect(from, to.Size()));
   painter->setCompositionMode(exclusiveOr ? QPainter::RasterOp_SourceXorDestination
                                           : QPainter::CompositionMode_SourceOver);
   painter->drawImage(ToQt(DotRect(with, to)), raster->Pixels()->Snapshot(), ToQt(dots));

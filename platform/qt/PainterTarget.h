@@ -30,7 +30,7 @@ class PainterTarget : public DrawTarget {
             bool exclusiveOr) override;
 
  protected:
-  explicit PainterTarget(double scale) : DrawTarget(scale) {}
+  explicit PainterTarget(const DotGrid& grid) : DrawTarget(grid) {}
   /// The painter in dots, open for the next call under a clip; null when there is no page.
   virtual QPainter* OpenPainter(const Clip& clip) = 0;
   /// The painter with clip, raster mode and smoothness of the call; null when nothing would show.

@@ -6,7 +6,9 @@
 #include <QPainter>
 #include <QTimerEvent>
 #include <algorithm>
+#include <cmath>
 #include <unordered_map>
+#include <utility>
 
 #include "platform/CDC.h"
 #include "platform/CWnd.h"
@@ -32,6 +34,21 @@ WPARAM SizeCodeOf(const QWidget& widget) {
   if (!widget.isWindow()) return SIZE_RESTORED;
   if (widget.isMinimized()) return SIZE_MINIMIZED;
   return widget.isMaximized() || widget.isFullScreen() ? SIZE_MAXIMIZED : SIZE_RESTORED;
+}
+
+bool IsBetweenDots(const QWidget& child) {
+  const double scale = child.devicePixelRatioF();
+  return scale != std::floor(scale) && child.isVisible() && !child.isWindow();
+}
+
+/// A part of a child in the window at the top, with a pixel round it: where a pixel is no whole number of
+/// dots, the toolkit brings some parts of its picture to the screen without their last dot.
+QRegion InWindow(const QWidget& child, const QRegion& part) {
+  QRegion region;
+  for (const QRect& piece : part.translated(child.mapTo(child.window(), QPoint()))) {
+    region += piece.adjusted(-1, -1, 1, 1);
+  }
+  return region;
 }
 
 /// A widget may be in the middle of an event: it goes when the event loop is back.
@@ -265,11 +282,17 @@ void QtWindow::Expose(const QRegion& part, bool now) {
   if (m_widget == nullptr) {
     return;
   }
-  if (part.rectCount() == 1) {  // the toolkit is quicker with these
-    const QRect& rect = *part.begin();
-    now ? m_widget->repaint(rect) : m_widget->update(rect);
+  QWidget* shown = m_widget;
+  QRegion region = part;
+  if (IsBetweenDots(*shown)) {
+    region = InWindow(*shown, part & shown->rect());
+    shown = shown->window();
+  }
+  if (region.rectCount() == 1) {  // the toolkit is quicker with these
+    const QRect& rect = *region.begin();
+    now ? shown->repaint(rect) : shown->update(rect);
   } else {
-    now ? m_widget->repaint(part) : m_widget->update(part);
+    now ? shown->repaint(region) : shown->update(region);
   }
 }
 
@@ -362,6 +385,20 @@ void QtWindow::NoteGeometry() {
   }
   if (code != SIZE_MINIMIZED) m_lastCode = code;
   NotePlace(m_window, rect, code);
+}
+
+/// A child was moved, sized, shown or hidden. Between whole scales, it and the windows on it have other dots
+/// now; and both what it left and what it came to are to reach the screen whole.
+void QtWindow::NoteDots() {
+  const bool shown = IsBetweenDots(*m_widget);
+  const QRect before = std::exchange(m_shownAt, shown ? m_widget->geometry() : QRect());
+  const QWidget* const parent = m_widget->parentWidget();
+  if (before == m_shownAt || parent == nullptr) return;
+  for (const QWidget* inner : m_widget->findChildren<QWidget*>()) {
+    const auto found = Windows().find(inner);
+    if (found != Windows().end()) found->second->NoteGrid();
+  }
+  parent->window()->update(InWindow(*parent, QRegion(before) + m_shownAt));
 }
 
 }  // namespace coregui

@@ -82,8 +82,8 @@ class QtWindow : public QObject, public NativeWindow {
   virtual bool HasOwnBehaviour() const { return true; }
   /// Gives an event to the widget that it is for.
   virtual void Deliver(QWidget& receiver, QEvent& event);
-  /// The widget's scale may have changed.
-  virtual void NoteScale() {}
+  /// The widget's scale, or its place in the window at the top, may have changed.
+  virtual void NoteGrid() {}
   virtual void NoteWidgetSize() {}
   /// Has the toolkit paint this part of the widget, at once or at its next chance.
   void Expose(const QRegion& part, bool now);
@@ -93,6 +93,7 @@ class QtWindow : public QObject, public NativeWindow {
   void WidgetLost();
   void NoteState();
   void NoteGeometry();
+  void NoteDots();
   bool IsTopLevel() const;
   Qt::WindowFlags FlagsOf(DWORD style) const;
   void Place(CRect rect, DWORD style);
@@ -102,6 +103,7 @@ class QtWindow : public QObject, public NativeWindow {
   CWnd& m_window;
   QPointer<QWidget> m_widget;
   bool m_borrowed = false;
+  QRect m_shownAt;  ///< of a child between whole scales: what of its parent it covers
   std::map<UINT, QBasicTimer> m_timers;
   WPARAM m_lastCode = 0;        ///< of WM_SIZE when it was not minimised
   QBasicTimer m_resizeAwaited;  ///< of a maximised or restored window: both are told together

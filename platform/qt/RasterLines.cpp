@@ -11,6 +11,18 @@
 
 namespace coregui {
 
+namespace {
+
+/// How many dots a hard line has from one point to before another.
+std::int64_t StepsBetween(const DotGrid& grid, const DrawAttributes& with, POINT a, POINT b) {
+  const auto length = [](const DotAxis& axis, LONG origin, LONG from, LONG to) {
+    return std::abs(axis.WideDot(std::int64_t{to} + origin) - axis.WideDot(std::int64_t{from} + origin));
+  };
+  return std::max(length(grid.x, with.origin.x, a.x, b.x), length(grid.y, with.origin.y, a.y, b.y));
+}
+
+}  // namespace
+
 LinePen RasterTarget::HardPen(const DrawAttributes& with) const {
   LinePen pen;
   const int width = std::abs(with.pen->GetWidth());
@@ -27,11 +39,14 @@ LinePen RasterTarget::HardPen(const DrawAttributes& with) const {
 
 CRect RasterTarget::PutStraight(const DrawAttributes& with, bool level, std::int64_t at, std::int64_t start,
                                 std::int64_t end, const LinePen& pen) {
-  const int first = Dot(start);
-  const int last = Dot(end);
+  const DotAxis& along = level ? Grid().x : Grid().y;
+  const DotAxis& aside = level ? Grid().y : Grid().x;
+  const int first = along.Dot(start);
+  const int last = along.Dot(end);
   // A thin line ends with its pixel at the latest: where a pixel is no whole number of dots, it must not
   // reach into the next one, which may be another's.
-  const int across = pen.before > 0 ? Dot(at) - pen.before : std::min(Dot(at), Dot(at + 1) - pen.thickness);
+  const int across = pen.before > 0 ? aside.Dot(at) - pen.before
+                                    : std::min(aside.Dot(at), aside.Dot(at + 1) - pen.thickness);
   const CRect dots = level ? CRect(first, across, last, across + pen.thickness)
                            : CRect(across, first, across + pen.thickness, last);
   with.clip.ForEach(dots, [this, &pen](const CRect& part) { PutRect(part, pen.colour, pen.rop); });
@@ -51,7 +66,8 @@ CRect RasterTarget::StraightLine(const DrawAttributes& with, POINT from, POINT t
                        start <= end ? end : start + 1, pen);
   }
   with.clip.ForEach(with.clip.box, [&](const CRect& part) {
-    DrawHardLine(*m_surface, part, pen, WideDot(fromX), WideDot(fromY), WideDot(toX), WideDot(toY));
+    DrawHardLine(*m_surface, part, pen, Grid().x.WideDot(fromX), Grid().y.WideDot(fromY),
+                 Grid().x.WideDot(toX), Grid().y.WideDot(toY));
   });
   return with.clip.box;
 }
@@ -79,8 +95,7 @@ void RasterTarget::Polyline(const DrawAttributes& with, const POINT* points, int
     const int next = merges ? PutUpAndDown(with, points, i, count, pen) : i;
     if (next == i) {
       StraightLine(with, points[i - 1], points[i], pen);
-      pen.walked += std::max(std::abs(WideDot(points[i].x) - WideDot(points[i - 1].x)),
-                             std::abs(WideDot(points[i].y) - WideDot(points[i - 1].y)));
+      pen.walked += StepsBetween(Grid(), with, points[i - 1], points[i]);
       ++i;
     } else {
       i = next;
@@ -116,8 +131,8 @@ void RasterTarget::SmoothPolylineF(const DrawAttributes& with, const double* xy,
   std::vector<double> dots(2 * static_cast<std::size_t>(count));
   for (std::size_t i = 0; i < dots.size(); i += 2) {
     // A whole coordinate names the middle of its pixel, so that smooth and hard lines lie on each other.
-    dots[i] = (xy[i] + with.origin.x + 0.5) * Scale();
-    dots[i + 1] = (xy[i + 1] + with.origin.y + 0.5) * Scale();
+    dots[i] = Grid().x.Exact(xy[i] + with.origin.x + 0.5);
+    dots[i + 1] = Grid().y.Exact(xy[i + 1] + with.origin.y + 0.5);
   }
   const double width = std::max(1.0, with.pen->GetWidth() * Scale());
   with.clip.ForEach(with.clip.box, [&](const CRect& part) {
@@ -139,10 +154,10 @@ void RasterTarget::PolylineF(const DrawAttributes& with, const double* xy, int c
     return;
   }
   LinePen pen = HardPen(with);
-  const double scale = Scale();
-  const auto dot = [scale](double value) {
+  const DotGrid grid = Grid();
+  const auto dot = [](double exact) {
     constexpr double limit = 4e9;
-    return static_cast<std::int64_t>(std::floor(std::clamp(value * scale, -limit, limit) + 0.5));
+    return static_cast<std::int64_t>(std::floor(std::clamp(exact, -limit, limit) + 0.5));
   };
   bool drawing = false;
   std::int64_t lastX = 0;
@@ -154,8 +169,8 @@ void RasterTarget::PolylineF(const DrawAttributes& with, const double* xy, int c
       drawing = false;
       continue;
     }
-    const std::int64_t dotX = dot(x);
-    const std::int64_t dotY = dot(y);
+    const std::int64_t dotX = dot(grid.x.Exact(x));
+    const std::int64_t dotY = dot(grid.y.Exact(y));
     if (drawing && (dotX != lastX || dotY != lastY)) {
       with.clip.ForEach(with.clip.box, [&](const CRect& part) {
         DrawHardLine(*m_surface, part, pen, lastX, lastY, dotX, dotY);

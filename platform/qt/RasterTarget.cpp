@@ -9,7 +9,7 @@
 namespace coregui {
 
 RasterTarget::RasterTarget(std::shared_ptr<Surface> surface)
-    : PainterTarget(surface->Scale()), m_surface(std::move(surface)) {
+    : PainterTarget(surface->Grid()), m_surface(std::move(surface)) {
   m_surface->Enter();
 }
 
@@ -100,8 +100,8 @@ void RasterTarget::FocusRect(const DrawAttributes& with, const CRect& rect) {
 }
 
 COLORREF RasterTarget::ReadPixel(const DrawAttributes& with, int x, int y) const {
-  const int dotX = Dot(std::int64_t{x} + with.origin.x);
-  const int dotY = Dot(std::int64_t{y} + with.origin.y);
+  const int dotX = Grid().x.Dot(std::int64_t{x} + with.origin.x);
+  const int dotY = Grid().y.Dot(std::int64_t{y} + with.origin.y);
   const CSize size = Dots();
   if (dotX < 0 || dotY < 0 || dotX >= size.cx || dotY >= size.cy) {
     return 0xFFFFFFFF;
@@ -156,8 +156,8 @@ bool RasterTarget::Copy(const DrawAttributes& with, const CRect& to, DrawTarget&
   }
   Surface& other = *raster->m_surface;
   const CRect whole = DotRect(with, to);
-  const int shiftX = source.Dot(from.x) - whole.left;
-  const int shiftY = source.Dot(from.y) - whole.top;
+  const int shiftX = source.Grid().x.Dot(from.x) - whole.left;
+  const int shiftY = source.Grid().y.Dot(from.y) - whole.top;
   CRect readable(CPoint(), other.Dots());
   readable.OffsetRect(-shiftX, -shiftY);
   CRect target;

@@ -83,7 +83,8 @@ void RasterTarget::Text(const DrawAttributes& with, int x, int y, const wchar_t*
     return;
   }
   FontFace& face = Face(with);
-  const CPoint start(Dot(std::int64_t{x} + with.origin.x), Dot(std::int64_t{y} + with.origin.y));
+  const CPoint start(Grid().x.Dot(std::int64_t{x} + with.origin.x),
+                     Grid().y.Dot(std::int64_t{y} + with.origin.y));
   if (!PutGlyphs(with, face, start, text, length)) {
     TextByPainter(with, x, y, text, length);
     return;

@@ -10,40 +10,28 @@ namespace coregui {
 
 namespace {
 
-// Rounds; what is far beyond any picture is cut off where sums are safe.
-int Rounded(double value) {
-  constexpr double limit = 1 << 29;
-  return static_cast<int>(std::floor(std::clamp(value, -limit, limit) + 0.5));
-}
-
-bool IsWhole(double scale) {
-  return scale == std::floor(scale);
-}
-
 CSize SizeOf(const QImage& image) {
   return {image.width(), image.height()};
 }
 
-CSize DotsOf(CSize size, double scale) {
-  constexpr int largest = 32767;
-  return {std::clamp(Rounded(size.cx * scale), 1, largest), std::clamp(Rounded(size.cy * scale), 1, largest)};
+CSize DotsOf(CSize size, const DotGrid& grid) {
+  constexpr LONG largest = 32767;
+  const CRect dots = grid.Dots(CRect(CPoint(), size));
+  return {std::clamp<LONG>(dots.right, 1, largest), std::clamp<LONG>(dots.bottom, 1, largest)};
 }
 
 }  // namespace
 
-Surface::Surface(CSize size, double scale)
-    : m_size(size), m_scale(scale), m_dots(DotsOf(size, scale)), m_isOneColour(true) {
+Surface::Surface(CSize size, const DotGrid& grid)
+    : m_size(size), m_grid(grid), m_dots(DotsOf(size, grid)), m_isOneColour(true) {
   if (!Grow(m_dots)) {
     m_dots = CSize(1, 1);
     Grow(m_dots);
   }
 }
 
-Surface::Surface(QImage image, double scale)
-    : m_size(Rounded(image.width() / scale), Rounded(image.height() / scale)),
-      m_scale(scale),
-      m_dots(SizeOf(image)),
-      m_image(std::move(image)) {
+Surface::Surface(QImage image, CSize size, const DotGrid& grid)
+    : m_size(size), m_grid(grid), m_dots(SizeOf(image)), m_image(std::move(image)) {
   Attach();
 }
 
@@ -91,24 +79,24 @@ bool Surface::Recolour(const CRect& dots, std::uint32_t colour) {
   return true;
 }
 
-void Surface::Resize(CSize size, double scale) {
-  if (size == m_size && scale == m_scale) {
+void Surface::Resize(CSize size, const DotGrid& grid) {
+  if (size == m_size && grid == m_grid) {
     return;
   }
   EndPainter();
-  CSize dots = DotsOf(size, scale);
+  CSize dots = DotsOf(size, grid);
   if (dots.cx > m_image.width() || dots.cy > m_image.height()) {
     Grow(dots);
   }
   // Without memory the surface stays as large as it is.
   dots = CSize(std::min<LONG>(dots.cx, m_image.width()), std::min<LONG>(dots.cy, m_image.height()));
   const CSize kept =
-      scale == m_scale ? CSize(std::min(dots.cx, m_dots.cx), std::min(dots.cy, m_dots.cy)) : CSize();
+      grid.Scale() == Scale() ? CSize(std::min(dots.cx, m_dots.cx), std::min(dots.cy, m_dots.cy)) : CSize();
   for (int y = 0; !m_isOneColour && y < dots.cy; ++y) {
     std::fill(Row(y) + (y < kept.cy ? kept.cx : 0), Row(y) + dots.cx, 0xFFFFFFFFU);
   }
   m_size = size;
-  m_scale = scale;
+  m_grid = grid;
   m_dots = dots;
   Damage(CRect(CPoint(), dots));
 }
@@ -134,22 +122,20 @@ void Surface::Leave() {
 }
 
 bool Surface::MovePixels(const CRect& rect, int dx, int dy, const CRect& clip) {
-  const double dotsX = dx * m_scale;
-  const double dotsY = dy * m_scale;
+  const double dotsX = dx * Scale();
+  const double dotsY = dy * Scale();
   if (dotsX != std::floor(dotsX) || dotsY != std::floor(dotsY)) {
     return false;
   }
-  const int moveX = Rounded(dotsX);
-  const int moveY = Rounded(dotsY);
-  const auto inDots = [this](const CRect& r) {
-    return CRect(Rounded(r.left * m_scale), Rounded(r.top * m_scale), Rounded(r.right * m_scale),
-                 Rounded(r.bottom * m_scale));
-  };
+  // What is far beyond any picture is cut off where sums are safe.
+  constexpr double limit = 1 << 29;
+  const int moveX = static_cast<int>(std::clamp(dotsX, -limit, limit));
+  const int moveY = static_cast<int>(std::clamp(dotsY, -limit, limit));
   const CRect device(CPoint(), Dots());
   CRect from;
   CRect to;
   CRect within;
-  if (!from.IntersectRect(inDots(rect), device) || !within.IntersectRect(inDots(clip), device)) {
+  if (!from.IntersectRect(m_grid.Dots(rect), device) || !within.IntersectRect(m_grid.Dots(clip), device)) {
     return true;
   }
   to = from;
@@ -200,12 +186,12 @@ bool Surface::SlideRows(const CRect& to, int dy) {
 void Surface::Expose(QPainter& exposure, const CRect& rect) {
   EndPainter();
   const QRectF target(rect.left, rect.top, rect.Width(), rect.Height());
-  if (m_isOneColour) {
+  if (!m_grid.IsWhole() && exposure.deviceTransform().m11() == Scale()) {
+    ExposeDots(exposure, rect);
+  } else if (m_isOneColour) {
     exposure.fillRect(target, QColor::fromRgb(m_colour));
-  } else if (IsWhole(m_scale) || exposure.deviceTransform().m11() != m_scale) {
-    exposure.drawImage(target, m_image, QRectF(target.topLeft() * m_scale, target.size() * m_scale));
   } else {
-    ExposeFraction(exposure, target);
+    exposure.drawImage(target, m_image, QRectF(target.topLeft() * Scale(), target.size() * Scale()));
   }
 }
 
@@ -221,24 +207,27 @@ void Surface::CopyDots(std::uint32_t* to, std::ptrdiff_t stride, const CRect& re
   }
 }
 
-/// Dot upon dot: a window's corner that lies between dots of the screen is moved to the nearest.
-void Surface::ExposeFraction(QPainter& exposure, const QRectF& rect) {
+/// Dot upon dot: the window's corner is at the dot nearest to it.
+void Surface::ExposeDots(QPainter& exposure, const CRect& rect) {
   exposure.save();
   const QPointF corner = exposure.deviceTransform().map(QPointF());
   const QTransform toDots = exposure.deviceTransform().inverted() * exposure.worldTransform();
   exposure.setWorldTransform(QTransform::fromTranslate(std::round(corner.x()), std::round(corner.y())) *
                              toDots);
-  const QRect all(0, 0, m_dots.cx, m_dots.cy);
-  const QRect dots = QRectF(rect.topLeft() * m_scale, rect.size() * m_scale).toAlignedRect() & all;
-  exposure.drawImage(dots, m_image, dots);
-  // The screen may give the window a dot more than its own size comes to.
-  if (dots.right() == all.right()) {
-    const QRect last(all.right(), dots.top(), 1, dots.height());
-    exposure.drawImage(last.translated(1, 0), m_image, last);
-  }
-  if (dots.bottom() == all.bottom()) {
-    const QRect last(dots.left(), all.bottom(), dots.width(), 1);
-    exposure.drawImage(last.translated(0, 1), m_image, last);
+  CRect dots = m_grid.Dots(rect);
+  dots.IntersectRect(dots, CRect(CPoint(), m_dots));
+  const QRect part(dots.left, dots.top, dots.Width(), dots.Height());
+  const auto copy = [&](const QRect& to, const QRect& from) {
+    m_isOneColour ? exposure.fillRect(to, QColor::fromRgb(m_colour)) : exposure.drawImage(to, m_image, from);
+  };
+  copy(part, part);
+  if (corner.isNull()) {
+    // A picture of the window alone may be a dot larger than the window is in its place.
+    for (const QPoint by : {QPoint(1, 0), QPoint(0, 1), QPoint(1, 1)}) {
+      const QRect last =
+          part & QRect((m_dots.cx - 1) * by.x(), (m_dots.cy - 1) * by.y(), m_dots.cx, m_dots.cy);
+      copy(last.translated(by), last);
+    }
   }
   exposure.restore();
 }
@@ -252,20 +241,21 @@ const QImage& Surface::Image() const {
 
 QImage Surface::Snapshot() const {
   QImage copy = Image().copy(0, 0, m_dots.cx, m_dots.cy);
-  copy.setDevicePixelRatio(m_scale);
+  copy.setDevicePixelRatio(Scale());
   return copy;
 }
 
 std::vector<CRect> Surface::TakeDamage() {
   std::vector<CRect> pieces = m_damage.Take();
-  // Between dots the toolkit rounds the parts of a window otherwise than the window.
-  const int margin = IsWhole(m_scale) ? 0 : 1;
+  const auto before = [](const DotAxis& axis, LONG dot) {
+    return static_cast<LONG>(std::floor(axis.PixelsTo(dot)));
+  };
+  const auto after = [](const DotAxis& axis, LONG dot) {
+    return static_cast<LONG>(std::ceil(axis.PixelsTo(dot)));
+  };
   for (CRect& piece : pieces) {
-    piece = CRect(static_cast<LONG>(std::floor(piece.left / m_scale)),
-                  static_cast<LONG>(std::floor(piece.top / m_scale)),
-                  static_cast<LONG>(std::ceil(piece.right / m_scale)),
-                  static_cast<LONG>(std::ceil(piece.bottom / m_scale)));
-    piece.InflateRect(margin, margin);
+    piece = CRect(before(m_grid.x, piece.left), before(m_grid.y, piece.top), after(m_grid.x, piece.right),
+                  after(m_grid.y, piece.bottom));
   }
   return pieces;
 }

@@ -7,6 +7,7 @@
 #include <optional>
 #include <vector>
 
+#include "platform/DotGrid.h"
 #include "platform/Geometry.h"
 #include "platform/qt/DamageBands.h"
 #include "platform/qt/SlidingRows.h"
@@ -20,20 +21,21 @@ namespace coregui {
 /// colour, and its memory is not touched.
 class Surface {
  public:
-  /// `size` in logical pixels, `scale` in dots per logical pixel. White at first.
-  Surface(CSize size, double scale);
-  /// Takes over a picture; its dots are `scale` per logical pixel.
-  Surface(QImage image, double scale);
+  /// `size` in logical pixels. White at first.
+  Surface(CSize size, const DotGrid& grid);
+  /// Takes over a picture that has the dots of so many pixels.
+  Surface(QImage image, CSize size, const DotGrid& grid);
   ~Surface();
   Surface(const Surface&) = delete;
   Surface& operator=(const Surface&) = delete;
 
   /// Keeps what is in the common part, unless the scale changes; the rest is white (or the one colour that
-  /// the surface has). The memory never
-  /// shrinks: a context that was made before may still draw where it could. A new scale needs new targets.
-  void Resize(CSize size, double scale);
+  /// the surface has). The memory never shrinks: a context that was made before may still draw where it
+  /// could. A new grid needs new targets.
+  void Resize(CSize size, const DotGrid& grid);
   CSize Size() const { return m_size; }
-  double Scale() const { return m_scale; }
+  double Scale() const { return m_grid.Scale(); }
+  const DotGrid& Grid() const { return m_grid; }
   CSize Dots() const { return m_dots; }
 
   std::uint32_t* Row(int y) {
@@ -71,8 +73,7 @@ class Surface {
   void Damage(const CRect& dots) {
     if (m_damage.Add(dots) && onDamage) onDamage();
   }
-  /// What changed since the last call, as logical pixels rounded outwards; at a fractional scale the pieces
-  /// touch each other.
+  /// What changed since the last call, as logical pixels rounded outwards.
   std::vector<CRect> TakeDamage();
   bool HasDamage() const { return !m_damage.IsEmpty(); }
   /// All of the surface is shown as it is now.
@@ -91,10 +92,10 @@ class Surface {
   bool Grow(CSize dots);
   void FillMemory() const;
   bool SlideRows(const CRect& to, int dy);
-  void ExposeFraction(QPainter& exposure, const QRectF& rect);
+  void ExposeDots(QPainter& exposure, const CRect& rect);
 
   CSize m_size;
-  double m_scale;
+  DotGrid m_grid;
   CSize m_dots;                       ///< in use
   std::optional<SlidingRows> m_rows;  ///< none for a picture that was taken over
   QImage m_image;                     ///< a picture, or a view of the rows; at least as large as in use

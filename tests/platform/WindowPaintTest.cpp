@@ -177,7 +177,14 @@ TEST_F(WindowPaint, HeldBackWhileRedrawIsOffOrTheWindowIsHidden) {
   EXPECT_EQ(PaintsOf([this] { window.ShowWindow(SW_SHOW); }), 1);
 }
 
-/// What the toolkit shows of a window on the screen, against the pixels of the windows themselves.
+/// What the toolkit shows of a window on the screen.
+QImage ScreenOf(const CWnd& window) {
+  CWinApp::PumpPending();
+  const auto* screen = dynamic_cast<QImage*>(WidgetOf(&window)->backingStore()->paintDevice());
+  return screen == nullptr ? QImage() : screen->copy();
+}
+
+/// The same, against the pixels of the windows themselves.
 class WindowShown : public testing::Test {
  protected:
   void SetUp() override {
@@ -191,23 +198,21 @@ class WindowShown : public testing::Test {
     }
     CWinApp::PumpPending();
   }
-  /// The number of dots of a window that the screen shows otherwise, but for those in `above`. Between two
-  /// dots of the screen the last dot of a window may be cut off.
+  /// The number of dots of a window that the screen shows otherwise, but for those in `above`.
   int WrongDotsOf(const CWnd& of, CPoint corner, const CRect& above = CRect()) {
-    const auto* screen = dynamic_cast<QImage*>(WidgetOf(&window)->backingStore()->paintDevice());
     const auto* target = dynamic_cast<const coregui::RasterTarget*>(of.State().native->Target().get());
-    if (screen == nullptr || target == nullptr) return -1;
+    if (target == nullptr) return -1;
+    const QImage screen = ScreenOf(window);
     const QImage own = target->Pixels()->Snapshot();
     const double scale = target->Scale();
-    const CRect place(corner, of.GetClientRectangle().Size());
-    const int left = static_cast<int>(std::floor(place.left * scale + 0.5));
-    const int top = static_cast<int>(std::floor(place.top * scale + 0.5));
+    const int left = static_cast<int>(std::floor(corner.x * scale + 0.5));
+    const int top = static_cast<int>(std::floor(corner.y * scale + 0.5));
     int wrong = 0;
-    for (int y = top; y < top + static_cast<int>(place.Height() * scale); ++y) {
-      for (int x = left; x < left + static_cast<int>(place.Width() * scale); ++x) {
+    for (int y = top; y < top + own.height(); ++y) {
+      for (int x = left; x < left + own.width(); ++x) {
         const CPoint at(static_cast<LONG>(x / scale), static_cast<LONG>(y / scale));
         if (above.PtInRect(at)) continue;
-        wrong += screen->pixel(x, y) == own.pixel(x - left, y - top) ? 0 : 1;
+        wrong += screen.pixel(x, y) == own.pixel(x - left, y - top) ? 0 : 1;
       }
     }
     return wrong;
@@ -296,11 +301,10 @@ TEST(WindowSeams, NoDotBetweenWindowsStaysUnpainted) {
     }
   }
   const auto wrong = [&window] {
-    CWinApp::PumpPending();
-    const auto* screen = dynamic_cast<QImage*>(WidgetOf(&window)->backingStore()->paintDevice());
-    int count = 0;
-    for (int y = 0; y < screen->height(); ++y) {
-      for (int x = 0; x < screen->width(); ++x) count += screen->pixelColor(x, y) == Qt::red ? 0 : 1;
+    const QImage screen = ScreenOf(window);
+    int count = screen.isNull() ? 1 : 0;
+    for (int y = 0; y < screen.height(); ++y) {
+      for (int x = 0; x < screen.width(); ++x) count += screen.pixelColor(x, y) == Qt::red ? 0 : 1;
     }
     return count;
   };
@@ -314,6 +318,80 @@ TEST(WindowSeams, NoDotBetweenWindowsStaysUnpainted) {
       child.MoveWindow(place);
     }
     EXPECT_EQ(wrong(), 0) << "moved by " << by;
+  }
+}
+
+/// A picture, or the part of it that falls to the window, in which no two pixels near each other are alike.
+class Piece : public CWnd {
+ public:
+  ~Piece() override { DestroyWindow(); }
+  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (message != WM_ERASEBKGND) return CWnd::WindowProc(message, wParam, lParam);
+    CDC& dc = *reinterpret_cast<CDC*>(wParam);
+    dc.FillSolidRect(GetClientRectangle(), kRed);
+    if (shown.IsRectEmpty()) return 1;
+    dc.SetViewportOrg(shown.left, shown.top);
+    dc.IntersectClipRect(CRect(CPoint(), shown.Size()));
+    dc.SetViewportOrg(-start.x, -start.y);
+    for (LONG x = 0; x < kAll.right; ++x)
+      dc.FillSolidRect(CRect(x, 0, x + 1, kAll.bottom), RGB(0, 99, 2 * x));
+    for (LONG y = 0; y < kAll.bottom; y += 2) dc.InvertRect(CRect(0, y, kAll.right, y + 1));
+    dc.TextOut(3, 20, L"Chainage 1+250.00", -1);
+    for (const bool smooth : {false, true}) {
+      dc.SetAntiAliasing(smooth);
+      dc.MoveTo(1, 1);
+      dc.LineTo(99, 70);
+      dc.Ellipse(CRect(5, 33, 88, 69));
+    }
+    return 1;
+  }
+  static constexpr CRect kAll{0, 0, 105, 78};
+  CRect shown;   ///< what of the window has the picture; the rest is red
+  CPoint start;  ///< of the window in the picture
+};
+
+/// At every place between two dots, and for every width: edges of the tiles are at 0, 1, 3, 6, 10 ...
+TEST(WindowSeams, APictureInPiecesIsThePictureDotForDot) {
+  Piece window;
+  ASSERT_TRUE(window.Create(L"", L"", WS_POPUP | WS_VISIBLE, CRect(0, 0, 120, 90), nullptr, 0));
+  Piece pane;
+  ASSERT_TRUE(pane.Create(L"", L"", WS_CHILD, Piece::kAll, &window, 0));
+  std::list<Piece> tiles;
+  const auto add = [&tiles](CRect place, Piece& parent) {
+    tiles.emplace_back().start = parent.start + CSize(place.left, place.top);
+    tiles.back().shown = CRect(CPoint(), place.Size());
+    EXPECT_TRUE(tiles.back().Create(L"", L"", WS_CHILD | WS_VISIBLE, place, &parent, 0));
+  };
+  for (LONG height = 1, top = 0; top < Piece::kAll.bottom; top += height++) {
+    for (LONG width = 1, left = 0; left < Piece::kAll.right; left += width++) {
+      add(CRect(left, top, left + width, top + height), pane);
+      if (width > 4 && height > 4) add(CRect(1, 2, width - 2, height - 1), tiles.back());
+    }
+  }
+  for (int at = 0; at < 16; ++at) {
+    const CPoint place(at % 4, at / 4);
+    SCOPED_TRACE(at);
+    pane.ShowWindow(SW_HIDE);
+    window.shown = CRect(place, Piece::kAll.Size());
+    window.start = CPoint(-place.x, -place.y);
+    window.Invalidate();
+    const QImage whole = ScreenOf(window);
+    window.shown = CRect();
+    window.Invalidate();
+    pane.ShowWindow(at % 2 == 0 ? SW_SHOW : SW_HIDE);
+    pane.MoveWindow(place.x, place.y, Piece::kAll.right, Piece::kAll.bottom);
+    pane.ShowWindow(SW_SHOW);
+    EXPECT_EQ(ScreenOf(window), whole);
+    CBitmap bitmap;
+    const CClientDC screen(&window);
+    ASSERT_TRUE(bitmap.CreateCompatibleBitmap(&screen, 120, 90));
+    CMemoryDC paper(&screen, &bitmap);
+    window.PrintTo(&paper);
+    EXPECT_EQ(dynamic_cast<coregui::RasterTarget*>(paper.Target())->Pixels()->Snapshot(), whole);
+  }
+  for (const Piece& tile : tiles) {
+    const QImage alone = WidgetOf(&tile)->grab().toImage();
+    EXPECT_EQ(alone.pixelColor(alone.width() - 1, alone.height() - 1).alpha(), 255);
   }
 }
 

@@ -167,6 +167,21 @@ TEST_F(GridPictureTest, GridLinesFollowTheThemeUntilTheirColourIsChosen) {
   EXPECT_EQ(pen.GetColor(), RGB(255, 0, 0));
 }
 
+TEST_F(GridPictureTest, ADoubleBufferHasTheDotsOfTheScreenWhereverTheGridIsMoved) {
+  Open();
+  for (const int at : {1, 2, 3, 4}) {
+    grid.SetDoubleBufferMode(1);
+    CWinApp::PumpPending();
+    grid.MoveWindow(CRect(CPoint(at, at), CSize(500, 300)));
+    grid.GotoRow(at);
+    CWinApp::PumpPending();
+    const std::vector<DWORD> buffered = Dots();
+    grid.SetDoubleBufferMode(0);
+    EXPECT_EQ(DifferenceToFresh(), "") << at;
+    EXPECT_TRUE(Dots() == buffered) << at;
+  }
+}
+
 // --- Any row of operations ends in the picture of painting anew
 
 /// A grid of two sheets under a person's hand.
@@ -251,6 +266,10 @@ const GridOperation kWindowOperations[] = {
      }},
     {"Mode", [](CGridCtrl& g, const GridStep& s) { g.SetMultiSelectMode(s.a & 3); }},
     {"Buffer", [](CGridCtrl& g, const GridStep& s) { g.SetDoubleBufferMode(s.a & 1); }},
+    {"Move",
+     [](CGridCtrl& g, const GridStep& s) {
+       g.MoveWindow(CRect(CPoint(std::abs(s.a % 4), std::abs(s.b % 4)), CSize(500, 300)));
+     }},
     {"Focus", [](CGridCtrl& g, const GridStep& s) { (s.a % 2 != 0 ? &g : g.GetParent())->SetFocus(); }},
     {"Text", [](CGridCtrl& g, const GridStep& s) { Rewrite(g, s.a, s.b, s.c); }},
     {"TextInView", [](CGridCtrl& g, const GridStep& s) { Rewrite(g, s.a, g.GetTopRow() + s.b, s.c); }},
