@@ -10,6 +10,7 @@
 #include "grid/control/CGridMultiSelect.h"
 #include "grid/control/CGridRooms.h"
 #include "platform/CDC.h"
+#include "platform/System.h"
 
 using coregui::CGridParts;
 
@@ -93,6 +94,7 @@ void CGridCtrl::TakeViewSize(const SIZE& body) {
 const coregui::MessageTable& CGridCtrl::GetMessageTable() const {
   static const coregui::MessageTable table = coregui::MessageTable(CWnd::Messages())
                                                  .On<WM_SIZE>(&CGridCtrl::HandleSize)
+                                                 .On<WM_ERASEBKGND>(&CGridCtrl::HandleErase)
                                                  .On<WM_SETFOCUS>(&CGridCtrl::HandleFocus)
                                                  .On<WM_VSCROLL>(&CGridCtrl::HandleVScroll)
                                                  .On<WM_HSCROLL>(&CGridCtrl::HandleHScroll)
@@ -104,6 +106,12 @@ const coregui::MessageTable& CGridCtrl::GetMessageTable() const {
 
 void CGridCtrl::HandleSize(UINT, int, int) {
   AdjustComponentSizes();
+}
+
+/// The windows on it leave the square between the scroll bars, which looks like a part of them.
+BOOL CGridCtrl::HandleErase(CDC* dc) {
+  dc->FillSolidRect(GetClientRectangle(), GetSysColor(COLOR_SCROLLBAR));
+  return TRUE;
 }
 
 void CGridCtrl::HandleFocus(CWnd*) {
@@ -127,6 +135,7 @@ LRESULT CGridCtrl::HandleMouseHWheel(WPARAM wParam, LPARAM lParam) {
 void CGridCtrl::HandleSystemChange() {
   m_rooms->sheets.FollowSystemColours();
   m_rooms->types.TellSystemChange();
+  Invalidate(TRUE);
   RedrawAll();
 }
 

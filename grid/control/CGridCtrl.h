@@ -446,6 +446,7 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
 
   void StartPainting();
   void HandleSize(UINT type, int width, int height);
+  BOOL HandleErase(CDC* dc);
   void HandleFocus(CWnd* other);
   void HandleVScroll(int code, CWnd* bar);
   void HandleHScroll(int code, CWnd* bar);

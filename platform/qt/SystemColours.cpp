@@ -1,6 +1,10 @@
 #include <QApplication>
 #include <QEvent>
+#include <QImage>
+#include <QPainter>
 #include <QPalette>
+#include <QStyle>
+#include <QStyleOptionSlider>
 #include <array>
 #include <initializer_list>
 #include <optional>
@@ -39,6 +43,27 @@ constexpr Role kRoles[] = {
     {COLOR_HOTLIGHT, QPalette::Active, QPalette::Link, RGB(0, 102, 204), RGB(90, 170, 255)},
 };
 
+/// What the style draws a scroll bar on, where there is no thumb.
+COLORREF ScrollBarGround() {
+  QStyleOptionSlider bar;
+  bar.palette = QApplication::palette();
+  bar.state = QStyle::State_Enabled;
+  bar.orientation = Qt::Vertical;
+  bar.subControls = QStyle::SC_All;
+  bar.maximum = 1;
+  bar.sliderPosition = bar.sliderValue = 1;
+  const QStyle& style = *QApplication::style();
+  bar.rect = QRect(0, 0, style.pixelMetric(QStyle::PM_ScrollBarExtent, &bar), 300);
+  QImage picture(bar.rect.size(), QImage::Format_RGB32);
+  picture.fill(bar.palette.color(QPalette::Window));
+  QPainter painter(&picture);
+  style.drawComplexControl(QStyle::CC_ScrollBar, &bar, &painter);
+  painter.end();
+  const QRect above = style.subControlRect(QStyle::CC_ScrollBar, &bar, QStyle::SC_ScrollBarSubPage);
+  const QColor ground = picture.pixelColor(above.isEmpty() ? bar.rect.center() : above.center());
+  return RGB(ground.red(), ground.green(), ground.blue());
+}
+
 struct Theme {
   Colours colours{};  ///< what GetSysColor reads: the fixed ones over the theme's
   std::array<std::optional<COLORREF>, kCount> fixed;
@@ -46,6 +71,7 @@ struct Theme {
   bool dark = false;                 ///< chosen before there was an application
   bool attached = false;             ///< to the application's palette
   bool choosing = false;             ///< SetDarkTheme is at work
+  bool drawn = false;                ///< the scroll bar's colour was read from the style
 
   Theme() { Fill(nullptr); }
 
@@ -60,6 +86,13 @@ struct Theme {
       const auto index = static_cast<std::size_t>(role.index);
       colours[index] = fixed[index].value_or(colour);
     }
+    drawn = false;
+  }
+
+  /// Reads the scroll bar's colour from the style: when it is wanted, for that takes long.
+  void ReadScrollBar() {
+    drawn = true;
+    if (attached && !fixed[COLOR_SCROLLBAR]) colours[COLOR_SCROLLBAR] = ScrollBarGround();
   }
 };
 
@@ -178,7 +211,8 @@ void Refill(Theme& theme) {
 }  // namespace
 
 COLORREF GetSysColor(int index) {
-  const Theme& theme = AttachedTheme();
+  Theme& theme = AttachedTheme();
+  if (index == COLOR_SCROLLBAR && !theme.drawn) theme.ReadScrollBar();
   return index >= 0 && index < static_cast<int>(kCount) ? theme.colours[static_cast<std::size_t>(index)] : 0;
 }
 

@@ -9,6 +9,7 @@
 #include "grid/control/CGridMultiSelect.h"
 #include "grid/data/CGridCell.h"
 #include "grid/display/CGridHeading.h"
+#include "platform/CScrollBar.h"
 #include "platform/Keys.h"
 #include "tests/grid/GridOperations.h"
 #include "tests/grid/display/ShowcaseGrid.h"
@@ -165,6 +166,23 @@ TEST_F(GridPictureTest, GridLinesFollowTheThemeUntilTheirColourIsChosen) {
   SetDarkTheme(true);
   CWinApp::PumpPending();
   EXPECT_EQ(pen.GetColor(), RGB(255, 0, 0));
+}
+
+TEST_F(GridPictureTest, TheSquareBetweenTheScrollBarsLooksLikeAPartOfThem) {
+  Open();
+  grid.MoveWindow(CRect(0, 0, 300, 200));
+  for (const bool dark : {false, true, false}) {
+    SetDarkTheme(dark);
+    CWinApp::PumpPending();
+    const CRect bar = grid.GetScrollBarCtrl(SB_VERT)->GetClientRectangle();
+    const int middle = (bar.Width() - 1) / 2;
+    const COLORREF ground =
+        ShownPixel(*grid.GetScrollBarCtrl(SB_VERT), CPoint(middle, bar.bottom - bar.Width() - 3));
+    const CRect client = grid.GetClientRectangle();
+    EXPECT_NEAR(ShownPixel(grid, CPoint(client.right - 2, client.bottom - 2)) & 0xFF, ground & 0xFF, 2)
+        << dark;
+    EXPECT_NEAR(ground & 0xFF, dark ? 45 : 220, 30) << "of the theme";
+  }
 }
 
 TEST_F(GridPictureTest, ADoubleBufferHasTheDotsOfTheScreenWhereverTheGridIsMoved) {
