@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "grid/control/CGridJoins.h"
 #include "grid/control/CGridNavigator.h"
 #include "grid/control/CGridScreen.h"
 #include "grid/control/CGridSheets.h"
@@ -164,7 +165,8 @@ int CGridCounts::MoveColPosition(int from, int to, bool before) {
   if (!columns.Has(from) || gap < 0 || gap > columns.Count()) {
     return 1;
   }
-  columns.MoveColumn(from, gap > from ? gap - 1 : gap);
+  const int at = gap > from ? gap - 1 : gap;
+  m_rooms.joins.MoveColumn(from, at, [&] { columns.MoveColumn(from, at); });
   m_rooms.navigator.ColsChanged();
   return 0;
 }

@@ -5,6 +5,7 @@ class CGridInfo;
 namespace coregui {
 
 class CGridAxis;
+class CGridJoins;
 class CGridNavigator;
 class CGridScreen;
 class CGridSheets;
@@ -22,6 +23,7 @@ class CGridCounts {
   struct Rooms {
     CGridSheets& sheets;
     CGridSourceTable& sources;
+    CGridJoins& joins;
     CGridNavigator& navigator;
     CGridScreen& screen;
   };

@@ -185,7 +185,7 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
   int AppendCol();
   int DeleteCol(int col);
   /// Moves a column: before the column `to` with `before` non-zero, else behind it. The data stay where they
-  /// are.
+  /// are. A joined heading over a group of columns stays over those that are left of the group.
   int MoveColPosition(int from, int to, int before);
   int SetColWidth(int col, int width);  ///< 0 hides
   int GetColWidth(int col) const;       ///< negative columns: heading columns

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <vector>
 
 #include "grid/control/CGridCells.h"
 #include "grid/control/CGridSheets.h"
@@ -89,6 +90,71 @@ void CGridJoins::Dissolve(const Block& block) {
         m_cells.Set(col, row, &cell);
       }
     }
+  }
+}
+
+bool CGridJoins::FindGroup(int col, long row, Block& block) {
+  return m_sheets.Current().columns.Has(col) && FindStored(col, row, block) && block.endRow < 0 &&
+         block.endCol > block.startCol;
+}
+
+/// Which cells the group of the column has when the column has moved. What its heading shows goes to the
+/// column that will be its first.
+CGridJoins::Block CGridJoins::GroupWithout(Block group, int from, int to) {
+  const bool stays = to >= group.startCol && to <= group.endCol;
+  int first = group.startCol;
+  if (from == first && to != first) first = from + 1;
+  if (from != group.startCol && to == group.startCol) first = from;
+  Exchange(group.startCol, first, group.startRow);
+  if (!stays && to > group.endCol) --group.endCol;
+  if (!stays && to < group.startCol) ++group.startCol;
+  return group;
+}
+
+/// Whether the column has neither a text nor a block in the rows.
+bool CGridJoins::IsFree(int col, const Block& rows) {
+  CGridCell cell;
+  for (long row = rows.startRow; row <= rows.endRow; ++row) {
+    m_cells.Get(col, row, &cell);
+    const wchar_t* const text = cell.GetText();
+    if ((text != nullptr && *text != L'\0') || LinkOf(m_cells, col, row)) return false;
+  }
+  return true;
+}
+
+void CGridJoins::Exchange(int col, int other, long row) {
+  if (col == other) return;
+  CGridCell first;
+  CGridCell second;
+  const auto put = [&](int at, bool isStored, CGridCell& cell) {
+    isStored ? m_cells.Set(at, row, &cell) : m_cells.Delete(at, row);
+  };
+  const bool isFirstStored = m_cells.Get(col, row, &first) == 0;
+  put(col, m_cells.Get(other, row, &second) == 0, second);
+  put(other, isFirstStored, first);
+}
+
+void CGridJoins::MoveColumn(int from, int to, const std::function<void()>& move) {
+  std::vector<Block> groups;
+  const long top = -m_sheets.Current().headings.TopRows();
+  Block group{};
+  for (long row = top; row < 0; ++row) {
+    if (!FindGroup(from, row, group)) continue;
+    row = group.endRow;
+    Dissolve(group);
+    groups.push_back(GroupWithout(group, from, to));
+  }
+  const int right = to > from ? to + 1 : to;  // beside which the column comes to stand
+  for (long row = top; row < 0; ++row) {
+    if (!FindGroup(right, row, group) || right == group.startCol || !IsFree(from, group)) continue;
+    row = group.endRow;
+    Dissolve(group);
+    from < group.startCol ? --group.startCol : ++group.endCol;
+    groups.push_back(group);
+  }
+  move();
+  for (const Block& block : groups) {
+    if (block.startCol < block.endCol || block.startRow < block.endRow) Join(block);
   }
 }
 

@@ -16,7 +16,7 @@ CGridRooms::CGridRooms(CGridCtrl& control)
       moveSelection(sheets, parts),
       moveReport(sources, cells, types, control),
       navigator({sheets, joins, vetoes, moveSelection, moveReport, control, parts}),
-      counts({sheets, sources, navigator, parts}),
+      counts({sheets, sources, joins, navigator, parts}),
       sizing({sheets, cells, types, navigator, parts}),
       sorting(sheets),
       finder(sheets),

@@ -134,6 +134,69 @@ TEST(CGridJoins, OneCellThatGoesTearsABlock) {
   }
 }
 
+/// The upper heading, as "Levels:BCD" where one stands over the columns B to D, "_:A" where there is none,
+/// and "E:E'" where one reaches down to the grid.
+std::string HeadingOf(CGridCtrl& grid) {
+  std::string all;
+  for (int col = 0; col < grid.GetNumberCols(); ++col) {
+    const Block block = BlockOf(grid, col, -2);
+    CString text;
+    grid.QuickGetText(block.startCol, -2, &text);
+    if (col == block.startCol) all += all.empty() ? "" : " ";
+    if (col == block.startCol) all += text.IsEmpty() ? "_" : text.ToUtf8();
+    grid.QuickGetText(col, -1, &text);
+    all += (col == block.startCol ? ":" : "") + text.ToUtf8();
+    if (block.endRow > -2) all += "'";
+  }
+  return all;
+}
+
+TEST(CGridJoins, AGroupsHeadingFollowsItsColumns) {
+  struct Row {
+    const char* what;
+    int from;
+    int to;
+    const char* heading;
+    int backFrom;
+    int backTo;
+    const char* back;
+  };
+  // A is free, B, C and D are the levels, E has a heading of both rows, F and G are the areas.
+  const char* const whole = "_:A Levels:BCD E:E' Areas:FG";
+  const Row rows[] = {
+      {"the first to the end of the group", 1, 3, "_:A Levels:CDB E:E' Areas:FG", 3, 1, whole},
+      {"the last to its front", 3, 1, "_:A Levels:DBC E:E' Areas:FG", 1, 3, whole},
+      {"out to the left", 2, 0, "_:C _:A Levels:BD E:E' Areas:FG", 0, 2, whole},
+      {"the first out to the right", 1, 4, "_:A Levels:CD E:E' _:B Areas:FG", 4, 2,
+       "_:A Levels:CBD E:E' Areas:FG"},
+      {"one of two", 6, 4, "_:A Levels:BCD _:G E:E' Areas:F", 4, 6, "_:A Levels:BCD E:E' Areas:F _:G"},
+      {"from group to group", 5, 2, "_:A Levels:BFCD E:E' Areas:G", 2, 6, "_:A Levels:BCD E:E' Areas:G _:F"},
+      {"a free one into a group, whose edges are its own", 0, 2, "Levels:BCAD E:E' Areas:FG", 2, 0,
+       "Levels:ABCD E:E' Areas:FG"},
+      {"beside a group", 0, 3, "Levels:BCD _:A E:E' Areas:FG", 3, 0, whole},
+      {"one with a heading of its own into a group", 4, 2, "_:A Levels:B E:E' _:C _:D Areas:FG", 2, 4, whole},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.what);
+    LoggingGrid grid(7, 4, 700, 100);
+    grid.SetTH_NumberRows(2);
+    for (int col = 0; col < 7; ++col) {
+      grid.QuickSetText(col, -1, CString(std::wstring(1, static_cast<wchar_t>(L'A' + col)).c_str()));
+    }
+    grid.QuickSetText(1, -2, L"Levels");
+    grid.QuickSetText(5, -2, L"Areas");
+    grid.QuickSetText(4, -2, L"E");
+    grid.JoinCells(1, -2, 3, -2);
+    grid.JoinCells(4, -2, 4, -1);
+    grid.JoinCells(5, -2, 6, -2);
+    EXPECT_EQ(HeadingOf(grid), whole);
+    EXPECT_EQ(grid.MoveColPosition(row.from, row.to, row.to > row.from ? 0 : 1), 0);
+    EXPECT_EQ(HeadingOf(grid), row.heading);
+    EXPECT_EQ(grid.MoveColPosition(row.backFrom, row.backTo, row.backTo > row.backFrom ? 0 : 1), 0);
+    EXPECT_EQ(HeadingOf(grid), row.back);
+  }
+}
+
 TEST(CGridJoins, SwitchedOffTheyAreNotSeen) {
   LoggingGrid grid(4, 4, 300, 60);
   grid.JoinCells(0, 0, 1, 1);
