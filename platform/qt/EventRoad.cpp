@@ -22,23 +22,11 @@ namespace coregui {
 namespace {
 
 constexpr int kHitClient = 1;
-/// Pixels of a touchpad that reports no angles, for one notch.
-constexpr int kPixelsPerNotch = 40;
 
 void NoteButtons(Qt::MouseButtons buttons) {
   NoteKeyState(VK_LBUTTON, (buttons & Qt::LeftButton) != 0);
   NoteKeyState(VK_RBUTTON, (buttons & Qt::RightButton) != 0);
   NoteKeyState(VK_MBUTTON, (buttons & Qt::MiddleButton) != 0);
-}
-
-UINT FlagsOf(Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers) {
-  UINT flags = 0;
-  if ((buttons & Qt::LeftButton) != 0) flags |= MK_LBUTTON;
-  if ((buttons & Qt::RightButton) != 0) flags |= MK_RBUTTON;
-  if ((buttons & Qt::MiddleButton) != 0) flags |= MK_MBUTTON;
-  if ((modifiers & Qt::ShiftModifier) != 0) flags |= MK_SHIFT;
-  if ((modifiers & Qt::ControlModifier) != 0) flags |= MK_CONTROL;
-  return flags;
 }
 
 /// 0 for a button that has no message.
@@ -64,13 +52,6 @@ UINT MouseMessage(const QMouseEvent& event) {
   return event.type() == QEvent::MouseButtonRelease ? down + 1 : down + 2;
 }
 
-CWnd* EnabledAtOrAbove(CWnd* window) {
-  while (window != nullptr && window->IsWindowEnabled() == FALSE) {
-    window = window->GetParent();
-  }
-  return window;
-}
-
 CWnd* OurWindowOf(const QWidget* widget) {
   const QtWindow* window = QtWindow::Of(widget);
   return window == nullptr ? nullptr : &window->Window();
@@ -93,6 +74,23 @@ void NoteFocusMark(QWidget& receiver, const QEvent& event) {
 }
 
 }  // namespace
+
+UINT EventRoad::FlagsOf(Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers) {
+  UINT flags = 0;
+  if ((buttons & Qt::LeftButton) != 0) flags |= MK_LBUTTON;
+  if ((buttons & Qt::RightButton) != 0) flags |= MK_RBUTTON;
+  if ((buttons & Qt::MiddleButton) != 0) flags |= MK_MBUTTON;
+  if ((modifiers & Qt::ShiftModifier) != 0) flags |= MK_SHIFT;
+  if ((modifiers & Qt::ControlModifier) != 0) flags |= MK_CONTROL;
+  return flags;
+}
+
+CWnd* EventRoad::EnabledAtOrAbove(CWnd* window) {
+  while (window != nullptr && window->IsWindowEnabled() == FALSE) {
+    window = window->GetParent();
+  }
+  return window;
+}
 
 EventRoad::EventRoad(QtWindow& window, QWidget& receiver, QEvent& event)
     : m_window(&window), m_receiver(receiver), m_event(event) {}
@@ -220,70 +218,6 @@ bool EventRoad::Activate(CWnd& target, UINT press) {
     if (topRef && top->State().native != nullptr) top->State().native->Activate();
   }
   return answer != MA_ACTIVATEANDEAT && answer != MA_NOACTIVATEANDEAT;
-}
-
-bool EventRoad::Wheel(QWheelEvent& event) {
-  NoteModifiers(event.modifiers());
-  m_event.accept();
-  if (Pan(event)) {
-    return true;
-  }
-  QPoint delta = event.angleDelta();
-  if (delta.isNull()) {
-    delta = event.pixelDelta() * WHEEL_DELTA / kPixelsPerNotch;
-  }
-  bool used = true;
-  if (delta.y() != 0) {
-    used = WheelAxis(event, false, delta.y());
-  }
-  if (delta.x() != 0 && IsAlive()) {
-    used = WheelAxis(event, true, -delta.x()) || used;
-  }
-  if (!used && IsAlive()) {
-    IgnoreForHost();
-  }
-  return true;
-}
-
-bool EventRoad::WheelAxis(const QWheelEvent& event, bool horizontal, int delta) {
-  int notches = m_window->m_wheel[horizontal ? 1 : 0].Add(delta);
-  const int step = notches < 0 ? -1 : 1;
-  const UINT flags = FlagsOf(event.buttons(), event.modifiers());
-  const QPoint screen = m_receiver.mapToGlobal(event.position()).toPoint();
-  bool used = true;
-  for (; notches != 0 && IsAlive(); notches -= step) {
-    CWnd* target = EnabledAtOrAbove(&m_window->Window());
-    if (target == nullptr) {
-      return true;
-    }
-    used = Send(*target, horizontal ? WM_MOUSEHWHEEL : WM_MOUSEWHEEL,
-                MAKEWPARAM(static_cast<int>(flags), step * WHEEL_DELTA), MAKELPARAM(screen.x(), screen.y()),
-                true) != 0;
-  }
-  return used;
-}
-
-bool EventRoad::Pan(const QWheelEvent& event) {
-  const bool touchpad = !event.pixelDelta().isNull() && event.phase() != Qt::NoScrollPhase;
-  CWnd& window = m_window->Window();
-  if (!touchpad || window.SendMessage(WM_COREGUI_WANTPAN) != 1 || !IsAlive()) {
-    return !IsAlive();
-  }
-  Send(window, WM_COREGUI_PAN, FlagsOf(event.buttons(), event.modifiers()),
-       MAKELPARAM(event.pixelDelta().x(), event.pixelDelta().y()), true);
-  return true;
-}
-
-bool EventRoad::Pinch(const QNativeGestureEvent& event) {
-  if (event.gestureType() != Qt::ZoomNativeGesture) {
-    return false;
-  }
-  m_event.accept();
-  const QPoint at = event.position().toPoint();
-  const double factor = std::max(0.0, 1.0 + event.value());
-  Send(m_window->Window(), WM_COREGUI_PINCH, static_cast<WPARAM>(std::lround(factor * 65536.0)),
-       MAKELPARAM(at.x(), at.y()), true);
-  return true;
 }
 
 bool EventRoad::ContextMenu() {

@@ -44,6 +44,9 @@ class EventRoad {
   CWnd* MouseTarget(const QPointF& global, bool mayLeave) const;
   CPoint ClientPosition(const CWnd& target, const QPointF& position, const QPointF& global) const;
   void IgnoreForHost();
+  /// The MK_ flags of a message.
+  static UINT FlagsOf(Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers);
+  static CWnd* EnabledAtOrAbove(CWnd* window);
   bool IsAlive() const { return !m_window.isNull(); }
 
   QPointer<QtWindow> m_window;  ///< null once a handler destroyed the window
