@@ -30,6 +30,7 @@ class PageTarget final : public PainterTarget {
 
  protected:
   QPainter* OpenPainter(const Clip& clip) override;
+  bool HasWholeDots() const override { return false; }
 
  private:
   bool MakeDevice();

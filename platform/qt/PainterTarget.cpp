@@ -94,7 +94,9 @@ QPointF PainterTarget::DotPoint(const DrawAttributes& with, double x, double y) 
     // A whole coordinate names the middle of its pixel, so that smooth and hard lines lie on each other.
     return {Sane(dotX + Scale() / 2.0), Sane(dotY + Scale() / 2.0)};
   }
-  return {Sane(std::floor(dotX + 0.5)), Sane(std::floor(dotY + 0.5))};
+  const bool isOdd = with.pen->GetStyle() != PS_NULL && DotWidth(with.pen->GetWidth()) % 2 != 0;
+  const double middle = HasWholeDots() || !isOdd ? 0.0 : 0.5;
+  return {Sane(std::floor(dotX + 0.5) + middle), Sane(std::floor(dotY + 0.5) + middle)};
 }
 
 QPolygonF PainterTarget::DotPoints(const DrawAttributes& with, const POINT* points, int count) const {
@@ -199,7 +201,7 @@ void PainterTarget::DrawShape(const DrawAttributes& with, Shape shape, const CRe
   // The outline's middle lies half its width inside the rectangle. Hard one-dot lines cover the dot right and
   // below of their coordinates, so the far edges come one dot in.
   const double inset = with.pen->GetStyle() == PS_NULL ? 0.0 : pen.widthF() / 2.0;
-  const bool hard = !with.smooth && inset > 0.0;
+  const bool hard = !with.smooth && inset > 0.0 && HasWholeDots();
   const QRectF box = hard ? QRectF(dots.left + std::floor(inset), dots.top + std::floor(inset),
                                    dots.Width() - pen.widthF(), dots.Height() - pen.widthF())
                           : QRectF(ToQt(dots)).adjusted(inset, inset, -inset, -inset);

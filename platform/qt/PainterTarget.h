@@ -33,6 +33,9 @@ class PainterTarget : public DrawTarget {
   explicit PainterTarget(const DotGrid& grid) : DrawTarget(grid) {}
   /// The painter in dots, open for the next call under a clip; null when there is no page.
   virtual QPainter* OpenPainter(const Clip& clip) = 0;
+  /// Whether a hard line of one dot fills the dot right of and below its coordinates. Where there are no
+  /// dots, a line lies around its middle.
+  virtual bool HasWholeDots() const { return true; }
   /// The painter with clip, raster mode and smoothness of the call; null when nothing would show.
   QPainter* Begin(const DrawAttributes& with);
   /// Called after each call that drew, with the part of the device that may have changed.

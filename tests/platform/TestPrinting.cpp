@@ -110,6 +110,11 @@ TEST_F(Printing, Svg_IsClippedAsItIsDrawnOnOneFileASheet) {
   dc.TextOut(60, 120, L"too", -1);
   dc.RestoreDC(saved);
   dc.TextOut(60, 300, L"after", -1);
+  dc.MoveTo(400, 500);
+  dc.LineTo(450, 500);
+  CPen wide(PS_SOLID, 2, RGB(0, 0, 0));
+  dc.SelectObject(&wide);
+  dc.LineTo(450, 550);
   EXPECT_TRUE(dc.EndPage());
   ASSERT_TRUE(dc.StartPage());
   DrawSheet(dc, L"Second");
@@ -121,6 +126,9 @@ TEST_F(Printing, Svg_IsClippedAsItIsDrawnOnOneFileASheet) {
   EXPECT_THAT(svg, HasSubstr("width=\"210"));
   EXPECT_EQ(ClippedTexts(svg),
             "title: g: whole; clipPath: 50 60 200 100 clipped g: a < b & c; too; g: after; ");
+  // A line fills the dots that it fills on the screen: no fill beside it hides a part of it.
+  EXPECT_THAT(svg, HasSubstr("points=\"400.5,500.5 450.5,500.5 \""));
+  EXPECT_THAT(svg, HasSubstr("points=\"450,500 450,550 \""));
 }
 
 TEST_F(Printing, Failures_AreReported) {
