@@ -207,25 +207,4 @@ std::vector<RankedRows> RankTree::Flatten() const {
   return rows;
 }
 
-bool RankTree::CheckNode(std::uint32_t node, int level) const {
-  const Node& here = m_nodes[node];
-  for (std::uint32_t at = 0; at < WIDTH; ++at) {
-    if (at >= here.size ? here.ends[at] != NONE : here.ends[at] <= here.Start(at)) return false;
-  }
-  for (std::uint32_t at = 0; level > 0 && at < here.size; ++at) {
-    const std::uint32_t below = here.entries[at];
-    if (m_nodes[below].size == 0 || !CheckNode(below, level - 1)) return false;
-    if (here.ends[at] - here.Start(at) != m_nodes[below].Rows()) return false;
-    for (std::size_t kind = 0; kind < m_kinds; ++kind) {
-      const int* const ranks = Ranks(below, kind);
-      if (Ranks(node, kind)[at] != *std::max_element(ranks, ranks + m_nodes[below].size)) return false;
-    }
-  }
-  return true;
-}
-
-bool RankTree::Check() const {
-  return CheckNode(m_root, m_height) && m_nodes[m_root].Rows() == m_size;
-}
-
 }  // namespace coregui

@@ -37,7 +37,6 @@ class RankTree {
   /// The rows take the position, at most Size(). All rows of one name have the same ranks.
   void Insert(std::uint32_t position, RankedRows rows, const std::vector<int>& ranks);
   std::vector<RankedRows> Flatten() const;
-  bool Check() const;
 
  private:
   static constexpr std::uint32_t WIDTH = 64;
@@ -69,7 +68,6 @@ class RankTree {
   std::uint32_t FindIn(std::uint32_t node, int level, std::uint32_t from,
                        const std::vector<int>& limits) const;
   void FlattenNode(std::uint32_t node, int level, std::vector<RankedRows>& rows) const;
-  bool CheckNode(std::uint32_t node, int level) const;
 
   std::size_t m_kinds;
   std::vector<Node> m_nodes;
