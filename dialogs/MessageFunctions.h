@@ -10,8 +10,8 @@ class CWnd;
 // The modal boxes of the whole application, so that captions, icons and buttons are the same everywhere and
 // an automated run can answer them. Each function exists for a native window and for a window object as
 // owner; a null window object stands for the desktop. Texts are shown as they are, never read as a format,
-// and a null text is empty. A box that cannot be shown, or whose owner is
-// destroyed under it, gives 0 where a result is returned.
+// and a null text is empty. A box that cannot be shown, or whose owner is destroyed under it, gives 0 where a
+// result is returned.
 //
 // Scripted answers: the profile entry "PopupChoiceId" of section "UnitTesting" is a queue of up to four
 // button ids, one in each byte, the lowest byte first. ConfirmMessage, CustomMessage, ErrorMessage,
