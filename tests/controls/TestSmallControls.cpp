@@ -67,8 +67,8 @@ TEST(WidthComboBox, KeepsWidthsInOrderAndDrawsThem) {
   EXPECT_TRUE(combo.SetWidth(1.0 / 3));
   combo.AddStandardWidths();
   EXPECT_LT(combo.GetWidth(), 0) << "none is chosen";
-  std::vector<LPARAM> widths;
-  for (int i = 0; i < combo.GetCount(); ++i) widths.push_back(combo.GetItemData(i));
+  std::vector<LPARAM> widths(static_cast<std::size_t>(combo.GetCount()));
+  std::generate(widths.begin(), widths.end(), [&combo, i = 0]() mutable { return combo.GetItemData(i++); });
   EXPECT_EQ(widths, std::vector<LPARAM>({0,  5,  9,  13, 15, 18, 20,  25,  30,  33,  35,  40,
                                          50, 53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200}));
   EXPECT_TRUE(combo.SetWidth(0.25));

@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
+#include <iterator>
 
 namespace {
 
@@ -23,7 +25,8 @@ std::vector<CViewMapping> Plan(const std::vector<CPlotSeries>& lines, const Plot
   view.margins = kMargins;
   view.extents = FRect(0.0, 1000.0, 140.0, -1000.0);
   std::vector<const CPlotSeries*> pointers;
-  for (const CPlotSeries& line : lines) pointers.push_back(&line);
+  std::transform(lines.begin(), lines.end(), std::back_inserter(pointers),
+                 [](const CPlotSeries& line) { return &line; });
   return desk::PlanSheets(view, scale, kPage, kDots, pointers);
 }
 

@@ -136,7 +136,7 @@ std::map<std::string, Points> AwkwardData() {
                  Noise(r, 10, 90)};  // from thousands in a column to one in many
   });
   data["steps in x"] = Generated(20000, [](auto i, auto& r) {
-    const double block = i / 997;  // columns of very different lengths side by side
+    const int block = i / 997;  // columns of very different lengths side by side
     return Point{block * 48 + (i % 997 < 900 ? 0.0 : (i % 997 - 900) * 0.4), Noise(r, 40, 60) + block};
   });
   data["spikes"] = Generated(20000, [](auto i, auto&) {
@@ -239,8 +239,7 @@ TEST_F(ReduceSeriesPictures, LookAsEveryPointDoes) {
       const bool wide =
           name == "straight" || (near && points.size() > 100 && name != "many gaps" && wholeScale);
       for (const PlotPen& pen : {PlotPen{0, 1}, PlotPen{0, 3}, PlotPen{0, 1, PlotUnit::pixels, PS_DASH}}) {
-        SCOPED_TRACE(name + ", " + view + ", " + std::to_string(pen.width) + ", " +
-                     std::to_string(pen.style));
+        SCOPED_TRACE(testing::Message() << name << ", " << view << ", " << pen.width << ", " << pen.style);
         if (pen.style == PS_SOLID) {
           // Two edges of the line may lie in a dot, each off by up to an eighth.
           EXPECT_LE(
