@@ -176,7 +176,10 @@ void QtWindow::TakeFocus() {
   if (m_widget->isVisible() && !m_widget->isActiveWindow()) {
     m_widget->activateWindow();
   }
-  m_widget->setFocus(Qt::OtherFocusReason);
+  // Of a window of several parts, a find dialog say, the part that had it last.
+  QWidget* part = m_widget->focusWidget();
+  if (part == nullptr || part->isHidden() || Of(part) != this) part = m_widget;
+  part->setFocus(Qt::OtherFocusReason);
 }
 
 void QtWindow::Activate() {

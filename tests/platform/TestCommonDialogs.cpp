@@ -25,6 +25,7 @@
 #include "platform/CFileDialog.h"
 #include "platform/CFindReplaceDialog.h"
 #include "platform/CMenu.h"
+#include "platform/CWinApp.h"
 #include "platform/DialogIds.h"
 #include "platform/MessageBox.h"
 #include "tests/support/ControlHost.h"
@@ -215,7 +216,14 @@ TEST(FindReplace, EveryButtonAsksTheOwner) {
   EXPECT_FALSE(dialog.HasWindow());
   owner.asked.Empty();
   ASSERT_TRUE(dialog.Create(TRUE, L"x", L"", 0, &owner)) << "finding only has a direction";
-  QTest::keyClick(WidgetOf(&dialog)->findChild<QLineEdit*>("find"), Qt::Key_Return);
+  auto* find = WidgetOf(&dialog)->findChild<QLineEdit*>("find");
+  QTest::keyClick(find, Qt::Key_Return);
+  {
+    const NextWindow box([](ShownWindow& shown) { shown.Key(VK_RETURN); });
+    dialog.MessageBox(L"\"x\" is not there.", L"Search", MB_OK);
+  }
+  CWinApp::PumpPending();
+  EXPECT_EQ(QApplication::focusWidget(), find) << "who searches types on";
   dialog.SendMessage(WM_CLOSE);
   EXPECT_EQ(owner.asked, L"x> 000 1000;x> 000 0001;");
 }
