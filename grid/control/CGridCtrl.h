@@ -102,9 +102,8 @@ class COREGUI_API CGridCtrl : public CWnd, public coregui::CGridNotify, public c
   int GetHeadingDefault(CGridCell* cell);
   int SetHeadingDefault(CGridCell* cell);
 
-  // --- Quick operations: one property of the stored cell, the others are kept. What the values mean is
-  // written
-  //     at the members of CGridCell.
+  // --- Quick operations: one property of the stored cell, the others are kept. CGridCell's members say what
+  // the values mean.
 
   int QuickSetText(int col, long row, const wchar_t* text);
   /// The displayed text; empty when the cell has none.
